@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+namespace zev {
+
+/// Why a file operation failed. Paths are in the system's own bytes (UTF-8 in practice).
+struct FileError {
+    enum class Code { NotFound, IsFolder, NoPermission, NoSpace, TooLarge, Other };
+    Code code = Code::Other;
+    std::string path;    ///< the file the operation was about
+    std::string reason;  ///< the system's own words, for example "No space left on device"
+};
+
+/// A value or the error that kept it from being made.
+template <typename T>
+class FileResult {
+  public:
+    FileResult(T value) : m_state(std::move(value)) {}
+    FileResult(FileError error) : m_state(std::move(error)) {}
+    bool isOk() const { return std::holds_alternative<T>(m_state); }
+    /// Only when `isOk()`.
+    const T& value() const { return std::get<T>(m_state); }
+    /// Only when not `isOk()`.
+    const FileError& error() const { return std::get<FileError>(m_state); }
+
+  private:
+    std::variant<T, FileError> m_state;
+};
+
+/// Outcome of an operation that yields nothing: empty on success.
+using FileOutcome = std::optional<FileError>;
+
+/// The file operations the program needs. Whatever it writes is whole or not there at all: after a
+/// failure the target holds its old content and nothing is left beside it.
+class FileSystem {
+  public:
+    virtual ~FileSystem() = default;
+
+    /// True for anything that exists at `path` and is not a folder.
+    virtual bool FileExists(const std::string& path) const = 0;
+    virtual bool isFolder(const std::string& path) const = 0;
+    /// True when new files can be made in the folder.
+    virtual bool isWritableFolder(const std::string& path) const = 0;
+    /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge).
+    virtual FileResult<std::string> readFile(const std::string& path,
+                                             std::uint64_t maxBytes) const = 0;
+    /// Replaces the content of `path`, or makes the file.
+    virtual FileOutcome writeFile(const std::string& path, std::string_view bytes) = 0;
+    /// Makes `destination` a copy of `source`'s bytes, replacing it. The error names the file at
+    /// fault.
+    virtual FileOutcome CopyFile(const std::string& source, const std::string& destination) = 0;
+    virtual FileOutcome DeleteFile(const std::string& path) = 0;
+};
+
+}  // namespace zev

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+namespace zev {
+
+/// A question or notice for the person at the screen.
+struct MessageRequest {
+    enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+    enum class Icon { None, Exclamation };
+    std::string text;  ///< plain text, UTF-8
+    Buttons buttons = Buttons::Ok;
+    std::string title;  ///< empty: the program's name
+    Icon icon = Icon::None;
+};
+
+/// Modal message boxes.
+class MessageBox {
+  public:
+    enum class Answer { Ok, Cancel, Yes, No };
+    virtual ~MessageBox() = default;
+    /// Shows the box and waits. Closing the window counts as Cancel where there is one, as No in a
+    /// Yes/No box, as Ok in a box with that button alone.
+    virtual Answer show(const MessageRequest& request) = 0;
+};
+
+}  // namespace zev

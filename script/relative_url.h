@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/menu_document.h"
+
+namespace zev {
+
+// Path arithmetic between files and URLs relative to the definition file's folder. Drive-letter
+// paths ("C:\web") are understood on every system; absolute paths of the system itself ("/web")
+// follow the same rules with "/" as the separator.
+
+struct PathParts {
+    std::string name;    ///< file name
+    std::string folder;  ///< without its last separator; "/" for a file in the root directory
+};
+
+PathParts SplitPath(std::string_view path);
+
+/// `folder` and `name` joined by the separator of the folder's own form; a folder that is the root
+/// directory gets no second one.
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+/// URL of the file `path` relative to the folder `base`; `path` unchanged when it is not absolute
+/// or lies on another drive.
+std::string ToRelativeURL(std::string_view base, std::string_view path);
+
+/// File path of a relative `url` seen from `base`; `url` unchanged when it is an address.
+std::string ToAbsolutePath(std::string_view base, std::string_view url);
+
+/// `url`, relative to `oldFolder`, made relative to `newFolder`.
+std::string RebaseURL(std::string_view oldFolder, std::string_view newFolder, std::string_view url);
+
+/// Rebases link, images and submenu background of every item. The top menu's and the defaults'
+/// background images and all targets stay as they are.
+void RebaseAllURLs(MenuDocument& document, std::string_view oldFolder, std::string_view newFolder);
+
+}  // namespace zev

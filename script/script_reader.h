@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "model/menu_document.h"
+
+namespace zev {
+
+/// What the reader counted.
+struct ReadResult {
+    std::size_t errorCount = 0;  ///< lines that were recognised but could not be applied
+};
+
+/// Replays a definition file into `document`, which must be a new document (`NewDocument`).
+///
+/// `bytes` is the file's whole content: UTF-8 with or without a byte order mark, else Windows-1252.
+/// Lines end at LF; a CR before it is dropped. Unrecognised lines are skipped. Afterwards the first
+/// node is current and selected and `bModified` is false.
+ReadResult ReadScript(std::string_view bytes, MenuDocument& document);
+
+/// True when `bytes` cannot be a text file: it holds a NUL byte.
+bool IsBinary(std::string_view bytes);
+
+}  // namespace zev

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/menu_document.h"
+
+namespace zev {
+
+/// The whole definition script of a document: UTF-8, lines ending in CR LF. Deterministic: the same
+/// document gives the same bytes.
+std::string GenerateScript(const MenuDocument& document);
+
+/// The bytes of a definition file that holds `script`: the script and one more CR LF, with a UTF-8
+/// byte order mark in front when anything is outside ASCII, so that a browser reads it right from a
+/// page in any encoding.
+std::string DefinitionFileBytes(std::string_view script);
+
+}  // namespace zev

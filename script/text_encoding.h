@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zev {
+
+/// True when `bytes` is well-formed UTF-8 (Unicode standard, table 3-7: no surrogates, no overlong
+/// forms).
+bool IsValidUtf8(std::string_view bytes);
+
+/// Windows-1252 to UTF-8, by the WHATWG Encoding Standard's index, which gives every byte a code
+/// point, so that no character of an old file is lost.
+std::string Windows1252ToUtf8(std::string_view bytes);
+
+/// A definition file's bytes as UTF-8 text: a byte order mark is dropped; what is not valid UTF-8
+/// is taken for Windows-1252.
+std::string DecodeDefinition(std::string_view bytes);
+
+}  // namespace zev
