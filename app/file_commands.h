@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "app/editor_services.h"
+#include "app/editor_view.h"
+#include "model/menu_document.h"
+
+namespace zev {
+
+/// The procedures of the File menu and of the preview: New, Open, Save, Save As, Exit. Without
+/// widgets; document, view and services are handed in, not owned, and outlive it.
+class FileCommands {
+  public:
+    FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services);
+
+    /// Resets document and view to a new, empty menu, as at start-up. Asks nothing.
+    void Reset();
+    void mnuFileNew_Click();
+    void mnuFileOpen_Click();
+    void mnuFileSave_Click();
+    void mnuFileSaveAs_Click();
+    /// True when the program is to end now.
+    bool mnuFileExit_Click();
+
+    /// Opens the definition file at `path` (full path). On failure the person is told the path and
+    /// the reason, and the document in memory stays as it was. True when it was opened.
+    bool openDefinition(const std::string& path);
+
+    /// Stores the panel, puts the run-time files beside the definition, shows the script, and
+    /// writes it to `path`, or to the preview script in `SavePath` when `path` is empty. Problems
+    /// are shown; true when the definition itself was written.
+    bool SaveDefinition(const std::string& path);
+
+    /// Writes the preview files into `SavePath` and loads the preview page into the browser.
+    void ShowPreview();
+
+  private:
+    /// What became of a Save As.
+    enum class SaveOutcome { Saved, Cancelled, Failed };
+    SaveOutcome saveAs();
+
+    MenuDocument& m_document;
+    EditorView& m_view;
+    EditorServices m_services;
+};
+
+}  // namespace zev
