@@ -106,6 +106,7 @@ class MenuTree {
 
   private:
     std::vector<MenuNode*>& mutableChildrenOf(MenuNode* parent);
+    static void renumber(const std::vector<MenuNode*>& siblings, std::size_t firstRow);
 
     std::unordered_map<std::string, std::unique_ptr<MenuNode>> m_nodes;
     std::vector<MenuNode*> m_topLevel;

@@ -1,0 +1,50 @@
+#include "model/menu_document.h"
+
+#include <cassert>
+#include <utility>
+
+namespace zev {
+
+MenuDocument::MenuDocument(std::string programFolder) : m_programFolder(std::move(programFolder)) {
+    NewDocument();
+}
+
+void MenuDocument::NewDocument() {
+    SaveFile.clear();
+    SavePath = m_programFolder;
+    ItemCounter = 0;
+    CurNode = nullptr;
+    selectedNode = nullptr;
+    DefaultProp = MenuProp();
+    DefaultProp.SetDefault();
+    // A horizontal bar of up to ten items whose submenus drop down.
+    RootMenuProp = NewItemMenuProp();
+    RootMenuProp.Columns = "10";
+    RootMenuProp.Position = 2;
+    bModified = false;
+    tree.clear();
+}
+
+void MenuDocument::takeFrom(MenuDocument& other) {
+    assert(&other != this);
+    SaveFile = std::move(other.SaveFile);
+    SavePath = std::move(other.SavePath);
+    bModified = other.bModified;
+    CurNode = other.CurNode;
+    selectedNode = other.selectedNode;
+    RootMenuProp = std::move(other.RootMenuProp);
+    DefaultProp = std::move(other.DefaultProp);
+    ItemCounter = other.ItemCounter;
+    tree.takeFrom(other.tree);
+    other.NewDocument();
+}
+
+MenuProp NewItemMenuProp() {
+    MenuProp prop;
+    prop.Divider = "&nbsp;";
+    prop.HTMLAfter = "&nbsp;&nbsp;";
+    prop.HTMLBefore = "&nbsp;&nbsp;";
+    return prop;
+}
+
+}  // namespace zev

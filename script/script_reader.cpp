@@ -1,0 +1,121 @@
+#include "script/script_reader.h"
+
+#include <string>
+#include <utility>
+
+#include "model/text_rules.h"
+#include "script/text_encoding.h"
+
+namespace zev {
+
+namespace {
+
+/// Applies the lines of one definition file to a new document, one after the other.
+class ScriptReader {
+  public:
+    explicit ScriptReader(MenuDocument& document) : m_document(document) {}
+
+    /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
+    void readLine(std::string_view line) {
+        if (MatchesPattern(line, "zev_state.*=*;"))
+            m_document.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
+        if (MatchesPattern(line, "zevmenu = new ZEVMenu('*');"))
+            openMenu(GetMenuId(line));
+        if (MatchesPattern(line, "zevmenu.*=*;"))
+            readProperty(line);
+        if (MatchesPattern(line, "zevmenu.AddItem(*);"))
+            readItem(line, false);
+        else if (MatchesPattern(line, "zevmenu.AddRollover(*);"))
+            readItem(line, true);
+    }
+
+    std::size_t errorCount() const { return m_errorCount; }
+
+  private:
+    bool isTopLevel() const { return m_menuId == "0"; }
+
+    void openMenu(std::string id) {
+        m_menuId = std::move(id);
+        m_itemNumber = 0;
+        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find("KeyLoad " + m_menuId);
+    }
+
+    void readProperty(std::string_view line) {
+        if (isTopLevel())
+            m_document.RootMenuProp.SetProperty(GetPropName(line), GetPropValue(line));
+        else if (m_menuNode)
+            m_menuNode->item.MenuProperty.SetProperty(GetPropName(line), GetPropValue(line));
+        else
+            ++m_errorCount;
+    }
+
+    void readItem(std::string_view line, bool isRollover) {
+        // An item that cannot be added keeps its number all the same: the ids of the submenus that
+        // follow count it.
+        ++m_itemNumber;
+        const bool hasMenu = isTopLevel() || m_menuNode;
+        if (!hasMenu || m_document.ItemCounter == kMaxItemCounter) {
+            ++m_errorCount;
+            return;
+        }
+        ItemProp item;
+        item.MenuProperty = NewItemMenuProp();
+        if (isRollover)
+            item.Set_ImageProperty(line);
+        else
+            item.Set_ItemProperty(line);
+        std::string text = isRollover ? item.ImageOut : item.Caption;
+        if (m_document.tree.append(m_menuNode, nextKey(), std::move(text), std::move(item)))
+            ++m_document.ItemCounter;
+        else
+            ++m_errorCount;
+    }
+
+    /// The key spells the id of the item's own submenu, so that the submenu's creation line leads
+    /// back to the item.
+    std::string nextKey() const {
+        std::string key = "KeyLoad ";
+        if (!isTopLevel()) {
+            key += m_menuId;
+            key += 'i';
+        }
+        return key += std::to_string(m_itemNumber);
+    }
+
+    MenuDocument& m_document;
+    std::string m_menuId;            ///< menu of the last creation line; empty before the first
+    MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
+    std::size_t m_itemNumber = 0;    ///< items of that menu read so far
+    std::size_t m_errorCount = 0;
+};
+
+/// Cuts the next line off `text`.
+std::string_view TakeLine(std::string_view& text) {
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    return line;
+}
+
+}  // namespace
+
+ReadResult ReadScript(std::string_view bytes, MenuDocument& document) {
+    const std::string text = DecodeDefinition(bytes);
+    ScriptReader reader(document);
+    std::string_view rest = text;
+    while (!rest.empty())
+        reader.readLine(TrimSpaces(TakeLine(rest)));
+
+    document.CurNode = document.tree.firstNode();
+    document.selectedNode = document.CurNode;
+    document.bModified = false;
+    return {reader.errorCount()};
+}
+
+bool IsBinary(std::string_view bytes) {
+    return bytes.find('\0') != std::string_view::npos;
+}
+
+}  // namespace zev
