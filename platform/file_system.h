@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 #include <variant>
+#include <vector>
 
 namespace zev {
 
@@ -56,6 +57,10 @@ class FileSystem {
     /// fault.
     virtual FileOutcome CopyFile(const std::string& source, const std::string& destination) = 0;
     virtual FileOutcome DeleteFile(const std::string& path) = 0;
+    /// Makes the folder and those above it that are missing. A folder that is there is no error.
+    virtual FileOutcome makeFolder(const std::string& path) = 0;
+    /// Names (without folder) of everything in the folder, sorted by byte value.
+    virtual FileResult<std::vector<std::string>> listFolder(const std::string& path) const = 0;
 };
 
 }  // namespace zev

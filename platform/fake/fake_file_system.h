@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/file_system.h"
+
+namespace zev {
+
+/// A disk in memory. Paths are compared byte for byte; "/" and "\" both separate folders. There is
+/// the root folder "/" and what the test adds.
+class FakeFileSystem : public FileSystem {
+  public:
+    FakeFileSystem();
+
+    /// Adds the folder and those above it.
+    void addFolder(const std::string& path);
+    /// Adds a file, and the folders it lies in.
+    void addFile(const std::string& path, const std::string& bytes);
+    /// In such a folder no file can be made, replaced or deleted.
+    void setWritable(const std::string& folder, bool isWritable);
+    /// Every file: path and bytes.
+    const std::map<std::string, std::string>& allFiles() const { return m_files; }
+
+    bool FileExists(const std::string& path) const override;
+    bool isFolder(const std::string& path) const override;
+    bool isWritableFolder(const std::string& path) const override;
+    FileResult<std::string> readFile(const std::string& path,
+                                     std::uint64_t maxBytes) const override;
+    FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
+    FileOutcome DeleteFile(const std::string& path) override;
+    FileOutcome makeFolder(const std::string& path) override;
+    FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
+
+  private:
+    std::map<std::string, std::string> m_files;
+    std::set<std::string> m_folders;
+    std::set<std::string> m_unwritableFolders;
+};
+
+/// Passes everything on to another file system, and breaks what it was told to break. A broken
+/// operation changes nothing. Questions (`FileExists`, `isFolder`, `isWritableFolder`) never break
+/// and are not counted.
+class FailingFileSystem : public FileSystem {
+  public:
+    /// `inner` is not owned and must outlive this object.
+    explicit FailingFileSystem(FileSystem& inner);
+
+    /// The operation with this number, counted from 1 over the object's life, fails with `error`.
+    void failOperation(std::size_t number, FileError error);
+    /// Every operation on `path` fails with `error` (a copy: from it or to it).
+    void failPath(const std::string& path, FileError error);
+    /// Operations asked for so far, broken ones included.
+    std::size_t operationCount() const { return m_operationCount; }
+
+    bool FileExists(const std::string& path) const override;
+    bool isFolder(const std::string& path) const override;
+    bool isWritableFolder(const std::string& path) const override;
+    FileResult<std::string> readFile(const std::string& path,
+                                     std::uint64_t maxBytes) const override;
+    FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
+    FileOutcome DeleteFile(const std::string& path) override;
+    FileOutcome makeFolder(const std::string& path) override;
+    FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
+
+  private:
+    FileOutcome nextOperation(const std::string& path) const;
+    FileOutcome errorOfPath(const std::string& path) const;
+
+    FileSystem& m_inner;
+    mutable std::size_t m_operationCount = 0;
+    std::map<std::size_t, FileError> m_failingOperations;
+    std::map<std::string, FileError> m_failingPaths;
+};
+
+}  // namespace zev

@@ -1,0 +1,187 @@
+#include "platform/fake/fake_services.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+namespace zev {
+
+namespace {
+
+bool hasButton(MessageRequest::Buttons buttons, MessageBox::Answer answer) {
+    using Buttons = MessageRequest::Buttons;
+    using Answer = MessageBox::Answer;
+    switch (buttons) {
+        case Buttons::Ok:
+            return answer == Answer::Ok;
+        case Buttons::OkCancel:
+            return answer == Answer::Ok || answer == Answer::Cancel;
+        case Buttons::YesNo:
+            return answer == Answer::Yes || answer == Answer::No;
+        case Buttons::YesNoCancel:
+            return answer != Answer::Ok;
+    }
+    return false;
+}
+
+MessageBox::Answer closingAnswer(MessageRequest::Buttons buttons) {
+    switch (buttons) {
+        case MessageRequest::Buttons::Ok:
+            return MessageBox::Answer::Ok;
+        case MessageRequest::Buttons::YesNo:
+            return MessageBox::Answer::No;
+        case MessageRequest::Buttons::OkCancel:
+        case MessageRequest::Buttons::YesNoCancel:
+            break;
+    }
+    return MessageBox::Answer::Cancel;
+}
+
+}  // namespace
+
+void abortOnFailure(const std::string& problem) {
+    std::fprintf(stderr, "%s\n", problem.c_str());
+    std::abort();
+}
+
+FakeMessageBox::FakeMessageBox(FailureHandler onFailure) : m_onFailure(std::move(onFailure)) {}
+
+FakeMessageBox::~FakeMessageBox() {
+    verify();
+}
+
+void FakeMessageBox::expect(const std::string& text, Answer answer) {
+    expect(
+        text, [text](const MessageRequest& request) { return request.text == text; }, answer);
+}
+
+void FakeMessageBox::expect(const std::string& description, Matcher isExpected, Answer answer) {
+    m_expected.push_back({description, std::move(isExpected), answer});
+}
+
+void FakeMessageBox::verify() {
+    for (const Expectation& expected : m_expected)
+        m_onFailure("message box never shown: " + expected.description);
+    m_expected.clear();
+}
+
+MessageBox::Answer FakeMessageBox::show(const MessageRequest& request) {
+    m_recorded.push_back(request);
+    if (m_expected.empty()) {
+        m_onFailure("unexpected message box: " + request.text);
+        return closingAnswer(request.buttons);
+    }
+    const Expectation expected = std::move(m_expected.front());
+    m_expected.pop_front();
+    if (!expected.isExpected(request)) {
+        m_onFailure("expected the message box: " + expected.description +
+                    "\nbut was shown: " + request.text);
+        return closingAnswer(request.buttons);
+    }
+    if (!hasButton(request.buttons, expected.answer)) {
+        m_onFailure("the answer given is no button of the message box: " + request.text);
+        return closingAnswer(request.buttons);
+    }
+    return expected.answer;
+}
+
+FakeCommonDialogs::FakeCommonDialogs(FailureHandler onFailure)
+    : m_onFailure(std::move(onFailure)) {}
+
+FakeCommonDialogs::~FakeCommonDialogs() {
+    verify();
+}
+
+void FakeCommonDialogs::expectOpenFile(const std::string& path) {
+    m_expected.push_back({Kind::OpenFile, path});
+}
+
+void FakeCommonDialogs::expectSaveFile(const std::string& path) {
+    m_expected.push_back({Kind::SaveFile, path});
+}
+
+void FakeCommonDialogs::verify() {
+    for (const Expectation& expected : m_expected)
+        m_onFailure("file dialog never shown, its answer was to be: '" + expected.path + "'");
+    m_expected.clear();
+}
+
+std::string FakeCommonDialogs::openFile(const FileDialogRequest& request) {
+    return answer(Kind::OpenFile, request);
+}
+
+std::string FakeCommonDialogs::saveFile(const FileDialogRequest& request) {
+    return answer(Kind::SaveFile, request);
+}
+
+std::string FakeCommonDialogs::answer(Kind kind, const FileDialogRequest& request) {
+    m_recorded.push_back({kind, request});
+    if (m_expected.empty()) {
+        m_onFailure("unexpected file dialog: " + request.title);
+        return {};
+    }
+    const Expectation expected = std::move(m_expected.front());
+    m_expected.pop_front();
+    if (expected.kind != kind) {
+        m_onFailure("file dialog of the wrong kind: " + request.title);
+        return {};
+    }
+    return expected.path;
+}
+
+FakeShell::FakeShell(FailureHandler onFailure) : m_onFailure(std::move(onFailure)) {}
+
+FakeShell::~FakeShell() {
+    verify();
+}
+
+void FakeShell::expectFindExecutable(const std::string& program) {
+    m_expectedFinds.push_back([program](const std::string&) { return program; });
+}
+
+void FakeShell::expectFindExecutable(std::function<std::string(const std::string& file)> answer) {
+    m_expectedFinds.push_back(std::move(answer));
+}
+
+void FakeShell::expectShellExecute(const std::string& program, const std::string& argument,
+                                   bool isStarted) {
+    m_expectedStarts.push_back({{program, argument}, isStarted});
+}
+
+void FakeShell::verify() {
+    if (!m_expectedFinds.empty())
+        m_onFailure("nobody asked for the associated program");
+    for (const StartExpectation& expected : m_expectedStarts)
+        m_onFailure("never started: " + expected.start.program + " " + expected.start.argument);
+    m_expectedFinds.clear();
+    m_expectedStarts.clear();
+}
+
+std::string FakeShell::FindExecutable(const std::string& file) {
+    m_files.push_back(file);
+    if (m_expectedFinds.empty()) {
+        m_onFailure("unexpected question for the program of " + file);
+        return {};
+    }
+    const auto answer = std::move(m_expectedFinds.front());
+    m_expectedFinds.pop_front();
+    return answer(file);
+}
+
+bool FakeShell::ShellExecute(const std::string& program, const std::string& argument) {
+    m_starts.push_back({program, argument});
+    if (m_expectedStarts.empty()) {
+        m_onFailure("unexpected start of " + program + " " + argument);
+        return false;
+    }
+    const StartExpectation expected = std::move(m_expectedStarts.front());
+    m_expectedStarts.pop_front();
+    if (expected.start.program != program || expected.start.argument != argument) {
+        m_onFailure("expected the start of " + expected.start.program + " " +
+                    expected.start.argument + "\nbut was asked for " + program + " " + argument);
+        return false;
+    }
+    return expected.isStarted;
+}
+
+}  // namespace zev

@@ -1,0 +1,44 @@
+#include "platform/library_files.h"
+
+#include <algorithm>
+
+namespace zev {
+
+namespace {
+
+char toLowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool isEqualIgnoringCase(std::string_view left, std::string_view right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char a, char b) { return toLowerAscii(a) == toLowerAscii(b); });
+}
+
+}  // namespace
+
+CopyResult CopyLibraryFile(FileSystem& files, const std::string& source,
+                           const std::string& destination) {
+    if (isEqualIgnoringCase(source, destination))
+        return CopyResult::SamePlace;
+    if (!files.FileExists(source))
+        return CopyResult::SourceMissing;
+    // Not deleted first: the copy replaces the old file whole, so that a failure leaves it intact.
+    return files.CopyFile(source, destination) ? CopyResult::NotSaved : CopyResult::Copied;
+}
+
+std::string CopyProblemText(CopyResult result, const std::string& source,
+                            const std::string& destination) {
+    switch (result) {
+        case CopyResult::SourceMissing:
+            return "Error: " + source + " does not exist";
+        case CopyResult::NotSaved:
+            return "Error: " + destination + " not saved. Please check path permissions";
+        case CopyResult::Copied:
+        case CopyResult::SamePlace:
+            break;
+    }
+    return {};
+}
+
+}  // namespace zev

@@ -1,0 +1,102 @@
+#include "platform/posix/posix_attributes.h"
+
+#include <sys/types.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace zev {
+
+namespace {
+
+/// Labels that the system itself or a security module keeps; an ordinary user may not set them.
+bool isKeptBySystem(std::string_view name) {
+    return name.starts_with("security.") || name.starts_with("trusted.");
+}
+
+/// Calls `read(buffer, size)`, which follows the manners of listxattr() and getxattr(), with a
+/// buffer that is large enough. Empty when it fails.
+template <typename Read>
+std::optional<std::string> readGrowing(Read read) {
+    for (;;) {
+        const ssize_t needed = read(nullptr, std::size_t{0});
+        if (needed < 0)
+            return {};
+        std::string buffer(static_cast<std::size_t>(needed), '\0');
+        if (needed == 0)
+            return buffer;
+        const ssize_t length = read(buffer.data(), buffer.size());
+        if (length >= 0) {
+            buffer.resize(static_cast<std::size_t>(length));
+            return buffer;
+        }
+        if (errno != ERANGE)  // it grew in between
+            return {};
+    }
+}
+
+/// Names are separated, and the last one ended, by NUL characters.
+std::vector<std::string> splitNames(const std::string& list) {
+    std::vector<std::string> names;
+    for (std::size_t start = 0; start < list.size();) {
+        const std::size_t end = std::min(list.find('\0', start), list.size());
+        names.push_back(list.substr(start, end - start));
+        start = end + 1;
+    }
+    return names;
+}
+
+bool copyExtendedAttributes(const std::string& path, int descriptor) {
+    const auto wanted = readGrowing(
+        [&](char* buffer, std::size_t size) { return ::listxattr(path.c_str(), buffer, size); });
+    if (!wanted)
+        return errno == ENOTSUP;
+    const auto present = readGrowing(
+        [&](char* buffer, std::size_t size) { return ::flistxattr(descriptor, buffer, size); });
+    const std::vector<std::string> wantedNames = splitNames(*wanted);
+    // A new file may have inherited an access control list from its folder.
+    for (const std::string& name : splitNames(present.value_or(""))) {
+        if (std::find(wantedNames.begin(), wantedNames.end(), name) == wantedNames.end() &&
+            !isKeptBySystem(name) && ::fremovexattr(descriptor, name.c_str()) != 0)
+            return false;
+    }
+    for (const std::string& name : wantedNames) {
+        const auto value = readGrowing([&](char* buffer, std::size_t size) {
+            return ::getxattr(path.c_str(), name.c_str(), buffer, size);
+        });
+        const bool isSet =
+            value && ::fsetxattr(descriptor, name.c_str(), value->data(), value->size(), 0) == 0;
+        if (!isSet && !isKeptBySystem(name))
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool copyAttributes(const std::string& path, const struct stat& status, int descriptor) {
+    struct stat own {};
+    if (::fstat(descriptor, &own) != 0)
+        return false;
+    bool isOwnerKept = own.st_uid == status.st_uid && own.st_gid == status.st_gid;
+    if (!isOwnerKept) {
+        isOwnerKept = ::fchown(descriptor, status.st_uid, status.st_gid) == 0;
+        // The group alone may be one of the user's own.
+        if (!isOwnerKept && ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0 &&
+            errno != EPERM)
+            return false;
+    }
+    if (!copyExtendedAttributes(path, descriptor))
+        return false;
+    // Last, for the two before may change it. Rights tied to the owner go with the owner only.
+    const mode_t bits = isOwnerKept ? 07777 : 0777;
+    return ::fchmod(descriptor, status.st_mode & bits) == 0;
+}
+
+}  // namespace zev

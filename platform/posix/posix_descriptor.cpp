@@ -1,0 +1,129 @@
+#include "platform/posix/posix_descriptor.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+namespace zev {
+
+PosixDescriptor::PosixDescriptor(PosixDescriptor&& other) noexcept
+    : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
+
+PosixDescriptor& PosixDescriptor::operator=(PosixDescriptor&& other) noexcept {
+    if (this != &other) {
+        close();
+        m_descriptor = std::exchange(other.m_descriptor, -1);
+    }
+    return *this;
+}
+
+PosixDescriptor::~PosixDescriptor() {
+    close();
+}
+
+int PosixDescriptor::close() {
+    const int descriptor = std::exchange(m_descriptor, -1);
+    // An interrupted close() has closed the descriptor all the same; repeating it could close one
+    // that another thread has just opened.
+    if (descriptor >= 0 && ::close(descriptor) != 0 && errno != EINTR)
+        return errno;
+    return 0;
+}
+
+int openDescriptor(const std::string& path, int flags, unsigned mode, PosixDescriptor& result) {
+    int descriptor = -1;
+    do {
+        descriptor = ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode);
+    } while (descriptor < 0 && errno == EINTR);
+    if (descriptor < 0)
+        return errno;
+    result = PosixDescriptor(descriptor);
+    return 0;
+}
+
+int writeAll(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return errno;
+        if (written == 0)
+            return ENOSPC;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
+int readAll(int descriptor, std::uint64_t maxBytes, std::string& bytes) {
+    constexpr std::size_t kChunkBytes = 64 * 1024;
+    struct stat status {};
+    if (::fstat(descriptor, &status) != 0)
+        return errno;
+    if (S_ISREG(status.st_mode) && status.st_size > 0) {
+        const auto size = static_cast<std::uint64_t>(status.st_size);
+        if (size > maxBytes)
+            return EFBIG;
+        bytes.reserve(bytes.size() + static_cast<std::size_t>(size));
+    }
+    std::string chunk(kChunkBytes, '\0');
+    std::uint64_t totalBytes = 0;
+    for (;;) {
+        const ssize_t count = ::read(descriptor, chunk.data(), chunk.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return errno;
+        if (count == 0)
+            return 0;
+        totalBytes += static_cast<std::uint64_t>(count);
+        if (totalBytes > maxBytes)
+            return EFBIG;
+        bytes.append(chunk, 0, static_cast<std::size_t>(count));
+    }
+}
+
+int flushToDisk(int descriptor) {
+    while (::fsync(descriptor) != 0) {
+        if (errno == EINVAL || errno == ENOTSUP || errno == ENOSYS)
+            return 0;
+        if (errno != EINTR)
+            return errno;
+    }
+    return 0;
+}
+
+FileError fileErrorOf(int errorNumber, const std::string& path) {
+    FileError error{FileError::Code::Other, path, std::generic_category().message(errorNumber)};
+    switch (errorNumber) {
+        case ENOENT:
+        case ENOTDIR:
+            error.code = FileError::Code::NotFound;
+            break;
+        case EISDIR:
+            error.code = FileError::Code::IsFolder;
+            break;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            error.code = FileError::Code::NoPermission;
+            break;
+        case ENOSPC:
+        case EDQUOT:
+            error.code = FileError::Code::NoSpace;
+            break;
+        case EFBIG:
+            error.code = FileError::Code::TooLarge;
+            break;
+        default:
+            break;
+    }
+    return error;
+}
+
+}  // namespace zev

@@ -1,0 +1,83 @@
+#include "platform/posix/posix_file_system.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/posix/posix_descriptor.h"
+#include "platform/posix/posix_file_replace.h"
+
+namespace zev {
+
+bool PosixFileSystem::FileExists(const std::string& path) const {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+bool PosixFileSystem::isFolder(const std::string& path) const {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool PosixFileSystem::isWritableFolder(const std::string& path) const {
+    return isFolder(path) && ::faccessat(AT_FDCWD, path.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+FileResult<std::string> PosixFileSystem::readFile(const std::string& path,
+                                                  std::uint64_t maxBytes) const {
+    PosixDescriptor file;
+    std::string bytes;
+    int error = openDescriptor(path, O_RDONLY, 0, file);
+    if (error == 0)
+        error = readAll(file.get(), maxBytes, bytes);
+    if (error != 0)
+        return fileErrorOf(error, path);
+    return bytes;
+}
+
+FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view bytes) {
+    return replaceFile(path, bytes);
+}
+
+FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::string& destination) {
+    // What the program copies are scripts and web pages. The limit is there for a source without
+    // an end, such as a device.
+    constexpr std::uint64_t kMaxCopyBytes = std::uint64_t{1} << 30;
+    const FileResult<std::string> bytes = readFile(source, kMaxCopyBytes);
+    if (!bytes.isOk())
+        return bytes.error();
+    return replaceFile(destination, bytes.value());
+}
+
+FileOutcome PosixFileSystem::DeleteFile(const std::string& path) {
+    if (::unlink(path.c_str()) != 0)
+        return fileErrorOf(errno, path);
+    return {};
+}
+
+FileOutcome PosixFileSystem::makeFolder(const std::string& path) {
+    std::error_code error;
+    std::filesystem::create_directories(path, error);
+    if (error)
+        return fileErrorOf(error.value(), path);
+    return {};
+}
+
+FileResult<std::vector<std::string>> PosixFileSystem::listFolder(const std::string& path) const {
+    std::error_code error;
+    std::vector<std::string> names;
+    for (std::filesystem::directory_iterator entry(path, error), end; !error && entry != end;
+         entry.increment(error))
+        names.push_back(entry->path().filename().string());
+    if (error)
+        return fileErrorOf(error.value(), path);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+}  // namespace zev

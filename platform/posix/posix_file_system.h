@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace zev {
+
+/// The real disk. Files are replaced by `replaceFile`.
+class PosixFileSystem : public FileSystem {
+  public:
+    bool FileExists(const std::string& path) const override;
+    bool isFolder(const std::string& path) const override;
+    bool isWritableFolder(const std::string& path) const override;
+    FileResult<std::string> readFile(const std::string& path,
+                                     std::uint64_t maxBytes) const override;
+    FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
+    FileOutcome DeleteFile(const std::string& path) override;
+    FileOutcome makeFolder(const std::string& path) override;
+    FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
+};
+
+}  // namespace zev

@@ -1,0 +1,191 @@
+#include "platform/posix/posix_process.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+
+#include "platform/posix/posix_descriptor.h"
+
+namespace zev {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+bool isExecutableFile(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+           ::faccessat(AT_FDCWD, path.c_str(), X_OK, AT_EACCESS) == 0;
+}
+
+/// The form exec() takes; valid as long as `arguments` is unchanged.
+std::vector<char*> argumentPointers(const std::vector<std::string>& arguments) {
+    std::vector<char*> pointers;
+    for (const std::string& argument : arguments)
+        pointers.push_back(const_cast<char*>(argument.c_str()));
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+bool makePipe(PosixDescriptor& readEnd, PosixDescriptor& writeEnd) {
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0)
+        return false;
+    readEnd = PosixDescriptor(ends[0]);
+    writeEnd = PosixDescriptor(ends[1]);
+    return true;
+}
+
+/// Starts `program` in a process group of its own with its output going to `output`; everything
+/// else goes nowhere. -1 when it cannot be started.
+pid_t spawnWithOutput(const std::string& program, const std::vector<std::string>& arguments,
+                      int output) {
+    posix_spawn_file_actions_t actions;
+    posix_spawnattr_t attributes;
+    sigset_t none;
+    sigset_t sigPipe;
+    sigemptyset(&none);
+    sigemptyset(&sigPipe);
+    sigaddset(&sigPipe, SIGPIPE);
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(
+        &attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    posix_spawnattr_setpgroup(&attributes, 0);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setsigdefault(&attributes, &sigPipe);
+    pid_t child = -1;
+    if (::posix_spawn(&child, program.c_str(), &actions, &attributes,
+                      argumentPointers(arguments).data(), environ) != 0)
+        child = -1;
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    return child;
+}
+
+/// Reads until the end of the pipe; false when `deadline` comes first.
+bool readUntil(int pipe, Clock::time_point deadline, std::string& output) {
+    char chunk[4096];
+    for (;;) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+        if (left.count() <= 0)
+            return false;
+        pollfd waiting{pipe, POLLIN, 0};
+        const int ready = ::poll(&waiting, 1, static_cast<int>(left.count()));
+        if (ready == 0 || (ready < 0 && errno == EINTR))
+            continue;
+        const ssize_t count = ready < 0 ? -1 : ::read(pipe, chunk, sizeof chunk);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return count == 0;
+        output.append(chunk, static_cast<std::size_t>(count));
+    }
+}
+
+int waitFor(pid_t child) {
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR)
+            return -1;
+    }
+    return status;
+}
+
+/// The part of `startDetached` after the first fork. Between fork and exec only calls that are safe
+/// in a process with several threads are allowed, so everything was made ready before.
+[[noreturn]] void runDetachedChild(const char* program, char* const* arguments, int errorPipe) {
+    ::setsid();
+    const pid_t grandchild = ::fork();
+    if (grandchild > 0)
+        ::_exit(0);
+    if (grandchild == 0) {
+        sigset_t none;
+        sigemptyset(&none);
+        ::sigprocmask(SIG_SETMASK, &none, nullptr);
+        ::signal(SIGPIPE, SIG_DFL);
+        const int null = ::open("/dev/null", O_RDWR);
+        if (null >= 0) {
+            ::dup2(null, STDIN_FILENO);
+            ::dup2(null, STDOUT_FILENO);
+            ::dup2(null, STDERR_FILENO);
+            if (null > STDERR_FILENO)
+                ::close(null);
+        }
+        ::execve(program, arguments, environ);
+    }
+    const char failed = 1;
+    const ssize_t written = ::write(errorPipe, &failed, 1);
+    ::_exit(written == 1 ? 1 : 2);
+}
+
+}  // namespace
+
+std::string findProgram(const std::string& name) {
+    if (name.find('/') != std::string::npos)
+        return isExecutableFile(name) ? name : std::string();
+    const char* const variable = std::getenv("PATH");
+    const std::string folders = variable ? variable : "/usr/local/bin:/usr/bin:/bin";
+    for (std::size_t start = 0; !name.empty() && start <= folders.size();) {
+        const std::size_t end = std::min(folders.find(':', start), folders.size());
+        // An empty entry, which stands for the current folder, is not searched.
+        const std::string path = folders.substr(start, end - start) + "/" + name;
+        if (end > start && isExecutableFile(path))
+            return path;
+        start = end + 1;
+    }
+    return {};
+}
+
+std::optional<std::string> runProgram(const std::vector<std::string>& arguments,
+                                      std::chrono::milliseconds timeLimit) {
+    const std::string program = findProgram(arguments.front());
+    PosixDescriptor readEnd;
+    PosixDescriptor writeEnd;
+    if (program.empty() || !makePipe(readEnd, writeEnd))
+        return {};
+    const pid_t child = spawnWithOutput(program, arguments, writeEnd.get());
+    if (child < 0)
+        return {};
+    writeEnd.close();
+    std::string output;
+    const bool isDone = readUntil(readEnd.get(), Clock::now() + timeLimit, output);
+    if (!isDone)
+        ::kill(-child, SIGKILL);
+    const int status = waitFor(child);
+    if (!isDone || !WIFEXITED(status) || WEXITSTATUS(status) != 0)
+        return {};
+    return output;
+}
+
+bool startDetached(const std::vector<std::string>& arguments) {
+    const std::string program = findProgram(arguments.front());
+    PosixDescriptor readEnd;
+    PosixDescriptor writeEnd;
+    if (program.empty() || !makePipe(readEnd, writeEnd))
+        return false;
+    const std::vector<char*> pointers = argumentPointers(arguments);
+    const pid_t child = ::fork();
+    if (child < 0)
+        return false;
+    if (child == 0)
+        runDetachedChild(program.c_str(), pointers.data(), writeEnd.get());
+    writeEnd.close();
+    waitFor(child);
+    // A successful exec() closes the pipe without a word.
+    std::string report;
+    return readAll(readEnd.get(), 16, report) == 0 && report.empty();
+}
+
+}  // namespace zev

@@ -1,0 +1,168 @@
+#include "platform/posix/posix_side_file.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <random>
+#include <string_view>
+#include <system_error>
+
+namespace zev {
+
+namespace {
+
+constexpr std::string_view kMark = ".zev-";
+constexpr std::size_t kRandomLength = 6;
+constexpr std::string_view kRandomCharacters =
+    "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+
+/// Sixteen hexadecimal digits (FNV-1a), the same in every run.
+std::string hashText(std::string_view text) {
+    std::uint64_t hash = 14695981039346656037U;
+    for (const char c : text) {
+        hash ^= static_cast<unsigned char>(c);
+        hash *= 1099511628211U;
+    }
+    char digits[17];
+    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
+    return digits;
+}
+
+/// The target's name, cut where the name of a side file would become too long for a folder.
+std::string stemOf(const std::string& name) {
+    constexpr std::size_t kMaxStem = 220;
+    if (name.size() <= kMaxStem)
+        return name;
+    std::size_t end = kMaxStem - 20;
+    while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0U) == 0x80U)
+        --end;  // not inside a code point
+    return name.substr(0, end) + "-" + hashText(name);
+}
+
+std::string prefixBeside(const WriteTarget& target, SideFile::Kind kind) {
+    const std::string hiding = kind == SideFile::Kind::NewContent ? "." : "";
+    return hiding + stemOf(target.name) + std::string(kMark);
+}
+
+/// Files of the same name in different folders must not be taken for one another.
+std::string prefixInTemporaryFolder(const WriteTarget& target) {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::absolute(target.path, error);
+    return stemOf(target.name) + "-" + hashText(path.lexically_normal().string()) +
+           std::string(kMark);
+}
+
+std::string temporaryFolder() {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    return error ? "/tmp" : folder.string();
+}
+
+std::string randomName(const std::string& prefix) {
+    std::random_device device;
+    std::uniform_int_distribution<std::size_t> position(0, kRandomCharacters.size() - 1);
+    std::string name = prefix;
+    for (std::size_t i = 0; i < kRandomLength; ++i)
+        name += kRandomCharacters[position(device)];
+    return name + "~";
+}
+
+bool isSideFileName(std::string_view name, std::string_view prefix) {
+    if (name.size() != prefix.size() + kRandomLength + 1 || !name.starts_with(prefix) ||
+        !name.ends_with('~'))
+        return false;
+    const std::string_view random = name.substr(prefix.size(), kRandomLength);
+    return random.find_first_not_of(kRandomCharacters) == std::string_view::npos;
+}
+
+bool isStillAt(int descriptor, const std::string& path) {
+    struct stat open {};
+    struct stat named {};
+    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
+std::vector<std::string> findSideFiles(const std::string& folder, std::string_view prefix) {
+    std::vector<std::string> found;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        if (isSideFileName(name, prefix))
+            found.push_back(entry->path().string());
+    }
+    return found;
+}
+
+}  // namespace
+
+SideFile::~SideFile() {
+    if (!m_path.empty())
+        ::unlink(m_path.c_str());
+}
+
+int SideFile::makeBeside(const WriteTarget& target, Kind kind, unsigned mode) {
+    return make(target.folder, prefixBeside(target, kind), mode);
+}
+
+int SideFile::makeInTemporaryFolder(const WriteTarget& target, unsigned mode) {
+    return make(temporaryFolder(), prefixInTemporaryFolder(target), mode);
+}
+
+int SideFile::make(const std::string& folder, const std::string& prefix, unsigned mode) {
+    constexpr int kMaxAttempts = 100;
+    for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
+        const std::string path = folder + "/" + randomName(prefix);
+        PosixDescriptor file;
+        const int error = openDescriptor(path, O_RDWR | O_CREAT | O_EXCL, mode, file);
+        if (error == EEXIST)
+            continue;
+        if (error != 0)
+            return error;
+        // Network drives may know no locks; leftovers are not removed there.
+        ::flock(file.get(), LOCK_EX | LOCK_NB);
+        // Before the lock was there another process may have taken the file for a leftover.
+        if (!isStillAt(file.get(), path))
+            continue;
+        m_folder = folder;
+        m_path = path;
+        m_file = std::move(file);
+        m_lock = PosixDescriptor(::fcntl(m_file.get(), F_DUPFD_CLOEXEC, 0));
+        return m_lock.isOpen() ? 0 : errno;
+    }
+    return EEXIST;
+}
+
+int SideFile::closeFile() {
+    return m_file.close();
+}
+
+std::vector<std::string> clearLeftovers(const WriteTarget& target) {
+    const std::string newContent = prefixBeside(target, SideFile::Kind::NewContent);
+    for (const std::string& path : findSideFiles(target.folder, newContent))
+        removeLeftover(path);
+    std::vector<std::string> oldContent =
+        findSideFiles(target.folder, prefixBeside(target, SideFile::Kind::OldContent));
+    for (std::string& path : findSideFiles(temporaryFolder(), prefixInTemporaryFolder(target)))
+        oldContent.push_back(std::move(path));
+    return oldContent;
+}
+
+void removeLeftover(const std::string& path) {
+    PosixDescriptor file;
+    if (openDescriptor(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK, 0, file) != 0)
+        return;
+    struct stat status {};
+    if (::fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode) &&
+        ::flock(file.get(), LOCK_EX | LOCK_NB) == 0)
+        ::unlink(path.c_str());
+}
+
+}  // namespace zev

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/posix/posix_descriptor.h"
+#include "platform/posix/posix_write_target.h"
+
+namespace zev {
+
+/// A file that exists only while another one is being replaced. It is locked as long as this object
+/// lives, which tells it from the leftover of a killed run. It is removed when the object goes,
+/// unless it was handed over.
+///
+///     .menu.js.zev-k3Xw9a~      new content, on its way to be renamed to menu.js
+///     menu.js.zev-k3Xw9a~       old content, kept while menu.js is written in place; not hidden,
+///                               for after a power failure it may be the only whole one
+class SideFile {
+  public:
+    enum class Kind { NewContent, OldContent };
+
+    SideFile() = default;
+    SideFile(const SideFile&) = delete;
+    SideFile& operator=(const SideFile&) = delete;
+    ~SideFile();
+
+    /// Makes the file beside the target, open for reading and writing. 0 or an errno.
+    int makeBeside(const WriteTarget& target, Kind kind, unsigned mode);
+    /// The same in the folder for temporary files, for old content.
+    int makeInTemporaryFolder(const WriteTarget& target, unsigned mode);
+
+    int descriptor() const { return m_file.get(); }
+    const std::string& path() const { return m_path; }
+    /// The folder it was made in.
+    const std::string& folder() const { return m_folder; }
+    /// Closes the descriptor, keeping the lock. 0, or the errno of a close that lost data.
+    int closeFile();
+    /// From now on the file stays: it was renamed, or holds the only good copy.
+    void handOver() { m_path.clear(); }
+
+  private:
+    int make(const std::string& folder, const std::string& prefix, unsigned mode);
+
+    std::string m_folder;
+    std::string m_path;
+    PosixDescriptor m_file;
+    PosixDescriptor m_lock;  // a duplicate of m_file: both share one lock
+};
+
+/// Removes what killed runs left of new content for the target. Returns the paths of what they left
+/// of old content, which must stay until the target is whole again.
+std::vector<std::string> clearLeftovers(const WriteTarget& target);
+
+/// Removes a leftover unless a live process still holds it.
+void removeLeftover(const std::string& path);
+
+}  // namespace zev

@@ -1,0 +1,83 @@
+#include "platform/posix/posix_write_target.h"
+
+#include <linux/magic.h>
+#include <sys/vfs.h>
+
+#include <cerrno>
+#include <charconv>
+#include <filesystem>
+#include <system_error>
+
+namespace zev {
+
+namespace {
+
+void splitPath(WriteTarget& target) {
+    const std::size_t separator = target.path.rfind('/');
+    if (separator == std::string::npos) {
+        target.folder = ".";
+        target.name = target.path;
+        return;
+    }
+    target.folder = target.path.substr(0, separator == 0 ? 1 : separator);
+    target.name = target.path.substr(separator + 1);
+}
+
+/// Links in the proc file system, /proc/self/fd/1 for example, lead to an open file. Their text
+/// only describes it: "pipe:[4711]", or the former name of a deleted file.
+bool isOnProc(const std::string& folder) {
+    struct statfs status {};
+    return ::statfs(folder.c_str(), &status) == 0 && status.f_type == PROC_SUPER_MAGIC;
+}
+
+int ownDescriptorOf(const WriteTarget& target) {
+    std::error_code error;
+    if (!std::filesystem::equivalent(target.folder, "/proc/self/fd", error) || error)
+        return -1;
+    int descriptor = -1;
+    const char* const end = target.name.data() + target.name.size();
+    const auto [rest, problem] = std::from_chars(target.name.data(), end, descriptor);
+    return problem == std::errc() && rest == end ? descriptor : -1;
+}
+
+/// Replaces `target.path` by what the link holds. 0 or an errno.
+int followLink(WriteTarget& target) {
+    std::error_code error;
+    const std::filesystem::path link = std::filesystem::read_symlink(target.path, error);
+    if (error)
+        return error.value();
+    target.path = link.is_absolute() ? link.string() : target.folder + "/" + link.string();
+    return 0;
+}
+
+}  // namespace
+
+int resolveWriteTarget(const std::string& path, WriteTarget& target) {
+    constexpr int kMaxLinks = 40;  // as many as the system itself follows
+    target = WriteTarget();
+    target.path = path;
+    for (int links = 0; links <= kMaxLinks; ++links) {
+        splitPath(target);
+        if (::lstat(target.path.c_str(), &target.status) != 0) {
+            if (errno == ENOENT && target.name.empty())
+                return path.empty() ? ENOENT : EISDIR;
+            return errno == ENOENT ? 0 : errno;
+        }
+        if (!S_ISLNK(target.status.st_mode)) {
+            target.exists = true;
+            target.isWrittenStraight = !S_ISREG(target.status.st_mode);
+            return S_ISDIR(target.status.st_mode) ? EISDIR : 0;
+        }
+        if (isOnProc(target.folder)) {
+            target.exists = true;
+            target.isWrittenStraight = true;
+            target.ownDescriptor = ownDescriptorOf(target);
+            return 0;
+        }
+        if (const int error = followLink(target))
+            return error;
+    }
+    return ELOOP;
+}
+
+}  // namespace zev

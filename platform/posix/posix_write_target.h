@@ -1,0 +1,26 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <string>
+
+namespace zev {
+
+/// Where a write to some path ends up.
+struct WriteTarget {
+    std::string path;         ///< the file itself: its last component is no symbolic link
+    std::string folder;       ///< its folder, "." when the path names none
+    std::string name;         ///< its name in that folder
+    bool exists = false;      ///< `status` is valid
+    struct stat status = {};  ///< as lstat() gives it
+    /// It has no place of its own on the disk that could be replaced: a device, a pipe, a file
+    /// reached through a name such as /dev/stdout.
+    bool isWrittenStraight = false;
+    int ownDescriptor = -1;  ///< the descriptor that a name such as /dev/stdout stands for, or -1
+};
+
+/// Follows symbolic links to the file that a write to `path` is about. It need not exist, also at
+/// the end of a link. Returns 0 or an errno; EISDIR for a folder.
+int resolveWriteTarget(const std::string& path, WriteTarget& target);
+
+}  // namespace zev
