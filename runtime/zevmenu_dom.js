@@ -1,0 +1,649 @@
+/*
+ * zevmenu_dom.js: submenus, pop-ups, placement and keyboard of a menu that zevmenu_loader.js drew.
+ *
+ *   sums   rectangles in, coordinates out; needs no page
+ *   state  what is open, and which delay runs
+ *   page   elements, styles, events
+ */
+(function () {
+'use strict';
+
+const shared = window.ZEVMenu && window.ZEVMenu.shared;
+if (!shared || shared.sums) return;
+
+// ======== Sums ========
+// Rectangles are { left, top, right, bottom } in pixels of the window, sizes { width, height }.
+
+const opposite = { right: 'left', left: 'right', top: 'bottom', bottom: 'top' };
+
+// A side as it reads, as the side where it lies: a right-to-left page mirrors right and left.
+function realSide(side, isRtl) {
+    return isRtl && (side == 'right' || side == 'left') ? opposite[side] : side;
+}
+
+// Room between the anchor and the window's edge on a side.
+function roomOn(side, anchor, frame) {
+    return { right: frame.width - anchor.right, left: anchor.left,
+             bottom: frame.height - anchor.bottom, top: anchor.top }[side];
+}
+
+// The side to use: the wished one, or the opposite one when only there is room.
+function chooseSide(side, anchor, size, offset, frame) {
+    const need = offset + (side == 'right' || side == 'left' ? size.width : size.height);
+    return roomOn(side, anchor, frame) < need && roomOn(opposite[side], anchor, frame) >= need
+        ? opposite[side] : side;
+}
+
+// Nearest place to `start` at which `length` lies within 0 to `limit`; the start wins if too long.
+function shift(start, length, limit) {
+    return Math.max(0, Math.min(start, limit - length));
+}
+
+/*
+ * Where a box of `size` opens beside `anchor`: flipped to the opposite side when only that has
+ * room, then shifted into the window of size `frame`, over the anchor if need be. `side` is a real
+ * side; without one the box begins at the anchor's corner. Gives { left, top, side }.
+ */
+function place(anchor, size, side, offset, frame, isRtl) {
+    const real = side && chooseSide(side, anchor, size, offset, frame);
+    let left = isRtl && side ? anchor.right - size.width : anchor.left;
+    let top = anchor.top;
+    if (real == 'right') left = anchor.right + offset;
+    if (real == 'left') left = anchor.left - offset - size.width;
+    if (real == 'bottom') top = anchor.bottom + offset;
+    if (real == 'top') top = anchor.top - offset - size.height;
+    return { left: shift(left, size.width, frame.width), top: shift(top, size.height, frame.height),
+             side: real };
+}
+
+function cross(a, b, c) {
+    return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
+}
+
+function isInTriangle(point, a, b, c) {
+    const signs = [cross(a, b, point), cross(b, c, point), cross(c, a, point)];
+    return !(signs.some(sign => sign < 0) && signs.some(sign => sign > 0));
+}
+
+// Whether a pointer that was at `from` and is at `to` is on its way to `box`, which stands on
+// `side` of its item: inside the triangle from there to the near edge of the box, a little widened.
+function isHeadedFor(from, to, box, side) {
+    const slack = 8;
+    const near = opposite[side];
+    if (!near) return false;
+    const apex = { x: from.x, y: from.y };
+    if (side == 'right' || side == 'left') {
+        apex.x += side == 'right' ? -2 : 2;
+        return isInTriangle(to, apex, { x: box[near], y: box.top - slack },
+                            { x: box[near], y: box.bottom + slack });
+    }
+    apex.y += side == 'bottom' ? -2 : 2;
+    return isInTriangle(to, apex, { x: box.left - slack, y: box[near] },
+                        { x: box.right + slack, y: box[near] });
+}
+
+/*
+ * The item that an arrow key leads to within a box of `count` items in rows of `columns`, or -1
+ * when the key leads out of the box. A single column or row goes round at its ends.
+ */
+function neighbour(index, count, columns, direction) {
+    const isForward = direction == 'right' || direction == 'bottom';
+    const isAlongRow = direction == 'right' || direction == 'left';
+    if (columns == 1 || columns >= count) {
+        if (isAlongRow == (columns == 1)) return -1;
+        return (index + (isForward ? 1 : count - 1)) % count;
+    }
+    const next = index + (isForward ? 1 : -1) * (isAlongRow ? 1 : columns);
+    const isSameRow = Math.floor(next / columns) == Math.floor(index / columns);
+    return next < 0 || next >= count || (isAlongRow && !isSameRow) ? -1 : next;
+}
+
+shared.sums = { place, isHeadedFor, neighbour, realSide };
+
+// ======== State ========
+// The open submenus, from the one nearest the top menu to the deepest. A level is
+// { menu, box, opener, wish, offset, point, side, timer }: `opener` is the item or the pop-up's link,
+// or null for a pop-up at coordinates; `wish` the real side it is to open on and `offset` its
+// distance in pixels; `point` where a pop-up stands; `side` where the box really lies.
+
+const levels = [];
+
+function openLevel(depth, level) {
+    closeFrom(depth);
+    levels.push(level);
+    show(level);
+}
+
+function closeFrom(depth) {
+    while (levels.length > depth) {
+        const level = levels.pop();
+        clearTimeout(level.timer);
+        hide(level);
+    }
+}
+
+// The mouse is where it holds the first `depth` levels open: deeper ones have been left, and close
+// when their delay is over. A delay that already runs is not begun anew.
+function keep(depth) {
+    levels.forEach((level, index) => {
+        if (index < depth) {
+            clearTimeout(level.timer);
+            level.timer = 0;
+        } else if (!level.timer) {
+            level.timer = setTimeout(() => closeFrom(levels.indexOf(level)),
+                                     shared.stateSetting('closedelay'));
+        }
+    });
+}
+
+// ======== Page ========
+
+let layer = null;           // the element at the end of the body that holds every submenu box
+const boxes = new Map();    // menu -> its box, built when the menu is first opened
+const told = new Set();     // ids of menus that a warning was given for
+
+function submenuOf(link) {
+    const menu = shared.menus[link.zevItem.childId];
+    return menu && menu.zevItems.some(Boolean) ? menu : null;
+}
+
+// The item and the box that an element inside them belongs to, or null.
+function linkAt(element) {
+    while (element && !element.zevItem) element = element.parentNode;
+    return element;
+}
+
+function boxAt(element) {
+    while (element && !element.zevMenu) element = element.parentNode;
+    return element;
+}
+
+function linksOf(box) {
+    return Array.from(box.children, line => line.firstChild);
+}
+
+// Depth of a box: 0 is the top menu, 1 the first open level.
+function depthOf(box) {
+    return levels.findIndex(level => level.box == box) + 1;
+}
+
+function isRtlAt(element) {
+    return getComputedStyle(element).direction == 'rtl';
+}
+
+// The list of links becomes a menu in the sense of assistive technology.
+function promote(box, role) {
+    box.setAttribute('role', role);
+    const isRow = box.className != 'list';
+    if (isRow != (role == 'menubar')) {
+        box.setAttribute('aria-orientation', isRow ? 'horizontal' : 'vertical');
+    }
+    linksOf(box).forEach((link, index) => {
+        link.parentNode.setAttribute('role', 'none');
+        link.setAttribute('role', 'menuitem');
+        link.tabIndex = role == 'menubar' && index == 0 ? 0 : -1;
+        if (submenuOf(link)) {
+            link.setAttribute('aria-haspopup', 'true');
+            link.setAttribute('aria-expanded', 'false');
+        }
+    });
+}
+
+function ensureLayer() {
+    if (!layer) {
+        layer = shared.createHost('layer');
+        listen(layer);
+    }
+    if (!layer.isConnected) document.body.appendChild(layer);
+}
+
+function ensureBox(menu) {
+    let box = boxes.get(menu);
+    if (!box) {
+        box = shared.buildBox(menu);
+        box.hidden = true;
+        promote(box, 'menu');
+        layer.shadowRoot.appendChild(box);
+        boxes.set(menu, box);
+    }
+    return box;
+}
+
+// ---- Showing and placing ----
+
+// The side on which a submenu is to open: its own position, else for the submenu of a top menu
+// that is a row the top menu's, else everybody's.
+function wishedSide(menu) {
+    const top = shared.menus['0'];
+    const isBelowRow = top && !menu.zevId.includes('i') && shared.setting(top, 'columns') > 1;
+    return shared.isSide(menu.position) || (isBelowRow && shared.isSide(top.position)) ||
+        shared.stateSetting('position');
+}
+
+function menuOffset() {
+    return shared.stateSetting('menuoffset');
+}
+
+function windowSize() {
+    const root = document.scrollingElement || document.documentElement;
+    return { width: root.clientWidth, height: root.clientHeight };
+}
+
+// The rectangle a level opens from. A pop-up's point is in page coordinates, so that it stays with
+// the page when that scrolls.
+function anchorOf(level) {
+    if (!level.point) return level.opener.getBoundingClientRect();
+    const x = level.point.x - window.scrollX, y = level.point.y - window.scrollY;
+    return { left: x, right: x, top: y, bottom: y };
+}
+
+// Measures a box as it would stand in the window; it must not be hidden.
+function measure(box, frame) {
+    box.style.maxWidth = frame.width + 'px';
+    box.style.maxHeight = box.style.overflowY = '';
+    let size = box.getBoundingClientRect();
+    if (size.height > frame.height) {
+        box.style.maxHeight = frame.height + 'px';
+        box.style.overflowY = 'auto';
+        size = box.getBoundingClientRect();
+    }
+    return size;
+}
+
+function placeLevel(level) {
+    const frame = windowSize(), isRtl = isRtlAt(level.opener || document.body);
+    level.box.dir = isRtl ? 'rtl' : 'ltr';
+    const size = measure(level.box, frame);
+    const spot = place(anchorOf(level), size, level.wish, level.offset, frame, isRtl);
+    const origin = layer.getBoundingClientRect();
+    level.box.style.left = spot.left - origin.left + 'px';
+    level.box.style.top = spot.top - origin.top + 'px';
+    level.side = spot.side;
+}
+
+function fade(level, from, to, onEnd) {
+    const seconds = shared.setting(level.menu, 'ffade');
+    const box = level.box, full = shared.setting(level.menu, 'fopacity') / 100;
+    if (box.zevFading) box.zevFading.cancel();
+    box.zevFading = null;
+    if (!seconds || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
+    box.zevFading = box.animate([{ opacity: from * full }, { opacity: to * full }], seconds * 1000);
+    box.zevFading.onfinish = onEnd;
+}
+
+function show(level) {
+    const box = level.box;
+    box.hidden = false;
+    box.style.pointerEvents = '';
+    placeLevel(level);
+    fade(level, 0, 1, () => {});
+    if (level.opener && level.opener.zevItem) level.opener.setAttribute('aria-expanded', 'true');
+    if (levels.length == 1) watch(true);
+}
+
+function hide(level) {
+    const opener = level.opener;
+    if (level.box.contains(focused()) && opener) opener.focus();
+    if (opener && opener.zevItem) opener.setAttribute('aria-expanded', 'false');
+    // A box that fades away is no longer there for the mouse.
+    level.box.style.pointerEvents = 'none';
+    fade(level, 1, 0, () => { level.box.hidden = true; });
+    if (!levels.length) watch(false);
+}
+
+function placeAll() {
+    levels.forEach(placeLevel);
+}
+
+// ---- Opening ----
+
+function openSubmenu(link) {
+    const depth = depthOf(boxAt(link)), menu = submenuOf(link);
+    if (!menu || (levels[depth] && levels[depth].menu == menu)) return;
+    ensureLayer();
+    openLevel(depth, { menu, box: ensureBox(menu), opener: link, offset: menuOffset(),
+                       wish: realSide(wishedSide(menu), isRtlAt(link)) });
+}
+
+function isOpen(link) {
+    return link.getAttribute('aria-expanded') == 'true';
+}
+
+// Menu named by the two texts of a pop-up call: 'zev1' and the id, or 'zev1i' + N and the rest.
+function popupMenu(a, b) {
+    const call = /^zev1(?:i(\d+))?$/.exec(a);
+    const id = call && (call[1] ? call[1] + 'i' + b : String(b));
+    const menu = call && id != '0' ? shared.menus[id] : null;
+    const name = "('" + a + "', '" + b + "')";
+    if (!menu && !told.has(name)) {
+        told.add(name);
+        shared.warn('there is no submenu ' + name + ' to open');
+    }
+    return menu;
+}
+
+const besideMousePx = 8;
+let actingLink = null;      // the pop-up link whose handler runs because of a key or tap
+
+shared.openPopup = function (a, b, where) {
+    const menu = typeof a == 'string' && /^(string|number)$/.test(typeof b) ? popupMenu(a, b) : null;
+    if (!menu || !document.body) return;
+    const link = actingLink || (where.link instanceof Element ? where.link : null);
+    if (levels.length && levels[0].menu == menu && levels[0].opener == link) return keep(1);
+    closeFrom(0);
+    ensureLayer();
+    const level = { menu, box: ensureBox(menu), opener: link, wish: 'bottom', offset: 0 };
+    if (where.pageX != null && where.pageY != null) {
+        level.point = { x: where.pageX, y: where.pageY };
+        level.wish = '';
+    } else if (!actingLink) {
+        level.point = { x: (where.clientX || 0) + window.scrollX,
+                        y: (where.clientY || 0) + window.scrollY };
+        level.wish = realSide('right', isRtlAt(document.body));
+        level.offset = besideMousePx;
+    }
+    openLevel(0, level);
+};
+
+shared.closePopup = function (a, b) {
+    if (levels.length && levels[0].menu == popupMenu(a, b)) keep(0);
+};
+
+// ---- Mouse ----
+
+const restMs = 200;                 // how long a mouse rests before it counts as staying
+let lastPoint = null;               // where the mouse was at its last event, in the window
+let trail = null;                   // the same, while it is on a menu
+let waiting = null;                 // { act, from, level, timer }: a hover put off, see hover()
+
+function dropWaiting() {
+    if (waiting) clearTimeout(waiting.timer);
+    waiting = null;
+}
+
+function actNow() {
+    const act = waiting.act;
+    dropWaiting();
+    act();
+}
+
+function pointOf(event) {
+    return { x: event.clientX, y: event.clientY };
+}
+
+// The mouse is over an item, or over a box beside its items (link null).
+function hover(box, link) {
+    const depth = depthOf(box), child = levels[depth];
+    if (link && child && child.opener == link) return keep(depth + 1);
+    keep(depth);
+    if (link) openSubmenu(link);
+}
+
+function onPointerOver(event) {
+    if (event.pointerType != 'mouse') return;
+    // A box that appears under a resting mouse was not pointed at.
+    const point = pointOf(event);
+    if (lastPoint && point.x == lastPoint.x && point.y == lastPoint.y) return;
+    const link = linkAt(event.target), box = boxAt(event.target);
+    if (!box) return;
+    const level = levels[depthOf(box)], from = trail;
+    dropWaiting();
+    lastPoint = trail = point;
+    // On its way to the open submenu the mouse may cross other items.
+    if (level && from && level.opener != link &&
+        isHeadedFor(from, point, level.box.getBoundingClientRect(), level.side)) {
+        waiting = { act: () => hover(box, link), from, level, timer: setTimeout(actNow, restMs) };
+    } else {
+        hover(box, link);
+    }
+}
+
+function onPointerMove(event) {
+    if (event.pointerType != 'mouse') return;
+    lastPoint = trail = pointOf(event);
+    if (!waiting) return;
+    clearTimeout(waiting.timer);
+    waiting.timer = setTimeout(actNow, restMs);
+    const box = waiting.level.box.getBoundingClientRect();
+    if (!isHeadedFor(waiting.from, lastPoint, box, waiting.level.side)) actNow();
+}
+
+function onPointerLeave(event) {
+    if (event.pointerType != 'mouse') return;
+    dropWaiting();
+    trail = null;
+    keep(0);
+}
+
+// ---- Tap and click ----
+
+let press = { type: '', wasOpen: false };   // the last pointerdown on an item
+
+function onPointerDown(event) {
+    const link = linkAt(event.target);
+    press = { type: event.pointerType, wasOpen: !!link && isOpen(link) };
+}
+
+// A finger, a pen, or an assistive technology (which presses nothing) first opens, then follows.
+function onClick(event) {
+    const link = linkAt(event.target);
+    if (!link) return;
+    const isFirst = press.type != 'mouse' && !(press.type ? press.wasOpen : isOpen(link));
+    press = { type: '', wasOpen: false };
+    if (submenuOf(link) && isFirst) {
+        event.preventDefault();
+        openSubmenu(link);
+    } else if (link.hasAttribute('href')) {
+        closeFrom(0);
+    } else {
+        openSubmenu(link);
+    }
+}
+
+// ---- Keyboard ----
+
+function focused() {
+    const host = document.activeElement;
+    return host && (host == shared.bar || host == layer) ? host.shadowRoot.activeElement : host;
+}
+
+// One item of the top menu is in the tab order: the last one that had the focus.
+function onFocusIn(event) {
+    const link = event.target;
+    if (!link.zevItem || boxAt(link) != shared.barBox) return;
+    linksOf(shared.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
+}
+
+function openAndEnter(link) {
+    openSubmenu(link);
+    const level = levels[depthOf(boxAt(link))];
+    if (level && level.opener == link) linksOf(level.box)[0].focus();
+}
+
+// The side on which an item's submenu stands or would stand.
+function sideOfSubmenu(link) {
+    const menu = submenuOf(link);
+    if (!menu || isOpen(link)) return menu && levels[depthOf(boxAt(link))].side;
+    ensureLayer();
+    const box = ensureBox(menu), frame = windowSize(), isRtl = isRtlAt(link), wasHidden = box.hidden;
+    box.hidden = false;
+    const size = measure(box, frame);
+    box.hidden = wasHidden;
+    return chooseSide(realSide(wishedSide(menu), isRtl), link.getBoundingClientRect(), size,
+                      menuOffset(), frame);
+}
+
+// Moves along the top menu from wherever the focus is; an open submenu follows.
+function moveInBar(link, target) {
+    const hadOpen = levels.length > 0;
+    closeFrom(0);
+    target.focus();
+    if (hadOpen) openSubmenu(target);
+}
+
+function columnsOf(box) {
+    return box.className == 'list' ? 1
+        : box.className == 'bar' ? box.children.length : shared.setting(box.zevMenu, 'columns');
+}
+
+function onArrow(link, direction) {
+    const box = boxAt(link), links = linksOf(box), level = levels[depthOf(box) - 1];
+    const isRtl = isRtlAt(box), reading = realSide(direction, isRtl);
+    const next = neighbour(links.indexOf(link), links.length, columnsOf(box), reading);
+    if (next >= 0) {
+        if (level) closeFrom(depthOf(box));
+        return level ? links[next].focus() : moveInBar(link, links[next]);
+    }
+    const side = sideOfSubmenu(link);
+    if (side == direction) return openAndEnter(link);
+    if (level && level.opener && level.side == opposite[direction]) return closeFrom(depthOf(box) - 1);
+    if (side && (reading == 'right' || reading == 'bottom')) return openAndEnter(link);
+    const root = levels[0] && levels[0].opener;
+    if (!level || !root || !root.zevItem) return;
+    // From a submenu below a row the key goes on to the row's neighbour.
+    const bar = linksOf(shared.barBox);
+    const neighbourIndex = neighbour(bar.indexOf(root), bar.length, columnsOf(shared.barBox), reading);
+    if (neighbourIndex >= 0) moveInBar(root, bar[neighbourIndex]);
+}
+
+const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', ArrowUp: 'top' };
+
+function onKeyDown(event) {
+    const link = event.target;
+    if (!link.zevItem || event.ctrlKey || event.altKey || event.metaKey) return;
+    const links = linksOf(boxAt(link));
+    // Closing gives the focus to the top menu or the pop-up's link; Tab goes on from there.
+    if (event.key == 'Tab') return closeFrom(0);
+    if (arrows[event.key]) {
+        onArrow(link, arrows[event.key]);
+    } else if (event.key == 'Home') {
+        links[0].focus();
+    } else if (event.key == 'End') {
+        links[links.length - 1].focus();
+    } else if ((event.key == 'Enter' || event.key == ' ') && submenuOf(link)) {
+        openAndEnter(link);
+    } else if (event.key == ' ') {
+        link.click();
+    } else {
+        return;
+    }
+    event.preventDefault();
+}
+
+// ---- Watching the page while something is open ----
+
+function onEscape(event) {
+    if (event.key != 'Escape') return;
+    const index = levels.findIndex(level => level.box.contains(focused()));
+    closeFrom(Math.max(index, 0));
+}
+
+function onOutside(event) {
+    const path = event.composedPath();
+    const link = levels[0].opener;
+    if (!path.includes(layer) && !path.includes(shared.bar) && !path.includes(link)) closeFrom(0);
+}
+
+function watch(isOn) {
+    const change = isOn ? 'addEventListener' : 'removeEventListener';
+    document[change]('keydown', onEscape, true);
+    document[change]('pointerdown', onOutside, true);
+    window[change]('scroll', placeAll, { capture: true, passive: true });
+    window[change]('resize', placeAll);
+}
+
+function listen(host) {
+    const root = host.shadowRoot;
+    root.addEventListener('pointerover', onPointerOver);
+    root.addEventListener('pointermove', onPointerMove);
+    root.addEventListener('pointerdown', onPointerDown);
+    root.addEventListener('click', onClick);
+    root.addEventListener('keydown', onKeyDown);
+    root.addEventListener('focusin', onFocusIn);
+    host.addEventListener('pointerleave', onPointerLeave);
+}
+
+// ---- Links of pop-ups ----
+
+const popupLinks = '[onmouseover*="ZEVMenuOpen"],[onclick*="ZEVMenuOpen"],[onfocus*="ZEVMenuOpen"]';
+
+let pressOnPage = { type: '', wasOpen: false };
+
+function popupLinkAt(event) {
+    return event.target instanceof Element ? event.target.closest(popupLinks) : null;
+}
+
+function isPopupOf(link) {
+    return levels.length > 0 && levels[0].opener == link;
+}
+
+// Lets the link's own handler open the pop-up, below the link, and says whether it did.
+function openFrom(link, event) {
+    const handler = link.onmouseover || link.onclick || link.onfocus;
+    actingLink = link;
+    try {
+        handler.call(link, event);
+    } finally {
+        actingLink = null;
+    }
+    return isPopupOf(link);
+}
+
+function onPagePress(event) {
+    const link = popupLinkAt(event);
+    if (link) pressOnPage = { type: event.pointerType, wasOpen: isPopupOf(link) };
+}
+
+function onPageClick(event) {
+    const link = popupLinkAt(event);
+    if (!link) return;
+    const isTap = pressOnPage.type != 'mouse' && !pressOnPage.wasOpen;
+    pressOnPage = { type: '', wasOpen: false };
+    // An empty address would only load the page anew.
+    if (link.getAttribute('href') == '' || isTap) event.preventDefault();
+    if (isTap && !isPopupOf(link)) openFrom(link, event);
+}
+
+function onPageKey(event) {
+    const link = popupLinkAt(event);
+    if (!link || (event.key != 'Enter' && event.key != 'ArrowDown')) return;
+    if (event.ctrlKey || event.altKey || event.metaKey || !openFrom(link, event)) return;
+    event.preventDefault();
+    linksOf(levels[0].box)[0].focus();
+}
+
+// ---- Start ----
+
+shared.adoptBar = function () {
+    listen(shared.bar);
+    promote(shared.barBox, 'menubar');
+    // The mouse may have been there first.
+    const link = shared.barBox.querySelector('li:hover>a');
+    if (link) openSubmenu(link);
+};
+
+// Tells of submenus whose item does not exist; to be called when the definition is complete.
+function checkDefinition() {
+    Object.keys(shared.menus).forEach(id => {
+        const parts = id.split('i'), position = parts.pop();
+        const parent = shared.menus[parts.join('i') || '0'];
+        if (id == '0' || told.has(id) || (parent && parent.zevItems[position - 1])) return;
+        told.add(id);
+        shared.warn('menu ' + id + ' has no item to open from; it is not shown');
+    });
+}
+
+shared.refresh = function () {
+    if (document.readyState != 'loading') checkDefinition();
+    placeAll();
+};
+
+document.addEventListener('pointerdown', onPagePress);
+document.addEventListener('click', onPageClick);
+document.addEventListener('keydown', onPageKey);
+document.addEventListener('DOMContentLoaded', checkDefinition);
+if (document.readyState != 'loading') checkDefinition();
+if (shared.barBox) shared.adoptBar();
+if (shared.waiting) shared.openPopup.apply(null, shared.waiting);
+
+})();

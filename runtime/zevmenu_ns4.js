@@ -1,0 +1,51 @@
+/*
+ * zevmenu_ns4.js: the menu for browsers that cannot run zevmenu_dom.js.
+ *
+ * Writes the whole menu as nested lists of plain links where ZEVDisplayMenu() is called. The
+ * language is JavaScript 1.2. These browsers do not tell a script its own address, so links are
+ * those of the definition file as they stand.
+ */
+(function () {
+
+var shared = ZEVMenu.shared;
+
+function text(value) {
+    return typeof value == 'string' ? value : '';
+}
+
+function attribute(name, value) {
+    return value ? ' ' + name + '="' + value.replace(/"/g, '&quot;') + '"' : '';
+}
+
+function linkOf(menu, item) {
+    var caption = item.caption, target = item.target || text(menu.target);
+    if (item.imageOut) {
+        caption = '<img border="0"' + attribute('src', item.imageOut) +
+            attribute('alt', shared.nameFromFiles(item)) + '>';
+    }
+    if (!item.url) return caption;
+    return '<a' + attribute('href', item.url) + attribute('target', target) + '>' + caption + '</a>';
+}
+
+function listOf(menu) {
+    var html = '<ul>', i, item, child;
+    for (i = 0; i < menu.zevItems.length; i++) {
+        item = menu.zevItems[i];
+        if (item) {
+            child = shared.menus[item.childId];
+            html += '<li>' + linkOf(menu, item) + (child ? listOf(child) : '') + '</li>';
+        }
+    }
+    return html + '</ul>';
+}
+
+// A second call writes nothing.
+shared.writeLinks = function () {
+    var top = shared.menus['0'];
+    if (top && !shared.isWritten) {
+        shared.isWritten = true;
+        document.write(listOf(top));
+    }
+};
+
+})();
