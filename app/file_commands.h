@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "app/editor_services.h"
 #include "app/editor_view.h"
@@ -39,6 +40,11 @@ class FileCommands {
     /// What became of a Save As.
     enum class SaveOutcome { Saved, Cancelled, Failed };
     SaveOutcome saveAs();
+    bool saveDocumentAs(const std::string& path, const std::string& folder, bool isRebasing);
+    bool mayDiscardDocument();
+    void copyRunTimeFiles();
+    void copyRunTimeFile(std::string_view sourceName, std::string_view destinationName);
+    void showNotice(const std::string& text);
 
     MenuDocument& m_document;
     EditorView& m_view;

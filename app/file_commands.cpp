@@ -1,0 +1,244 @@
+#include "app/file_commands.h"
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/library_files.h"
+#include "script/relative_url.h"
+#include "script/script_reader.h"
+#include "script/script_writer.h"
+
+namespace zev {
+
+namespace {
+
+constexpr const char* kDefinitionFilter = "All Files (*.*)|*.*|JavaScript (*.js)|*.js";
+constexpr int kJavaScriptFilter = 2;
+
+/// No menu comes near this size; a larger file was chosen by mistake and would only fill memory.
+constexpr std::uint64_t kMaxDefinitionBytes = std::uint64_t{256} * 1024 * 1024;
+
+std::string CouldNotOpenText(const std::string& path, const std::string& reason) {
+    return "Could not open " + path + ": " + reason;
+}
+
+/// Copies of all items in tree order.
+std::vector<ItemProp> ItemsOf(const MenuTree& tree) {
+    std::vector<ItemProp> items;
+    items.reserve(tree.size());
+    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node)) {
+        items.push_back(node->item);
+    }
+    return items;
+}
+
+/// Puts back what `ItemsOf` took from the same tree.
+void RestoreItems(MenuTree& tree, std::vector<ItemProp>&& items) {
+    auto item = items.begin();
+    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node)) {
+        node->item = std::move(*item++);
+    }
+}
+
+}  // namespace
+
+FileCommands::FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services)
+    : m_document(document), m_view(view), m_services(services) {}
+
+void FileCommands::Reset() {
+    m_document.NewDocument();
+    m_view.ShowScript("");
+    m_view.ShowItem();
+    m_view.ShowCaption();
+    m_view.Button_Update();
+}
+
+void FileCommands::mnuFileNew_Click() {
+    if (mayDiscardDocument()) {
+        Reset();
+    }
+}
+
+void FileCommands::mnuFileOpen_Click() {
+    FileDialogRequest request;
+    request.title = "Open";
+    request.filter = kDefinitionFilter;
+    request.filterIndex = kJavaScriptFilter;
+    request.folder = m_document.SaveFile.empty() ? "" : m_document.SavePath;
+    const std::string path = m_services.dialogs.openFile(request);
+    if (!path.empty() && !openDefinition(path)) {
+        return;  // the menu in memory is still the one being edited, with its changes
+    }
+    // A cancelled dialog clears the mark too: Open asks nothing about unsaved changes, and Exit
+    // after it ends without asking.
+    m_document.bModified = false;
+    m_view.Button_Update();
+}
+
+void FileCommands::mnuFileSave_Click() {
+    if (m_document.SaveFile.empty()) {
+        saveAs();
+        return;
+    }
+    if (SaveDefinition(m_document.SaveFile)) {
+        // No Button_Update: Save stays available until the next command updates the buttons.
+        m_document.bModified = false;
+    }
+}
+
+void FileCommands::mnuFileSaveAs_Click() {
+    saveAs();
+}
+
+bool FileCommands::mnuFileExit_Click() {
+    return mayDiscardDocument();
+}
+
+/// Asks about unsaved changes before the document is given up. Answered Yes, only a failed write
+/// keeps the document: a cancelled Save As dialog does not.
+bool FileCommands::mayDiscardDocument() {
+    if (!m_document.bModified) {
+        return true;
+    }
+    MessageRequest question;
+    question.text = "Save changes to project?";
+    question.buttons = MessageRequest::Buttons::YesNoCancel;
+    switch (m_services.messages.show(question)) {
+        case MessageBox::Answer::Yes:
+            return saveAs() != SaveOutcome::Failed;
+        case MessageBox::Answer::No:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool FileCommands::openDefinition(const std::string& path) {
+    const FileResult<std::string> content = m_services.files.readFile(path, kMaxDefinitionBytes);
+    if (!content.isOk()) {
+        showNotice(CouldNotOpenText(path, content.error().reason));
+        return false;
+    }
+    if (IsBinary(content.value())) {
+        showNotice(CouldNotOpenText(path, "Not a text file"));
+        return false;
+    }
+    MenuDocument opened(m_document.programFolder());
+    opened.NewDocument();
+    opened.SaveFile = path;
+    opened.SavePath = SplitPath(path).folder;
+    const ReadResult result = ReadScript(content.value(), opened);
+    m_document.takeFrom(opened);
+
+    m_view.ShowCaption();
+    m_view.ShowItem();
+    m_view.ShowScript(GenerateScript(m_document));
+    m_view.Button_Update();
+    if (result.errorCount > 0) {
+        showNotice(std::to_string(result.errorCount) + " errors encountered during parsing");
+    }
+    return true;
+}
+
+FileCommands::SaveOutcome FileCommands::saveAs() {
+    FileDialogRequest request;
+    request.title = "Save As";
+    request.fileName = m_document.SaveFile;
+    request.filter = kDefinitionFilter;
+    request.filterIndex = kJavaScriptFilter;
+    request.asksBeforeReplacing = true;
+    const std::string path = m_services.dialogs.saveFile(request);
+    if (path.empty()) {
+        return SaveOutcome::Cancelled;
+    }
+    // Before the URLs are recalculated, so that what was typed a moment ago is recalculated too
+    // and not lost when the panel shows the result.
+    m_view.StoreItem();
+    MessageRequest question;
+    question.text = "Recalculate relative URLs for hyperlinks and images?";
+    question.buttons = MessageRequest::Buttons::YesNo;
+    const bool isRebasing = m_services.messages.show(question) == MessageBox::Answer::Yes;
+    return saveDocumentAs(path, SplitPath(path).folder, isRebasing) ? SaveOutcome::Saved
+                                                                    : SaveOutcome::Failed;
+}
+
+/// Moves the document to `path` and writes it there. When the write fails the document is put back
+/// as it was, with its file, folder and URLs: rebasing backwards would not do, because not every
+/// URL survives both ways.
+bool FileCommands::saveDocumentAs(const std::string& path, const std::string& folder,
+                                  bool isRebasing) {
+    const std::string oldFile = m_document.SaveFile;
+    const std::string oldFolder = m_document.SavePath;
+    std::vector<ItemProp> oldItems;
+    if (isRebasing) {
+        oldItems = ItemsOf(m_document.tree);
+        RebaseAllURLs(m_document, oldFolder, folder);
+        m_view.ShowItem();
+    }
+    m_document.SaveFile = path;
+    m_document.SavePath = folder;
+    m_view.ShowCaption();
+    if (SaveDefinition(path)) {
+        m_document.bModified = false;
+        m_view.Button_Update();
+        return true;
+    }
+    m_document.SaveFile = oldFile;
+    m_document.SavePath = oldFolder;
+    m_view.ShowCaption();
+    if (isRebasing) {
+        RestoreItems(m_document.tree, std::move(oldItems));
+        m_view.ShowItem();
+        m_view.ShowScript(GenerateScript(m_document));
+    }
+    return false;
+}
+
+bool FileCommands::SaveDefinition(const std::string& path) {
+    m_view.StoreItem();
+    copyRunTimeFiles();
+    // What is written comes from the writer and never back out of the JavaScript tab.
+    const std::string script = GenerateScript(m_document);
+    m_view.ShowScript(script);
+    const std::string target = path.empty() ? JoinPath(m_document.SavePath, kPreviewScript) : path;
+    const FileOutcome failure = m_services.files.writeFile(target, DefinitionFileBytes(script));
+    if (failure) {
+        showNotice("Could not save " + target + ": " + failure->reason);
+    }
+    return !failure;
+}
+
+void FileCommands::ShowPreview() {
+    m_view.validateFields();
+    m_view.StoreItem();
+    SaveDefinition(JoinPath(m_document.SavePath, kPreviewScript));
+    // Also after a failure: the preview shows whatever is there.
+    m_services.browser.load(JoinPath(m_document.SavePath, kPreviewPage));
+}
+
+void FileCommands::copyRunTimeFiles() {
+    for (const std::string_view name : kLibraryFiles) {
+        copyRunTimeFile(name, name);
+    }
+    // The page gets another name, so the program's own folder receives it too: the preview of a
+    // menu never saved loads it from there.
+    copyRunTimeFile(kPageTemplate, kPreviewPage);
+}
+
+void FileCommands::copyRunTimeFile(std::string_view sourceName, std::string_view destinationName) {
+    const std::string source = JoinPath(m_document.programFolder(), sourceName);
+    const std::string destination = JoinPath(m_document.SavePath, destinationName);
+    const CopyResult result = CopyLibraryFile(m_services.files, source, destination);
+    const std::string problem = CopyProblemText(result, source, destination);
+    if (!problem.empty()) {
+        showNotice(problem);
+    }
+}
+
+void FileCommands::showNotice(const std::string& text) {
+    MessageRequest notice;
+    notice.text = text;
+    m_services.messages.show(notice);
+}
+
+}  // namespace zev

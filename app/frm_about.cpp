@@ -1,0 +1,88 @@
+#include "app/frm_about.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+namespace zev {
+
+namespace {
+
+constexpr int kIconSizePx = 64;
+constexpr double kNameSizeFactor = 1.6;
+
+QLabel* MakeNameLabel() {
+    auto* label = new QLabel(QStringLiteral("ZEVMenu Creator"));
+    label->setObjectName("lblName");
+    QFont font = label->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * kNameSizeFactor);
+    label->setFont(font);
+    return label;
+}
+
+}  // namespace
+
+frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget* parent)
+    : QDialog(parent), m_openAddress(std::move(openAddress)) {
+    setObjectName("frmAbout");
+    setWindowTitle("About ZEVMenu Creator");
+
+    auto* version = new QLabel("Version " ZEV_VERSION);
+    version->setObjectName("lblVersion");
+
+    auto* links = new QFormLayout;
+    links->addRow("Web site:",
+                  makeLink("lblWebSite", "https://zevmenu.example/", "https://zevmenu.example/"));
+    links->addRow("E-mail:", makeLink("lblEMail", "mailto:support@zevmenu.example",
+                                      "support@zevmenu.example"));
+
+    auto* texts = new QVBoxLayout;
+    texts->addWidget(MakeNameLabel());
+    texts->addWidget(version);
+    texts->addSpacing(12);
+    texts->addLayout(links);
+
+    auto* content = new QHBoxLayout;
+    content->setSpacing(18);
+    if (const QIcon icon = QApplication::windowIcon(); !icon.isNull()) {
+        auto* picture = new QLabel;
+        picture->setPixmap(icon.pixmap(QSize(kIconSizePx, kIconSizePx), devicePixelRatioF()));
+        content->addWidget(picture, 0, Qt::AlignTop);
+    }
+    content->addLayout(texts, 1);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    QPushButton* cmdOK = buttons->button(QDialogButtonBox::Ok);
+    cmdOK->setObjectName("cmdOK");
+    cmdOK->setDefault(true);
+    cmdOK->setFocus();
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(18, 18, 18, 14);
+    layout->setSpacing(18);
+    layout->addLayout(content);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QLabel* frmAbout::makeLink(const QString& name, const QString& address, const QString& shownText) {
+    auto* link = new QLabel(QString("<a href=\"%1\">%2</a>").arg(address, shownText));
+    link->setObjectName(name);
+    link->setAccessibleName(shownText);
+    link->setTextFormat(Qt::RichText);
+    link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    link->setFocusPolicy(Qt::StrongFocus);
+    connect(link, &QLabel::linkActivated, this,
+            [this](const QString& target) { m_openAddress(target.toStdString()); });
+    return link;
+}
+
+}  // namespace zev

@@ -1,0 +1,20 @@
+#include "platform/qt/parent_window.h"
+
+#include <QApplication>
+#include <QWidget>
+
+namespace zev {
+
+QWidget* ParentWindow() {
+    if (QWidget* active = QApplication::activeWindow(); active != nullptr) {
+        return active;
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace zev

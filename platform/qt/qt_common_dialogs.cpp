@@ -1,0 +1,100 @@
+#include "platform/qt/qt_common_dialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QRegularExpression>
+
+#include "platform/qt/parent_window.h"
+
+namespace zev {
+
+namespace {
+
+void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QString& lastFolder) {
+    dialog.setWindowTitle(QString::fromStdString(request.title));
+    const QStringList filters = NameFilters(request.filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
+
+    const QFileInfo preset(QString::fromStdString(request.fileName));
+    if (preset.isAbsolute()) {
+        dialog.setDirectory(preset.absolutePath());
+    } else if (!request.folder.empty()) {
+        dialog.setDirectory(QString::fromStdString(request.folder));
+    } else if (!lastFolder.isEmpty()) {
+        dialog.setDirectory(lastFolder);
+    }
+    dialog.selectFile(preset.fileName());
+}
+
+std::string ChosenFile(const QFileDialog& dialog, QString& lastFolder) {
+    const QString path = dialog.selectedFiles().value(0);
+    lastFolder = QFileInfo(path).absolutePath();
+    return QDir::toNativeSeparators(path).toStdString();
+}
+
+bool MayReplace(QWidget* parent, const QString& path) {
+    QMessageBox question(parent);
+    question.setIcon(QMessageBox::Warning);
+    question.setTextFormat(Qt::PlainText);
+    question.setText(QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
+    question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    question.setDefaultButton(QMessageBox::No);
+    question.setEscapeButton(QMessageBox::No);
+    return question.exec() == QMessageBox::Yes;
+}
+
+}  // namespace
+
+QStringList NameFilters(const std::string& filter) {
+    const QStringList parts = QString::fromStdString(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString description = parts[i];
+        // The description usually shows the patterns too; Qt adds them itself.
+        description.remove(QRegularExpression(R"(\s*\([^()]*\)\s*$)"));
+        QStringList patterns = parts[i + 1].split(';', Qt::SkipEmptyParts);
+        patterns.replaceInStrings(QRegularExpression(R"(^\*\.\*$)"), "*");
+        filters << description + " (" + patterns.join(' ') + ')';
+    }
+    return filters;
+}
+
+QString DefaultSuffix(const QString& nameFilter) {
+    static const QRegularExpression single(R"(\(\*\.([^*?;\s)]+)\)$)");
+    return single.match(nameFilter).captured(1);
+}
+
+std::string QtCommonDialogs::openFile(const FileDialogRequest& request) {
+    QFileDialog dialog(ParentWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    Prepare(dialog, request, m_lastFolder);
+    return dialog.exec() == QDialog::Accepted ? ChosenFile(dialog, m_lastFolder) : std::string();
+}
+
+std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
+    QFileDialog dialog(ParentWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // Asked below instead: a desktop's own dialog would ask about the name as it was typed, before
+    // the extension is added, and the file that is there would be replaced unasked.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    Prepare(dialog, request, m_lastFolder);
+    dialog.setDefaultSuffix(DefaultSuffix(dialog.selectedNameFilter()));
+    QObject::connect(
+        &dialog, &QFileDialog::filterSelected, &dialog,
+        [&dialog](const QString& filter) { dialog.setDefaultSuffix(DefaultSuffix(filter)); });
+    while (dialog.exec() == QDialog::Accepted) {
+        const QString path = dialog.selectedFiles().value(0);
+        if (!request.asksBeforeReplacing || !QFileInfo::exists(path) ||
+            MayReplace(ParentWindow(), path)) {
+            return ChosenFile(dialog, m_lastFolder);
+        }
+    }
+    return {};
+}
+
+}  // namespace zev

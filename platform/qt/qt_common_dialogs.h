@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "platform/common_dialogs.h"
+
+namespace zev {
+
+/// A filter such as "Text (*.txt)|*.txt|All Files (*.*)|*.*" in the form Qt's dialogs take:
+/// "Text (*.txt)", "All Files (*)".
+QStringList NameFilters(const std::string& filter);
+
+/// The extension that a name filter such as "Text (*.txt)" gives to a name without one ("txt");
+/// empty when the filter stands for all files or several kinds.
+QString DefaultSuffix(const QString& nameFilter);
+
+/// The desktop's file dialogs. A dialog that is told no folder starts where the last file was
+/// chosen.
+class QtCommonDialogs : public CommonDialogs {
+  public:
+    std::string openFile(const FileDialogRequest& request) override;
+    std::string saveFile(const FileDialogRequest& request) override;
+
+  private:
+    QString m_lastFolder;
+};
+
+}  // namespace zev

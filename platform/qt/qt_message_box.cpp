@@ -1,0 +1,89 @@
+#include "platform/qt/qt_message_box.h"
+
+#include <QMessageBox>
+
+#include "platform/qt/parent_window.h"
+
+namespace zev {
+
+namespace {
+
+constexpr int kLongestWord = 50;
+constexpr QChar kZeroWidthSpace(0x200B);
+
+/// Lets long paths wrap: a label breaks lines between words only and would cut them off. The places
+/// are after separators, and anywhere in a name that is too long by itself.
+QString WithBreaksInLongWords(const QString& text) {
+    QString result;
+    result.reserve(text.size());
+    int wordLength = 0;
+    for (const QChar character : text) {
+        const bool isInsideCodePoint = character.isLowSurrogate() || character.isMark();
+        if (wordLength >= kLongestWord && !isInsideCodePoint) {
+            result += kZeroWidthSpace;
+            wordLength = 0;
+        }
+        result += character;
+        const bool isBreak = character.isSpace();
+        wordLength = isBreak ? 0 : wordLength + 1;
+        if (character == u'/' || character == u'\\') {
+            result += kZeroWidthSpace;
+            wordLength = 0;
+        }
+    }
+    return result;
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageRequest::Buttons buttons) {
+    switch (buttons) {
+        case MessageRequest::Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case MessageRequest::Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case MessageRequest::Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case MessageRequest::Buttons::Ok:
+            break;
+    }
+    return QMessageBox::Ok;
+}
+
+/// What closing the window or Escape means.
+QMessageBox::StandardButton EscapeButtonOf(MessageRequest::Buttons buttons) {
+    switch (buttons) {
+        case MessageRequest::Buttons::Ok:
+            return QMessageBox::Ok;
+        case MessageRequest::Buttons::YesNo:
+            return QMessageBox::No;
+        case MessageRequest::Buttons::OkCancel:
+        case MessageRequest::Buttons::YesNoCancel:
+            break;
+    }
+    return QMessageBox::Cancel;
+}
+
+}  // namespace
+
+MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
+    QMessageBox box(ParentWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(WithBreaksInLongWords(QString::fromStdString(request.text)));
+    box.setWindowTitle(request.title.empty() ? QString("ZEVMenu Creator")
+                                             : QString::fromStdString(request.title));
+    box.setIcon(request.icon == MessageRequest::Icon::Exclamation ? QMessageBox::Warning
+                                                                  : QMessageBox::NoIcon);
+    box.setStandardButtons(ButtonsOf(request.buttons));
+    box.setEscapeButton(EscapeButtonOf(request.buttons));
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        default:
+            return Answer::Cancel;
+    }
+}
+
+}  // namespace zev
