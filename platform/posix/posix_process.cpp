@@ -8,8 +8,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 
 #include "platform/posix/posix_descriptor.h"
 
@@ -131,6 +134,12 @@ int waitFor(pid_t child) {
 }
 
 }  // namespace
+
+std::string runningProgram() {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::string() : path.string();
+}
 
 std::string findProgram(const std::string& name) {
     if (name.find('/') != std::string::npos)

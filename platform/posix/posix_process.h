@@ -7,6 +7,9 @@
 
 namespace zev {
 
+/// Full path of the program that runs; empty when the system does not tell.
+std::string runningProgram();
+
 /// Full path of a program: `name` itself when it holds a "/", else the first match in PATH. Empty
 /// when there is no such executable file.
 std::string findProgram(const std::string& name);
