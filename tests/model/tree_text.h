@@ -1,0 +1,65 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "model/menu_tree.h"
+
+namespace zev::test {
+
+/// The tree as indented text, two spaces a level, one line a node; `label` gives a node's line.
+template <typename Label>
+std::string TreeText(const MenuTree& tree, Label label) {
+    std::string text;
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+        for (const MenuNode* parent = node->parent(); parent; parent = parent->parent())
+            text += "  ";
+        text += label(*node);
+        text += '\n';
+    }
+    return text;
+}
+
+inline std::string TreeText(const MenuTree& tree) {
+    return TreeText(tree, [](const MenuNode& node) { return node.text; });
+}
+
+/// As above with each node's key in brackets.
+inline std::string TreeTextWithKeys(const MenuTree& tree) {
+    return TreeText(tree, [](const MenuNode& node) { return node.text + " [" + node.key() + "]"; });
+}
+
+/// Builds nodes from (level, text) pairs in tree order; the text serves as the key.
+inline void Grow(MenuTree& tree,
+                 std::initializer_list<std::pair<std::size_t, std::string_view>> nodes) {
+    std::vector<MenuNode*> path;
+    for (const auto& [level, text] : nodes) {
+        ASSERT_LE(level, path.size());
+        path.resize(level);
+        MenuNode* const parent = path.empty() ? nullptr : path.back();
+        path.push_back(tree.append(parent, std::string(text), std::string(text)));
+        ASSERT_NE(path.back(), nullptr) << text;
+    }
+}
+
+/// Checks what must hold for every tree: rows, parents, look-up by key and the number of nodes.
+inline void ExpectSoundTree(const MenuTree& tree) {
+    std::size_t count = 0;
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+        ++count;
+        ASSERT_LT(node->row(), tree.siblingsOf(*node).size()) << node->text;
+        ASSERT_EQ(tree.siblingsOf(*node)[node->row()], node) << node->text;
+        ASSERT_EQ(tree.find(node->key()), node) << node->text;
+        for (const MenuNode* child : node->children())
+            ASSERT_EQ(child->parent(), node) << child->text;
+    }
+    EXPECT_EQ(count, tree.size());
+}
+
+}  // namespace zev::test
