@@ -1,0 +1,111 @@
+#pragma once
+
+#include <QTest>
+#include <string>
+#include <vector>
+
+#include "app/editor_services.h"
+#include "app/editor_view.h"
+#include "app/file_commands.h"
+#include "model/menu_document.h"
+#include "model/text_rules.h"
+#include "model/tree_editing.h"
+#include "platform/fake/fake_file_system.h"
+#include "platform/fake/fake_services.h"
+
+namespace zev {
+
+inline void failQtTest(const std::string& problem) {
+    QTest::qFail(problem.c_str(), __FILE__, __LINE__);
+}
+
+/// A window without widgets: a panel of two fields, and what the person would see elsewhere.
+class PlainView : public EditorView {
+  public:
+    explicit PlainView(MenuDocument& document) : m_document(document) {}
+
+    std::string panelCaption;
+    std::string panelURL;
+    std::string script;
+    std::string shownFile;  ///< the file named in the window's caption
+    bool isSaveEnabled = false;
+    std::vector<std::string> calls;
+
+    void validateFields() override {
+        calls.push_back("validateFields");
+        panelCaption = EscapeApostrophes(panelCaption);
+    }
+    void StoreItem() override {
+        calls.push_back("StoreItem");
+        if (m_document.CurNode != nullptr) {
+            m_document.CurNode->item.Caption = panelCaption;
+            m_document.CurNode->item.URL = panelURL;
+        }
+    }
+    void ShowItem() override {
+        const MenuNode* node = m_document.CurNode;
+        panelCaption = node != nullptr ? node->item.Caption : "";
+        panelURL = node != nullptr ? node->item.URL : "";
+    }
+    void ShowScript(const std::string& text) override { script = text; }
+    void ShowCaption() override { shownFile = m_document.SaveFile; }
+    void Button_Update() override { isSaveEnabled = m_document.bModified; }
+
+  private:
+    MenuDocument& m_document;
+};
+
+/// The file commands at work on a disk in memory, with the run-time files in "/program" and an
+/// empty folder "/site". Opens with a new document.
+struct Desk {
+    Desk() {
+        for (const char* name :
+             {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"}) {
+            disk.addFile(std::string("/program/") + name, std::string("content of ") + name);
+        }
+        disk.addFolder("/site");
+        commands.Reset();
+    }
+
+    /// Adds an item as the person would, types `caption` and `url` into the panel and leaves them
+    /// there, not stored yet.
+    void addItem(const std::string& caption, const std::string& url = "") {
+        view.StoreItem();
+        AddMenuItem(document);
+        view.ShowItem();
+        view.panelCaption = caption;
+        view.panelURL = url;
+        view.Button_Update();
+    }
+
+    /// Saves the document as `path`; nothing is recalculated.
+    void saveAs(const std::string& path) {
+        dialogs.expectSaveFile(path);
+        messages.expect(recalculate, MessageBox::Answer::No);
+        commands.mnuFileSaveAs_Click();
+    }
+
+    bool isOnDisk(const std::string& path) const { return disk.allFiles().contains(path); }
+    std::string bytesOf(const std::string& path) const {
+        const auto file = disk.allFiles().find(path);
+        return file != disk.allFiles().end() ? file->second : "(no such file)";
+    }
+
+    static constexpr const char* recalculate =
+        "Recalculate relative URLs for hyperlinks and images?";
+    static constexpr const char* saveChanges = "Save changes to project?";
+
+    FakeFileSystem disk;
+    FailingFileSystem files{disk};
+    FakeMessageBox messages{failQtTest};
+    FakeCommonDialogs dialogs{failQtTest};
+    FakeShell shell{failQtTest};
+    FakeHelpViewer help;
+    FakeBrowserView browser;
+    EditorServices services{files, messages, dialogs, shell, help, browser};
+    MenuDocument document{"/program"};
+    PlainView view{document};
+    FileCommands commands{document, view, services};
+};
+
+}  // namespace zev
