@@ -1,26 +1,128 @@
 #pragma once
 
 #include <QMainWindow>
+#include <array>
+#include <functional>
 #include <string>
+#include <vector>
 
+#include "app/command_state.h"
 #include "app/editor_services.h"
 #include "app/editor_view.h"
 #include "app/file_commands.h"
 #include "model/menu_document.h"
+#include "model/tree_editing.h"
+
+class QKeyEvent;
+class QPlainTextEdit;
+class QTabWidget;
 
 namespace zev {
 
+class ItemPanel;
+class MenuTreeView;
+
 /// The editor's main window. It builds and connects; what the commands do is decided elsewhere.
+///
+/// Every menu entry, toolbar button and shortcut runs through `run`, which first leaves the field
+/// that is being edited. The handlers themselves can be called at any time.
 class frmMain : public QMainWindow, public EditorView {
     Q_OBJECT
   public:
+    using Handler = void (frmMain::*)();
+
     /// `programFolder`: the folder that holds the run-time files. `webBrowser`: the widget behind
-    /// `services.browser`, placed into the Preview tab, owned by the window from then on.
+    /// `services.browser`, placed into the Preview tab, owned by the window from then on. What
+    /// `services` refers to is not owned and outlives the window.
     frmMain(const EditorServices& services, const std::string& programFolder, QWidget* webBrowser);
     ~frmMain() override;
 
-    MenuDocument& document();
-    FileCommands& fileCommands();
+    MenuDocument& document() { return m_document; }
+    FileCommands& fileCommands() { return m_fileCommands; }
+
+    /// Opens the definition file at `path` (full path), as File > Open does with a chosen file.
+    void openDefinition(const std::string& path);
+
+    void validateFields() override;
+    void StoreItem() override;
+    void ShowItem() override;
+    void ShowScript(const std::string& script) override;
+    void ShowCaption() override;
+    void Button_Update() override;
+
+    void mnuFileNew_Click();
+    void mnuFileOpen_Click();
+    void mnuFileSave_Click();
+    void mnuFileSaveAs_Click();
+    void mnuFileImportQuillmenu_Click();
+    void mnuFileImportOrletBar_Click();
+    void mnuFileImportOrletMenu_Click();
+    void mnuFileImportOrletButton_Click();
+    void mnuFileExit_Click();
+    void mnuEditDefault_Click();
+    void mnuEditMenuProperties_Click();
+    void mnuEditAddMenuItem_Click();
+    void mnuEditAddSubmenuItem_Click();
+    void mnuEditMoveLeft_Click();
+    void mnuEditMoveRight_Click();
+    void mnuEditMoveUp_Click();
+    void mnuEditMoveDown_Click();
+    void mnuEditDelete_Click();
+    void mnuToolsIntegrate_Click();
+    void mnuHelpContents_Click();
+    void mnuHelpAbout_Click();
+    void mnuHelpSupport_Click();
+    /// Runs the command of the toolbar button with this key; nothing for an unknown key.
+    void tbToolBar_ButtonClick(const QString& key);
+    void MenuTab_Click();
+    void TreeView_NodeClick(MenuNode* node);
+
+  signals:
+    /// The program is to end now.
+    void ended();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void buildMenus();
+    void buildToolBar();
+    void buildTabs(QWidget* webBrowser);
+    QWidget* buildMenuTab();
+    QAction* addEntry(QMenu* menu, const QString& name, const QString& caption, Handler click,
+                      const QKeySequence& shortcut = {});
+    void run(Handler click);
+    void guard(const std::function<void()>& work);
+    void leaveField();
+    EditResult edit(EditResult (*command)(MenuDocument&));
+    bool keepsKey(const QWidget& widget, const QKeyEvent& key) const;
+    QAction* entryFor(const QKeyEvent& key) const;
+    void openAddress(const std::string& address);
+    void showNotice(const std::string& text);
+    void showNotBuiltYet(const std::string& what);
+
+    MenuDocument m_document;
+    EditorServices m_services;
+    FileCommands m_fileCommands;
+    CommandState m_state;
+    bool m_isEnding = false;
+
+    QAction* mnuFileSave = nullptr;
+    QAction* mnuEditMenuProperties = nullptr;
+    QAction* mnuEditAddSubmenuItem = nullptr;
+    QAction* mnuEditMoveLeft = nullptr;
+    QAction* mnuEditMoveRight = nullptr;
+    QAction* mnuEditMoveUp = nullptr;
+    QAction* mnuEditMoveDown = nullptr;
+    QAction* mnuEditDelete = nullptr;
+    std::vector<QAction*> m_entries;
+    std::array<QAction*, kToolBarItems + 1> m_buttons{};
+
+    QTabWidget* MenuTab = nullptr;
+    ItemPanel* m_panel = nullptr;
+    MenuTreeView* TreeView = nullptr;
+    QPlainTextEdit* txtJavaScript = nullptr;
 };
 
 }  // namespace zev

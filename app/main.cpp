@@ -1,0 +1,88 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QMetaObject>
+#include <QStandardPaths>
+
+#include "app/frm_main.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/posix_shell.h"
+#include "platform/program_folder.h"
+#include "platform/qt/qt_browser_view.h"
+#include "platform/qt/qt_common_dialogs.h"
+#include "platform/qt/qt_help_viewer.h"
+#include "platform/qt/qt_message_box.h"
+#include "platform/qt/web_view.h"
+
+using namespace zev;
+
+namespace {
+
+QStringList Arguments(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+void DescribeArguments(QCommandLineParser& parser) {
+    parser.setApplicationDescription("Authoring tool for cascading menus on web sites.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument("file", "Menu definition file to open.", "[file]");
+}
+
+/// The folder that holds the run-time files. Without them the editor still runs, and each save says
+/// which file is missing.
+std::string ProgramFolder(FileSystem& files, MessageBox& messages) {
+    const std::string executable = QCoreApplication::applicationFilePath().toStdString();
+    const std::string userFolder =
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+    const FileResult<std::string> folder = findProgramFolder(files, executable, userFolder);
+    if (folder.isOk())
+        return folder.value();
+    MessageRequest notice;
+    notice.text = "The program's own files could not be prepared. " + folder.error().path + ": " +
+                  folder.error().reason;
+    messages.show(notice);
+    return QCoreApplication::applicationDirPath().toStdString();
+}
+
+int RunEditor(QApplication& application, const QStringList& files) {
+    PosixFileSystem fileSystem;
+    PosixShell shell(fileSystem);
+    QtMessageBox messages;
+    QtCommonDialogs dialogs;
+    QtHelpViewer help;
+    auto* browser = new QtBrowserView;
+    const EditorServices services{fileSystem, messages, dialogs, shell, help, *browser};
+
+    frmMain window(services, ProgramFolder(fileSystem, messages), browser);
+    // Ends the program also while the manual's window is open.
+    QObject::connect(&window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); });
+    QApplication::setWindowIcon(window.windowIcon());
+    window.show();
+    if (!files.isEmpty()) {
+        const std::string path = QFileInfo(files.first()).absoluteFilePath().toStdString();
+        QMetaObject::invokeMethod(
+            &window, [&window, path] { window.openDefinition(path); }, Qt::QueuedConnection);
+    }
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication::setApplicationName("zevmenu-creator");
+    QCoreApplication::setApplicationVersion(ZEV_VERSION);
+    QCommandLineParser parser;
+    DescribeArguments(parser);
+    if (!parser.parse(Arguments(argc, argv)) || parser.isSet("help") || parser.isSet("version")) {
+        // Answered without a display.
+        QCoreApplication application(argc, argv);
+        parser.process(application);
+    }
+    prepareForBrowser();
+    QApplication application(argc, argv);
+    return RunEditor(application, parser.positionalArguments());
+}

@@ -1,0 +1,138 @@
+#include "app/menu_tree_view.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+#include "app/single_line.h"
+
+namespace zev {
+
+namespace {
+
+class LabelDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+            line->setAccessibleName(QObject::tr("Item label"));
+            keepSingleLine(*line);
+        }
+        return editor;
+    }
+};
+
+}  // namespace
+
+MenuTreeView::MenuTreeView(MenuDocument& document, QWidget* parent)
+    : QTreeView(parent), m_document(document), m_model(document.tree) {
+    setModel(&m_model);
+    setItemDelegate(new LabelDelegate(this));
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    // A double click edits the label; F2 belongs to Menu Properties.
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked);
+    setExpandsOnDoubleClick(false);
+    // Wide enough for the rows in sight, so that deep levels can be scrolled to.
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header()->setResizeContentsPrecision(0);
+    header()->setStretchLastSection(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+
+    connect(this, &QTreeView::expanded, this,
+            [this](const QModelIndex& index) { setNodeExpanded(index, true); });
+    connect(this, &QTreeView::collapsed, this,
+            [this](const QModelIndex& index) { setNodeExpanded(index, false); });
+    connect(&m_model, &TreeViewModel::nodeExpansionChanged, this, &QTreeView::setExpanded);
+    connect(&m_model, &TreeViewModel::modelReset, this, &MenuTreeView::showExpansion);
+    connect(&m_model, &TreeViewModel::labelEdited, this, &MenuTreeView::labelEdited);
+    // Also a click on the node that is selected already.
+    connect(this, &QTreeView::pressed, this,
+            [this](const QModelIndex& index) { emit nodeClicked(m_model.nodeAt(index)); });
+}
+
+void MenuTreeView::showSelection() {
+    const QModelIndex index = m_model.indexOf(m_document.selectedNode);
+    if (index.isValid()) {
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        return;
+    }
+    selectionModel()->clear();
+}
+
+void MenuTreeView::commitEditor() {
+    if (state() != EditingState)
+        return;
+    QWidget* editor = indexWidget(currentIndex());
+    if (editor == nullptr)
+        return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+// The base class scrolls to the column's left edge; a label many levels down begins far right of
+// it.
+void MenuTreeView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    QScrollBar& bar = *horizontalScrollBar();
+    const int before = bar.value();
+    QTreeView::scrollTo(index, hint);
+    const MenuNode* node = m_model.nodeAt(index);
+    if (node == nullptr)
+        return;
+    const int left = indentOf(*node) - indentation();
+    const int right =
+        std::min(indentOf(*node) + sizeHintForIndex(index).width(), left + viewport()->width());
+    bar.setValue(std::clamp(before, right - viewport()->width(), left));
+}
+
+void MenuTreeView::selectionChanged(const QItemSelection& selected,
+                                    const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    if (selected.isEmpty() || m_model.isChanging())
+        return;
+    MenuNode* node = m_model.nodeAt(selected.indexes().constFirst());
+    if (node != m_document.selectedNode)
+        emit nodeClicked(node);
+}
+
+// Ctrl with a click or the space bar would take the selection away: then no item would be selected
+// while the panel still shows one.
+QItemSelectionModel::SelectionFlags MenuTreeView::selectionCommand(const QModelIndex& index,
+                                                                   const QEvent* event) const {
+    const QItemSelectionModel::SelectionFlags flags = QTreeView::selectionCommand(index, event);
+    if (flags & (QItemSelectionModel::Deselect | QItemSelectionModel::Toggle))
+        return QItemSelectionModel::ClearAndSelect;
+    return flags;
+}
+
+int MenuTreeView::sizeHintForColumn(int column) const {
+    return std::max(QTreeView::sizeHintForColumn(column), viewport()->width());
+}
+
+void MenuTreeView::setNodeExpanded(const QModelIndex& index, bool isExpanded) {
+    m_document.tree.setExpanded(*m_model.nodeAt(index), isExpanded);
+}
+
+// A reset view has every node collapsed.
+void MenuTreeView::showExpansion() {
+    const MenuTree& tree = m_document.tree;
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+        if (node->isExpanded)
+            setExpanded(m_model.indexOf(node), true);
+    }
+}
+
+int MenuTreeView::indentOf(const MenuNode& node) const {
+    int levels = rootIsDecorated() ? 1 : 0;
+    for (const MenuNode* ancestor = node.parent(); ancestor; ancestor = ancestor->parent())
+        ++levels;
+    return levels * indentation();
+}
+
+}  // namespace zev

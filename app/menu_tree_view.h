@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QTreeView>
+
+#include "app/tree_view_model.h"
+#include "model/menu_document.h"
+
+namespace zev {
+
+/// The menu tree on screen. Shows the document's tree, expansion and selected node, and tells what
+/// the person does to them; decides nothing about the document.
+class MenuTreeView : public QTreeView {
+    Q_OBJECT
+  public:
+    /// `document` is not owned and outlives the view.
+    explicit MenuTreeView(MenuDocument& document, QWidget* parent = nullptr);
+
+    /// Makes the selection on screen the document's `selectedNode` and scrolls to it.
+    void showSelection();
+    /// Ends in-place editing, if there is any, as leaving the editor does: the text is taken.
+    void commitEditor();
+
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
+  signals:
+    /// The person chose this node by mouse or keyboard, or clicked it again.
+    void nodeClicked(MenuNode* node);
+    /// A label was edited in place; the node already shows it.
+    void labelEdited(const QString& text);
+
+  protected:
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+    int sizeHintForColumn(int column) const override;
+
+  private:
+    void setNodeExpanded(const QModelIndex& index, bool isExpanded);
+    void showExpansion();
+    int indentOf(const MenuNode& node) const;
+
+    MenuDocument& m_document;
+    TreeViewModel m_model;
+};
+
+}  // namespace zev
