@@ -1,0 +1,81 @@
+#include "cli/command_files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <iostream>
+
+#include "platform/posix/posix_descriptor.h"
+#include "script/script_reader.h"
+#include "script/script_writer.h"
+
+namespace zev {
+
+namespace {
+
+constexpr const char* kStandardInput = "standard input";
+constexpr const char* kStandardOutput = "standard output";
+
+FileResult<std::string> readStandardInput() {
+    std::string bytes;
+    if (const int error = readAll(STDIN_FILENO, kMaxDefinitionBytes, bytes))
+        return fileErrorOf(error, kStandardInput);
+    return bytes;
+}
+
+}  // namespace
+
+void printProblem(const std::string& problem) {
+    std::cerr << "zevmenu: " << problem << '\n';
+}
+
+void printProblem(const FileError& error) {
+    printProblem(error.path + ": " + error.reason);
+}
+
+bool writeStandardOutput(std::string_view bytes) {
+    // A duplicate is closed, for only closing tells of a late failure, as on a network drive.
+    PosixDescriptor output(::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0));
+    int error = output.isOpen() ? writeAll(output.get(), bytes) : errno;
+    if (error == 0)
+        error = output.close();
+    if (error != 0)
+        printProblem(fileErrorOf(error, kStandardOutput));
+    return error == 0;
+}
+
+std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
+                                         MenuDocument& document) {
+    const FileResult<std::string> bytes =
+        path == "-" ? readStandardInput() : files.readFile(path, kMaxDefinitionBytes);
+    if (!bytes.isOk()) {
+        FileError error = bytes.error();
+        if (error.code == FileError::Code::TooLarge)
+            error.reason = "larger than 256 MiB, which no menu definition is";
+        printProblem(error);
+        return {};
+    }
+    if (IsBinary(bytes.value())) {
+        printProblem((path == "-" ? kStandardInput : path) + ": is not a text file");
+        return {};
+    }
+    const ReadResult result = ReadScript(bytes.value(), document);
+    if (result.errorCount == 0)
+        return ExitStatus::Done;
+    std::cerr << result.errorCount << " errors encountered during parsing\n";
+    return ExitStatus::Counted;
+}
+
+bool writeDefinition(FileSystem& files, const std::string& path, const MenuDocument& document) {
+    const std::string bytes = DefinitionFileBytes(GenerateScript(document));
+    if (path.empty() || path == "-")
+        return writeStandardOutput(bytes);
+    if (const FileOutcome error = files.writeFile(path, bytes)) {
+        printProblem(*error);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace zev

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "model/menu_document.h"
+#include "platform/file_system.h"
+
+namespace zev {
+
+/// Exit status of every command.
+enum class ExitStatus {
+    Done = 0,
+    Counted = 1,  ///< done, with counted errors; the output is written all the same
+    WrongUse = 2,
+    FileProblem = 3  ///< a file could not be read or written
+};
+
+/// Larger files are no menu definitions.
+inline constexpr std::uint64_t kMaxDefinitionBytes = std::uint64_t{256} << 20;
+
+/// Prints one line on standard error, after the program's name.
+void printProblem(const std::string& problem);
+
+/// Prints a file's name and what is wrong with it.
+void printProblem(const FileError& error);
+
+/// Writes to standard output. False, with the problem printed, when not all of it could be written.
+bool writeStandardOutput(std::string_view bytes);
+
+/// Reads the definition `path` ("-": standard input) into a new document and prints the number of
+/// errors in it. Nothing, with the problem printed, when it cannot be read; else Done or Counted.
+std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
+                                         MenuDocument& document);
+
+/// Writes the document as definition file `path`; "-" and an empty path are standard output. False,
+/// with the problem printed, when it cannot be written.
+bool writeDefinition(FileSystem& files, const std::string& path, const MenuDocument& document);
+
+}  // namespace zev

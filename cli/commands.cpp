@@ -1,0 +1,125 @@
+#include "cli/commands.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/library_files.h"
+#include "platform/program_folder.h"
+#include "script/relative_url.h"
+#include "script/submenu_list.h"
+
+namespace zev {
+
+namespace {
+
+bool isDrivePath(std::string_view path) {
+    const bool isLetter =
+        !path.empty() && ((path[0] >= 'A' && path[0] <= 'Z') || (path[0] >= 'a' && path[0] <= 'z'));
+    return isLetter && path.substr(1).starts_with(":\\");
+}
+
+/// A folder as the URL rules take it: full path, no separator at its end but the root's own.
+/// Nothing, with the problem printed, when a relative one has no current folder to count from.
+std::optional<std::string> fullFolder(const std::string& folder) {
+    if (isDrivePath(folder))
+        return folder.substr(0, folder.find_last_not_of('\\') + 1);
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::absolute(folder, error);
+    if (error) {
+        printProblem(folder + ": " + error.message());
+        return {};
+    }
+    std::string full = path.lexically_normal().string();
+    if (full.size() > 1 && full.ends_with('/'))
+        full.pop_back();
+    return full;
+}
+
+ExitStatus publishLibrary(FileSystem& files, const std::string& executable,
+                          const std::string& folder) {
+    const FileResult<std::string> installed = findInstalledFolder(files, executable);
+    if (!installed.isOk()) {
+        const std::string& missing = installed.error().path;
+        printProblem(CopyProblemText(CopyResult::SourceMissing, missing, {}));
+        return ExitStatus::FileProblem;
+    }
+    ExitStatus status = ExitStatus::Done;
+    for (const std::string_view name : kLibraryFiles) {
+        const std::string source = JoinPath(installed.value(), name);
+        const std::string destination = JoinPath(folder, name);
+        const CopyResult result = CopyLibraryFile(files, source, destination);
+        const std::string problem = CopyProblemText(result, source, destination);
+        if (problem.empty())
+            continue;
+        printProblem(problem);
+        status = ExitStatus::FileProblem;
+    }
+    return status;
+}
+
+}  // namespace
+
+ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output) {
+    MenuDocument document("");
+    const std::optional<ExitStatus> status = readDefinition(files, input, document);
+    if (!status || !writeDefinition(files, output, document))
+        return ExitStatus::FileProblem;
+    return *status;
+}
+
+ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options) {
+    if (isDrivePath(options.from) != isDrivePath(options.to)) {
+        printProblem("--from and --to must both have a drive letter, or neither");
+        return ExitStatus::WrongUse;
+    }
+    const std::optional<std::string> from = fullFolder(options.from);
+    const std::optional<std::string> to = fullFolder(options.to);
+    if (!from || !to)
+        return ExitStatus::FileProblem;
+    MenuDocument document("");
+    const std::optional<ExitStatus> status = readDefinition(files, options.input, document);
+    if (!status)
+        return ExitStatus::FileProblem;
+    RebaseAllURLs(document, *from, *to);
+    return writeDefinition(files, options.output, document) ? *status : ExitStatus::FileProblem;
+}
+
+ExitStatus submenusCommand(const FileSystem& files, const std::string& input) {
+    MenuDocument document("");
+    const std::optional<ExitStatus> status = readDefinition(files, input, document);
+    if (!status)
+        return ExitStatus::FileProblem;
+    std::string lines;
+    for (const std::string& entry : ListSubmenus(document))
+        lines += entry + "\n";
+    return writeStandardOutput(lines) ? *status : ExitStatus::FileProblem;
+}
+
+ExitStatus publishCommand(FileSystem& files, const std::string& executable,
+                          const std::string& input, const std::string& folder) {
+    if (input == "-") {
+        printProblem("publish needs a definition with a file name");
+        return ExitStatus::WrongUse;
+    }
+    const std::string name = std::filesystem::path(input).filename().string();
+    if (std::find(kLibraryFiles.begin(), kLibraryFiles.end(), name) != kLibraryFiles.end()) {
+        printProblem(input + ": has the name of a run-time file that goes beside it");
+        return ExitStatus::WrongUse;
+    }
+    MenuDocument document("");
+    const std::optional<ExitStatus> status = readDefinition(files, input, document);
+    if (!status)
+        return ExitStatus::FileProblem;
+    if (!files.isFolder(folder)) {
+        printProblem(folder + ": is not a folder");
+        return ExitStatus::FileProblem;
+    }
+    const ExitStatus libraryStatus = publishLibrary(files, executable, folder);
+    // As when the editor saves, the definition is written whatever became of the scripts.
+    if (!writeDefinition(files, JoinPath(folder, name), document))
+        return ExitStatus::FileProblem;
+    return libraryStatus == ExitStatus::Done ? *status : libraryStatus;
+}
+
+}  // namespace zev
