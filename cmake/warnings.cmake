@@ -5,5 +5,5 @@ option(ZEV_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 add_library(zev_warnings INTERFACE)
 target_compile_options(zev_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
-    -Woverloaded-virtual -Wcast-align -Wformat=2 -Wnull-dereference -Wimplicit-fallthrough
+    -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough
     $<$<BOOL:${ZEV_WARNINGS_AS_ERRORS}>:-Werror>)
