@@ -7,3 +7,8 @@ target_compile_options(zev_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
     -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough
     $<$<BOOL:${ZEV_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# GCC bug 105651: assigning a literal to a std::string is taken for an overlapping copy.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(zev_warnings INTERFACE -Wno-restrict)
+endif()
