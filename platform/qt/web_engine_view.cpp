@@ -3,12 +3,58 @@
 #include <QMenu>
 #include <QOpenGLContext>
 #include <QVBoxLayout>
-#include <QWebEngineHistory>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
-#include <QWebEngineSettings>
+#include <QtQuick/QQuickWindow>
+
+#include "platform/qt/browser_sandbox.h"
+
+QT_BEGIN_NAMESPACE
+// Exported for the browser engine, which sets it the same way when it is linked into a program.
+Q_GUI_EXPORT void qt_gl_set_global_share_context(QOpenGLContext* context);
+QT_END_NAMESPACE
 
 namespace zev {
+
+namespace {
+
+/// A page with a menu needs no graphics card. Drawing it as the rest of the window is drawn spares
+/// every start the graphics driver (a third of the time, two thirds of the memory), and spares the
+/// first preview a main window that is taken down and put up again as an OpenGL one.
+void drawWithoutOpenGL() {
+    QQuickWindow::setSceneGraphBackend("software");
+    // The engine reads the shared context's format without asking whether there is one. A context
+    // that was never created has one, and tells it not to use OpenGL.
+    if (QOpenGLContext::globalShareContext() == nullptr) {
+        qt_gl_set_global_share_context(new QOpenGLContext);
+    }
+}
+
+/// Tells the engine, for the moment of its start, to do without a sandbox where there can be none.
+/// Not for longer: the person's own browser is started with this program's environment.
+class SandboxSetting {
+  public:
+    SandboxSetting() {
+        if (!CanSandboxBrowser()) {
+            qputenv(kName, "1");
+        }
+    }
+    ~SandboxSetting() {
+        if (m_previous.isNull()) {
+            qunsetenv(kName);
+        } else {
+            qputenv(kName, m_previous);
+        }
+    }
+    SandboxSetting(const SandboxSetting&) = delete;
+    SandboxSetting& operator=(const SandboxSetting&) = delete;
+
+  private:
+    static constexpr const char* kName = "QTWEBENGINE_DISABLE_SANDBOX";
+    QByteArray m_previous = qgetenv(kName);
+};
+
+}  // namespace
 
 WebEnginePage::WebEnginePage(QWebEngineProfile* profile, const WebView& owner)
     : QWebEnginePage(profile), m_owner(owner) {
@@ -75,13 +121,13 @@ void WebEngineView::showContextMenu(const QPoint& position) {
     menu.exec(m_view->mapToGlobal(position));
 }
 
-WebView* WebEngineViewFactory::create(QWidget* parent, QString& problem) {
-    // Without it the engine ends the whole program, and the menu being edited with it.
-    if (QOpenGLContext::globalShareContext() == nullptr ||
-        !QOpenGLContext::globalShareContext()->isValid()) {
-        problem = "This display does not offer OpenGL.";
-        return nullptr;
-    }
+WebView* WebEngineViewFactory::create(QWidget* parent) {
+    static const bool isPrepared = [] {
+        drawWithoutOpenGL();
+        return true;
+    }();
+    Q_UNUSED(isPrepared)
+    const SandboxSetting setting;
     return new WebEngineView(parent);
 }
 

@@ -29,17 +29,12 @@ class WebView : public QWidget {
 class WebViewFactory {
   public:
     virtual ~WebViewFactory() = default;
-    /// The new view belongs to `parent`. Null, with the reason in `problem`, when the engine cannot
-    /// run on this display.
-    virtual WebView* create(QWidget* parent, QString& problem) = 0;
+    /// The new view belongs to `parent`.
+    virtual WebView* create(QWidget* parent) = 0;
 };
 
-/// Must run before the application object is made: a browser engine that is loaded later needs
-/// what is settled here.
-void prepareForBrowser();
-
 /// Loads the module with the browser engine if need be and makes a view. Null, with the reason in
-/// `problem`, when there is none to be had.
+/// `problem`, when the module cannot be loaded.
 WebView* CreateWebView(QWidget* parent, QString& problem);
 
 }  // namespace zev

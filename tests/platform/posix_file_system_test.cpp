@@ -1,0 +1,158 @@
+#include "platform/posix/posix_file_system.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstring>
+#include <filesystem>
+#include <thread>
+
+#include "tests/support/temp_folder.h"
+#include "tests/support/test_files.h"
+
+namespace zev {
+namespace {
+
+using test::contentOf;
+using test::makeFile;
+using test::TempFolder;
+using Code = FileError::Code;
+
+constexpr std::uint64_t kLimit = 1024 * 1024;
+
+class PosixFileSystemTest : public testing::Test {
+  protected:
+    TempFolder folder;
+    PosixFileSystem files;
+};
+
+TEST_F(PosixFileSystemTest, ReadsBackEveryByteItWrote) {
+    std::string bytes(300'000, 'x');
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(i % 256);
+    ASSERT_FALSE(files.writeFile(folder / "a", bytes));
+    EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), bytes);
+    ASSERT_FALSE(files.writeFile(folder / "a", ""));
+    EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), "");
+}
+
+TEST_F(PosixFileSystemTest, SaysWhyAFileCannotBeRead) {
+    makeFile(folder / "file", "x");
+    struct Case {
+        std::string path;
+        Code code;
+        const char* reason;
+    };
+    const Case cases[] = {
+        {folder / "missing", Code::NotFound, "No such file or directory"},
+        {folder / "file/below", Code::NotFound, "Not a directory"},
+        {folder.path(), Code::IsFolder, "Is a directory"},
+        {"", Code::NotFound, "No such file or directory"},
+    };
+    for (const Case& c : cases) {
+        const auto result = files.readFile(c.path, kLimit);
+        ASSERT_FALSE(result.isOk()) << c.path;
+        EXPECT_EQ(result.error().code, c.code) << c.path;
+        EXPECT_EQ(result.error().path, c.path);
+        EXPECT_EQ(result.error().reason, c.reason);
+    }
+}
+
+TEST_F(PosixFileSystemTest, SaysThatReadingIsNotPermitted) {
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root may read everything; see platform.as_ordinary_user";
+    makeFile(folder / "a", "x");
+    ASSERT_EQ(chmod((folder / "a").c_str(), 0), 0);
+    EXPECT_EQ(files.readFile(folder / "a", kLimit).error().code, Code::NoPermission);
+}
+
+TEST_F(PosixFileSystemTest, RefusesFilesAboveTheLimitAndTakesThoseAtIt) {
+    makeFile(folder / "a", "12345");
+    EXPECT_TRUE(files.readFile(folder / "a", 5).isOk());
+    EXPECT_EQ(files.readFile(folder / "a", 4).error().code, Code::TooLarge);
+}
+
+TEST_F(PosixFileSystemTest, RefusesAHugeFileWithoutReadingIt) {
+    makeFile(folder / "a", "");
+    std::filesystem::resize_file(folder / "a", std::uintmax_t{1} << 40);
+    EXPECT_EQ(files.readFile(folder / "a", kLimit).error().code, Code::TooLarge);
+}
+
+TEST_F(PosixFileSystemTest, StopsReadingAFileThatHasNoSizeAtTheLimit) {
+    EXPECT_EQ(files.readFile("/dev/zero", kLimit).error().code, Code::TooLarge);
+    const auto status = files.readFile("/proc/self/status", kLimit);
+    ASSERT_TRUE(status.isOk());
+    EXPECT_FALSE(status.value().empty());
+    EXPECT_EQ(files.readFile("/proc/self/status", 10).error().code, Code::TooLarge);
+}
+
+TEST_F(PosixFileSystemTest, ReadsAPipeToItsEnd) {
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    std::thread writer([&] {
+        const int pipe = open((folder / "pipe").c_str(), O_WRONLY);
+        for (const char* const part : {"one ", "two ", "three"}) {
+            EXPECT_GT(write(pipe, part, strlen(part)), 0);
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
+        close(pipe);
+    });
+    EXPECT_EQ(files.readFile(folder / "pipe", kLimit).value(), "one two three");
+    writer.join();
+}
+
+TEST_F(PosixFileSystemTest, TellsFilesFromFolders) {
+    makeFile(folder / "a", "x");
+    std::filesystem::create_symlink("a", folder / "link");
+    std::filesystem::create_symlink("nowhere", folder / "dangling");
+    EXPECT_TRUE(files.FileExists(folder / "a"));
+    EXPECT_TRUE(files.FileExists(folder / "link"));
+    EXPECT_TRUE(files.FileExists("/dev/null"));
+    EXPECT_FALSE(files.FileExists(folder / "dangling"));
+    EXPECT_FALSE(files.FileExists(folder.path()));
+    EXPECT_TRUE(files.isFolder(folder.path()));
+    EXPECT_FALSE(files.isFolder(folder / "a"));
+    EXPECT_TRUE(files.isWritableFolder(folder.path()));
+    EXPECT_FALSE(files.isWritableFolder(folder / "a"));
+    EXPECT_FALSE(files.isWritableFolder(folder / "missing"));
+}
+
+TEST_F(PosixFileSystemTest, KnowsAFolderThatForbidsNewFiles) {
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root may write everywhere; see platform.as_ordinary_user";
+    ASSERT_EQ(chmod(folder.path().c_str(), 0500), 0);
+    EXPECT_FALSE(files.isWritableFolder(folder.path()));
+    ASSERT_EQ(chmod(folder.path().c_str(), 0700), 0);
+}
+
+TEST_F(PosixFileSystemTest, CopiesBytesAndNamesTheFileAtFault) {
+    makeFile(folder / "a", "content");
+    makeFile(folder / "b", "a much longer old content");
+    EXPECT_FALSE(files.CopyFile(folder / "a", folder / "b"));
+    EXPECT_EQ(contentOf(folder / "b"), "content");
+    EXPECT_EQ(files.CopyFile(folder / "missing", folder / "b").value().path, folder / "missing");
+    EXPECT_EQ(files.CopyFile(folder / "a", folder / "no/b").value().path, folder / "no/b");
+    EXPECT_EQ(contentOf(folder / "b"), "content");
+}
+
+TEST_F(PosixFileSystemTest, DeletesFilesAndNothingElse) {
+    makeFile(folder / "a", "x");
+    EXPECT_FALSE(files.DeleteFile(folder / "a"));
+    EXPECT_FALSE(files.FileExists(folder / "a"));
+    EXPECT_EQ(files.DeleteFile(folder / "a").value().code, Code::NotFound);
+    EXPECT_EQ(files.DeleteFile(folder.path()).value().code, Code::IsFolder);
+}
+
+TEST_F(PosixFileSystemTest, MakesFoldersWithThoseAboveAndListsThem) {
+    EXPECT_FALSE(files.makeFolder(folder / "a/b"));
+    EXPECT_FALSE(files.makeFolder(folder / "a/b"));
+    makeFile(folder / "a/file", "x");
+    EXPECT_EQ(files.listFolder(folder / "a").value(), (std::vector<std::string>{"b", "file"}));
+    EXPECT_TRUE(files.makeFolder(folder / "a/file"));
+    EXPECT_EQ(files.listFolder(folder / "missing").error().code, Code::NotFound);
+}
+
+}  // namespace
+}  // namespace zev
