@@ -18,17 +18,12 @@
 #include <exception>
 
 #include "app/frm_about.h"
+#include "app/icons.h"
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
 #include "app/open_url.h"
 #include "script/relative_url.h"
 #include "script/script_writer.h"
-
-/// The icons lie in a static library, which the linker cuts down to what is named. Outside any
-/// namespace, as the macro demands.
-static void InitIcons() {
-    Q_INIT_RESOURCE(icons);
-}
 
 namespace zev {
 
@@ -75,9 +70,7 @@ QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption) {
 frmMain::frmMain(const EditorServices& services, const std::string& programFolder,
                  QWidget* webBrowser)
     : m_document(programFolder), m_services(services), m_fileCommands(m_document, *this, services) {
-    InitIcons();
     setObjectName("frmMain");
-    setWindowIcon(QIcon(":/icons/zevmenu_creator.svg"));
     // The usual menu of a main window would hide the toolbar.
     setContextMenuPolicy(Qt::NoContextMenu);
     buildMenus();
@@ -176,8 +169,7 @@ void frmMain::buildToolBar() {
         if (item.key == nullptr) {
             button = tbToolBar->addSeparator();
         } else {
-            button =
-                tbToolBar->addAction(QIcon(QString(":/icons/%1.svg").arg(item.icon)), tr(item.key));
+            button = tbToolBar->addAction(ButtonIcon(item.icon), tr(item.key));
             button->setToolTip(tr(item.key));
             connect(button, &QAction::triggered, this,
                     [this, button] { tbToolBar_ButtonClick(button->text()); });
@@ -222,6 +214,8 @@ QWidget* frmMain::buildMenuTab() {
     panelArea->setWidgetResizable(true);
     panelArea->setFrameShape(QFrame::NoFrame);
     panelArea->setFocusPolicy(Qt::NoFocus);
+    panelArea->viewport()->setAutoFillBackground(false);
+    m_panel->setAutoFillBackground(false);
 
     TreeView = new MenuTreeView(m_document);
     TreeView->setObjectName("TreeView");

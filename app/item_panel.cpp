@@ -11,6 +11,7 @@
 #include <QToolTip>
 #include <QVBoxLayout>
 
+#include "app/icons.h"
 #include "app/single_line.h"
 #include "model/text_rules.h"
 #include "script/relative_url.h"
@@ -46,7 +47,9 @@ std::string UrlRule(const std::string& text) {
 ItemPanel::ItemPanel(MenuDocument& document, const EditorServices& services, QWidget* parent)
     : QWidget(parent), m_document(document), m_services(services) {
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makeTypeFrame());
+    layout->addSpacing(layout->spacing());
     layout->addWidget(makeAttributeFrame());
     layout->addStretch();
     connectHandlers();
@@ -104,7 +107,7 @@ QWidget* ItemPanel::makeAttributeFrame() {
                                         {&m_imgOut, cmdImgOut},
                                         {&m_imgOver, cmdImgOver}}) {
         grid->addWidget(field->label, row++, 0, 1, 2);
-        grid->addWidget(field->edit, row, 0);
+        grid->addWidget(field->edit, row, 0, 1, button != nullptr ? 1 : 2);
         if (button != nullptr) {
             grid->addWidget(button, row, 1);
             setTabOrder(field->edit, button);
@@ -112,6 +115,7 @@ QWidget* ItemPanel::makeAttributeFrame() {
         grid->setRowMinimumHeight(++row, grid->verticalSpacing());
         ++row;
     }
+    grid->setRowMinimumHeight(row - 1, 0);
     grid->setColumnStretch(0, 1);
     return frame;
 }
@@ -137,7 +141,7 @@ QToolButton* ItemPanel::makeButton(const QString& name, const QString& tooltip, 
     button->setObjectName(name);
     button->setToolTip(tooltip);
     button->setAccessibleName(accessibleName);
-    button->setIcon(QIcon(":/icons/" + icon + ".svg"));
+    button->setIcon(ButtonIcon(icon));
     button->installEventFilter(this);
     return button;
 }

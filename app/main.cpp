@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 
 #include "app/frm_main.h"
+#include "app/icons.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_shell.h"
 #include "platform/program_folder.h"
@@ -60,7 +61,6 @@ int RunEditor(QApplication& application, const QStringList& files) {
     frmMain window(services, ProgramFolder(fileSystem, messages), browser);
     // Ends the program also while the manual's window is open.
     QObject::connect(&window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); });
-    QApplication::setWindowIcon(window.windowIcon());
     window.show();
     if (!files.isEmpty()) {
         const std::string path = QFileInfo(files.first()).absoluteFilePath().toStdString();
@@ -82,7 +82,8 @@ int main(int argc, char** argv) {
         QCoreApplication application(argc, argv);
         parser.process(application);
     }
-    prepareForBrowser();
+    PrepareForBrowser();
     QApplication application(argc, argv);
+    QApplication::setWindowIcon(ProgramIcon());
     return RunEditor(application, parser.positionalArguments());
 }

@@ -12,6 +12,9 @@ namespace zev {
 
 namespace {
 
+/// Space between the lines of the tree, so that a row is easy to hit.
+constexpr int kRowPaddingPx = 6;
+
 class LabelDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -24,6 +27,10 @@ class LabelDelegate : public QStyledItemDelegate {
             keepSingleLine(*line);
         }
         return editor;
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowPaddingPx);
     }
 };
 
