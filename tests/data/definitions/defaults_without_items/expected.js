@@ -1,0 +1,15 @@
+zev_state.columns = 2;
+zev_state.bgimage = 'bg.gif';
+zev_state.hbgcolor = '#888888';
+zev_state.hftcolor = '#000000';
+zev_state.nbgcolor = '#000000';
+zev_state.nftcolor = '#FFFFFF';
+zev_state.hspacing = 3;
+zev_state.menuoffset = 1;
+zev_state.closedelay = 500;
+zev_state.position = 'left';
+zev_state.fontFamily = 'Arial';
+zev_state.fontSize = '10pt';
+zev_state.fontWeight = 'bold';
+
+

@@ -1,0 +1,20 @@
+zev_state.columns = 4;
+zev_state.hbgcolor = '#888888';
+zev_state.hftcolor = '#000000';
+zev_state.nbgcolor = '#000000';
+zev_state.nftcolor = '#FFFFFF';
+zev_state.menuoffset = 1;
+zev_state.closedelay = 500;
+zev_state.position = 'right';
+zev_state.fontFamily = 'Arial';
+zev_state.fontSize = '10pt';
+zev_state.fontStyle = 'italic';
+
+zevmenu = new ZEVMenu('0');
+zevmenu.columns = 4;
+zevmenu.position = 'left';
+zevmenu.fontStyle = 'none';
+
+zevmenu.AddItem('A', '', '');
+
+

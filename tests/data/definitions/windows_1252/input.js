@@ -1,0 +1,2 @@
+zevmenu = new ZEVMenu('0');
+zevmenu.AddItem('Café € “q”', '', '');

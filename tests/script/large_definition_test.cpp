@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+
+#include "model/tree_editing.h"
+#include "script/relative_url.h"
+#include "script/script_reader.h"
+#include "script/script_writer.h"
+#include "script/submenu_list.h"
+#include "tests/script/document_text.h"
+
+// Time is limited by the test runner: anything that is not about linear runs into that limit.
+
+namespace zev {
+namespace {
+
+constexpr std::size_t kHugeLength = 50'000'000;
+
+std::string DefinitionBytes(const MenuDocument& document) {
+    return DefinitionFileBytes(GenerateScript(document));
+}
+
+/// Reads one line inside the top-level menu.
+std::size_t ReadLine(const std::string& line, MenuDocument& document) {
+    return ReadScript("zevmenu = new ZEVMenu('0');\r\n" + line + "\r\n", document).errorCount;
+}
+
+TEST(LargeDefinition, AHugeLineOfAnyCharacterIsSkipped) {
+    for (const char c : {'x', '=', '\'', '"', '*', ' ', '\\', '\0', '\xC3', '\r'}) {
+        SCOPED_TRACE(static_cast<int>(c));
+        MenuDocument document("/program");
+        EXPECT_EQ(ReadScript(std::string(kHugeLength, c), document).errorCount, 0u);
+        EXPECT_TRUE(document.tree.isEmpty());
+    }
+}
+
+TEST(LargeDefinition, AHugeNumberOfEmptyLinesIsSkipped) {
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadScript(std::string(kHugeLength / 10, '\n'), document).errorCount, 0u);
+}
+
+TEST(LargeDefinition, AHugePropertyLineIsRead) {
+    for (const char c : {'=', ';', '\'', '"', '.'}) {
+        SCOPED_TRACE(c);
+        MenuDocument document("/program");
+        EXPECT_EQ(ReadLine("zevmenu.divider = '" + std::string(kHugeLength, c) + "';", document),
+                  0u);
+        EXPECT_EQ(document.RootMenuProp.Divider.size(), kHugeLength);
+    }
+}
+
+TEST(LargeDefinition, AHugeCaptionComesBack) {
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadLine("zevmenu.AddItem('" + std::string(kHugeLength, 'x') + "', 'a.html', '');",
+                       document),
+              0u);
+    ASSERT_FALSE(document.tree.isEmpty());
+    EXPECT_EQ(document.CurNode->item.Caption.size(), kHugeLength);
+    EXPECT_EQ(document.CurNode->item.URL, "a.html");
+}
+
+TEST(LargeDefinition, AHugeCaptionOfEscapedApostrophesComesBack) {
+    std::string caption;
+    while (caption.size() < kHugeLength)
+        caption += "\\'~||~";
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadLine("zevmenu.AddItem('" + caption + "', '', '');", document), 0u);
+    // Each placeholder comes back as an escaped apostrophe, three bytes shorter.
+    EXPECT_EQ(document.CurNode->item.Caption.size(), caption.size() / 6 * 4);
+}
+
+TEST(LargeDefinition, AHugeItemLineOfBareQuotesIsRead) {
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadLine("zevmenu.AddItem(" + std::string(kHugeLength, '\'') + ");", document), 0u);
+    EXPECT_EQ(document.CurNode->item.Caption, "");
+}
+
+TEST(LargeDefinition, AThousandLevelsAreReadWrittenListedAndRebased) {
+    constexpr std::size_t kLevels = 1000;
+    std::string script = "zevmenu = new ZEVMenu('0');\r\nzevmenu.AddItem('x', 'a.html', '');\r\n";
+    std::string id = "1";
+    for (std::size_t level = 1; level < kLevels; ++level) {
+        script += "zevmenu = new ZEVMenu('" + id + "');\r\nzevmenu.columns = 2;\r\n";
+        script += "zevmenu.AddItem('x', 'a.html', '');\r\n";
+        id += "i1";
+    }
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadScript(script, document).errorCount, 0u);
+    EXPECT_EQ(document.tree.size(), kLevels);
+
+    const std::string bytes = DefinitionBytes(document);
+    MenuDocument again("/program");
+    EXPECT_EQ(ReadScript(bytes, again).errorCount, 0u);
+    EXPECT_EQ(DefinitionBytes(again), bytes);
+
+    const std::vector<std::string> submenus = ListSubmenus(document);
+    ASSERT_EQ(submenus.size(), kLevels - 1);
+    EXPECT_EQ(submenus.back().size(), std::string("x ()").size() + 2 * (kLevels - 1) - 1);
+
+    RebaseAllURLs(document, "/web", "/web/new");
+    const MenuNode* deepest = document.tree.firstNode();
+    while (deepest->hasChildren())
+        deepest = deepest->children().front();
+    EXPECT_EQ(deepest->item.URL, "../a.html");
+}
+
+TEST(LargeDefinition, TwentyThousandSiblingsAreReadWrittenAndEdited) {
+    constexpr std::size_t kCount = 20'000;
+    std::string script = "zevmenu = new ZEVMenu('0');\r\n";
+    for (std::size_t i = 0; i < kCount; ++i)
+        script += "zevmenu.AddItem('Item', 'a.html', '');\r\n";
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadScript(script, document).errorCount, 0u);
+    EXPECT_EQ(document.tree.topLevel().size(), kCount);
+
+    for (int i = 0; i < 500; ++i) {
+        EXPECT_EQ(AddMenuItem(document), EditResult::Done);
+        EXPECT_EQ(MoveUp(document), EditResult::Done);
+        EXPECT_EQ(MoveDown(document), EditResult::Done);
+    }
+    for (int i = 0; i < 500; ++i)
+        EXPECT_EQ(DeleteItem(document), EditResult::Done);
+    test::ExpectSoundTree(document.tree);
+    EXPECT_EQ(document.tree.size(), kCount);
+
+    MenuDocument again("/program");
+    EXPECT_EQ(ReadScript(DefinitionBytes(document), again).errorCount, 0u);
+    EXPECT_EQ(DefinitionBytes(again), DefinitionBytes(document));
+}
+
+TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
+    constexpr std::size_t kCount = 40'000;
+    constexpr auto kLimit = static_cast<std::size_t>(kMaxItemCounter);
+    std::string script = "zevmenu = new ZEVMenu('0');\r\n";
+    for (std::size_t i = 0; i < kCount; ++i)
+        script += "zevmenu.AddItem('Item', '', '');\r\n";
+    script += "zevmenu = new ZEVMenu('1');\r\nzevmenu.columns = 3;\r\n";
+    // The last item that was added, and the first that was not.
+    script += "zevmenu = new ZEVMenu('32767');\r\nzevmenu.columns = 4;\r\n";
+    script += "zevmenu = new ZEVMenu('32768');\r\nzevmenu.columns = 5;\r\n";
+    script += "zev_state.columns = 6;\r\n";
+
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadScript(script, document).errorCount, kCount - kLimit + 1);
+    EXPECT_EQ(document.tree.size(), kLimit);
+    EXPECT_EQ(document.ItemCounter, kMaxItemCounter);
+    EXPECT_EQ(document.tree.find("KeyLoad 1")->item.MenuProperty.Columns, "3");
+    EXPECT_EQ(document.tree.find("KeyLoad 32767")->item.MenuProperty.Columns, "4");
+    EXPECT_EQ(document.tree.find("KeyLoad 32768"), nullptr);
+    EXPECT_EQ(document.DefaultProp.Columns, "6");
+
+    EXPECT_EQ(AddMenuItem(document), EditResult::CounterExhausted);
+    EXPECT_EQ(document.tree.size(), kLimit);
+}
+
+TEST(LargeDefinition, AtTheLimitASubmenusItemsAreErrorsAndItsPropertiesAreRead) {
+    std::string script = "zevmenu = new ZEVMenu('0');\r\n";
+    for (int i = 0; i < kMaxItemCounter; ++i)
+        script += "zevmenu.AddItem('Item', '', '');\r\n";
+    script += "zevmenu = new ZEVMenu('2');\r\nzevmenu.columns = 3;\r\n";
+    script += "zevmenu.AddItem('a', '', '');\r\nzevmenu.AddItem('b', '', '');\r\n";
+    script += "zevmenu = new ZEVMenu('2i2');\r\nzevmenu.AddItem('c', '', '');\r\n";
+    MenuDocument document("/program");
+    EXPECT_EQ(ReadScript(script, document).errorCount, 3u);
+    EXPECT_EQ(document.tree.find("KeyLoad 2")->item.MenuProperty.Columns, "3");
+    EXPECT_FALSE(document.tree.find("KeyLoad 2")->hasChildren());
+}
+
+}  // namespace
+}  // namespace zev
