@@ -13,7 +13,6 @@
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
-#include "platform/qt/web_view.h"
 
 using namespace zev;
 
@@ -82,7 +81,6 @@ int main(int argc, char** argv) {
         QCoreApplication application(argc, argv);
         parser.process(application);
     }
-    PrepareForBrowser();
     QApplication application(argc, argv);
     QApplication::setWindowIcon(ProgramIcon());
     return RunEditor(application, parser.positionalArguments());
