@@ -21,6 +21,11 @@ constexpr const char* kFooter =
 /// The command that the arguments name, ready to run.
 using Command = std::function<ExitStatus()>;
 
+/// An empty path is a script's unset variable, not a wish.
+std::string refuseEmpty(const std::string& value) {
+    return value.empty() ? "must not be empty" : "";
+}
+
 CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& description) {
     CLI::App& command = *program.add_subcommand(name, description);
     command.set_version_flag("--version", "zevmenu " ZEV_VERSION, "Print the version and exit");
@@ -29,12 +34,16 @@ CLI::App& addCommand(CLI::App& program, const std::string& name, const std::stri
 }
 
 void addInput(CLI::App& command, std::string& input) {
-    command.add_option("IN", input, "Menu definition to read")->required()->type_name("");
+    command.add_option("IN", input, "Menu definition to read")
+        ->required()
+        ->type_name("")
+        ->check(refuseEmpty);
 }
 
 void addOutput(CLI::App& command, std::string& output) {
     command.add_option("-o,--output", output, "File to write; without it, standard output")
-        ->type_name("OUT");
+        ->type_name("OUT")
+        ->check(refuseEmpty);
 }
 
 void addFormat(CLI::App& program, FileSystem& files, Command& chosen) {
@@ -65,10 +74,12 @@ void addRebase(CLI::App& program, FileSystem& files, Command& chosen) {
         std::string(kFooter));
     command.add_option("--from", options->from, "Folder the URLs are relative to now")
         ->required()
-        ->type_name("OLDDIR");
+        ->type_name("OLDDIR")
+        ->check(refuseEmpty);
     command.add_option("--to", options->to, "Folder they are to be relative to")
         ->required()
-        ->type_name("NEWDIR");
+        ->type_name("NEWDIR")
+        ->check(refuseEmpty);
     addInput(command, options->input);
     addOutput(command, options->output);
     command.callback([&files, &chosen, options] {

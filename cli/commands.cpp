@@ -13,6 +13,10 @@ namespace zev {
 
 namespace {
 
+std::string joinPath(const std::string& folder, std::string_view name) {
+    return (std::filesystem::path(folder) / name).string();
+}
+
 bool isDrivePath(std::string_view path) {
     const bool isLetter =
         !path.empty() && ((path[0] >= 'A' && path[0] <= 'Z') || (path[0] >= 'a' && path[0] <= 'z'));
@@ -46,8 +50,8 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable,
     }
     ExitStatus status = ExitStatus::Done;
     for (const std::string_view name : kLibraryFiles) {
-        const std::string source = JoinPath(installed.value(), name);
-        const std::string destination = JoinPath(folder, name);
+        const std::string source = joinPath(installed.value(), name);
+        const std::string destination = joinPath(folder, name);
         const CopyResult result = CopyLibraryFile(files, source, destination);
         const std::string problem = CopyProblemText(result, source, destination);
         if (problem.empty())
@@ -117,7 +121,7 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
     }
     const ExitStatus libraryStatus = publishLibrary(files, executable, folder);
     // As when the editor saves, the definition is written whatever became of the scripts.
-    if (!writeDefinition(files, JoinPath(folder, name), document))
+    if (!writeDefinition(files, joinPath(folder, name), document))
         return ExitStatus::FileProblem;
     return libraryStatus == ExitStatus::Done ? *status : libraryStatus;
 }

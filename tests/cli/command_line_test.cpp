@@ -1,0 +1,144 @@
+#include <gtest/gtest.h>
+
+#include "tests/cli/run_program.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/test_files.h"
+
+// What holds for every command: arguments, help, version, exit status.
+
+namespace zev::test {
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
+    const TempFolder folder;
+    makeFile(folder / "in.js", kSmallDefinition);
+    const Arguments cases[] = {
+        {},
+        {"unknown"},
+        {"format"},
+        {"format", "in.js", "in.js"},
+        {"format", "in.js", "--unknown"},
+        {"format", "in.js", "-o"},
+        {"format", "in.js", "-o", "a.js", "-o", "b.js"},
+        {"rebase", "in.js"},
+        {"rebase", "--from", "/a", "in.js"},
+        {"rebase", "--from", "/a", "--to", "C:\\a", "in.js"},
+        {"rebase", "--from", "", "--to", "/a", "in.js"},
+        {"format", "in.js", "-o", ""},
+        {"format", ""},
+        {"submenus"},
+        {"submenus", "in.js", "-o", "a.js"},
+        {"publish", "in.js"},
+        {"publish", "-", "."},
+        {"-o", "a.js", "format", "in.js"},
+    };
+    for (const Arguments& arguments : cases) {
+        const ProgramResult result = runZevmenu(arguments, folder.path());
+        EXPECT_EQ(result.status, 2) << testing::PrintToString(arguments);
+        EXPECT_EQ(result.output, "") << testing::PrintToString(arguments);
+        EXPECT_NE(result.problems, "") << testing::PrintToString(arguments);
+    }
+    EXPECT_EQ(namesIn(folder.path()), Arguments{"in.js"});
+}
+
+TEST(CommandLineTest, HelpAndVersionAreEverywhereAndGoToStandardOutput) {
+    const TempFolder folder;
+    for (const char* const command : {"", "format", "rebase", "submenus", "publish"}) {
+        Arguments arguments;
+        if (*command != '\0')
+            arguments.push_back(command);
+        arguments.push_back("--version");
+        ProgramResult result = runZevmenu(arguments, folder.path());
+        EXPECT_EQ(result.status, 0) << command;
+        EXPECT_EQ(result.output, "zevmenu " ZEVMENU_VERSION "\n") << command;
+        for (const char* const option : {"--help", "-h"}) {
+            arguments.back() = option;
+            result = runZevmenu(arguments, folder.path());
+            EXPECT_EQ(result.status, 0) << command;
+            EXPECT_NE(result.output.find("Usage: zevmenu"), std::string::npos) << command;
+            EXPECT_NE(result.output.find("Exit status: 0 done"), std::string::npos) << command;
+            EXPECT_EQ(result.problems, "") << command;
+        }
+    }
+}
+
+TEST(CommandLineTest, InputThatCannotBeReadHasStatusThreeAndNamesFileAndReason) {
+    const TempFolder folder;
+    makeFile(folder / "binary.js", std::string("zevmenu\0", 8));
+    struct Case {
+        const char* input;
+        const char* problem;
+    };
+    const Case cases[] = {
+        {"missing.js", "zevmenu: missing.js: No such file or directory\n"},
+        {".", "zevmenu: .: Is a directory\n"},
+        {"binary.js", "zevmenu: binary.js: is not a text file\n"},
+        {"/dev/zero", "zevmenu: /dev/zero: larger than 256 MiB, which no menu definition is\n"},
+    };
+    for (const Case& c : cases) {
+        const Arguments commands[] = {{"format", c.input, "-o", "out.js"},
+                                      {"rebase", "--from", "/a", "--to", "/b", c.input},
+                                      {"submenus", c.input},
+                                      {"publish", c.input, "."}};
+        for (const Arguments& arguments : commands) {
+            const ProgramResult result = runZevmenu(arguments, folder.path());
+            EXPECT_EQ(result.status, 3) << testing::PrintToString(arguments);
+            EXPECT_EQ(result.problems, c.problem) << testing::PrintToString(arguments);
+            EXPECT_EQ(result.output, "");
+        }
+    }
+    EXPECT_EQ(namesIn(folder.path()), Arguments{"binary.js"});
+}
+
+TEST(CommandLineTest, StandardInputThatCannotBeReadIsNamed) {
+    const TempFolder folder;
+    const ProgramResult result = runZevmenu({"format", "-"}, folder.path(), std::string("a\0b", 3));
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.problems, "zevmenu: standard input: is not a text file\n");
+}
+
+TEST(CommandLineTest, OutputThatCannotBeWrittenHasStatusThree) {
+    const TempFolder folder;
+    makeFile(folder / "in.js", kSmallDefinition);
+    struct Case {
+        OutputTo outputTo;
+        const char* problem;
+    };
+    const Case cases[] = {
+        {OutputTo::FullDisk, "zevmenu: standard output: No space left on device\n"},
+        {OutputTo::ClosedPipe, "zevmenu: standard output: Broken pipe\n"},
+        {OutputTo::Nothing, "zevmenu: standard output: Bad file descriptor\n"},
+    };
+    const Arguments commands[] = {{"format", "in.js"},
+                                  {"rebase", "--from", "/a", "--to", "/b", "in.js"},
+                                  {"submenus", "in.js"},
+                                  {"--version"},
+                                  {"format", "--help"}};
+    for (const Case& c : cases) {
+        for (const Arguments& arguments : commands) {
+            const ProgramResult result = runZevmenu(arguments, folder.path(), "", c.outputTo);
+            EXPECT_EQ(result.status, 3) << testing::PrintToString(arguments);
+            EXPECT_EQ(result.problems, c.problem) << testing::PrintToString(arguments);
+        }
+    }
+}
+
+TEST(CommandLineTest, NamesThatLookLikeOptionsFollowADoubleDash) {
+    const TempFolder folder;
+    makeFile(folder / "-o", kSmallDefinition);
+    const ProgramResult result = runZevmenu({"submenus", "--", "-o"}, folder.path());
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_EQ(result.output, "Products (2)\n");
+}
+
+TEST(CommandLineTest, AFileMayBeNamedLikeACommand) {
+    const TempFolder folder;
+    makeFile(folder / "publish", kSmallDefinition);
+    const ProgramResult result = runZevmenu({"submenus", "publish"}, folder.path());
+    EXPECT_EQ(result.status, 0) << result.problems;
+}
+
+}  // namespace
+}  // namespace zev::test

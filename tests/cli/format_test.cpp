@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <chrono>
+#include <filesystem>
+
+#include "tests/cli/run_program.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/test_files.h"
+
+namespace zev::test {
+namespace {
+
+class FormatTest : public testing::Test {
+  protected:
+    ProgramResult run(const std::vector<std::string>& arguments, const std::string& input = {}) {
+        return runZevmenu(arguments, folder.path(), input);
+    }
+    TempFolder folder;
+};
+
+TEST_F(FormatTest, WritesAFileOfTheProgramsOwnAsItIs) {
+    makeFile(folder / "in.js", kSmallDefinition);
+    const ProgramResult result = run({"format", "in.js"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, kSmallDefinition);
+    EXPECT_EQ(result.problems, "");
+}
+
+TEST_F(FormatTest, TakesHandWrittenLinesIntoTheProgramsForm) {
+    std::string handWritten = kSmallDefinition;
+    for (std::size_t at = 0; (at = handWritten.find("\r\n", at)) != std::string::npos;)
+        handWritten.replace(at, 2, "\n  ");
+    const ProgramResult result = run({"format", "-"}, "// my menu\n" + handWritten);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, kSmallDefinition);
+}
+
+TEST_F(FormatTest, WritesToStandardOutputForADashAndToAFileForAName) {
+    EXPECT_EQ(run({"format", "-", "-o", "-"}, kSmallDefinition).output, kSmallDefinition);
+    const ProgramResult result = run({"format", "-", "--output", "out.js"}, kSmallDefinition);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(contentOf(folder / "out.js"), kSmallDefinition);
+}
+
+TEST_F(FormatTest, MayReplaceItsOwnInput) {
+    makeFile(folder / "in.js", "zevmenu = new ZEVMenu('0');\nzevmenu.AddItem('A', '', '');\n");
+    const std::string expected = run({"format", "in.js"}).output;
+    const ProgramResult result = run({"format", "in.js", "-o", "in.js"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(contentOf(folder / "in.js"), expected);
+    EXPECT_EQ(namesIn(folder.path()), std::vector<std::string>{"in.js"});
+}
+
+TEST_F(FormatTest, CountsErrorsInTheEditorsWordsAndWritesTheRest) {
+    const std::string oneError =
+        "zevmenu = new ZEVMenu('0');\nzevmenu.AddItem('A', '', '');\n"
+        "zevmenu = new ZEVMenu('7');\nzevmenu.columns = 2;\n";
+    ProgramResult result = run({"format", "-"}, oneError);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.problems, "1 errors encountered during parsing\n");
+    EXPECT_NE(result.output.find("zevmenu.AddItem('A', '', '');"), std::string::npos);
+    result = run({"format", "-", "-o", "out.js"}, oneError + "zevmenu.AddItem('B', '', '');\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.problems, "2 errors encountered during parsing\n");
+    EXPECT_EQ(contentOf(folder / "out.js"), run({"format", "out.js"}).output);
+}
+
+TEST_F(FormatTest, WritesTextOutsideAsciiAsUtf8WithAByteOrderMark) {
+    const std::string mark = "\xEF\xBB\xBF";
+    const std::string head = "zevmenu = new ZEVMenu('0');\nzevmenu.AddItem('";
+    const std::string tail = "', '', '');\n";
+    const std::string utf8 = run({"format", "-"}, head + "K\xC3\xA4se" + tail).output;
+    const std::string codePage = run({"format", "-"}, head + "K\xE4se" + tail).output;
+    EXPECT_TRUE(utf8.starts_with(mark));
+    EXPECT_NE(utf8.find("'K\xC3\xA4se'"), std::string::npos);
+    EXPECT_EQ(utf8, codePage);
+    EXPECT_EQ(run({"format", "-"}, utf8).output, utf8);
+}
+
+TEST_F(FormatTest, AnEmptyInputIsAnEmptyMenu) {
+    const ProgramResult result = run({"format", "-"}, "");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.output.starts_with("zev_state.columns = 1;\r\n"));
+    EXPECT_EQ(result.output.find("ZEVMenu"), std::string::npos);
+}
+
+TEST_F(FormatTest, OutputThatCannotBeWrittenIsNamedAndTheOldFileStays) {
+    makeFile(folder / "in.js", kSmallDefinition);
+    std::filesystem::create_directory(folder / "sub");
+    struct Case {
+        const char* output;
+        const char* problem;
+    };
+    const Case cases[] = {
+        {"sub", "zevmenu: sub: Is a directory\n"},
+        {"no/out.js", "zevmenu: no/out.js: No such file or directory\n"},
+        {"/dev/full", "zevmenu: /dev/full: No space left on device\n"},
+    };
+    for (const Case& c : cases) {
+        const ProgramResult result = run({"format", "in.js", "-o", c.output});
+        EXPECT_EQ(result.status, 3) << c.output;
+        EXPECT_EQ(result.problems, c.problem);
+    }
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"in.js", "sub"}));
+}
+
+TEST_F(FormatTest, WritesToThePlaceOfAnOpenStandardOutput) {
+    const ProgramResult result = run({"format", "-", "-o", "/dev/stdout"}, kSmallDefinition);
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_EQ(result.output, kSmallDefinition);
+}
+
+TEST_F(FormatTest, TakesAVeryLongLineAndAVeryDeepMenuInGoodTime) {
+    std::string longLine = "zevmenu = new ZEVMenu('0');\nzevmenu.AddItem('" +
+                           std::string(50'000'000, 'x') + "', '', '');\n";
+    makeFile(folder / "long.js", longLine);
+    std::string deep = "zevmenu = new ZEVMenu('0');\nzevmenu.AddItem('A', '', '');\n";
+    std::string id = "1";
+    for (int level = 0; level < 1000; ++level) {
+        deep += "zevmenu = new ZEVMenu('" + id + "');\nzevmenu.AddItem('A', '', '');\n";
+        id += "i1";
+    }
+    makeFile(folder / "deep.js", deep);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(run({"format", "long.js", "-o", "out.js"}).status, 0);
+    EXPECT_GT(std::filesystem::file_size(folder / "out.js"), 50'000'000U);
+    EXPECT_EQ(run({"format", "deep.js", "-o", "out.js"}).status, 0);
+    EXPECT_NE(contentOf(folder / "out.js").find("ZEVMenu('" + id.substr(0, id.size() - 2) + "')"),
+              std::string::npos);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
+}
+
+}  // namespace
+}  // namespace zev::test

@@ -1,0 +1,137 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/cli/run_program.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/test_files.h"
+
+namespace zev::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+const Names kScripts{"zevmenu_dom.js", "zevmenu_loader.js", "zevmenu_ns4.js"};
+
+class PublishTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        makeFile(folder / "menu.js", kSmallDefinition);
+        std::filesystem::create_directory(folder / "site");
+    }
+    ProgramResult run(const std::vector<std::string>& arguments) {
+        return runZevmenu(arguments, folder.path());
+    }
+    TempFolder folder;
+};
+
+TEST_F(PublishTest, WritesTheDefinitionAndTheRunTimeScriptsIntoTheFolder) {
+    const ProgramResult result = run({"publish", "menu.js", "site"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output + result.problems, "");
+    EXPECT_EQ(contentOf(folder / "site/menu.js"), kSmallDefinition);
+    for (const std::string& name : kScripts)
+        EXPECT_EQ(contentOf(folder / "site/" + name), contentOf(ZEVMENU_RUNTIME "/" + name));
+    EXPECT_EQ(namesIn(folder / "site").size(), 4U);
+}
+
+TEST_F(PublishTest, ReplacesOlderFiles) {
+    makeFile(folder / "site/menu.js", "old");
+    makeFile(folder / "site/zevmenu_dom.js", "old");
+    EXPECT_EQ(run({"publish", "menu.js", "site/"}).status, 0);
+    EXPECT_EQ(contentOf(folder / "site/menu.js"), kSmallDefinition);
+    EXPECT_EQ(contentOf(folder / "site/zevmenu_dom.js"),
+              contentOf(ZEVMENU_RUNTIME "/zevmenu_dom.js"));
+}
+
+TEST_F(PublishTest, IntoItsOwnFolderRewritesTheDefinitionAsTheEditorWould) {
+    makeFile(folder / "menu.js", "// mine\n" + kSmallDefinition);
+    EXPECT_EQ(run({"publish", "menu.js", "."}).status, 0);
+    EXPECT_EQ(contentOf(folder / "menu.js"), kSmallDefinition);
+    EXPECT_EQ(namesIn(folder.path()).size(), 5U);
+}
+
+TEST_F(PublishTest, NeedsAFolderThatIsThere) {
+    struct Case {
+        const char* folder;
+        const char* problem;
+    };
+    const Case cases[] = {{"nowhere", "zevmenu: nowhere: is not a folder\n"},
+                          {"menu.js", "zevmenu: menu.js: is not a folder\n"}};
+    for (const Case& c : cases) {
+        const ProgramResult result = run({"publish", "menu.js", c.folder});
+        EXPECT_EQ(result.status, 3);
+        EXPECT_EQ(result.problems, c.problem);
+    }
+    EXPECT_EQ(namesIn(folder.path()), (Names{"menu.js", "site"}));
+}
+
+TEST_F(PublishTest, RefusesADefinitionNamedLikeARunTimeFile) {
+    makeFile(folder / "zevmenu_dom.js", kSmallDefinition);
+    const ProgramResult result = run({"publish", "zevmenu_dom.js", "site"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.problems,
+              "zevmenu: zevmenu_dom.js: has the name of a run-time file that goes beside it\n");
+    EXPECT_EQ(namesIn(folder / "site"), Names{});
+}
+
+TEST_F(PublishTest, WritesTheDefinitionThoughAScriptIsMissing) {
+    std::filesystem::create_directory(folder / "bin");
+    const std::string program = folder / "bin/zevmenu";
+    std::filesystem::copy_file(ZEVMENU_PROGRAM, program);
+    makeFile(folder / "bin/zevmenu_loader.js", "loader");
+    makeFile(folder / "bin/zevmenu_dom.js", "dom");
+    const ProgramResult result =
+        runProgramAt(program, {"publish", "menu.js", "site"}, folder.path());
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.problems,
+              "zevmenu: Error: " + (folder / "bin/zevmenu_ns4.js") + " does not exist\n");
+    EXPECT_EQ(namesIn(folder / "site"), (Names{"menu.js", "zevmenu_dom.js", "zevmenu_loader.js"}));
+}
+
+TEST_F(PublishTest, FindsTheScriptsOfASystemWideInstallation) {
+    std::filesystem::create_directories(folder / "usr/bin");
+    std::filesystem::create_directories(folder / "usr/share/zevmenu-creator");
+    const std::string program = folder / "usr/bin/zevmenu";
+    std::filesystem::copy_file(ZEVMENU_PROGRAM, program);
+    for (const std::string& name : kScripts)
+        makeFile(folder / "usr/share/zevmenu-creator/" + name, "installed " + name);
+    const ProgramResult result =
+        runProgramAt(program, {"publish", "menu.js", "site"}, folder.path());
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_EQ(contentOf(folder / "site/zevmenu_ns4.js"), "installed zevmenu_ns4.js");
+}
+
+TEST_F(PublishTest, SaysWhenNothingIsInstalledAndStillWritesTheDefinition) {
+    std::filesystem::create_directories(folder / "usr/bin");
+    const std::string program = folder / "usr/bin/zevmenu";
+    std::filesystem::copy_file(ZEVMENU_PROGRAM, program);
+    const ProgramResult result =
+        runProgramAt(program, {"publish", "menu.js", "site"}, folder.path());
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.problems,
+              "zevmenu: Error: " + (folder / "usr/share/zevmenu-creator/zevmenu_loader.js") +
+                  " does not exist\n");
+    EXPECT_EQ(contentOf(folder / "site/menu.js"), kSmallDefinition);
+}
+
+TEST_F(PublishTest, NamesAScriptThatCouldNotBeReplaced) {
+    std::filesystem::create_directory(folder / "site/zevmenu_dom.js");
+    const ProgramResult result = run({"publish", "menu.js", "site"});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.problems,
+              "zevmenu: Error: site/zevmenu_dom.js not saved. Please check path permissions\n");
+    EXPECT_EQ(contentOf(folder / "site/menu.js"), kSmallDefinition);
+}
+
+TEST_F(PublishTest, CountsErrorsAndPublishesTheRest) {
+    makeFile(folder / "menu.js",
+             kSmallDefinition + "zevmenu = new ZEVMenu('9');\nzevmenu.x = 1;\n");
+    const ProgramResult result = run({"publish", "menu.js", "site"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.problems, "1 errors encountered during parsing\n");
+    EXPECT_EQ(contentOf(folder / "site/menu.js"), kSmallDefinition);
+}
+
+}  // namespace
+}  // namespace zev::test
