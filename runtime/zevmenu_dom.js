@@ -140,7 +140,7 @@ function keep(depth) {
 
 let layer = null;           // the element at the end of the body that holds every submenu box
 const boxes = new Map();    // menu -> its box, built when the menu is first opened
-const told = new Set();     // ids of menus that a warning was given for
+const told = new Set();     // what a warning was given for
 
 function submenuOf(link) {
     const menu = shared.menus[link.zevItem.childId];
@@ -309,24 +309,26 @@ function isOpen(link) {
     return link.getAttribute('aria-expanded') == 'true';
 }
 
-// Menu named by the two texts of a pop-up call: 'zev1' and the id, or 'zev1i' + N and the rest.
-function popupMenu(a, b) {
-    const call = /^zev1(?:i(\d+))?$/.exec(a);
-    const id = call && (call[1] ? call[1] + 'i' + b : String(b));
-    const menu = call && id != '0' ? shared.menus[id] : null;
-    const name = "('" + a + "', '" + b + "')";
-    if (!menu && !told.has(name)) {
-        told.add(name);
-        shared.warn('there is no submenu ' + name + ' to open');
-    }
-    return menu;
+// Id named by the two texts of a pop-up call: 'zev1' and the id, or 'zev1i' + N and the rest of it.
+function popupId(a, b) {
+    const call = typeof a == 'string' && /^zev1(?:i(\d+))?$/.exec(a);
+    if (!call || !/^(string|number)$/.test(typeof b)) return '';
+    return call[1] ? call[1] + 'i' + b : '' + b;
+}
+
+function popupMenu(id) {
+    const menu = shared.menus[id];
+    if (menu instanceof window.ZEVMenu && id != '0') return menu;
+    if (!told.has('popup ' + id)) shared.warn('ZEVMenuOpen: there is no submenu "' + id + '"');
+    told.add('popup ' + id);
+    return null;
 }
 
 const besideMousePx = 8;
 let actingLink = null;      // the pop-up link whose handler runs because of a key or tap
 
 shared.openPopup = function (a, b, where) {
-    const menu = typeof a == 'string' && /^(string|number)$/.test(typeof b) ? popupMenu(a, b) : null;
+    const menu = popupMenu(popupId(a, b));
     if (!menu || !document.body) return;
     const link = actingLink || (where.link instanceof Element ? where.link : null);
     if (levels.length && levels[0].menu == menu && levels[0].opener == link) return keep(1);
@@ -346,72 +348,61 @@ shared.openPopup = function (a, b, where) {
 };
 
 shared.closePopup = function (a, b) {
-    if (levels.length && levels[0].menu == popupMenu(a, b)) keep(0);
+    // The mouse's arrival on the pop-up is told before its leaving of the link.
+    if (levels.length && levels[0].menu.zevId == popupId(a, b) && !(over && depthOf(over.box))) keep(0);
 };
 
 // ---- Mouse ----
 
 const restMs = 200;                 // how long a mouse rests before it counts as staying
-let lastPoint = null;               // where the mouse was at its last event, in the window
-let trail = null;                   // the same, while it is on a menu
-let waiting = null;                 // { act, from, level, timer }: a hover put off, see hover()
+let over = null;                    // { box, link } the mouse is on, or null while on no menu
+let lastPoint = null;               // where it is there, in the window
+let waiting = null;                 // { from, timer }: a hover put off, see onPointerMove()
 
 function dropWaiting() {
     if (waiting) clearTimeout(waiting.timer);
     waiting = null;
 }
 
-function actNow() {
-    const act = waiting.act;
+// The mouse has come to stay: on an item, or on a box beside its items (link null).
+function hover() {
+    const { box, link } = over, depth = depthOf(box), child = levels[depth];
     dropWaiting();
-    act();
-}
-
-function pointOf(event) {
-    return { x: event.clientX, y: event.clientY };
-}
-
-// The mouse is over an item, or over a box beside its items (link null).
-function hover(box, link) {
-    const depth = depthOf(box), child = levels[depth];
     if (link && child && child.opener == link) return keep(depth + 1);
     keep(depth);
     if (link) openSubmenu(link);
 }
 
-function onPointerOver(event) {
-    if (event.pointerType != 'mouse') return;
-    // A box that appears under a resting mouse was not pointed at.
-    const point = pointOf(event);
-    if (lastPoint && point.x == lastPoint.x && point.y == lastPoint.y) return;
-    const link = linkAt(event.target), box = boxAt(event.target);
-    if (!box) return;
-    const level = levels[depthOf(box)], from = trail;
-    dropWaiting();
-    lastPoint = trail = point;
-    // On its way to the open submenu the mouse may cross other items.
-    if (level && from && level.opener != link &&
-        isHeadedFor(from, point, level.box.getBoundingClientRect(), level.side)) {
-        waiting = { act: () => hover(box, link), from, level, timer: setTimeout(actNow, restMs) };
-    } else {
-        hover(box, link);
-    }
+function isOnItsWay(from, point, level) {
+    return isHeadedFor(from, point, level.box.getBoundingClientRect(), level.side);
 }
 
+// Only a mouse that moves points at something: a box that appears under a resting one is entered
+// (pointerover), but not moved on.
 function onPointerMove(event) {
+    const point = { x: event.clientX, y: event.clientY }, before = lastPoint;
     if (event.pointerType != 'mouse') return;
-    lastPoint = trail = pointOf(event);
-    if (!waiting) return;
-    clearTimeout(waiting.timer);
-    waiting.timer = setTimeout(actNow, restMs);
-    const box = waiting.level.box.getBoundingClientRect();
-    if (!isHeadedFor(waiting.from, lastPoint, box, waiting.level.side)) actNow();
+    const link = linkAt(event.target), box = boxAt(event.target);
+    const isNew = !over || over.link != link || over.box != box;
+    const wasOnMenu = over != null;
+    lastPoint = point;
+    if (!box || (!isNew && !waiting)) return;
+    over = { box, link };
+    // On its way to the open submenu the mouse may cross other items, until it rests on one.
+    const from = waiting ? waiting.from : before;
+    const level = levels[depthOf(box)];
+    dropWaiting();
+    if (wasOnMenu && level && level.opener != link && isOnItsWay(from, point, level)) {
+        waiting = { from, timer: setTimeout(hover, restMs) };
+    } else {
+        hover();
+    }
 }
 
 function onPointerLeave(event) {
     if (event.pointerType != 'mouse') return;
+    lastPoint = over = null;
     dropWaiting();
-    trail = null;
     keep(0);
 }
 
@@ -554,7 +545,6 @@ function watch(isOn) {
 
 function listen(host) {
     const root = host.shadowRoot;
-    root.addEventListener('pointerover', onPointerOver);
     root.addEventListener('pointermove', onPointerMove);
     root.addEventListener('pointerdown', onPointerDown);
     root.addEventListener('click', onClick);

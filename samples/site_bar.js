@@ -3,7 +3,6 @@ zev_state.hbgcolor = '#F2B441';
 zev_state.hftcolor = '#1B2733';
 zev_state.nbgcolor = '#1F4E79';
 zev_state.nftcolor = '#FFFFFF';
-zev_state.hspacing = 1;
 zev_state.menuoffset = 1;
 zev_state.closedelay = 500;
 zev_state.position = 'right';
@@ -12,6 +11,7 @@ zev_state.fontSize = '10pt';
 
 zevmenu = new ZEVMenu('0');
 zevmenu.columns = 10;
+zevmenu.hspacing = 1;
 zevmenu.position = 'bottom';
 zevmenu.fontWeight = 'bold';
 zevmenu.cellpadding = 9;

@@ -1,0 +1,215 @@
+// What the browser tests share: one chromium, a web server on this machine that serves the library
+// and the pages of a test, and questions about what a visitor sees.
+import { readFile } from 'node:fs/promises';
+import { mkdtempSync, rmSync } from 'node:fs';
+import { createServer } from 'node:http';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
+import { fileURLToPath } from 'node:url';
+import puppeteer from 'puppeteer-core';
+
+export const libraryFolder = fileURLToPath(new URL('../../../runtime/', import.meta.url));
+export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.meta.url));
+
+const types = { html: 'text/html', xhtml: 'application/xhtml+xml', js: 'text/javascript', svg: 'image/svg+xml' };
+const folders = { library: libraryFolder, samples: samplesFolder };
+
+const chromiumArguments = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
+    '--disable-background-networking', '--disable-component-update', '--disable-sync'];
+
+/*
+ * Starts the browser and the server. Paths of the server: /library/ and /samples/ are the folders of
+ * the repository, everything else comes from `files` (path -> text, or { text, headers, delayMs });
+ * any other .html answers with an empty page, as a place for links to lead to.
+ */
+export async function startLab() {
+    const profile = mkdtempSync(join(tmpdir(), 'zevmenu-browser-'));
+    const files = new Map();
+    const server = createServer((request, response) => answer(files, request, response));
+    await new Promise(resolve => server.listen(0, '127.0.0.1', resolve));
+    const browser = await puppeteer.launch({
+        executablePath: process.env.CHROMIUM || '/usr/bin/chromium', headless: true, args: chromiumArguments,
+        userDataDir: profile,
+    });
+    const origin = `http://127.0.0.1:${server.address().port}`;
+    const page = await newPage(browser);
+    return {
+        origin, files, page,
+        newPage: () => newPage(browser),
+        show: (options = {}) => show(page, origin, files, options),
+        async close() {
+            await browser.close();
+            server.closeAllConnections();
+            server.close();
+            rmSync(profile, { recursive: true, force: true, maxRetries: 5 });
+        },
+    };
+}
+
+async function answer(files, request, response) {
+    const path = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
+    const [, folder, name] = /^\/(library|samples)\/(.*)$/.exec(path) || [];
+    const given = files.get(path);
+    const { text = given, headers = {}, delayMs = 0 } = given instanceof Object ? given : {};
+    const found = text !== undefined ? text
+        : folder ? await readFile(join(folders[folder], name)).catch(() => null)
+        : path.endsWith('.html') ? `<!DOCTYPE html><title>${path}</title>` : null;
+    await new Promise(resolve => setTimeout(resolve, delayMs));
+    const type = types[path.split('.').pop()] || 'text/plain';
+    response.writeHead(found === null ? 404 : 200, {
+        'Content-Type': type + '; charset=utf-8', 'Cache-Control': given === undefined ? 'max-age=60' : 'no-store',
+        ...headers,
+    });
+    response.end(found);
+}
+
+// A browser tab; `warnings` and `errors` collect what its console got since the last show().
+async function newPage(browser) {
+    const page = await browser.newPage();
+    page.warnings = [];
+    page.errors = [];
+    page.on('console', message => message.type() == 'warn' && page.warnings.push(message.text()));
+    page.on('pageerror', error => page.errors.push(String(error)));
+    return page;
+}
+
+export const script = text => `<script language="JavaScript1.2">${text}</script>`;
+export const source = url => `<script language="JavaScript1.2" src="${url}"></script>`;
+
+// A page as the integrator writes it. Every part can be replaced; `place` is what stands where the
+// menu is to be drawn.
+export function pageText({
+    doctype = '<!DOCTYPE html>', library = '/library/', definitionUrl = 'menu.js', head = '', before = '',
+    place = source(definitionUrl) + script('ZEVDisplayMenu();'), after = '',
+    end = script('ZEVCreateMenu()'), handlers = 'onload="ZEVLoadMenu();" onresize="ZEVLoadMenu();"',
+    html = '<html lang="en">', loader = script(`var zev_path = '${library}';`) + source(library + 'zevmenu_loader.js'),
+} = {}) {
+    return `${doctype}\n${html}<head><meta charset="utf-8"><title>Test</title>${loader}${head}</head>\n` +
+        `<body ${handlers}>${before}${place}${after}${end}</body></html>`;
+}
+
+/*
+ * Shows a page with the given definition in the lab's tab and waits until the library is ready; the
+ * mouse is then in the window's lower right corner. Options: those of pageText(), `definition`,
+ * `path` of the page, `headers` of its answer, and the window's width, height, hasTouch.
+ */
+async function show(page, origin, files, options) {
+    const { definition = nested, path = '/site/page.html', headers = {} } = options;
+    const { width = 800, height = 600, hasTouch = false } = options;
+    files.set('/site/menu.js', definition);
+    files.set(path, { text: pageText(options), headers });
+    await page.setViewport({ width, height, hasTouch });
+    await page.emulateMediaFeatures([]);
+    await page.mouse.move(width - 1, height - 1);
+    page.warnings = [];
+    page.errors = [];
+    await page.goto(origin + path);
+    await page.waitForFunction(() => window.ZEVMenu?.shared.sums);
+    return page;
+}
+
+// Home, Products and Contact; below Products two boats, below them kayaks, below them sea kayaks.
+export const nested = `
+zev_state.closedelay = 300;
+zevmenu = new ZEVMenu('0');
+zevmenu.columns = 10;
+zevmenu.position = 'bottom';
+zevmenu.cellpadding = 5;
+zevmenu.AddItem('Home', 'home.html', '');
+zevmenu.AddItem('Products', 'products.html', '');
+zevmenu.AddItem('Contact', 'contact.html', '');
+zevmenu = new ZEVMenu('2');
+zevmenu.cellpadding = 5;
+zevmenu.AddItem('Boats', 'boats.html', '');
+zevmenu.AddItem('Oars', 'oars.html', '');
+zevmenu = new ZEVMenu('2i1');
+zevmenu.cellpadding = 5;
+zevmenu.AddItem('Canoes', 'canoes.html', '');
+zevmenu.AddItem('Kayaks', 'kayaks.html', '');
+zevmenu = new ZEVMenu('2i1i2');
+zevmenu.cellpadding = 5;
+zevmenu.AddItem('Sea kayaks', 'sea.html', '');
+zevmenu = new ZEVMenu('3');
+zevmenu.cellpadding = 5;
+zevmenu.AddItem('Map', 'map.html', '');
+zevmenu.AddItem('Letter', 'letter.html', '');
+`;
+
+// ---- What a visitor sees ----
+
+// The element of the item with that name; fails when no menu has it.
+export async function item(page, name) {
+    const found = await findItem(page, name);
+    if (!found) throw new Error(`no item "${name}"`);
+    return found;
+}
+
+async function findItem(page, name) {
+    return page.$(`>>> li > a[aria-label="${name}"]`);
+}
+
+export async function isShown(page, name) {
+    const link = await findItem(page, name);
+    return !!link && (await link.boundingBox()) !== null;
+}
+
+// Which of the names are to be seen.
+export async function shown(page, ...names) {
+    const result = [];
+    for (const name of names) {
+        if (await isShown(page, name)) result.push(name);
+    }
+    return result.join(' ');
+}
+
+export async function rect(page, name) {
+    return (await item(page, name)).evaluate(link => link.getBoundingClientRect().toJSON());
+}
+
+// The rectangle of the box around an item.
+export async function boxRect(page, name) {
+    return (await item(page, name)).evaluate(link => link.closest('ul').getBoundingClientRect().toJSON());
+}
+
+export async function style(page, name, property, selector = 'a') {
+    return (await item(page, name)).evaluate(
+        (link, property, selector) => getComputedStyle(link.closest(selector))[property], property, selector);
+}
+
+export async function waitShown(page, name, timeout = 5000) {
+    await until(() => isShown(page, name), `"${name}" to be shown`, timeout);
+}
+
+export async function waitGone(page, name, timeout = 5000) {
+    await until(async () => !await isShown(page, name), `"${name}" to be gone`, timeout);
+}
+
+export async function until(question, what, timeout = 5000) {
+    const end = Date.now() + timeout;
+    while (!await question()) {
+        if (Date.now() > end) throw new Error(`waited ${timeout} ms for ${what}`);
+        await pause(10);
+    }
+}
+
+export function pause(ms) {
+    return new Promise(resolve => setTimeout(resolve, ms));
+}
+
+// Moves the mouse onto items one after the other, and waits for each to be there.
+export async function hover(page, ...names) {
+    for (const name of names) {
+        await waitShown(page, name);
+        const { x, y, width, height } = await rect(page, name);
+        await page.mouse.move(x + width / 2, y + height / 2);
+    }
+}
+
+// Name of the item that has the focus.
+export function focus(page) {
+    return page.evaluate(() => {
+        const host = document.activeElement;
+        const link = host?.shadowRoot?.activeElement || host;
+        return link.getAttribute('aria-label') || link.id || link.tagName;
+    });
+}

@@ -1,0 +1,104 @@
+// The sums of zevmenu_dom.js, run in node without a page.
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import test from 'node:test';
+import vm from 'node:vm';
+
+const source = readFileSync(new URL('../../../runtime/zevmenu_dom.js', import.meta.url), 'utf8');
+
+function loadSums() {
+    const window = { ZEVMenu: { shared: { menus: {} } } };
+    const document = { readyState: 'loading', addEventListener() {} };
+    vm.runInNewContext(source, { window, document });
+    return window.ZEVMenu.shared.sums;
+}
+
+const { place, isHeadedFor, neighbour, realSide } = loadSums();
+const frame = { width: 800, height: 600 };
+
+function rect(left, top, width, height) {
+    return { left, top, right: left + width, bottom: top + height };
+}
+
+const middle = rect(300, 200, 100, 20);
+const box = { width: 150, height: 80 };
+
+// [rule, anchor, size, side, offset, rtl, expected left, top, side]
+const placements = [
+    ['right', middle, box, 'right', 1, false, 401, 200, 'right'],
+    ['bottom', middle, box, 'bottom', 1, false, 300, 221, 'bottom'],
+    ['left', middle, box, 'left', 1, false, 149, 200, 'left'],
+    ['top', middle, box, 'top', 1, false, 300, 119, 'top'],
+    ['a negative offset overlaps', middle, box, 'right', -5, false, 395, 200, 'right'],
+    ['right flips at the right edge', rect(690, 200, 100, 20), box, 'right', 1, false, 539, 200, 'left'],
+    ['left flips at the left edge', rect(10, 200, 100, 20), box, 'left', 1, false, 111, 200, 'right'],
+    ['bottom flips at the lower edge', rect(300, 560, 100, 20), box, 'bottom', 1, false, 300, 479, 'top'],
+    ['top flips at the upper edge', rect(300, 30, 100, 20), box, 'top', 1, false, 300, 51, 'bottom'],
+    ['exactly enough room does not flip', rect(549, 200, 100, 20), box, 'right', 1, false, 650, 200, 'right'],
+    ['one pixel too little flips', rect(550, 200, 100, 20), box, 'right', 1, false, 399, 200, 'left'],
+    ['no room on either side shifts over the item', rect(50, 200, 700, 20), box, 'right', 1, false, 650, 200, 'right'],
+    ['a box beside shifts up at the lower edge', rect(300, 560, 100, 20), box, 'right', 1, false, 401, 520, 'right'],
+    ['a box below shifts left at the right edge', rect(700, 200, 80, 20), box, 'bottom', 1, false, 650, 221, 'bottom'],
+    ['a box taller than the window begins at its top', middle, { width: 150, height: 900 }, 'right', 1, false, 401, 0, 'right'],
+    ['a box wider than the window begins at its left', middle, { width: 900, height: 80 }, 'bottom', 1, false, 0, 221, 'bottom'],
+    ['right to left, a box below ends with its item', middle, box, 'bottom', 1, true, 250, 221, 'bottom'],
+    ['a point without a side is the corner', rect(30, 40, 0, 0), box, '', 0, false, 30, 40, ''],
+    ['a point without a side shifts into the window', rect(790, 590, 0, 0), box, '', 0, false, 650, 520, ''],
+];
+
+for (const [rule, anchor, size, side, offset, isRtl, left, top, real] of placements) {
+    test(`place: ${rule}`, () => {
+        assert.deepEqual({ ...place(anchor, size, side, offset, frame, isRtl) }, { left, top, side: real });
+    });
+}
+
+test('a right-to-left page mirrors right and left, and leaves bottom and top', () => {
+    assert.deepEqual(['right', 'left', 'bottom', 'top'].map(side => realSide(side, true)),
+                     ['left', 'right', 'bottom', 'top']);
+    assert.equal(realSide('right', false), 'right');
+});
+
+const submenu = rect(200, 100, 100, 200);
+// [rule, from, to, box, side, expected]
+const paths = [
+    ['down and to the right, towards a box on the right', [150, 110], [170, 140], submenu, 'right', true],
+    ['straight to the right', [150, 110], [180, 110], submenu, 'right', true],
+    ['straight down', [150, 110], [150, 140], submenu, 'right', false],
+    ['away', [150, 110], [120, 110], submenu, 'right', false],
+    ['too steep', [150, 110], [155, 200], submenu, 'right', false],
+    ['towards a box on the left', [350, 110], [330, 140], submenu, 'left', true],
+    ['towards a box below', [250, 50], [270, 80], submenu, 'bottom', true],
+    ['sideways above a box below', [250, 50], [400, 52], submenu, 'bottom', false],
+    ['towards a box above', [250, 350], [270, 320], submenu, 'top', true],
+    ['a box without a side', [150, 110], [170, 140], submenu, '', false],
+];
+
+for (const [rule, [x, y], [toX, toY], target, side, expected] of paths) {
+    test(`isHeadedFor: ${rule} is ${expected}`, () => {
+        assert.equal(isHeadedFor({ x, y }, { x: toX, y: toY }, target, side), expected);
+    });
+}
+
+// [rule, index, count, columns, direction, expected]
+const moves = [
+    ['a column goes down', 0, 3, 1, 'bottom', 1],
+    ['a column goes round at its end', 2, 3, 1, 'bottom', 0],
+    ['a column goes round at its start', 0, 3, 1, 'top', 2],
+    ['sideways leads out of a column', 1, 3, 1, 'right', -1],
+    ['a row goes right', 0, 3, 10, 'right', 1],
+    ['a row goes round at its end', 2, 3, 10, 'right', 0],
+    ['a row goes round at its start', 0, 3, 10, 'left', 2],
+    ['downwards leads out of a row', 1, 3, 10, 'bottom', -1],
+    ['a grid goes right', 0, 5, 2, 'right', 1],
+    ['the end of a row leads out of a grid', 1, 5, 2, 'right', -1],
+    ['the start of a row leads out of a grid', 2, 5, 2, 'left', -1],
+    ['a grid goes down', 1, 5, 2, 'bottom', 3],
+    ['the last row leads out of a grid', 3, 5, 2, 'bottom', -1],
+    ['a grid goes up', 4, 5, 2, 'top', 2],
+];
+
+for (const [rule, index, count, columns, direction, expected] of moves) {
+    test(`neighbour: ${rule}`, () => {
+        assert.equal(neighbour(index, count, columns, direction), expected);
+    });
+}
