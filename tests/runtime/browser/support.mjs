@@ -12,13 +12,13 @@ export const libraryFolder = fileURLToPath(new URL('../../../runtime/', import.m
 export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.meta.url));
 
 const types = { html: 'text/html', xhtml: 'application/xhtml+xml', js: 'text/javascript', svg: 'image/svg+xml' };
-const folders = { library: libraryFolder, samples: samplesFolder };
+const folders = { runtime: libraryFolder, samples: samplesFolder };
 
 const chromiumArguments = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
     '--disable-background-networking', '--disable-component-update', '--disable-sync'];
 
 /*
- * Starts the browser and the server. Paths of the server: /library/ and /samples/ are the folders of
+ * Starts the browser and the server. Paths of the server: /runtime/ and /samples/ are the folders of
  * the repository, everything else comes from `files` (path -> text, or { text, headers, delayMs });
  * any other .html answers with an empty page, as a place for links to lead to.
  */
@@ -48,7 +48,7 @@ export async function startLab() {
 
 async function answer(files, request, response) {
     const path = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
-    const [, folder, name] = /^\/(library|samples)\/(.*)$/.exec(path) || [];
+    const [, folder, name] = /^\/(runtime|samples)\/(.*)$/.exec(path) || [];
     const given = files.get(path);
     const { text = given, headers = {}, delayMs = 0 } = given instanceof Object ? given : {};
     const found = text !== undefined ? text
@@ -79,7 +79,7 @@ export const source = url => `<script language="JavaScript1.2" src="${url}"></sc
 // A page as the integrator writes it. Every part can be replaced; `place` is what stands where the
 // menu is to be drawn.
 export function pageText({
-    doctype = '<!DOCTYPE html>', library = '/library/', definitionUrl = 'menu.js', head = '', before = '',
+    doctype = '<!DOCTYPE html>', library = '/runtime/', definitionUrl = 'menu.js', head = '', before = '',
     place = source(definitionUrl) + script('ZEVDisplayMenu();'), after = '',
     end = script('ZEVCreateMenu()'), handlers = 'onload="ZEVLoadMenu();" onresize="ZEVLoadMenu();"',
     html = '<html lang="en">', loader = script(`var zev_path = '${library}';`) + source(library + 'zevmenu_loader.js'),
@@ -145,7 +145,7 @@ export async function item(page, name) {
 }
 
 async function findItem(page, name) {
-    return page.$(`>>> li > a[aria-label="${name}"]`);
+    return page.$(`>>> li > a:is([aria-label="${name}"], :has(> img[alt="${name}"]))`);
 }
 
 export async function isShown(page, name) {

@@ -1,0 +1,30 @@
+// Runs the tests of one folder: node run.mjs unit|browser. Fails, and says why, when something that
+// the tests need is missing.
+import { spawnSync } from 'node:child_process';
+import { existsSync, readFileSync, readdirSync } from 'node:fs';
+import { fileURLToPath } from 'node:url';
+
+const here = fileURLToPath(new URL('.', import.meta.url));
+const folder = process.argv[2];
+
+function fail(message) {
+    console.error(message);
+    process.exit(1);
+}
+
+if (!['unit', 'browser'].includes(folder)) fail('Usage: node run.mjs unit|browser');
+
+const { devDependencies } = JSON.parse(readFileSync(here + 'package.json', 'utf8'));
+const missing = Object.keys(devDependencies).filter(name => !existsSync(here + 'node_modules/' + name));
+if (missing.length) fail(`${missing.join(', ')} not installed; run: npm ci --prefix tests/runtime`);
+
+const chromium = process.env.CHROMIUM || '/usr/bin/chromium';
+if (folder == 'browser' && !existsSync(chromium)) fail(`${chromium} not found; install the package chromium`);
+
+const files = readdirSync(here + folder).filter(name => name.endsWith('.test.mjs'));
+if (!files.length) fail(`no tests in ${here}${folder}`);
+
+const result = spawnSync(process.execPath,
+    ['--test', '--test-reporter=spec', '--test-concurrency=2', ...files.map(name => `${here}${folder}/${name}`)],
+    { stdio: 'inherit' });
+process.exit(result.status ?? 1);
