@@ -1,0 +1,395 @@
+// The real message boxes and file dialogs of Qt, answered with real keys.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+#include "platform/qt/qt_common_dialogs.h"
+#include "platform/qt/qt_message_box.h"
+
+using namespace zev;
+
+namespace {
+
+using Answer = MessageBox::Answer;
+using Buttons = MessageRequest::Buttons;
+
+/// Runs `step` as soon as a modal window of type T is shown.
+template <typename T>
+void whenShown(std::function<void(T&)> step) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, step = std::move(step)] {
+        auto* widget = qobject_cast<T*>(QApplication::activeModalWidget());
+        if (widget == nullptr || !widget->isVisible()) {
+            return;
+        }
+        timer->stop();
+        timer->deleteLater();
+        const QPointer<QWidget> shown = widget;
+        step(*widget);
+        if (QTest::currentTestFailed() && shown != nullptr) {
+            shown->close();  // a step that failed did not come to its end
+        }
+    });
+    timer->start(10);
+}
+
+void typeName(QFileDialog& dialog, const QString& name) {
+    auto* field = dialog.findChild<QLineEdit*>("fileNameEdit");
+    field->setFocus();
+    field->selectAll();
+    for (const QChar character : name) {
+        QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, character, Qt::NoModifier);
+    }
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
+void makeFile(const QString& path) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+QString textOf(const QMessageBox& box) {
+    return box.text().remove(QChar(0x200B));
+}
+
+FileDialogRequest saveRequest(const QString& folder, int filterIndex = 2) {
+    FileDialogRequest request;
+    request.title = "Save As";
+    request.filter = "All Files (*.*)|*.*|JavaScript (*.js)|*.js";
+    request.filterIndex = filterIndex;
+    request.folder = folder.toStdString();
+    request.asksBeforeReplacing = true;
+    return request;
+}
+
+}  // namespace
+
+class test_qt_services : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase();
+    void eachKeyIsAnAnswer_data();
+    void eachKeyIsAnAnswer();
+    void closingTheBoxIsTheMildestAnswer_data();
+    void closingTheBoxIsTheMildestAnswer();
+    void messagesAreShownAsTheyAre();
+    void aMessageWithoutTitleHasTheProgramsName();
+    void longPathsWrapInsideTheScreen_data();
+    void longPathsWrapInsideTheScreen();
+    void aBoxBelongsToTheActiveWindow();
+    void filtersAreTranslated_data();
+    void filtersAreTranslated();
+    void aFilterOfOneKindGivesTheExtension_data();
+    void aFilterOfOneKindGivesTheExtension();
+    void openGivesTheFullPath();
+    void openShowsTheRequest();
+    void openCancelledGivesNothing();
+    void openStartsWhereTheLastFileWasChosen();
+    void saveAddsTheExtensionOfTheFilter_data();
+    void saveAddsTheExtensionOfTheFilter();
+    void savePresetsNameAndFolder();
+    void saveAsksAboutTheFileThatIsReallyReplaced();
+    void saveReplacesWhenToldSo();
+    void saveReplacesUnaskedWhenNotRequested();
+    void saveCancelledGivesNothing();
+};
+
+void test_qt_services::initTestCase() {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void test_qt_services::eachKeyIsAnAnswer_data() {
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("ok, Enter") << int(Buttons::Ok) << int(Qt::Key_Return) << int(Answer::Ok);
+    QTest::newRow("ok, Escape") << int(Buttons::Ok) << int(Qt::Key_Escape) << int(Answer::Ok);
+    QTest::newRow("ok/cancel, Enter")
+        << int(Buttons::OkCancel) << int(Qt::Key_Return) << int(Answer::Ok);
+    QTest::newRow("ok/cancel, Escape")
+        << int(Buttons::OkCancel) << int(Qt::Key_Escape) << int(Answer::Cancel);
+    QTest::newRow("yes/no, Enter")
+        << int(Buttons::YesNo) << int(Qt::Key_Return) << int(Answer::Yes);
+    QTest::newRow("yes/no, Escape")
+        << int(Buttons::YesNo) << int(Qt::Key_Escape) << int(Answer::No);
+    QTest::newRow("yes/no, N") << int(Buttons::YesNo) << int(Qt::Key_N) << int(Answer::No);
+    QTest::newRow("yes/no/cancel, Y")
+        << int(Buttons::YesNoCancel) << int(Qt::Key_Y) << int(Answer::Yes);
+    QTest::newRow("yes/no/cancel, N")
+        << int(Buttons::YesNoCancel) << int(Qt::Key_N) << int(Answer::No);
+    QTest::newRow("yes/no/cancel, Escape")
+        << int(Buttons::YesNoCancel) << int(Qt::Key_Escape) << int(Answer::Cancel);
+}
+
+void test_qt_services::eachKeyIsAnAnswer() {
+    QFETCH(int, buttons);
+    QFETCH(int, key);
+    MessageRequest request;
+    request.text = "Save changes to project?";
+    request.buttons = Buttons(buttons);
+    whenShown<QMessageBox>([key](QMessageBox& box) {
+        const bool isLetter = key == Qt::Key_Y || key == Qt::Key_N;
+        QTest::keyClick(&box, Qt::Key(key), isLetter ? Qt::AltModifier : Qt::NoModifier);
+    });
+    QtMessageBox messages;
+    QTEST(int(messages.show(request)), "answer");
+}
+
+void test_qt_services::closingTheBoxIsTheMildestAnswer_data() {
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("ok") << int(Buttons::Ok) << int(Answer::Ok);
+    QTest::newRow("ok/cancel") << int(Buttons::OkCancel) << int(Answer::Cancel);
+    QTest::newRow("yes/no") << int(Buttons::YesNo) << int(Answer::No);
+    QTest::newRow("yes/no/cancel") << int(Buttons::YesNoCancel) << int(Answer::Cancel);
+}
+
+void test_qt_services::closingTheBoxIsTheMildestAnswer() {
+    QFETCH(int, buttons);
+    MessageRequest request;
+    request.text = "Text";
+    request.buttons = Buttons(buttons);
+    whenShown<QMessageBox>([](QMessageBox& box) { box.close(); });
+    QtMessageBox messages;
+    QTEST(int(messages.show(request)), "answer");
+}
+
+void test_qt_services::messagesAreShownAsTheyAre() {
+    MessageRequest request;
+    request.text = "Could not open /a & b/<b>x</b>.js: Is a directory";
+    request.title = "URL Failed";
+    request.icon = MessageRequest::Icon::Exclamation;
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+        QCOMPARE(box.windowTitle(), QString("URL Failed"));
+        QCOMPARE(box.icon(), QMessageBox::Warning);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_services::aMessageWithoutTitleHasTheProgramsName() {
+    MessageRequest request;
+    request.text = "Text";
+    whenShown<QMessageBox>([](QMessageBox& box) {
+        QCOMPARE(box.windowTitle(), QString("ZEVMenu Creator"));
+        QCOMPARE(box.icon(), QMessageBox::NoIcon);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_services::longPathsWrapInsideTheScreen_data() {
+    QTest::addColumn<QString>("path");
+    QTest::newRow("many folders") << QString("/some/folder").repeated(40) + "/menu.js";
+    QTest::newRow("one long name") << "/" + QString(255, 'x');
+}
+
+void test_qt_services::longPathsWrapInsideTheScreen() {
+    QFETCH(QString, path);
+    MessageRequest request;
+    request.text = ("Could not open " + path + ": No such file or directory").toStdString();
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+        QVERIFY(label != nullptr);
+        const QRect needed = label->fontMetrics().boundingRect(
+            QRect(0, 0, label->width(), 10000), Qt::TextWordWrap | Qt::AlignLeft, label->text());
+        QVERIFY2(needed.width() <= label->width(), "cut off at the right");
+        QVERIFY2(needed.height() <= label->height(), "cut off at the bottom");
+        QVERIFY(box.width() <= box.screen()->availableGeometry().width());
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_services::aBoxBelongsToTheActiveWindow() {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    MessageRequest request;
+    request.text = "Text";
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(box.parentWidget(), &window);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_services::filtersAreTranslated_data() {
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("definitions") << "All Files (*.*)|*.*|JavaScript (*.js)|*.js"
+                                 << QStringList{"All Files (*)", "JavaScript (*.js)"};
+    QTest::newRow("images") << "Image Files (*.gif;*.jpg)|*.gif;*.jpg"
+                            << QStringList{"Image Files (*.gif *.jpg)"};
+    QTest::newRow("no patterns in the description") << "Text|*.txt" << QStringList{"Text (*.txt)"};
+    QTest::newRow("none") << "" << QStringList{};
+}
+
+void test_qt_services::filtersAreTranslated() {
+    QFETCH(QString, filter);
+    QTEST(NameFilters(filter.toStdString()), "expected");
+}
+
+void test_qt_services::aFilterOfOneKindGivesTheExtension_data() {
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QString>("suffix");
+    QTest::newRow("one kind") << "JavaScript (*.js)"
+                              << "js";
+    QTest::newRow("all files") << "All Files (*)"
+                               << "";
+    QTest::newRow("two kinds") << "Image Files (*.gif *.jpg)"
+                               << "";
+}
+
+void test_qt_services::aFilterOfOneKindGivesTheExtension() {
+    QFETCH(QString, filter);
+    QTEST(DefaultSuffix(filter), "suffix");
+}
+
+void test_qt_services::openGivesTheFullPath() {
+    QTemporaryDir folder;
+    const QString name = QString::fromUtf8("men\xc3\xbc 1.js");
+    makeFile(folder.filePath(name));
+    QtCommonDialogs dialogs;
+    whenShown<QFileDialog>([&](QFileDialog& dialog) { typeName(dialog, name); });
+    QCOMPARE(QString::fromStdString(dialogs.openFile(saveRequest(folder.path()))),
+             folder.filePath(name));
+}
+
+void test_qt_services::openShowsTheRequest() {
+    QTemporaryDir folder;
+    FileDialogRequest request = saveRequest(folder.path());
+    request.title = "Open";
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.windowTitle(), QString("Open"));
+        QCOMPARE(dialog.selectedNameFilter(), QString("JavaScript (*.js)"));
+        QCOMPARE(dialog.directory().absolutePath(), folder.path());
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        dialog.reject();
+    });
+    QtCommonDialogs().openFile(request);
+}
+
+void test_qt_services::openCancelledGivesNothing() {
+    QTemporaryDir folder;
+    whenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QCOMPARE(QtCommonDialogs().openFile(saveRequest(folder.path())), std::string());
+}
+
+void test_qt_services::openStartsWhereTheLastFileWasChosen() {
+    QTemporaryDir folder;
+    makeFile(folder.filePath("menu.js"));
+    QtCommonDialogs dialogs;
+    whenShown<QFileDialog>([&](QFileDialog& dialog) { typeName(dialog, "menu.js"); });
+    dialogs.openFile(saveRequest(folder.path()));
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.directory().absolutePath(), folder.path());
+        dialog.reject();
+    });
+    dialogs.openFile(saveRequest(QString()));
+}
+
+void test_qt_services::saveAddsTheExtensionOfTheFilter_data() {
+    QTest::addColumn<int>("filterIndex");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("no extension") << 2 << "menu"
+                                  << "menu.js";
+    QTest::newRow("the extension") << 2 << "menu.js"
+                                   << "menu.js";
+    QTest::newRow("another extension") << 2 << "menu.txt"
+                                       << "menu.txt";
+    QTest::newRow("all files") << 1 << "menu"
+                               << "menu";
+}
+
+void test_qt_services::saveAddsTheExtensionOfTheFilter() {
+    QFETCH(int, filterIndex);
+    QFETCH(QString, typed);
+    QFETCH(QString, name);
+    QTemporaryDir folder;
+    whenShown<QFileDialog>([&](QFileDialog& dialog) { typeName(dialog, typed); });
+    QCOMPARE(
+        QString::fromStdString(QtCommonDialogs().saveFile(saveRequest(folder.path(), filterIndex))),
+        folder.filePath(name));
+}
+
+void test_qt_services::savePresetsNameAndFolder() {
+    QTemporaryDir folder;
+    FileDialogRequest request = saveRequest("/");
+    request.fileName = folder.filePath("menu.js").toStdString();
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.directory().absolutePath(), folder.path());
+        QCOMPARE(dialog.findChild<QLineEdit*>("fileNameEdit")->text(), QString("menu.js"));
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+        dialog.reject();
+    });
+    QtCommonDialogs().saveFile(request);
+}
+
+void test_qt_services::saveAsksAboutTheFileThatIsReallyReplaced() {
+    QTemporaryDir folder;
+    makeFile(folder.filePath("menu.js"));
+    bool isAsked = false;
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        whenShown<QMessageBox>([&](QMessageBox& box) {
+            isAsked = true;
+            QCOMPARE(textOf(box), QString("menu.js already exists.\nDo you want to replace it?"));
+            // After No the dialog is there again, for another name.
+            whenShown<QFileDialog>([](QFileDialog& again) { typeName(again, "other"); });
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        typeName(dialog, "menu");
+    });
+    const std::string chosen = QtCommonDialogs().saveFile(saveRequest(folder.path()));
+    QVERIFY(isAsked);
+    QCOMPARE(QString::fromStdString(chosen), folder.filePath("other.js"));
+}
+
+void test_qt_services::saveReplacesWhenToldSo() {
+    QTemporaryDir folder;
+    makeFile(folder.filePath("menu.js"));
+    whenShown<QFileDialog>([](QFileDialog& dialog) {
+        whenShown<QMessageBox>(
+            [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Y, Qt::AltModifier); });
+        typeName(dialog, "menu.js");
+    });
+    QCOMPARE(QString::fromStdString(QtCommonDialogs().saveFile(saveRequest(folder.path()))),
+             folder.filePath("menu.js"));
+}
+
+void test_qt_services::saveReplacesUnaskedWhenNotRequested() {
+    QTemporaryDir folder;
+    makeFile(folder.filePath("menu.js"));
+    FileDialogRequest request = saveRequest(folder.path());
+    request.asksBeforeReplacing = false;
+    whenShown<QFileDialog>([](QFileDialog& dialog) { typeName(dialog, "menu.js"); });
+    QCOMPARE(QString::fromStdString(QtCommonDialogs().saveFile(request)),
+             folder.filePath("menu.js"));
+}
+
+void test_qt_services::saveCancelledGivesNothing() {
+    QTemporaryDir folder;
+    whenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QCOMPARE(QtCommonDialogs().saveFile(saveRequest(folder.path())), std::string());
+}
+
+QTEST_MAIN(test_qt_services)
+#include "test_qt_services.moc"
