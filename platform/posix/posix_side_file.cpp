@@ -13,6 +13,7 @@
 #include <random>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace zev {
 
@@ -131,11 +132,17 @@ int SideFile::make(const std::string& folder, const std::string& prefix, unsigne
         // Before the lock was there another process may have taken the file for a leftover.
         if (!isStillAt(file.get(), path))
             continue;
+        PosixDescriptor lock(::fcntl(file.get(), F_DUPFD_CLOEXEC, 0));
+        if (!lock.isOpen()) {
+            const int lockError = errno;
+            ::unlink(path.c_str());
+            return lockError;
+        }
         m_folder = folder;
         m_path = path;
         m_file = std::move(file);
-        m_lock = PosixDescriptor(::fcntl(m_file.get(), F_DUPFD_CLOEXEC, 0));
-        return m_lock.isOpen() ? 0 : errno;
+        m_lock = std::move(lock);
+        return 0;
     }
     return EEXIST;
 }
@@ -146,13 +153,17 @@ int SideFile::closeFile() {
 
 std::vector<std::string> clearLeftovers(const WriteTarget& target) {
     const std::string newContent = prefixBeside(target, SideFile::Kind::NewContent);
+    const std::string oldContent = prefixBeside(target, SideFile::Kind::OldContent);
     for (const std::string& path : findSideFiles(target.folder, newContent))
         removeLeftover(path);
-    std::vector<std::string> oldContent =
-        findSideFiles(target.folder, prefixBeside(target, SideFile::Kind::OldContent));
-    for (std::string& path : findSideFiles(temporaryFolder(), prefixInTemporaryFolder(target)))
-        oldContent.push_back(std::move(path));
-    return oldContent;
+    std::vector<std::string> kept = findSideFiles(target.folder, oldContent);
+    // The folder for temporary files, which may be large, holds something of the target's only when
+    // nothing could be put beside it.
+    if (::faccessat(AT_FDCWD, target.folder.c_str(), W_OK, AT_EACCESS) != 0) {
+        for (std::string& path : findSideFiles(temporaryFolder(), prefixInTemporaryFolder(target)))
+            kept.push_back(std::move(path));
+    }
+    return kept;
 }
 
 void removeLeftover(const std::string& path) {

@@ -1,0 +1,446 @@
+#!/usr/bin/env python3
+"""Breaks every file operation of a saving command once and checks what is left on the disk.
+
+usage: fault_sweep.py zevmenu PROGRAM
+       fault_sweep.py full-disk PROGRAM
+       fault_sweep.py command --template FOLDER --definition NAME -- COMMAND...
+
+Exit status: 0 all is well, 1 a file was damaged or something was left behind, 77 the system does
+not allow the test.
+"""
+
+import argparse
+import os
+import re
+import shutil
+import stat
+import subprocess
+import sys
+import tempfile
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+SKIPPED = 77
+NOBODY = 65534
+IS_ROOT = os.geteuid() == 0
+
+ERRORS = ["ENOSPC", "EIO", "EACCES"]
+
+# Calls that change files, or lead to a change.
+WRITES = ["write", "writev", "pwrite64", "copy_file_range", "sendfile"]
+CALLS = WRITES + [
+    "openat", "open", "creat", "read", "fsync", "fdatasync", "rename", "renameat", "renameat2",
+    "link", "linkat", "symlink", "unlink", "unlinkat", "fchmod", "fchown", "fsetxattr",
+    "fremovexattr", "ftruncate", "lseek", "close", "mkdir", "flock", "fcntl"]
+
+# Calls that a signal may interrupt; the program has to go on.
+INTERRUPTIBLE = ["openat", "read", "write", "fsync", "close"]
+
+# As long as it takes: what is swept writes small files.
+TIME_LIMIT_SECONDS = 60
+
+
+class State:
+    """All that lies in a folder: {path: description}, each a value to be compared whole."""
+
+    def __init__(self, folder):
+        self.entries = {}
+        for path in sorted(Path(folder).rglob("*")):
+            name = path.relative_to(folder).as_posix()
+            status = path.lstat()
+            mode = stat.S_IMODE(status.st_mode)
+            if path.is_symlink():
+                self.entries[name] = ("link", os.readlink(path))
+            elif path.is_dir():
+                self.entries[name] = ("folder", mode)
+            else:
+                attributes = {key: os.getxattr(path, key) for key in os.listxattr(path)}
+                self.entries[name] = ("file", mode, path.read_bytes(), attributes)
+
+    def bytes_of(self, name):
+        entry = self.entries.get(name)
+        return entry[2] if entry and entry[0] == "file" else None
+
+    def files(self):
+        return [name for name, entry in self.entries.items() if entry[0] == "file"]
+
+
+class Sweep:
+    """One command on one folder of files."""
+
+    def __init__(self, name, template, command, definition, work):
+        self.name = name
+        self.template = Path(template)
+        self.definition = definition
+        own = Path(tempfile.mkdtemp(dir=work))
+        own.chmod(0o755)
+        give_to_nobody(own)
+        self.folder = own / "run"
+        self.trace = own / "trace"
+        self.command = [part.replace("{folder}", str(self.folder)) for part in command]
+        self.problems = []
+        self.runs = 0
+
+    def refresh(self):
+        if self.folder.exists():
+            subprocess.run(["chmod", "-R", "u+rwX", self.folder], check=True)
+            shutil.rmtree(self.folder)
+        # cp knows hard links, attributes and owners.
+        subprocess.run(["cp", "-a", self.template, self.folder], check=True)
+
+    def run(self, *tracing):
+        """Runs the command, under strace when `tracing` is given; root runs it as nobody."""
+        self.runs += 1
+        user = {"user": NOBODY, "group": NOBODY, "extra_groups": []} if IS_ROOT else {}
+        environment = dict(os.environ, TMPDIR=str(self.folder / "tmp"), LC_ALL="C",
+                           HOME=str(self.folder / "tmp"))
+        # The leak check stops other threads by ptrace, which strace already uses.
+        options = environment.get("ASAN_OPTIONS", "")
+        environment["ASAN_OPTIONS"] = options + ":detect_leaks=0"
+        return subprocess.run([*tracing, *self.command], cwd="/", env=environment, text=True,
+                              stdin=subprocess.DEVNULL, capture_output=True, errors="replace",
+                              timeout=TIME_LIMIT_SECONDS, **user)
+
+    def strace(self, *options):
+        # Output goes through a file of the right owner that is there already.
+        return self.run("strace", "-f", "-y", "-qq", "-o", str(self.trace), *options)
+
+    def trace_lines(self):
+        return self.trace.read_text("utf-8", errors="replace").splitlines()
+
+    def calls_on_folder(self):
+        """(call, number among the calls of that name) of each call that touches the folder."""
+        counts = {}
+        found = []
+        for line in self.trace_lines():
+            match = re.match(r"\d+\s+(\w+)\(", line)
+            if not match:
+                continue
+            call = match.group(1)
+            counts[call] = counts.get(call, 0) + 1
+            if str(self.folder) in line:
+                found.append((call, counts[call]))
+        return found
+
+    def fail(self, fault, what):
+        self.problems.append(f"{self.name}, {fault}: {what}")
+
+    def sweep(self):
+        self.trace.touch()
+        if IS_ROOT:
+            os.chown(self.trace, NOBODY, NOBODY)
+        self.refresh()
+        self.old = State(self.folder)
+        result = self.strace("-e", "trace=" + ",".join("?" + call for call in CALLS))
+        self.new = State(self.folder)
+        calls = self.calls_on_folder()
+        if result.returncode != 0:
+            self.fail("undisturbed", f"status {result.returncode}: {result.stderr}")
+        elif self.new.bytes_of(self.definition) is None:
+            self.fail("undisturbed", f"there is no {self.definition}")
+        elif self.new.bytes_of(self.definition) == self.old.bytes_of(self.definition):
+            self.fail("undisturbed", f"{self.definition} is as before: nothing to look for")
+        elif not any(call in WRITES for call, _ in calls):
+            self.fail("undisturbed", "no write was seen")
+        if self.problems:
+            return
+        for call, number in calls:
+            for error in ERRORS:
+                self.break_call(call, number, error)
+            if call in INTERRUPTIBLE:
+                self.interrupt_call(call, number)
+            self.kill_at(call, number)
+
+    def inject(self, call, number, what):
+        self.refresh()
+        result = self.strace("-e", f"trace={call}", "-e", f"inject={call}:{what}:when={number}")
+        return result, self.trace_lines()
+
+    def break_call(self, call, number, error):
+        fault = f"{error} at {call} {number}"
+        result, lines = self.inject(call, number, f"error={error}")
+        hit = [line for line in lines if "(INJECTED)" in line]
+        if len(hit) != 1 or str(self.folder) not in hit[0]:
+            self.fail(fault, f"the fault hit something else: {hit}")
+        after = State(self.folder)
+        self.check_files(fault, after, killed=False)
+        # A leftover whose removal is what failed cannot but stay.
+        self.check_strays(fault, after, allowed=call in ("unlink", "unlinkat"))
+        self.check_status(fault, result, after)
+
+    def interrupt_call(self, call, number):
+        fault = f"interrupted {call} {number}"
+        result, _ = self.inject(call, number, "error=EINTR")
+        if result.returncode != 0 or State(self.folder).entries != self.new.entries:
+            self.fail(fault, f"did not go on: status {result.returncode}: {result.stderr}")
+
+    def kill_at(self, call, number):
+        fault = f"killed at {call} {number}"
+        _, lines = self.inject(call, number, "signal=KILL")
+        if not any("killed by SIGKILL" in line for line in lines):
+            self.fail(fault, "was not killed")
+        self.check_files(fault, State(self.folder), killed=True)
+        result = self.run()
+        after = State(self.folder)
+        if result.returncode != 0 or after.entries != self.new.entries:
+            names = sorted(set(after.entries) ^ set(self.new.entries))
+            self.fail(fault, f"the next run did not put all right: status {result.returncode}, "
+                             f"{names} {result.stderr}")
+
+    def check_files(self, fault, after, killed):
+        for name in sorted(set(self.old.entries) | set(self.new.entries)):
+            entry = after.entries.get(name)
+            if entry in (self.old.entries.get(name), self.new.entries.get(name)):
+                continue
+            if killed and self.is_kept(after, name):
+                continue
+            self.fail(fault, f"{name} is neither the old nor the new one: {str(entry)[:200]}")
+
+    def is_kept(self, after, name):
+        """A file killed while it was written in place: the old one must lie beside it."""
+        old = self.old.bytes_of(name)
+        return old is not None and any(after.bytes_of(stray) == old
+                                       for stray in self.strays(after))
+
+    def strays(self, after):
+        return sorted(set(after.entries) - set(self.old.entries) - set(self.new.entries))
+
+    def check_strays(self, fault, after, allowed):
+        strays = self.strays(after)
+        if strays and not allowed:
+            self.fail(fault, f"left behind: {strays}")
+
+    def check_status(self, fault, result, after):
+        is_written = after.bytes_of(self.definition) == self.new.bytes_of(self.definition)
+        if result.returncode not in (0, 3):
+            self.fail(fault, f"status {result.returncode}: {result.stderr}")
+        elif result.returncode == 0 and not is_written:
+            self.fail(fault, "status 0, but the definition was not written")
+        elif result.returncode == 3 and not result.stderr.strip():
+            self.fail(fault, "failed without a word")
+
+
+def make_definition(items):
+    lines = ["zevmenu = new ZEVMenu('0');"]
+    lines += [f"zevmenu.AddItem('Item {i}', 'pages/{i}.html', '');" for i in range(items)]
+    return ("\n".join(lines) + "\n").encode()
+
+
+def new_template(work, name):
+    """A folder with an input, a folder for temporary files, and the folder to write to."""
+    template = Path(work) / "templates" / name
+    for folder in ["tmp", "site"]:
+        (template / folder).mkdir(parents=True)
+    (template / "in.js").write_bytes(make_definition(3))
+    return template
+
+
+def give_to_nobody(folder):
+    if IS_ROOT:
+        for path in [folder, *Path(folder).rglob("*")]:
+            os.chown(path, NOBODY, NOBODY, follow_symlinks=False)
+
+
+def install(program, work):
+    """A copy of the program with its run-time files that everybody can reach."""
+    folder = Path(work) / "bin"
+    folder.mkdir()
+    for path in [Path(program), *Path(program).parent.glob("zevmenu*.js")]:
+        shutil.copy(path, folder)
+        os.chmod(folder / path.name, 0o755)
+    return str(folder / Path(program).name)
+
+
+def scenarios(program, work):
+    """Every way in which the command line writes: (name, template, command, definition)."""
+    out = "{folder}/site/menu.js"
+    form = [program, "format", "{folder}/in.js", "-o", out]
+
+    yield "format, new file", new_template(work, "new"), form, "site/menu.js"
+
+    template = new_template(work, "replaced")
+    (template / "site/menu.js").write_bytes(b"old " * 5000)
+    (template / "site/menu.js").chmod(0o640)
+    try:
+        os.setxattr(template / "site/menu.js", "user.note", b"kept")
+    except OSError:
+        print("no extended attributes here: not swept")
+    yield "format, replaced file", template, form, "site/menu.js"
+
+    template = new_template(work, "own-input")
+    yield ("format, own input", template,
+           [program, "format", "{folder}/in.js", "-o", "{folder}/in.js"], "in.js")
+
+    template = new_template(work, "link")
+    (template / "site/real.js").write_bytes(b"old")
+    (template / "site/menu.js").symlink_to("real.js")
+    yield "format, through a link", template, form, "site/real.js"
+
+    template = new_template(work, "hard-link")
+    (template / "site/menu.js").write_bytes(b"old " * 500)
+    os.link(template / "site/menu.js", template / "site/other.js")
+    yield "format, hard links", template, form, "site/menu.js"
+
+    template = new_template(work, "closed")
+    (template / "site/menu.js").write_bytes(b"old " * 500)
+    (template / "site").chmod(0o555)
+    yield "format, folder that forbids new files", template, form, "site/menu.js"
+
+    template = new_template(work, "rebase")
+    (template / "site/menu.js").write_bytes(b"old")
+    yield ("rebase", template,
+           [program, "rebase", "--from", "/web", "--to", "/web/new", "{folder}/in.js", "-o", out],
+           "site/menu.js")
+
+    template = new_template(work, "publish")
+    for name in ["in.js", "zevmenu_loader.js", "zevmenu_dom.js", "zevmenu_ns4.js"]:
+        (template / "site" / name).write_bytes(b"old " + name.encode())
+    yield ("publish", template, [program, "publish", "{folder}/in.js", "{folder}/site"],
+           "site/in.js")
+
+
+def run_sweeps(sweeps):
+    failed = 0
+    # The work is done by other processes, so that threads run side by side.
+    with ThreadPoolExecutor(max_workers=2) as pool:
+        for sweep, _ in zip(sweeps, pool.map(Sweep.sweep, sweeps)):
+            for problem in sweep.problems:
+                print("FAILED", problem)
+            failed += len(sweep.problems)
+            print(f"{sweep.name}: {sweep.runs} runs, {len(sweep.problems)} problems", flush=True)
+    return 1 if failed else 0
+
+
+def may_trace():
+    result = subprocess.run(["strace", "-o", "/dev/null", "true"], capture_output=True, text=True)
+    if result.returncode != 0:
+        print("SKIPPED: strace may not trace here:", result.stderr.strip())
+    return result.returncode == 0
+
+
+class Work:
+    """A temporary folder that everybody can reach, removed with all it holds."""
+
+    def __enter__(self):
+        self.path = tempfile.mkdtemp(prefix="zev-faults-")
+        os.chmod(self.path, 0o755)
+        if IS_ROOT:
+            os.chown(self.path, NOBODY, NOBODY)
+        return self.path
+
+    def __exit__(self, *_):
+        subprocess.run(["chmod", "-R", "u+rwX", self.path], check=True)
+        shutil.rmtree(self.path)
+
+
+def sweep_zevmenu(options):
+    if not may_trace():
+        return SKIPPED
+    with Work() as work:
+        program = install(options.program, work)
+        sweeps = []
+        for name, template, command, definition in scenarios(program, work):
+            give_to_nobody(template)
+            sweeps.append(Sweep(name, template, command, definition, work))
+        return run_sweeps(sweeps)
+
+
+def sweep_command(options):
+    if not may_trace():
+        return SKIPPED
+    with Work() as work:
+        template = Path(work) / "template"
+        subprocess.run(["cp", "-a", options.template, template], check=True)
+        (template / "tmp").mkdir(exist_ok=True)
+        give_to_nobody(template)
+        return run_sweeps([Sweep("command", template, options.command, options.definition, work)])
+
+
+def enter_full_disk(options):
+    """Starts this script again where it may mount a disk of its own."""
+    unshare = ["unshare", "--mount"] if IS_ROOT else ["unshare", "--map-root-user", "--mount"]
+    with Work() as work:
+        mount = ["mount", "-t", "tmpfs", "-o", "size=400k,mode=755", "tmpfs", work]
+        probe = subprocess.run([*unshare, *mount], capture_output=True, text=True)
+        if probe.returncode != 0:
+            print("SKIPPED: no disk can be mounted here:", probe.stderr.strip())
+            return SKIPPED
+        script = " ".join(mount) + ' && exec "$@"'
+        return subprocess.run([*unshare, "sh", "-c", script, "sh", sys.executable, __file__,
+                               "on-full-disk", os.path.abspath(options.program), work]).returncode
+
+
+def fill_disk(folder, free_bytes):
+    """Fills the disk but for `free_bytes`, rounded down to whole pages."""
+    with open(Path(folder) / "filler", "wb", buffering=0) as filler:
+        while True:
+            status = os.statvfs(folder)
+            left = status.f_bavail * status.f_frsize - free_bytes
+            if left < status.f_frsize:
+                return
+            filler.write(bytes(min(left, 1 << 16)))
+
+
+def sweep_full_disk(options):
+    """On a disk of 400 KB: saves with 0, 1, 2 ... free pages until nothing is missing any more."""
+    disk = Path(options.folder)
+    page = os.statvfs(disk).f_frsize
+    problems = 0
+    for is_linked in [False, True]:
+        outcomes = set()
+        for free_pages in range(0, 40):
+            for path in disk.iterdir():
+                path.unlink()
+            (disk / "in.js").write_bytes(make_definition(1500))
+            old = b"old " * 1000
+            (disk / "menu.js").write_bytes(old)
+            if is_linked:
+                os.link(disk / "menu.js", disk / "other.js")
+            expected_names = sorted([path.name for path in disk.iterdir()] + ["filler"])
+            fill_disk(disk, free_pages * page)
+            result = subprocess.run(
+                [options.program, "format", disk / "in.js", "-o", disk / "menu.js"],
+                env=dict(os.environ, TMPDIR=str(disk)), capture_output=True, text=True)
+            outcomes.add(result.returncode)
+            content = (disk / "menu.js").read_bytes()
+            is_new = content.startswith(b"zev_state.") and content.endswith(b"\r\n\r\n\r\n")
+            right = is_new if result.returncode == 0 else (
+                content == old and result.returncode == 3 and
+                "No space left on device" in result.stderr)
+            names = sorted(path.name for path in disk.iterdir())
+            if not right or names != expected_names:
+                problems += 1
+                print(f"FAILED, {free_pages} free pages, linked {is_linked}: "
+                      f"status {result.returncode}, {len(content)} bytes, {names}, "
+                      f"{result.stderr}")
+        if outcomes != {0, 3}:
+            problems += 1
+            print(f"FAILED: the disk was never full, or always: outcomes {outcomes}")
+        print(f"full disk, hard links {is_linked}: outcomes {sorted(outcomes)}")
+    return 1 if problems else 0
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    jobs = parser.add_subparsers(required=True)
+    job = jobs.add_parser("zevmenu")
+    job.add_argument("program")
+    job.set_defaults(run=sweep_zevmenu)
+    job = jobs.add_parser("command")
+    job.add_argument("--template", required=True)
+    job.add_argument("--definition", required=True)
+    job.add_argument("command", nargs="+")
+    job.set_defaults(run=sweep_command)
+    job = jobs.add_parser("full-disk")
+    job.add_argument("program")
+    job.set_defaults(run=enter_full_disk)
+    job = jobs.add_parser("on-full-disk")
+    job.add_argument("program")
+    job.add_argument("folder")
+    job.set_defaults(run=sweep_full_disk)
+    options = parser.parse_args()
+    return options.run(options)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
