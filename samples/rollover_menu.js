@@ -13,6 +13,7 @@ zevmenu = new ZEVMenu('0');
 zevmenu.columns = 1;
 zevmenu.nbgcolor = 'transparent';
 zevmenu.hspacing = 4;
+zevmenu.position = 'bottom';
 
 zevmenu.AddRollover('pages/page.html#start', 'images/start_out.svg', 'images/start_over.svg', '');
 zevmenu.AddRollover('pages/page.html#plants', 'images/plants_out.svg', 'images/plants_over.svg', '');
