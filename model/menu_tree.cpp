@@ -45,7 +45,8 @@ MenuNode* MenuTree::previousSibling(const MenuNode& node) const {
 
 MenuNode* MenuTree::find(const std::string& key) const {
     const auto found = m_nodes.find(key);
-    return found == m_nodes.end() ? nullptr : found->second.get();
+    // The tree's constness is that of its shape; what a node carries belongs to whoever finds it.
+    return found == m_nodes.end() ? nullptr : const_cast<MenuNode*>(&found->second);
 }
 
 MenuNode* MenuTree::nextInTreeOrder(const MenuNode& node) const {
@@ -70,31 +71,32 @@ bool MenuTree::isVisible(const MenuNode& node) const {
 
 MenuNode* MenuTree::insert(MenuNode* parent, std::size_t row, std::string key, std::string text,
                            ItemProp item) {
+    return insertNode(parent, row, std::move(key), std::move(text), std::move(item));
+}
+
+MenuNode* MenuTree::append(MenuNode* parent, std::string key, std::string text, ItemProp item) {
+    return insertNode(parent, childrenOf(parent).size(), std::move(key), std::move(text),
+                      std::move(item));
+}
+
+MenuNode* MenuTree::insertNode(MenuNode* parent, std::size_t row, std::string&& key,
+                               std::string&& text, ItemProp&& item) {
     Siblings& siblings = mutableChildrenOf(parent);
     assert(row <= siblings.size());
     if (m_nodes.contains(key))
         return nullptr;
 
-    auto owned = std::make_unique<MenuNode>();
-    MenuNode* const node = owned.get();
-    node->text = std::move(text);
-    node->item = std::move(item);
-    node->m_key = key;
-    node->m_parent = parent;
-
     if (m_observer)
         m_observer->aboutToInsert(parent, row);
-    m_nodes.emplace(std::move(key), std::move(owned));
+    const auto entry = m_nodes.try_emplace(std::move(key), std::move(text), std::move(item)).first;
+    MenuNode* const node = &entry->second;
+    node->m_key = &entry->first;
+    node->m_parent = parent;
     siblings.insert(At(siblings, row), node);
     renumber(siblings, row);
     if (m_observer)
         m_observer->inserted();
     return node;
-}
-
-MenuNode* MenuTree::append(MenuNode* parent, std::string key, std::string text, ItemProp item) {
-    return insert(parent, childrenOf(parent).size(), std::move(key), std::move(text),
-                  std::move(item));
 }
 
 void MenuTree::remove(MenuNode& node) {
@@ -111,7 +113,7 @@ void MenuTree::remove(MenuNode& node) {
         subtree.insert(subtree.end(), children.begin(), children.end());
     }
     for (const MenuNode* doomed : subtree)
-        m_nodes.erase(m_nodes.find(doomed->m_key));
+        m_nodes.erase(m_nodes.find(doomed->key()));
     if (m_observer)
         m_observer->removed();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "model/item_prop.h"
@@ -22,7 +22,7 @@ class MenuNode {
     bool isExpanded = false;  ///< children are shown; kept here so that it survives moves
 
     /// Unique in the tree; means nothing beyond that.
-    const std::string& key() const { return m_key; }
+    const std::string& key() const { return *m_key; }
     /// Null for a top-level node.
     MenuNode* parent() const { return m_parent; }
     const std::vector<MenuNode*>& children() const { return m_children; }
@@ -30,9 +30,15 @@ class MenuNode {
     std::size_t row() const { return m_row; }
     bool hasChildren() const { return !m_children.empty(); }
 
+    /// For `MenuTree`, which alone gives a node its place.
+    MenuNode(std::string&& nodeText, ItemProp&& nodeItem)
+        : text(std::move(nodeText)), item(std::move(nodeItem)) {}
+    MenuNode(const MenuNode&) = delete;
+    MenuNode& operator=(const MenuNode&) = delete;
+
   private:
     friend class MenuTree;
-    std::string m_key;
+    const std::string* m_key = nullptr;  ///< lies in the tree's index
     MenuNode* m_parent = nullptr;
     std::vector<MenuNode*> m_children;
     std::size_t m_row = 0;
@@ -106,9 +112,11 @@ class MenuTree {
 
   private:
     std::vector<MenuNode*>& mutableChildrenOf(MenuNode* parent);
+    MenuNode* insertNode(MenuNode* parent, std::size_t row, std::string&& key, std::string&& text,
+                         ItemProp&& item);
     static void renumber(const std::vector<MenuNode*>& siblings, std::size_t firstRow);
 
-    std::unordered_map<std::string, std::unique_ptr<MenuNode>> m_nodes;
+    std::unordered_map<std::string, MenuNode> m_nodes;  ///< by key; its elements never move
     std::vector<MenuNode*> m_topLevel;
     MenuTreeObserver* m_observer = nullptr;
 };
