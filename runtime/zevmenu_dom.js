@@ -102,8 +102,8 @@ shared.sums = { place, isHeadedFor, neighbour, realSide };
 
 // ======== State ========
 // The open submenus, from the one nearest the top menu to the deepest. A level is
-// { menu, box, opener, wish, offset, point, side, timer }: `opener` is the item or the pop-up's link,
-// or null for a pop-up at coordinates; `wish` the real side it is to open on and `offset` its
+// { menu, box, opener, wish, offset, point, side, timer }: `opener` is the item or the pop-up's
+// link, or null for a pop-up at coordinates; `wish` the real side it is to open on and `offset` its
 // distance in pixels; `point` where a pop-up stands; `side` where the box really lies.
 
 const levels = [];
@@ -349,7 +349,8 @@ shared.openPopup = function (a, b, where) {
 
 shared.closePopup = function (a, b) {
     // The mouse's arrival on the pop-up is told before its leaving of the link.
-    if (levels.length && levels[0].menu.zevId == popupId(a, b) && !(over && depthOf(over.box))) keep(0);
+    const isInside = over && depthOf(over.box) > 0;
+    if (levels.length && levels[0].menu.zevId == popupId(a, b) && !isInside) keep(0);
 };
 
 // ---- Mouse ----
@@ -456,7 +457,8 @@ function sideOfSubmenu(link) {
     const menu = submenuOf(link);
     if (!menu || isOpen(link)) return menu && levels[depthOf(boxAt(link))].side;
     ensureLayer();
-    const box = ensureBox(menu), frame = windowSize(), isRtl = isRtlAt(link), wasHidden = box.hidden;
+    const box = ensureBox(menu), frame = windowSize(), isRtl = isRtlAt(link);
+    const wasHidden = box.hidden;
     box.hidden = false;
     const size = measure(box, frame);
     box.hidden = wasHidden;
@@ -464,8 +466,8 @@ function sideOfSubmenu(link) {
                       menuOffset(), frame);
 }
 
-// Moves along the top menu from wherever the focus is; an open submenu follows.
-function moveInBar(link, target) {
+// Moves to an item of the top menu from wherever the focus is; an open submenu follows.
+function moveInBar(target) {
     const hadOpen = levels.length > 0;
     closeFrom(0);
     target.focus();
@@ -482,19 +484,22 @@ function onArrow(link, direction) {
     const isRtl = isRtlAt(box), reading = realSide(direction, isRtl);
     const next = neighbour(links.indexOf(link), links.length, columnsOf(box), reading);
     if (next >= 0) {
-        if (level) closeFrom(depthOf(box));
-        return level ? links[next].focus() : moveInBar(link, links[next]);
+        if (!level) return moveInBar(links[next]);
+        closeFrom(depthOf(box));
+        return links[next].focus();
     }
     const side = sideOfSubmenu(link);
     if (side == direction) return openAndEnter(link);
-    if (level && level.opener && level.side == opposite[direction]) return closeFrom(depthOf(box) - 1);
+    if (level && level.opener && level.side == opposite[direction]) {
+        return closeFrom(depthOf(box) - 1);
+    }
     if (side && (reading == 'right' || reading == 'bottom')) return openAndEnter(link);
     const root = levels[0] && levels[0].opener;
     if (!level || !root || !root.zevItem) return;
     // From a submenu below a row the key goes on to the row's neighbour.
-    const bar = linksOf(shared.barBox);
-    const neighbourIndex = neighbour(bar.indexOf(root), bar.length, columnsOf(shared.barBox), reading);
-    if (neighbourIndex >= 0) moveInBar(root, bar[neighbourIndex]);
+    const bar = linksOf(shared.barBox), columns = columnsOf(shared.barBox);
+    const index = neighbour(bar.indexOf(root), bar.length, columns, reading);
+    if (index >= 0) moveInBar(bar[index]);
 }
 
 const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', ArrowUp: 'top' };

@@ -6,7 +6,7 @@
  * of the menu (submenus, keyboard, placement, pop-ups) is zevmenu_dom.js, which follows without
  * blocking the page; a browser that cannot run it gets plain links from zevmenu_ns4.js.
  *
- * The two files talk through ZEVMenu.shared, so that the page sees no names but the documented ones.
+ * The files talk through ZEVMenu.shared, so that the page sees no names but the documented ones.
  */
 if (!window.ZEVMenu) (function () {
 
@@ -61,9 +61,10 @@ function isSide(value) {
 // A check for values of a CSS property. Words such as "inherit" and references to the page's
 // variables are valid CSS, but would let the page's style into the menu.
 function css(property) {
+    var foreign = /var\(|env\(|^ *(inherit|initial|unset|revert|revert-layer) *$/i;
     return function (value) {
-        return typeof value == 'string' && CSS.supports(property, value) &&
-            !/var\(|env\(|^ *(inherit|initial|unset|revert|revert-layer) *$/i.test(value) ? value : null;
+        var isGood = typeof value == 'string' && CSS.supports(property, value);
+        return isGood && !foreign.test(value) ? value : null;
     };
 }
 
@@ -103,7 +104,8 @@ var properties = {
 
 // An empty value means "not set", except for the HTML around items, where it means "nothing".
 function isSet(name, value) {
-    return value != null && (typeof value != 'string' || value != '' || /^(html|divider)/.test(name));
+    var isEmpty = typeof value == 'string' && value == '';
+    return value != null && (!isEmpty || /^(html|divider)/.test(name));
 }
 
 // Checked value of a property of `owner` (a menu or zev_state), or null. A mistaken value is told
@@ -158,7 +160,7 @@ function ZEVMenu(id) {
 
 function addItem(menu, item, isGood) {
     var position = menu.zevItems.length + 1;
-    if (!isGood) warn('item ' + position + ' of menu ' + menu.zevId + ' is mistaken; it is not shown');
+    if (!isGood) warn('item ' + position + ' of menu ' + menu.zevId + ' is mistaken and not shown');
     item.url = isText(item.url) || '';
     item.target = isText(item.target) || '';
     item.childId = childId(menu.zevId, position);
@@ -241,7 +243,8 @@ var styleText = [
     'span.divider{flex:none;min-width:var(--zev-space);min-height:var(--zev-space);',
     'text-align:center;align-self:center;color:var(--zev-nft)}',
     'ul.list>li>span.divider{align-self:stretch}',
-    '@media(forced-colors:active){a:hover,a[aria-expanded=true]{outline:2px solid;outline-offset:-2px}}',
+    '@media(forced-colors:active){a:hover,a[aria-expanded=true]{outline:2px solid;',
+    'outline-offset:-2px}}',
     '@media print{:host([data-zev=layer]){display:none!important}}'
 ].join('');
 
@@ -348,7 +351,8 @@ function addDivider(line, menu, html) {
 }
 
 function styleBox(box, menu, columns, count, hasDivider) {
-    var style = box.style, space = setting(menu, 'hspacing') + 'px', shadow = setting(menu, 'fshadow');
+    var style = box.style, space = setting(menu, 'hspacing') + 'px';
+    var shadow = setting(menu, 'fshadow');
     box.className = columns == 1 ? 'list' : columns >= count ? 'bar' : 'grid';
     if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + columns + ',auto)';
     style.setProperty('--zev-space', space);
@@ -477,7 +481,8 @@ if (isModern) {
     };
     (document.head || document.documentElement).appendChild(renderer);
 } else {
-    document.write('<script language="JavaScript1.2" src="' + prefix + 'zevmenu_ns4.js"><\/script>');
+    document.write('<script language="JavaScript1.2" src="' + prefix +
+        'zevmenu_ns4.js"><\/script>');
 }
 
 })();

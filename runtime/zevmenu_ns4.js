@@ -24,7 +24,8 @@ function linkOf(menu, item) {
             attribute('alt', shared.nameFromFiles(item)) + '>';
     }
     if (!item.url) return caption;
-    return '<a' + attribute('href', item.url) + attribute('target', target) + '>' + caption + '</a>';
+    return '<a' + attribute('href', item.url) + attribute('target', target) + '>' + caption +
+        '</a>';
 }
 
 function listOf(menu) {

@@ -166,11 +166,15 @@ const calls = [
         script('ZEVCreateMenu();ZEVCreateMenu()'), handlers: 'onload="ZEVLoadMenu();ZEVLoadMenu();"' }],
     ['only ZEVDisplayMenu', { end: '', handlers: '' }],
     ['ZEVDisplayMenu before the definition', { place: display + source('menu.js') }],
-    ['ZEVDisplayMenu before the definition, and no other call', { place: display + source('menu.js'), end: '', handlers: '' }],
+    ['ZEVDisplayMenu before the definition, and no other call', {
+        place: display + source('menu.js'), end: '', handlers: '' }],
     ["ZEVDisplayMenu in the page's head", { head: source('menu.js') + display, place: '' }],
-    ['ZEVDisplayMenu only when the page has loaded', { place: source('menu.js'), handlers: 'onload="ZEVDisplayMenu();"' }],
+    ['ZEVDisplayMenu only when the page has loaded', {
+        place: source('menu.js'), handlers: 'onload="ZEVDisplayMenu();"' }],
     ['ZEVCreateMenu and ZEVLoadMenu before everything', { head: script('ZEVCreateMenu(); ZEVLoadMenu();') }],
-    ['a definition that arrives late', { place: display + '<script async src="menu.js"></script>', slow: true }],
+    ['a definition that arrives after the page', {
+        place: display + '<script>setTimeout(() => document.body.appendChild(' +
+            'document.createElement("script")).src = "menu.js", 100)</script>', definitionDelayMs: 200 }],
     ['the loader twice', { after: script("var zev_path = '/runtime/';") + source('/runtime/zevmenu_loader.js') }],
 ];
 
@@ -185,7 +189,8 @@ for (const [what, options] of calls) {
 
 test('the menu stands where ZEVDisplayMenu is called', async () => {
     await lab.show({ before: '<p id="above">above</p>', after: '<p id="below">below</p>' });
-    const [above, below] = await Promise.all(['#above', '#below'].map(id => page.$eval(id, p => p.getBoundingClientRect().toJSON())));
+    const [above, below] = await Promise.all(['#above', '#below'].map(id =>
+        page.$eval(id, p => p.getBoundingClientRect().toJSON())));
     const home = await rect(page, 'Home');
     assert.ok(home.top >= above.bottom && home.bottom <= below.top);
 });
@@ -252,12 +257,15 @@ const mistakes = [
     ['an item without a caption', ['zevmenu.AddItem();', 'end'], /item 3 of menu 3 is mistaken/],
     ['an item whose caption is an object', ['zevmenu.AddItem({}, "", "");', 'end'], /item 3 of menu 3/],
     ['a rollover without images', ["zevmenu.AddRollover('a.html');", 'end'], /item 3 of menu 3/],
-    ['a menu id that is none', ["zevmenu = new ZEVMenu('3x'); zevmenu.AddItem('Lost', '', '');", 'end'], /"3x" is not a menu id/],
+    ['a menu id that is none',
+        ["zevmenu = new ZEVMenu('3x'); zevmenu.AddItem('Lost', '', '');", 'end'], /"3x" is not a menu id/],
     ['a menu without an id', ['zevmenu = new ZEVMenu();', 'end'], /"" is not a menu id/],
     ['a menu id that is a symbol', ["zevmenu = new ZEVMenu(Symbol('3'));", 'end'], /"" is not a menu id/],
-    ['a submenu without its item', ["zevmenu = new ZEVMenu('7'); zevmenu.AddItem('Lost', '', '');", 'end'], /menu 7 has no item/],
+    ['a submenu without its item',
+        ["zevmenu = new ZEVMenu('7'); zevmenu.AddItem('Lost', '', '');", 'end'], /menu 7 has no item/],
     ['a submenu without its menu', ["zevmenu = new ZEVMenu('1i2i3');", 'end'], /menu 1i2i3 has no item/],
-    ['a menu defined twice', ["zevmenu = new ZEVMenu('2'); zevmenu.AddItem('Lost', '', '');", 'end'], /menu 2 is defined twice/],
+    ['a menu defined twice',
+        ["zevmenu = new ZEVMenu('2'); zevmenu.AddItem('Lost', '', '');", 'end'], /menu 2 is defined twice/],
 ];
 
 for (const [mistake, [line, where], warning] of mistakes) {
@@ -335,7 +343,6 @@ test('the menu leaves the style of the page alone', async () => {
     const without = await looks();
     await lab.show({ after, definition: nested.replace("zevmenu.columns = 10;", '') });
     await hover(page, 'Products', 'Boats');
-    // Lengths that depend on where things lie are the same too: the menu is the only difference.
     assert.deepEqual(await looks(), without);
     assert.equal(await page.$$eval('style, link', sheets => sheets.length), 0);
 });

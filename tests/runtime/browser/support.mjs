@@ -82,7 +82,8 @@ export function pageText({
     doctype = '<!DOCTYPE html>', library = '/runtime/', definitionUrl = 'menu.js', head = '', before = '',
     place = source(definitionUrl) + script('ZEVDisplayMenu();'), after = '',
     end = script('ZEVCreateMenu()'), handlers = 'onload="ZEVLoadMenu();" onresize="ZEVLoadMenu();"',
-    html = '<html lang="en">', loader = script(`var zev_path = '${library}';`) + source(library + 'zevmenu_loader.js'),
+    html = '<html lang="en">',
+    loader = script(`var zev_path = '${library}';`) + source(library + 'zevmenu_loader.js'),
 } = {}) {
     return `${doctype}\n${html}<head><meta charset="utf-8"><title>Test</title>${loader}${head}</head>\n` +
         `<body ${handlers}>${before}${place}${after}${end}</body></html>`;
@@ -90,13 +91,14 @@ export function pageText({
 
 /*
  * Shows a page with the given definition in the lab's tab and waits until the library is ready; the
- * mouse is then in the window's lower right corner. Options: those of pageText(), `definition`,
- * `path` of the page, `headers` of its answer, and the window's width, height, hasTouch.
+ * mouse is then in the window's lower right corner. Options: those of pageText(), `definition` and
+ * the delay of its answer, `path` of the page, `headers` of its answer, and the window's width,
+ * height, hasTouch.
  */
 async function show(page, origin, files, options) {
-    const { definition = nested, path = '/site/page.html', headers = {} } = options;
+    const { definition = nested, definitionDelayMs = 0, path = '/site/page.html', headers = {} } = options;
     const { width = 800, height = 600, hasTouch = false } = options;
-    files.set('/site/menu.js', definition);
+    files.set('/site/menu.js', { text: definition, delayMs: definitionDelayMs });
     files.set(path, { text: pageText(options), headers });
     await page.setViewport({ width, height, hasTouch });
     await page.emulateMediaFeatures([]);
