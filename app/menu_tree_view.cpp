@@ -92,6 +92,9 @@ void MenuTreeView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     const MenuNode* node = m_model.nodeAt(index);
     if (node == nullptr)
         return;
+    // The scroll bar must know the width of the rows that have just come into sight.
+    resizeColumnToContents(0);
+    updateGeometries();
     const int left = indentOf(*node) - indentation();
     const int right =
         std::min(indentOf(*node) + sizeHintForIndex(index).width(), left + viewport()->width());
@@ -108,10 +111,12 @@ void MenuTreeView::selectionChanged(const QItemSelection& selected,
         emit nodeClicked(node);
 }
 
-// Ctrl with a click or the space bar would take the selection away: then no item would be selected
-// while the panel still shows one.
+// Ctrl with a click or the space bar, and a click beside the rows, would take the selection away:
+// then no item would be selected while the panel still shows one.
 QItemSelectionModel::SelectionFlags MenuTreeView::selectionCommand(const QModelIndex& index,
                                                                    const QEvent* event) const {
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
     const QItemSelectionModel::SelectionFlags flags = QTreeView::selectionCommand(index, event);
     if (flags & (QItemSelectionModel::Deselect | QItemSelectionModel::Toggle))
         return QItemSelectionModel::ClearAndSelect;

@@ -1,0 +1,274 @@
+// The adapter between the menu tree and Qt's views, and the view that shows it.
+
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <random>
+
+#include "app/menu_tree_view.h"
+#include "app/tree_view_model.h"
+#include "model/tree_editing.h"
+
+using namespace zev;
+
+namespace {
+
+/// Labels in tree order, two spaces a level, "+" before an expanded node.
+QString treeText(const MenuTree& tree) {
+    QString text;
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+        for (const MenuNode* up = node->parent(); up; up = up->parent())
+            text += "  ";
+        text += (node->isExpanded ? "+" : "") + QString::fromStdString(node->text) + "\n";
+    }
+    return text;
+}
+
+/// The same read out of the view.
+QString viewText(const QTreeView& view, const QModelIndex& parent = {}, int level = 0) {
+    QString text;
+    for (int row = 0; row < view.model()->rowCount(parent); ++row) {
+        const QModelIndex index = view.model()->index(row, 0, parent);
+        text += QString(2 * level, ' ') + (view.isExpanded(index) ? "+" : "") +
+                index.data().toString() + "\n";
+        text += viewText(view, index, level + 1);
+    }
+    return text;
+}
+
+bool isInside(const MenuNode* node, const MenuNode* branch) {
+    while (node != nullptr && node != branch)
+        node = node->parent();
+    return node != nullptr;
+}
+
+/// Random editing of a tree, always the same for the same seed.
+class Editor {
+  public:
+    Editor(MenuTree& tree, unsigned seed) : m_tree(tree), m_random(seed) {}
+
+    void step() {
+        MenuNode* node = any();
+        MenuNode* other = any();
+        const auto count = static_cast<unsigned>(m_tree.childrenOf(other).size());
+        switch (below(6)) {
+            case 0:
+            case 1: {
+                const std::string key = "k" + std::to_string(m_nextKey++);
+                m_tree.insert(other, below(count + 1), key, key);
+                break;
+            }
+            case 2:
+                if (node != nullptr && m_tree.size() > 20)
+                    m_tree.remove(*node);
+                break;
+            case 3:
+                if (node != nullptr && !isInside(other, node))
+                    m_tree.move(*node, other, below(count + 1));
+                break;
+            case 4:
+                if (node != nullptr)
+                    m_tree.setText(*node, "t" + std::to_string(m_nextKey++));
+                break;
+            default:
+                if (node != nullptr)
+                    m_tree.setExpanded(*node, below(2) == 0);
+        }
+    }
+
+  private:
+    unsigned below(unsigned limit) { return static_cast<unsigned>(m_random() % limit); }
+    /// Null, for the top level, now and then.
+    MenuNode* any() {
+        MenuNode* node = m_tree.firstNode();
+        for (unsigned steps = below(static_cast<unsigned>(m_tree.size()) + 1); node && steps;
+             --steps)
+            node = m_tree.nextInTreeOrder(*node);
+        return node;
+    }
+
+    MenuTree& m_tree;
+    std::minstd_rand m_random;
+    int m_nextKey = 0;
+};
+
+}  // namespace
+
+class test_tree_view_model : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void indexesAndNodesStandForEachOther() {
+        MenuTree tree;
+        MenuNode* first = tree.append(nullptr, "1", "first");
+        MenuNode* second = tree.append(nullptr, "2", "second");
+        MenuNode* child = tree.append(second, "3", "child");
+        TreeViewModel model(tree);
+        QCOMPARE(model.rowCount(), 2);
+        QCOMPARE(model.columnCount(), 1);
+        QCOMPARE(model.indexOf(second), model.index(1, 0));
+        QCOMPARE(model.parent(model.indexOf(child)), model.indexOf(second));
+        QCOMPARE(model.nodeAt(model.index(0, 0, model.indexOf(second))), child);
+        QCOMPARE(model.nodeAt(QModelIndex()), nullptr);
+        QVERIFY(!model.indexOf(nullptr).isValid());
+        QVERIFY(!model.hasChildren(model.indexOf(first)));
+        QVERIFY(model.hasChildren(model.indexOf(second)));
+        QVERIFY(!model.index(2, 0).isValid());
+        QVERIFY(!model.index(0, 1).isValid());
+    }
+
+    void labelsAreTheNodesTextCharacterForCharacter_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("plain") << "Home";
+        QTest::newRow("empty") << "";
+        QTest::newRow("markup is no markup") << "<b>Bold</b> &amp; <img src=\"a.gif\">";
+        QTest::newRow("access key mark") << "Save && Exit &now";
+        QTest::newRow("beyond ASCII") << QString::fromUtf8("Za\u017c\u00f3\u0142\u0107 \U0001F600");
+    }
+    void labelsAreTheNodesTextCharacterForCharacter() {
+        QFETCH(QString, text);
+        MenuTree tree;
+        tree.append(nullptr, "1", text.toStdString());
+        TreeViewModel model(tree);
+        QCOMPARE(model.index(0, 0).data(Qt::DisplayRole).toString(), text);
+        QCOMPARE(model.index(0, 0).data(Qt::EditRole).toString(), text);
+    }
+
+    void anOverlongLabelIsCutForTheEyeOnly() {
+        const QString longText(TreeViewModel::kMaxShownLabel + 1, 'x');
+        MenuTree tree;
+        tree.append(nullptr, "1", longText.toStdString());
+        TreeViewModel model(tree);
+        const QString shown = model.index(0, 0).data(Qt::DisplayRole).toString();
+        QCOMPARE(shown, longText.left(TreeViewModel::kMaxShownLabel) + QChar(0x2026));
+        QCOMPARE(model.index(0, 0).data(Qt::EditRole).toString(), longText);
+    }
+
+    void editingALabelChangesTheNodeAndIsAnnounced() {
+        MenuTree tree;
+        const MenuNode* node = tree.append(nullptr, "1", "old");
+        TreeViewModel model(tree);
+        QSignalSpy edited(&model, &TreeViewModel::labelEdited);
+        QSignalSpy changed(&model, &TreeViewModel::dataChanged);
+        QVERIFY(model.setData(model.index(0, 0), "new", Qt::EditRole));
+        QCOMPARE(node->text, "new");
+        QCOMPARE(edited.size(), 1);
+        QCOMPARE(edited[0][0].toString(), "new");
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(!model.setData(model.index(0, 0), "other", Qt::DecorationRole));
+        QCOMPARE(node->text, "new");
+    }
+
+    void theModelKeepsQtsRulesUnderRandomEditing() {
+        MenuTree tree;
+        TreeViewModel model(tree);
+        const QAbstractItemModelTester tester(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        Editor editor(tree, 20261121);
+        for (int i = 0; i < 1500; ++i)
+            editor.step();
+        QVERIFY(tree.size() > 20);
+        MenuTree other;
+        other.append(nullptr, "x", "x");
+        tree.takeFrom(other);
+        QCOMPARE(model.rowCount(), 1);
+        tree.clear();
+        QCOMPARE(model.rowCount(), 0);
+    }
+
+    void theViewShowsTreeAndExpansionUnderRandomEditing() {
+        MenuDocument document("/program");
+        MenuTreeView view(document);
+        view.show();
+        Editor editor(document.tree, 42);
+        for (int i = 0; i < 400; ++i) {
+            editor.step();
+            if (i % 20 == 0)
+                QCoreApplication::processEvents();
+            QCOMPARE(viewText(view), treeText(document.tree));
+        }
+    }
+
+    void aDocumentThatIsSwappedInShowsItsExpansion() {
+        MenuDocument document("/program");
+        MenuTreeView view(document);
+        MenuDocument other("/program");
+        MenuNode* a = other.tree.append(nullptr, "a", "a");
+        MenuNode* b = other.tree.append(a, "b", "b");
+        other.tree.append(b, "c", "c");
+        other.tree.setExpanded(*a, true);
+        document.takeFrom(other);
+        QCOMPARE(viewText(view), "+a\n  b\n    c\n");
+    }
+
+    void expandingInTheViewReachesTheNode() {
+        MenuDocument document("/program");
+        MenuNode* a = document.tree.append(nullptr, "a", "a");
+        document.tree.append(a, "b", "b");
+        MenuTreeView view(document);
+        view.show();
+        view.setCurrentIndex(view.model()->index(0, 0));
+        QTest::keyClick(&view, Qt::Key_Right);
+        QVERIFY(a->isExpanded);
+        QTest::keyClick(&view, Qt::Key_Left);
+        QVERIFY(!a->isExpanded);
+    }
+
+    void theSelectionFollowsTheDocument() {
+        MenuDocument document("/program");
+        MenuNode* a = document.tree.append(nullptr, "a", "a");
+        MenuTreeView view(document);
+        QSignalSpy clicked(&view, &MenuTreeView::nodeClicked);
+        document.selectedNode = a;
+        view.showSelection();
+        QCOMPARE(view.selectionModel()->selectedIndexes().size(), 1);
+        document.selectedNode = nullptr;
+        view.showSelection();
+        QVERIFY(view.selectionModel()->selectedIndexes().isEmpty());
+        QVERIFY(clicked.isEmpty());
+    }
+
+    void theSelectionCannotBeTakenAwayByHand() {
+        MenuDocument document("/program");
+        MenuNode* a = document.tree.append(nullptr, "a", "a");
+        MenuTreeView view(document);
+        view.show();
+        document.selectedNode = a;
+        view.showSelection();
+        const QModelIndex index = view.model()->index(0, 0);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          view.visualRect(index).topLeft() + QPoint(5, 5));
+        QVERIFY(view.selectionModel()->isSelected(index));
+        QTest::keyClick(&view, Qt::Key_Space, Qt::ControlModifier);
+        QVERIFY(view.selectionModel()->isSelected(index));
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                          view.viewport()->rect().bottomLeft() - QPoint(-5, 5));
+        QVERIFY(view.selectionModel()->isSelected(index));
+    }
+
+    void aNodeAThousandLevelsDownScrollsIntoView() {
+        MenuDocument document("/program");
+        MenuNode* node = nullptr;
+        for (int level = 0; level < 1000; ++level)
+            node = document.tree.append(node, std::to_string(level), "Level");
+        MenuTreeView view(document);
+        view.resize(300, 200);
+        view.show();
+        document.tree.makeVisible(*node);
+        document.selectedNode = node;
+        view.showSelection();
+        QCoreApplication::processEvents();
+        const QRect place =
+            view.visualRect(static_cast<TreeViewModel*>(view.model())->indexOf(node));
+        QVERIFY(view.viewport()->rect().contains(place.topLeft() + QPoint(5, 5)));
+        document.selectedNode = document.tree.firstNode();
+        view.showSelection();
+        QCOMPARE(view.horizontalScrollBar()->value(), 0);
+    }
+};
+
+QTEST_MAIN(test_tree_view_model)
+#include "test_tree_view_model.moc"
