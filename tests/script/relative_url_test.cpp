@@ -210,8 +210,8 @@ TEST(ToAbsolutePath, AddressesStayInAnyCase) {
     }
 }
 
-// Only three schemes are exempt with what follows them. Definitions rebased by earlier versions
-// rely on the others being treated like relative URLs.
+// Only three schemes are exempt with whatever follows them. It looks like a mistake and is wanted:
+// the other two are exempt only when nothing follows.
 TEST(ToAbsolutePath, FullAddressesOfOtherSchemesAreTreatedLikeRelativeURLs) {
     CheckAbsolute({
         {R"(C:\web)", "https://host/a.html", R"(C:\web\https:\\host\a.html)"},
