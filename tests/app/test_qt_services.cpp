@@ -8,15 +8,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPointer>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-#include <functional>
 
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_message_box.h"
+#include "when_shown.h"
 
 using namespace zev;
 
@@ -24,26 +22,6 @@ namespace {
 
 using Answer = MessageBox::Answer;
 using Buttons = MessageRequest::Buttons;
-
-/// Runs `step` as soon as a modal window of type T is shown.
-template <typename T>
-void whenShown(std::function<void(T&)> step) {
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, step = std::move(step)] {
-        auto* widget = qobject_cast<T*>(QApplication::activeModalWidget());
-        if (widget == nullptr || !widget->isVisible()) {
-            return;
-        }
-        timer->stop();
-        timer->deleteLater();
-        const QPointer<QWidget> shown = widget;
-        step(*widget);
-        if (QTest::currentTestFailed() && shown != nullptr) {
-            shown->close();  // a step that failed did not come to its end
-        }
-    });
-    timer->start(10);
-}
 
 void typeName(QFileDialog& dialog, const QString& name) {
     auto* field = dialog.findChild<QLineEdit*>("fileNameEdit");

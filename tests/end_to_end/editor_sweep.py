@@ -1,0 +1,57 @@
+#!/usr/bin/env python3
+"""Breaks every file operation of the editor's saving commands once.
+
+usage: editor_sweep.py SAVE_DRIVER
+
+Exit status: 0 all is well, 1 a file was damaged or something was left behind, 77 the system does
+not allow the test.
+"""
+
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "faults"))
+
+import fault_sweep  # noqa: E402
+
+RUN_TIME_FILES = ["zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"]
+
+
+def new_template(work, name, is_replacing):
+    """A folder as save_driver wants it; `is_replacing`: every file to be written is there."""
+    template = fault_sweep.new_template(work, name)
+    (template / "program").mkdir()
+    for file in RUN_TIME_FILES:
+        (template / "program" / file).write_bytes(b"content of " + file.encode())
+    if is_replacing:
+        for folder in [template, template / "site"]:
+            for file in [*RUN_TIME_FILES[:3], "orlet_temp.html", "orlet_temp.js"]:
+                (folder / file).write_bytes(b"old " + file.encode())
+        (template / "site/menu.js").write_bytes(b"old " * 1000)
+    return template
+
+
+def sweeps(program, work):
+    for command, definition in [("save", "in.js"), ("saveas", "site/menu.js"),
+                                ("preview", "orlet_temp.js")]:
+        for is_replacing in [False, True]:
+            name = f"{command}, {'replaced' if is_replacing else 'new'} files"
+            template = new_template(work, name.replace(", ", "-").replace(" ", "-"), is_replacing)
+            fault_sweep.give_to_nobody(template)
+            yield fault_sweep.Sweep(name, template, [program, command, "{folder}"], definition,
+                                    work)
+
+
+def main():
+    if len(sys.argv) != 2:
+        print(__doc__, file=sys.stderr)
+        return 2
+    if not fault_sweep.may_trace():
+        return fault_sweep.SKIPPED
+    with fault_sweep.Work() as work:
+        program = fault_sweep.install(sys.argv[1], work)
+        return fault_sweep.run_sweeps(list(sweeps(program, work)))
+
+
+if __name__ == "__main__":
+    sys.exit(main())

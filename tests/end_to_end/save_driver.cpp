@@ -1,0 +1,99 @@
+// Runs one saving command of the editor, without its window, on the real disk:
+//
+//     save_driver save|saveas|preview FOLDER
+//
+// FOLDER holds "program" (the run-time files), "in.js" (a definition) and "site". The first item of
+// the definition gets a new caption; then "save" writes in.js again, "saveas" writes site/menu.js,
+// "preview" writes the preview files beside in.js. What the person would be told goes to standard
+// error. Exit status: 0 done, 2 wrong use, 3 a definition could not be read or written.
+
+#include <iostream>
+#include <string>
+
+#include "app/file_commands.h"
+#include "platform/posix/posix_file_system.h"
+#include "script/relative_url.h"
+
+using namespace zev;
+
+namespace {
+
+/// Says yes to every question, and remembers whether a definition was lost.
+class PrintedMessages : public MessageBox {
+  public:
+    bool isFailureShown = false;
+
+    Answer show(const MessageRequest& request) override {
+        std::cerr << request.text << '\n';
+        isFailureShown = isFailureShown || request.text.starts_with("Could not ");
+        return request.buttons == MessageRequest::Buttons::Ok ? Answer::Ok : Answer::Yes;
+    }
+};
+
+class OneFile : public CommonDialogs {
+  public:
+    explicit OneFile(std::string path) : m_path(std::move(path)) {}
+    std::string openFile(const FileDialogRequest&) override { return m_path; }
+    std::string saveFile(const FileDialogRequest&) override { return m_path; }
+
+  private:
+    std::string m_path;
+};
+
+class NoShell : public Shell {
+  public:
+    std::string FindExecutable(const std::string&) override { return {}; }
+    bool ShellExecute(const std::string&, const std::string&) override { return false; }
+};
+
+class NoHelp : public HelpViewer {
+  public:
+    void show(const std::string&) override {}
+};
+
+class NoBrowser : public BrowserView {
+  public:
+    void load(const std::string&) override {}
+};
+
+class NoView : public EditorView {
+  public:
+    void validateFields() override {}
+    void StoreItem() override {}
+    void ShowItem() override {}
+    void ShowScript(const std::string&) override {}
+    void ShowCaption() override {}
+    void Button_Update() override {}
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::string command = argc == 3 ? argv[1] : "";
+    if (command != "save" && command != "saveas" && command != "preview") {
+        std::cerr << "usage: save_driver save|saveas|preview FOLDER\n";
+        return 2;
+    }
+    const std::string folder = argv[2];
+    PosixFileSystem files;
+    PrintedMessages messages;
+    OneFile dialogs(JoinPath(folder, "site/menu.js"));
+    NoShell shell;
+    NoHelp help;
+    NoBrowser browser;
+    NoView view;
+    MenuDocument document(JoinPath(folder, "program"));
+    FileCommands commands(document, view, {files, messages, dialogs, shell, help, browser});
+
+    if (!commands.openDefinition(JoinPath(folder, "in.js")) || document.tree.isEmpty())
+        return 3;
+    document.tree.firstNode()->item.Caption = "Changed";
+    document.bModified = true;
+    if (command == "save")
+        commands.mnuFileSave_Click();
+    else if (command == "saveas")
+        commands.mnuFileSaveAs_Click();
+    else
+        commands.ShowPreview();
+    return messages.isFailureShown ? 3 : 0;
+}
