@@ -122,6 +122,54 @@ class Sweep:
                 found.append((call, counts[call]))
         return found
 
+    def events(self):
+        """(call, path or paths) of each call of the trace that names a file."""
+        found = []
+        for line in self.trace_lines():
+            match = re.match(r"\d+\s+(\w+)\((.*)", line)
+            if not match:
+                continue
+            call, rest = match.groups()
+            if call.startswith("rename"):
+                names = re.findall(r'"([^"]*)"', rest)
+                found.append((call, *names))
+            else:
+                opened = re.findall(r"\d+<([^>]*)>", rest)
+                if opened:  # copy_file_range() names the source first
+                    found.append((call, opened[-1 if call == "copy_file_range" else 0]))
+        return found
+
+    def check_flushes(self):
+        """What was written must be on the disk before anything relies on it."""
+        events = self.events()
+        for at, (call, *paths) in enumerate(events):
+            if call in WRITES + ["ftruncate"] and paths[0].startswith(str(self.folder)):
+                later = [event for event in events[at:] if event[1] == paths[0]]
+                if ("fsync", paths[0]) not in later:
+                    self.fail("undisturbed", f"{paths[0]} was not flushed after {call}")
+            if call.startswith("rename"):
+                if ("fsync", paths[0]) not in events[:at]:
+                    self.fail("undisturbed", f"{paths[0]} was renamed before it was flushed")
+                if ("fsync", os.path.dirname(paths[1])) not in events[at:]:
+                    self.fail("undisturbed", f"the folder of {paths[1]} was not flushed")
+        self.check_kept_copies(events)
+
+    def check_kept_copies(self, events):
+        """Before a user's file is written in place a copy of it, and its name, are flushed."""
+        for name in self.old.files():
+            path = str(self.folder / name)
+            writes = [at for at, event in enumerate(events)
+                      if event[0] in WRITES and event[1] == path]
+            if not writes:
+                continue
+            before = events[:writes[0]]
+            copies = [at for at, event in enumerate(before)
+                      if event[0] == "fsync" and Path(event[1]).name.endswith("~")]
+            if not copies:
+                self.fail("undisturbed", f"{name} was written without a copy")
+            elif ("fsync", os.path.dirname(before[copies[-1]][1])) not in before[copies[-1]:]:
+                self.fail("undisturbed", f"the folder of the copy of {name} was not flushed")
+
     def fail(self, fault, what):
         self.problems.append(f"{self.name}, {fault}: {what}")
 
@@ -144,7 +192,9 @@ class Sweep:
             self.fail("undisturbed", "no write was seen")
         if self.problems:
             return
-        for call, number in calls:
+        self.check_flushes()
+        for position, (call, number) in enumerate(calls):
+            self.vanish_at(calls, position)
             for error in ERRORS:
                 self.break_call(call, number, error)
             if call in INTERRUPTIBLE:
@@ -163,10 +213,28 @@ class Sweep:
         if len(hit) != 1 or str(self.folder) not in hit[0]:
             self.fail(fault, f"the fault hit something else: {hit}")
         after = State(self.folder)
-        self.check_files(fault, after, killed=False)
+        self.check_files(fault, after, may_be_kept=False)
         # A leftover whose removal is what failed cannot but stay.
         self.check_strays(fault, after, allowed=call in ("unlink", "unlinkat"))
         self.check_status(fault, result, after)
+
+    def vanish_at(self, calls, position):
+        """The drive is gone from this call on, and back for the next run."""
+        call, number = calls[position]
+        fault = f"drive gone at {call} {number}"
+        first = {}
+        for later_call, later_number in calls[position:]:
+            first.setdefault(later_call, later_number)
+        self.refresh()
+        injections = [part for name, start in first.items()
+                      for part in ("-e", f"inject={name}:error=EIO:when={start}+")]
+        result = self.strace("-e", "trace=" + ",".join(first), *injections)
+        after = State(self.folder)
+        self.check_files(fault, after, may_be_kept=True)
+        is_written = after.bytes_of(self.definition) == self.new.bytes_of(self.definition)
+        if result.returncode not in (0, 3) or (result.returncode == 0 and not is_written):
+            self.fail(fault, f"status {result.returncode}")
+        self.check_next_run(fault)
 
     def interrupt_call(self, call, number):
         fault = f"interrupted {call} {number}"
@@ -179,7 +247,10 @@ class Sweep:
         _, lines = self.inject(call, number, "signal=KILL")
         if not any("killed by SIGKILL" in line for line in lines):
             self.fail(fault, "was not killed")
-        self.check_files(fault, State(self.folder), killed=True)
+        self.check_files(fault, State(self.folder), may_be_kept=True)
+        self.check_next_run(fault)
+
+    def check_next_run(self, fault):
         result = self.run()
         after = State(self.folder)
         if result.returncode != 0 or after.entries != self.new.entries:
@@ -187,17 +258,17 @@ class Sweep:
             self.fail(fault, f"the next run did not put all right: status {result.returncode}, "
                              f"{names} {result.stderr}")
 
-    def check_files(self, fault, after, killed):
+    def check_files(self, fault, after, may_be_kept):
         for name in sorted(set(self.old.entries) | set(self.new.entries)):
             entry = after.entries.get(name)
             if entry in (self.old.entries.get(name), self.new.entries.get(name)):
                 continue
-            if killed and self.is_kept(after, name):
+            if may_be_kept and self.is_kept(after, name):
                 continue
             self.fail(fault, f"{name} is neither the old nor the new one: {str(entry)[:200]}")
 
     def is_kept(self, after, name):
-        """A file killed while it was written in place: the old one must lie beside it."""
+        """A file left half-written in place: the old one must lie beside it."""
         old = self.old.bytes_of(name)
         return old is not None and any(after.bytes_of(stray) == old
                                        for stray in self.strays(after))

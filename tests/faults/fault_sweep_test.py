@@ -43,6 +43,8 @@ class FaultSweep(unittest.TestCase):
     def test_a_file_cut_short_is_caught(self):
         status, output = sweep("cp", "{folder}/in.js", "{folder}/site/menu.js")
         self.assertEqual(status, 1, output)
+        self.assertIn("site/menu.js was not flushed", output)
+        self.assertIn("site/menu.js was written without a copy", output)
         self.assertIn("site/menu.js is neither the old nor the new one", output)
 
     def test_what_a_killed_run_leaves_behind_is_caught(self):
