@@ -1,11 +1,8 @@
 // The tree editing commands as the person uses them: through menu entries, keys and the tree.
 
-#include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QTest>
-#include <random>
 
-#include "script/script_writer.h"
 #include "window_desk.h"
 
 using namespace zev;
@@ -397,7 +394,6 @@ class test_tree_commands : public QObject {
         QVERIFY(desk.script().toPlainText().contains("Item 1"));
     }
 
-    void randomCommandsKeepWindowAndDocumentTogether();
     void anItemIsAddedToAWideMenuWithoutDelay();
 
   private:
@@ -414,203 +410,6 @@ class test_tree_commands : public QObject {
             QFAIL("no such move");
     }
 };
-
-namespace {
-
-/// The same commands on a plain list of texts, to compare with.
-struct ExpectedItem {
-    int level;
-    QString caption;
-};
-
-/// Captions in tree order, as typed, read from the document after the panel was stored.
-QString captions(const MenuTree& tree) {
-    QString text;
-    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
-        for (const MenuNode* up = node->parent(); up; up = up->parent())
-            text += "  ";
-        text += QString::fromStdString(node->item.Caption) + "\n";
-    }
-    return text;
-}
-
-}  // namespace
-
-// A list of (level, caption) in tree order plays the document: a branch is an item and all that
-// follow it on deeper levels.
-class ExpectedMenu {
-  public:
-    void addSibling(const QString& caption) {
-        if (m_items.empty()) {
-            m_items.push_back({0, caption});
-            m_current = 0;
-            return;
-        }
-        const int level = m_items[m_current].level;
-        std::size_t at = m_current;
-        while (at < m_items.size() && m_items[at].level >= level)
-            ++at;
-        insert(at, {level, caption});
-        m_current = at;
-    }
-    void addChild(const QString& caption) {
-        if (!m_items.empty())
-            insert(branchEnd(m_current), {m_items[m_current].level + 1, caption});
-    }
-    void remove() {
-        if (m_items.empty())
-            return;
-        const std::size_t parent = parentOf(m_current);
-        const std::size_t previous = previousOf(m_current);
-        const int level = m_items[m_current].level;
-        erase(m_current, branchEnd(m_current));
-        if (m_current < m_items.size() && m_items[m_current].level == level)
-            return;
-        m_current = previous != kNone ? previous : parent != kNone ? parent : 0;
-    }
-    void moveLeft() {
-        const std::size_t parent = m_items.empty() ? kNone : parentOf(m_current);
-        if (parent != kNone)
-            transfer(branchEnd(parent), -1);
-    }
-    void moveRight() {
-        const std::size_t previous = m_items.empty() ? kNone : previousOf(m_current);
-        if (previous != kNone)
-            transfer(branchEnd(previous), 1);
-    }
-    void moveUp() {
-        const std::size_t previous = m_items.empty() ? kNone : previousOf(m_current);
-        if (previous != kNone)
-            transfer(previous, 0);
-    }
-    void moveDown() {
-        if (m_items.empty())
-            return;
-        const std::size_t next = branchEnd(m_current);
-        if (next < m_items.size() && m_items[next].level == m_items[m_current].level)
-            transfer(branchEnd(next), 0);
-    }
-    void select(std::size_t row) { m_current = row; }
-    void setCaption(const QString& caption) { m_items[m_current].caption = caption; }
-    std::size_t size() const { return m_items.size(); }
-    std::size_t current() const { return m_current; }
-    QString text() const {
-        QString text;
-        for (const ExpectedItem& item : m_items)
-            text += QString(2 * item.level, ' ') + item.caption + "\n";
-        return text;
-    }
-
-  private:
-    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
-    using Items = std::vector<ExpectedItem>;
-
-    Items::iterator at(std::size_t row) {
-        return m_items.begin() + static_cast<std::ptrdiff_t>(row);
-    }
-    void insert(std::size_t row, ExpectedItem item) { m_items.insert(at(row), std::move(item)); }
-    void erase(std::size_t from, std::size_t to) { m_items.erase(at(from), at(to)); }
-    std::size_t branchEnd(std::size_t row) const {
-        const int level = m_items[row].level;
-        ++row;
-        while (row < m_items.size() && m_items[row].level > level)
-            ++row;
-        return row;
-    }
-    std::size_t parentOf(std::size_t row) const {
-        for (std::size_t up = row; up-- > 0;) {
-            if (m_items[up].level < m_items[row].level)
-                return up;
-        }
-        return kNone;
-    }
-    std::size_t previousOf(std::size_t row) const {
-        for (std::size_t up = row; up-- > 0;) {
-            if (m_items[up].level == m_items[row].level)
-                return up;
-            if (m_items[up].level < m_items[row].level)
-                return kNone;
-        }
-        return kNone;
-    }
-    void transfer(std::size_t to, int levels) {
-        const std::size_t end = branchEnd(m_current);
-        Items branch(at(m_current), at(end));
-        for (ExpectedItem& item : branch)
-            item.level += levels;
-        erase(m_current, end);
-        if (to >= end)
-            to -= branch.size();
-        m_items.insert(at(to), branch.begin(), branch.end());
-        m_current = to;
-    }
-
-    Items m_items;
-    std::size_t m_current = 0;
-};
-
-void test_tree_commands::randomCommandsKeepWindowAndDocumentTogether() {
-    WindowDesk desk;
-    const QAbstractItemModelTester tester(desk.tree().model(),
-                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
-    ExpectedMenu expected;
-    MenuDocument& document = desk.document();
-    std::minstd_rand random(1121);
-    int added = 0;
-    for (int step = 0; step < 400; ++step) {
-        const auto choice = random() % 10;
-        if (choice < 2) {
-            expected.addSibling(QString("Item %1").arg(document.ItemCounter));
-            desk.choose("mnuEditAddMenuItem");
-            ++added;
-        } else if (choice == 2) {
-            expected.addChild(QString("Item %1").arg(document.ItemCounter));
-            desk.choose("mnuEditAddSubmenuItem");
-        } else if (choice == 3 && expected.size() > 8) {
-            expected.remove();
-            desk.choose("mnuEditDelete");
-        } else if (choice == 4) {
-            expected.moveLeft();
-            desk.choose("mnuEditMoveLeft");
-        } else if (choice == 5) {
-            expected.moveRight();
-            desk.choose("mnuEditMoveRight");
-        } else if (choice == 6) {
-            expected.moveUp();
-            desk.choose("mnuEditMoveUp");
-        } else if (choice == 7) {
-            expected.moveDown();
-            desk.choose("mnuEditMoveDown");
-        } else if (expected.size() > 0 && choice == 8) {
-            const QString caption = QString("typed %1").arg(step);
-            expected.setCaption(caption);
-            desk.type("txtCaption", caption);
-        } else if (expected.size() > 0) {
-            const std::size_t row = random() % expected.size();
-            MenuNode* node = document.tree.firstNode();
-            for (std::size_t i = 0; i < row; ++i)
-                node = document.tree.nextInTreeOrder(*node);
-            document.tree.makeVisible(*node);
-            expected.select(row);
-            desk.click(node);
-            QCOMPARE(document.CurNode, node);
-        }
-        QCOMPARE(document.selectedNode, document.CurNode);
-        QCOMPARE(desk.shownTree().remove('*'), expected.text());
-        if (document.CurNode != nullptr) {
-            QCOMPARE(desk.field("txtCaption").text(),
-                     QString::fromStdString(document.CurNode->text));
-            QCOMPARE(desk.shownTree().count('*'), 1);
-            QVERIFY(
-                desk.shownTree().contains("*" + QString::fromStdString(document.CurNode->text)));
-        }
-    }
-    QVERIFY(added > 40);
-    desk.clickTab("JavaScript");
-    QCOMPARE(captions(document.tree), expected.text());
-    QCOMPARE(desk.script().toPlainText(),
-             QString::fromStdString(GenerateScript(document)).replace("\r\n", "\n"));
-}
 
 // The released program is to need less than one frame of the screen, 16 ms. A debug build with
 // sanitizers on a busy machine gets ten times that.

@@ -62,6 +62,11 @@ struct WindowDesk {
         click(node);
         QTest::mouseDClick(tree().viewport(), Qt::LeftButton, {}, placeOf(node));
     }
+    /// Clicks the toolbar's button with this index.
+    void clickToolBar(int index) {
+        auto& bar = named<QToolBar>("tbToolBar");
+        QTest::mouseClick(bar.widgetForAction(bar.actions().at(index - 1)), Qt::LeftButton);
+    }
     void clickTab(const QString& caption) {
         QTabBar* bar = tabs().tabBar();
         for (int tab = 0; tab < bar->count(); ++tab) {

@@ -1,0 +1,65 @@
+// Takes a picture of each tab of the editor's window, to be looked at by a person:
+//
+//     grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT]
+//
+// QT_SCALE_FACTOR=2 gives the pictures of a 200 % display; a virtual display (Xvfb) does. The
+// definition's folder receives the preview's files.
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QScreen>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <QTest>
+
+#include "app/frm_main.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/posix_shell.h"
+#include "platform/qt/qt_browser_view.h"
+#include "platform/qt/qt_common_dialogs.h"
+#include "platform/qt/qt_help_viewer.h"
+#include "platform/qt/qt_message_box.h"
+#include "theme_palettes.h"
+
+using namespace zev;
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 3)
+        qFatal("grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT]");
+    const bool isDark = arguments.contains("--dark");
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(isDark ? darkPalette() : lightPalette());
+
+    PosixFileSystem files;
+    PosixShell shell(files);
+    QtMessageBox messages;
+    QtCommonDialogs dialogs;
+    QtHelpViewer help;
+    auto* browser = new QtBrowserView;
+    frmMain window({files, messages, dialogs, shell, help, *browser},
+                   QApplication::applicationDirPath().toStdString(), browser);
+    const qsizetype size = arguments.indexOf("--size");
+    if (size > 0) {
+        const QStringList sides = arguments.at(size + 1).split('x');
+        window.resize(sides.at(0).toInt(), sides.at(1).toInt());
+    }
+    window.move(0, 0);
+    window.show();
+    window.openDefinition(QFileInfo(arguments.at(1)).absoluteFilePath().toStdString());
+
+    auto* tabs = window.findChild<QTabWidget*>("MenuTab");
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        QTest::qWait(tabs->tabText(tab) == "Preview" ? 4000 : 300);
+        const QString name = QString("%1_%2_%3.png")
+                                 .arg(tabs->tabText(tab).toLower(), isDark ? "dark" : "light")
+                                 .arg(qRound(window.devicePixelRatio() * 100));
+        // From the screen, so that the browser's picture is the real one.
+        if (!window.screen()->grabWindow(window.winId()).save(QDir(arguments.at(2)).filePath(name)))
+            qFatal("The picture could not be written.");
+    }
+    return 0;
+}

@@ -1,0 +1,376 @@
+// The main window: which keys reach its commands, and what the commands of its menus do.
+
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTimer>
+#include <stdexcept>
+
+#include "window_desk.h"
+
+using namespace zev;
+
+namespace {
+
+using Answer = MessageBox::Answer;
+
+const char* const kSaveChanges = "Save changes to project?";
+const char* const kRecalculate = "Recalculate relative URLs for hyperlinks and images?";
+
+}  // namespace
+
+class test_frm_main_commands : public QObject {
+    Q_OBJECT
+
+  private slots:
+    // Keys
+
+    void shortcutsWinOverTextFields_data() {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("tree");
+        for (const char* field : {"txtCaption", "txtURL", "txtTarget"}) {
+            QTest::addRow("Ctrl+A in %s", field) << field << int(Qt::Key_A) << "a\nb\nc\n*Item 3\n";
+            QTest::addRow("Ctrl+W in %s", field)
+                << field << int(Qt::Key_W) << "a\n*b\n  Item 3\nc\n";
+            QTest::addRow("Ctrl+R in %s", field) << field << int(Qt::Key_R) << "a\n  *b\nc\n";
+            QTest::addRow("Ctrl+U in %s", field) << field << int(Qt::Key_U) << "*b\na\nc\n";
+            QTest::addRow("Ctrl+D in %s", field) << field << int(Qt::Key_D) << "a\nc\n*b\n";
+        }
+    }
+    void shortcutsWinOverTextFields() {
+        QFETCH(QString, field);
+        QFETCH(int, key);
+        QFETCH(QString, tree);
+        WindowDesk desk;
+        desk.add("a");
+        MenuNode* b = desk.add("b");
+        desk.add("c");
+        desk.click(b);
+        desk.field(field).setFocus();
+        QTest::keyClick(&desk.field(field), static_cast<Qt::Key>(key), Qt::ControlModifier);
+        QCOMPARE(desk.shownTree(), tree);
+    }
+
+    void aDisabledShortcutDoesNotEditTheField() {
+        WindowDesk desk;
+        desk.add("first");
+        QVERIFY(!desk.action("mnuEditMoveUp").isEnabled());
+        QTest::keyClick(&desk.field("txtCaption"), Qt::Key_U, Qt::ControlModifier);
+        QCOMPARE(desk.field("txtCaption").text(), "first");
+    }
+
+    void delEditsTextInAField() {
+        WindowDesk desk;
+        desk.add("Home");
+        desk.field("txtCaption").setCursorPosition(0);
+        QTest::keyClick(&desk.field("txtCaption"), Qt::Key_Delete);
+        QCOMPARE(desk.field("txtCaption").text(), "ome");
+        QTest::keyClick(&desk.field("txtCaption"), Qt::Key_Delete, Qt::KeypadModifier);
+        QCOMPARE(desk.field("txtCaption").text(), "me");
+        QCOMPARE(desk.shownTree(), "*me\n");
+    }
+
+    void delEditsTextInALabelBeingEdited() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("Home");
+        desk.doubleClick(a);
+        desk.labelEditor()->setCursorPosition(0);
+        QTest::keyClick(desk.labelEditor(), Qt::Key_Delete);
+        QCOMPARE(desk.labelEditor()->text(), "ome");
+    }
+
+    void delDeletesNothingWhileTheScriptIsRead() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.clickTab("JavaScript");
+        desk.script().setFocus();
+        QTest::keyClick(&desk.script(), Qt::Key_Delete);
+        QCOMPARE(desk.shownTree(), "*a\n");
+    }
+
+    void delOnAButtonDeletesTheItem() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.button("cmdURL").setFocus();
+        QTest::keyClick(&desk.button("cmdURL"), Qt::Key_Delete);
+        QCOMPARE(desk.shownTree(), "");
+    }
+
+    void aCommandLeavesTheFieldFirst_data() {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("panel");
+        QTest::newRow("caption") << "txtCaption"
+                                 << "It's"
+                                 << "normal|It\\'s||||";
+        QTest::newRow("URL") << "txtURL"
+                             << "f('a\")"
+                             << "normal|a|f(\\'a)|||";
+        QTest::newRow("target") << "txtTarget"
+                                << "'main\""
+                                << "normal|a||main||";
+    }
+    void aCommandLeavesTheFieldFirst() {
+        QFETCH(QString, field);
+        QFETCH(QString, typed);
+        QFETCH(QString, panel);
+        for (const bool byKey : {true, false}) {
+            WindowDesk desk;
+            desk.add("a");
+            desk.document().SaveFile = "/site/menu.js";
+            desk.document().SavePath = "/site";
+            desk.type(field, typed);
+            if (byKey)
+                QTest::keyClick(&desk.field(field), Qt::Key_S, Qt::ControlModifier);
+            else
+                desk.clickToolBar(3);
+            QCOMPARE(desk.shownPanel(), panel);
+            QVERIFY(desk.disk.allFiles()
+                        .at("/site/menu.js")
+                        .find(desk.document().CurNode->item.GetText()) != std::string::npos);
+            QVERIFY(!desk.document().bModified);
+        }
+    }
+
+    void aMenuOpenedByKeyboardRunsItsEntry() {
+        WindowDesk desk;
+        desk.add("It's");
+        QTest::keyClick(&desk.field("txtCaption"), Qt::Key_E, Qt::AltModifier);
+        auto* menu = desk.window.findChild<QMenu*>("mnuEdit");
+        QTRY_VERIFY(menu->isVisible());
+        QTest::keyClick(menu, Qt::Key_M);
+        QCOMPARE(desk.shownTree(), "It\\'s\n*Item 1\n");
+    }
+
+    // File commands in the window
+
+    void theCaptionNamesTheFile() {
+        WindowDesk desk;
+        desk.add("a");
+        saveAs(desk, "/site/menu.js");
+        QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator (/site/menu.js)");
+        desk.choose("mnuFileNew");
+        QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator");
+    }
+
+    void anOpenedMenuShowsItsFirstItem() {
+        WindowDesk desk;
+        desk.add("first");
+        desk.type("txtURL", "first.html");
+        desk.addChild("child");
+        desk.click(desk.document().tree.firstNode());
+        desk.add("second");
+        saveAs(desk, "/site/menu.js");
+        desk.choose("mnuFileNew");
+        QCOMPARE(desk.shownTree(), "");
+        desk.dialogs.expectOpenFile("/site/menu.js");
+        desk.choose("mnuFileOpen");
+        QCOMPARE(desk.shownTree(), "*first\n  child\nsecond\n");
+        QCOMPARE(desk.shownPanel(), "normal|first|first.html|||");
+        QCOMPARE(desk.document().CurNode, desk.document().tree.firstNode());
+        QCOMPARE(desk.document().selectedNode, desk.document().tree.firstNode());
+        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.action("mnuFileSave").isEnabled());
+        QVERIFY(desk.action("mnuEditMoveDown").isEnabled());
+        QVERIFY(desk.script().toPlainText().contains("second"));
+    }
+
+    void openingWhileAnotherMenuIsShownCarriesNothingOver() {
+        WindowDesk desk;
+        desk.add("saved");
+        saveAs(desk, "/site/menu.js");
+        desk.choose("mnuFileNew");
+        desk.add("other");
+        desk.type("txtURL", "other.html");
+        desk.dialogs.expectOpenFile("/site/menu.js");
+        desk.choose("mnuFileOpen");
+        QCOMPARE(desk.shownPanel(), "normal|saved||||");
+        desk.clickTab("JavaScript");
+        QVERIFY(!desk.script().toPlainText().contains("other"));
+    }
+
+    void aMenuThatCannotBeOpenedLeavesTheOneShown() {
+        WindowDesk desk;
+        desk.add("kept");
+        desk.messages.expect(
+            "a message about the file",
+            [](const MessageRequest& request) {
+                return request.text.find("/site/none.js") != std::string::npos;
+            },
+            Answer::Ok);
+        desk.window.openDefinition("/site/none.js");
+        QCOMPARE(desk.shownTree(), "*kept\n");
+        QCOMPARE(desk.shownPanel(), "normal|kept||||");
+        QVERIFY(desk.document().bModified);
+    }
+
+    void saveAsShowsTheRecalculatedLinks() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.document().SavePath = "/site";
+        desk.type("txtURL", "page.html");
+        desk.disk.addFolder("/site/sub");
+        desk.dialogs.expectSaveFile("/site/sub/menu.js");
+        desk.messages.expect(kRecalculate, Answer::Yes);
+        desk.choose("mnuFileSaveAs");
+        QCOMPARE(desk.shownPanel(), "normal|a|../page.html|||");
+    }
+
+    void saveLeavesTheSaveCommandEnabledUntilTheNextCommand() {
+        WindowDesk desk;
+        desk.add("a");
+        saveAs(desk, "/site/menu.js");
+        desk.type("txtURL", "x");
+        desk.choose("mnuFileSave");
+        QVERIFY(!desk.document().bModified);
+        QVERIFY(desk.action("mnuFileSave").isEnabled());
+        desk.click(desk.document().CurNode);
+        QVERIFY(!desk.action("mnuFileSave").isEnabled());
+    }
+
+    // Exit
+
+    void exitWithoutChangesEndsAtOnce() {
+        WindowDesk desk;
+        QSignalSpy ended(&desk.window, &frmMain::ended);
+        desk.choose("mnuFileExit");
+        QCOMPARE(ended.size(), 1);
+        QVERIFY(!desk.window.isVisible());
+    }
+
+    void exitWithChangesAsks_data() {
+        QTest::addColumn<bool>("byClosing");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("ends");
+        for (const bool byClosing : {false, true}) {
+            const char* how = byClosing ? "by closing the window" : "by the menu";
+            QTest::addRow("no, %s", how) << byClosing << int(Answer::No) << true;
+            QTest::addRow("cancel, %s", how) << byClosing << int(Answer::Cancel) << false;
+            QTest::addRow("yes and cancelled dialog, %s", how)
+                << byClosing << int(Answer::Yes) << true;
+        }
+    }
+    void exitWithChangesAsks() {
+        QFETCH(bool, byClosing);
+        QFETCH(int, answer);
+        QFETCH(bool, ends);
+        WindowDesk desk;
+        QSignalSpy ended(&desk.window, &frmMain::ended);
+        desk.add("It's");
+        desk.messages.expect(kSaveChanges, static_cast<Answer>(answer));
+        if (static_cast<Answer>(answer) == Answer::Yes)
+            desk.dialogs.expectSaveFile("");
+        if (byClosing)
+            desk.window.close();
+        else
+            desk.choose("mnuFileExit");
+        QCOMPARE(ended.size(), ends ? 1 : 0);
+        QCOMPARE(desk.window.isVisible(), !ends);
+        QVERIFY(desk.document().bModified);
+        // It counts as leaving the field.
+        QCOMPARE(desk.field("txtCaption").text(), "It\\'s");
+    }
+
+    void exitAnsweredYesSaves() {
+        WindowDesk desk;
+        QSignalSpy ended(&desk.window, &frmMain::ended);
+        desk.add("a");
+        desk.messages.expect(kSaveChanges, Answer::Yes);
+        desk.dialogs.expectSaveFile("/site/menu.js");
+        desk.messages.expect(kRecalculate, Answer::No);
+        desk.window.close();
+        QCOMPARE(ended.size(), 1);
+        QVERIFY(desk.disk.FileExists("/site/menu.js"));
+    }
+
+    void exitAfterACancelledOpenAsksNothing() {
+        WindowDesk desk;
+        QSignalSpy ended(&desk.window, &frmMain::ended);
+        desk.add("a");
+        desk.dialogs.expectOpenFile("");
+        desk.choose("mnuFileOpen");
+        QVERIFY(!desk.action("mnuFileSave").isEnabled());
+        desk.choose("mnuFileExit");
+        QCOMPARE(ended.size(), 1);
+    }
+
+    // Other entries
+
+    void whatIsNotBuiltYetSaysSo_data() {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("what");
+        QTest::newRow("F8") << "mnuEditDefault"
+                            << "Default Menu Properties";
+        QTest::newRow("F2") << "mnuEditMenuProperties"
+                            << "Menu Properties";
+        QTest::newRow("wizard") << "mnuToolsIntegrate"
+                                << "Menu Integrator";
+        QTest::newRow("Quillmenu") << "mnuFileImportQuillmenu"
+                                   << "Import from Quillmenu";
+        QTest::newRow("OrletBar") << "mnuFileImportOrletBar"
+                                  << "Import from OrletBar";
+        QTest::newRow("OrletMenu") << "mnuFileImportOrletMenu"
+                                   << "Import from OrletMenu";
+        QTest::newRow("OrletButton") << "mnuFileImportOrletButton"
+                                     << "Import from OrletButton";
+    }
+    void whatIsNotBuiltYetSaysSo() {
+        QFETCH(QString, entry);
+        QFETCH(QString, what);
+        WindowDesk desk;
+        desk.add("a");
+        desk.messages.expect(what.toStdString() + " is not part of this build yet.");
+        desk.choose(entry);
+    }
+
+    void contentsShowsTheManual() {
+        WindowDesk desk;
+        QTest::keyClick(&desk.tree(), Qt::Key_F1);
+        QCOMPARE(desk.help.recorded().size(), std::size_t(1));
+        QCOMPARE(desk.help.recorded().front(), "/program/help/index.html");
+    }
+
+    void supportOpensItsPageInTheBrowser() {
+        WindowDesk desk;
+        desk.shell.expectFindExecutable("/usr/bin/browser");
+        desk.shell.expectShellExecute("/usr/bin/browser", "https://zevmenu.example/support");
+        desk.choose("mnuHelpSupport");
+        desk.shell.verify();
+    }
+
+    void aboutShowsTheAboutBox() {
+        WindowDesk desk;
+        bool wasShown = false;
+        QTimer::singleShot(0, &desk.window, [&wasShown] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            wasShown = dialog != nullptr && dialog->inherits("zev::frmAbout");
+            if (dialog != nullptr)
+                dialog->reject();
+        });
+        desk.choose("mnuHelpAbout");
+        QVERIFY(wasShown);
+    }
+
+    void anExceptionInACommandIsReportedAndTheProgramGoesOn() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.messages.expect(
+            kSaveChanges, [](const MessageRequest&) -> bool { throw std::runtime_error("broken"); },
+            Answer::No);
+        desk.messages.expect("The command could not be finished: broken");
+        desk.choose("mnuFileNew");
+        QCOMPARE(desk.shownTree(), "*a\n");
+    }
+
+  private:
+    static void saveAs(WindowDesk& desk, const std::string& path) {
+        desk.dialogs.expectSaveFile(path);
+        desk.messages.expect(kRecalculate, Answer::No);
+        desk.choose("mnuFileSaveAs");
+    }
+};
+
+QTEST_MAIN(test_frm_main_commands)
+#include "test_frm_main_commands.moc"
