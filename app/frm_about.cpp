@@ -38,9 +38,10 @@ frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget*
     version->setObjectName("lblVersion");
 
     auto* links = new QFormLayout;
+    links->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     links->addRow("Web site:",
-                  makeLink("lblWebSite", "https://zevmenu.example/", "https://zevmenu.example/"));
-    links->addRow("E-mail:", makeLink("lblEMail", "mailto:support@zevmenu.example",
+                  makeLink("cmdWebSite", "https://zevmenu.example/", "https://zevmenu.example/"));
+    links->addRow("E-mail:", makeLink("cmdEMail", "mailto:support@zevmenu.example",
                                       "support@zevmenu.example"));
 
     auto* texts = new QVBoxLayout;
@@ -62,7 +63,6 @@ frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget*
     QPushButton* cmdOK = buttons->button(QDialogButtonBox::Ok);
     cmdOK->setObjectName("cmdOK");
     cmdOK->setDefault(true);
-    cmdOK->setFocus();
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
 
     auto* layout = new QVBoxLayout(this);
@@ -71,17 +71,25 @@ frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget*
     layout->addLayout(content);
     layout->addWidget(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
+    cmdOK->setFocus();
 }
 
-QLabel* frmAbout::makeLink(const QString& name, const QString& address, const QString& shownText) {
-    auto* link = new QLabel(QString("<a href=\"%1\">%2</a>").arg(address, shownText));
+/// A button that looks like a link: a label with a link in it takes a second press of Tab before
+/// Enter follows it.
+QPushButton* frmAbout::makeLink(const QString& name, const QString& address,
+                                const QString& shownText) {
+    auto* link = new QPushButton(shownText);
     link->setObjectName(name);
-    link->setAccessibleName(shownText);
-    link->setTextFormat(Qt::RichText);
-    link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    link->setFocusPolicy(Qt::StrongFocus);
-    connect(link, &QLabel::linkActivated, this,
-            [this](const QString& target) { m_openAddress(target.toStdString()); });
+    link->setFlat(true);
+    link->setCursor(Qt::PointingHandCursor);
+    QFont font = link->font();
+    font.setUnderline(true);
+    link->setFont(font);
+    QPalette colours = link->palette();
+    colours.setColor(QPalette::ButtonText, colours.color(QPalette::Link));
+    link->setPalette(colours);
+    connect(link, &QPushButton::clicked, this,
+            [this, address] { m_openAddress(address.toStdString()); });
     return link;
 }
 

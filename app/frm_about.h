@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-class QLabel;
+class QPushButton;
 
 namespace zev {
 
@@ -17,7 +17,7 @@ class frmAbout : public QDialog {
                       QWidget* parent = nullptr);
 
   private:
-    QLabel* makeLink(const QString& name, const QString& address, const QString& shownText);
+    QPushButton* makeLink(const QString& name, const QString& address, const QString& shownText);
 
     std::function<void(const std::string&)> m_openAddress;
 };
