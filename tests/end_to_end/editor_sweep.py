@@ -31,15 +31,11 @@ def new_template(work, name, is_replacing):
     return template
 
 
-def sweeps(program, work):
-    for command, definition in [("save", "in.js"), ("saveas", "site/menu.js"),
-                                ("preview", "orlet_temp.js")]:
-        for is_replacing in [False, True]:
-            name = f"{command}, {'replaced' if is_replacing else 'new'} files"
-            template = new_template(work, name.replace(", ", "-").replace(" ", "-"), is_replacing)
-            fault_sweep.give_to_nobody(template)
-            yield fault_sweep.Sweep(name, template, [program, command, "{folder}"], definition,
-                                    work)
+def new_sweep(program, work, command, definition, is_replacing):
+    name = f"{command}, {'replaced' if is_replacing else 'new'} files"
+    template = new_template(work, name.replace(", ", "-").replace(" ", "-"), is_replacing)
+    fault_sweep.give_to_nobody(template)
+    return fault_sweep.Sweep(name, template, [program, command, "{folder}"], definition, work)
 
 
 def main():
@@ -50,7 +46,12 @@ def main():
         return fault_sweep.SKIPPED
     with fault_sweep.Work() as work:
         program = fault_sweep.install(sys.argv[1], work)
-        return fault_sweep.run_sweeps(list(sweeps(program, work)))
+        return fault_sweep.run_sweeps([
+            new_sweep(program, work, "save", "in.js", is_replacing=True),
+            new_sweep(program, work, "saveas", "site/menu.js", is_replacing=False),
+            new_sweep(program, work, "saveas", "site/menu.js", is_replacing=True),
+            new_sweep(program, work, "preview", "orlet_temp.js", is_replacing=False),
+        ])
 
 
 if __name__ == "__main__":
