@@ -1,8 +1,8 @@
 // Submenus, rollovers and pop-ups under a real mouse.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, focus, hover, isShown, item, pause, rect, script, shown, source, startLab, until, waitGone,
-    waitShown } from './support.mjs';
+import { boxRect, focus, hover, isShown, item, nested, pause, rect, script, shown, source, startLab,
+    until, waitGone, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -86,12 +86,12 @@ test('a deeper level closes on its own delay while the mouse stays on a shallowe
 });
 
 test('coming back in time keeps every level open', async () => {
-    await lab.show({ definition: longDelay.replace('60000', '600') });
+    await lab.show({ definition: longDelay.replace('60000', '1500') });
     await openDeep();
     await page.mouse.move(700, 500);
     await pause(150);
     await hover(page, 'Sea kayaks');
-    await pause(900);
+    await pause(1700);
     assert.equal(await shown(page, ...everything), 'Boats Canoes Sea kayaks');
 });
 
@@ -118,7 +118,10 @@ test('a diagonal path towards an open submenu does not change over to the items 
     await waitShown(page, 'Kayaks');
     const [from, to] = [await rect(page, 'Boats'), await rect(page, 'Kayaks')];
     await page.mouse.move(from.right - 30, from.bottom - 3);
-    await page.mouse.move(to.left + 20, to.bottom - 5, { steps: 25 });
+    // All at once: a mouse that waits for a slow machine between two steps would be a resting one.
+    await Promise.all(Array.from({ length: 25 }, (_, step) => page.mouse.move(
+        from.right - 30 + (to.left - from.right + 50) * (step + 1) / 25,
+        from.bottom - 3 + (to.bottom - from.bottom - 2) * (step + 1) / 25)));
     assert.equal(await shown(page, 'Kayaks', 'Bamboo'), 'Kayaks');
 });
 
@@ -420,7 +423,7 @@ test('a pop-up at coordinates opens there, in page coordinates', async () => {
 });
 
 test('a pop-up closes closedelay milliseconds after its link was left', async () => {
-    await showPopups();
+    await showPopups({ definition: nested.replace('300', '1000') });
     await pointAt('mouse');
     await waitShown(page, 'Canoes');
     await page.mouse.move(700, 500);

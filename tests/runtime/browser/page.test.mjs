@@ -93,14 +93,14 @@ test('the menu works in a page opened as a file, with the library in another fol
     }
     writeFileSync(join(folder, 'menu.js'), nested);
     writeFileSync(join(folder, 'pages', 'page.html'), pageText({ library: '../js/', definitionUrl: '../menu.js' }));
+    page = await lab.newPage();
     try {
-        page = await lab.newPage();
         await page.goto(pathToFileURL(join(folder, 'pages', 'page.html')).href);
         await assertWorks();
         const href = await (await item(page, 'Oars')).evaluate(link => link.href);
         assert.equal(href, pathToFileURL(join(folder, 'oars.html')).href);
-        await page.close();
     } finally {
+        await page.close();
         page = lab.page;
         rmSync(folder, { recursive: true });
     }
@@ -213,7 +213,7 @@ test('a menu without items draws nothing', async () => {
 async function showWithSlowRenderer() {
     for (const name of ['zevmenu_loader.js', 'zevmenu_dom.js']) {
         lab.files.set('/slow/' + name, { text: readFileSync(join(libraryFolder, name), 'utf8'),
-                                         delayMs: name == 'zevmenu_dom.js' ? 600 : 0 });
+                                         delayMs: name == 'zevmenu_dom.js' ? 1500 : 0 });
     }
     lab.files.set('/site/menu.js', nested);
     lab.files.set('/site/slow.html', pageText({ library: '/slow/', before:

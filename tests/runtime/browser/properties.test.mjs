@@ -309,7 +309,8 @@ for (const [rule, lines, side] of inheritance) {
 // ---- Fading ----
 
 test('ffade fades a submenu in and out over that time', async () => {
-    await show({ below: "zevmenu.ffade = '0.4'; zevmenu.fopacity = '80';", state: 'zev_state.closedelay = 0;' });
+    await show({ below: "zevmenu.ffade = '1.5'; zevmenu.fopacity = '80';",
+                 state: 'zev_state.closedelay = 0;' });
     const opacity = async () => Number(await style(page, 'Under', 'opacity', 'ul'));
     await hover(page, 'One');
     await waitShown(page, 'Under');

@@ -66,6 +66,7 @@ async function answer(files, request, response) {
 // A browser tab; `warnings` and `errors` collect what its console got since the last show().
 async function newPage(browser) {
     const page = await browser.newPage();
+    page.setDefaultTimeout(10000);
     page.warnings = [];
     page.errors = [];
     page.on('console', message => message.type() == 'warn' && page.warnings.push(message.text()));
