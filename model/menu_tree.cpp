@@ -69,6 +69,10 @@ bool MenuTree::isVisible(const MenuNode& node) const {
     return true;
 }
 
+void MenuTree::reserve(std::size_t count) {
+    m_nodes.reserve(count);
+}
+
 MenuNode* MenuTree::insert(MenuNode* parent, std::size_t row, std::string key, std::string text,
                            ItemProp item) {
     return insertNode(parent, row, std::move(key), std::move(text), std::move(item));

@@ -89,6 +89,8 @@ class MenuTree {
     /// True when all ancestors are expanded.
     bool isVisible(const MenuNode& node) const;
 
+    /// Makes room for `count` nodes in all, so that adding them rearranges nothing.
+    void reserve(std::size_t count);
     /// Inserts a new node before `row` of `parent` (null: top level); `row` may equal the count.
     /// Returns null and changes nothing when the key is taken.
     MenuNode* insert(MenuNode* parent, std::size_t row, std::string key, std::string text,

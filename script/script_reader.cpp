@@ -1,5 +1,6 @@
 #include "script/script_reader.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -58,17 +59,19 @@ class ScriptReader {
             ++m_errorCount;
             return;
         }
-        ItemProp item;
+        MenuNode* const node = m_document.tree.append(m_menuNode, nextKey(), "");
+        if (!node) {
+            ++m_errorCount;
+            return;
+        }
+        ++m_document.ItemCounter;
+        ItemProp& item = node->item;
         item.MenuProperty = NewItemMenuProp();
         if (isRollover)
             item.Set_ImageProperty(line);
         else
             item.Set_ItemProperty(line);
-        std::string text = isRollover ? item.ImageOut : item.Caption;
-        if (m_document.tree.append(m_menuNode, nextKey(), std::move(text), std::move(item)))
-            ++m_document.ItemCounter;
-        else
-            ++m_errorCount;
+        m_document.tree.setText(*node, isRollover ? item.ImageOut : item.Caption);
     }
 
     /// The key spells the id of the item's own submenu, so that the submenu's creation line leads
@@ -103,6 +106,10 @@ std::string_view TakeLine(std::string_view& text) {
 
 ReadResult ReadScript(std::string_view bytes, MenuDocument& document) {
     const std::string text = DecodeDefinition(bytes);
+    // Nearly every line of a definition is an item; of another file no more is taken than a menu
+    // can hold.
+    const auto lineCount = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+    document.tree.reserve(std::min<std::size_t>(lineCount, kMaxItemCounter));
     ScriptReader reader(document);
     std::string_view rest = text;
     while (!rest.empty())
