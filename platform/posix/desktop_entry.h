@@ -7,8 +7,8 @@
 
 namespace zev {
 
-// Desktop entry files and their command lines, after the freedesktop.org Desktop Entry
-// Specification 1.5.
+// Desktop entry files and their command lines, after version 1.5 of the format that
+// freedesktop.org gives.
 
 /// The keys of the "[Desktop Entry]" group that starting a program takes.
 struct DesktopEntry {
