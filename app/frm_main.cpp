@@ -59,6 +59,27 @@ constexpr std::array<ToolBarItem, kToolBarItems> kToolBar = {{
     {"Delete", "delete", &frmMain::mnuEditDelete_Click},
 }};
 
+/// Longest line, in UTF-16 units, that the JavaScript tab shows in full. Laying out megabytes of
+/// text in one line would stall the window for minutes.
+constexpr qsizetype kMaxShownLine = 10'000;
+
+/// The script for the eye: overlong lines are cut, which an ellipsis shows.
+QString ShownScript(const std::string& script) {
+    const QString whole = QString::fromStdString(script);
+    QString shown;
+    shown.reserve(whole.size());
+    for (qsizetype start = 0; start < whole.size();) {
+        const qsizetype newline = whole.indexOf(u'\n', start);
+        const qsizetype end = newline < 0 ? whole.size() : newline + 1;
+        const bool isOverlong = end - start > kMaxShownLine;
+        shown += QStringView(whole).sliced(start, isOverlong ? kMaxShownLine : end - start);
+        if (isOverlong)
+            shown += u"\u2026\n"_qs;
+        start = end;
+    }
+    return shown;
+}
+
 QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption) {
     QMenu* menu = bar->addMenu(caption);
     menu->setObjectName(name);
@@ -228,8 +249,8 @@ QWidget* frmMain::buildMenuTab() {
     splitter->addWidget(panelArea);
     splitter->addWidget(TreeView);
     splitter->setChildrenCollapsible(false);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({380, 540});
+    splitter->setStretchFactor(0, 2);
+    splitter->setStretchFactor(1, 3);
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(splitter);
@@ -258,7 +279,7 @@ void frmMain::ShowItem() {
 }
 
 void frmMain::ShowScript(const std::string& script) {
-    txtJavaScript->setPlainText(QString::fromStdString(script));
+    txtJavaScript->setPlainText(ShownScript(script));
 }
 
 void frmMain::ShowCaption() {

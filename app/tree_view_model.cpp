@@ -1,11 +1,17 @@
 #include "app/tree_view_model.h"
 
+#include <algorithm>
+
 namespace zev {
 
 namespace {
 
 QString shownLabel(const std::string& text) {
-    QString label = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    // Enough bytes for the longest label whatever it is made of; the rest need not be decoded at
+    // every painting.
+    constexpr std::size_t kMaxBytes = 4 * (TreeViewModel::kMaxShownLabel + 1);
+    QString label =
+        QString::fromUtf8(text.data(), static_cast<qsizetype>(std::min(text.size(), kMaxBytes)));
     if (label.size() > TreeViewModel::kMaxShownLabel) {
         label.truncate(TreeViewModel::kMaxShownLabel);
         label.append(QChar(0x2026));

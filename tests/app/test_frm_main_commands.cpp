@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTimer>
 #include <stdexcept>
 
+#include "script/script_writer.h"
 #include "window_desk.h"
 
 using namespace zev;
@@ -228,6 +230,85 @@ class test_frm_main_commands : public QObject {
         QVERIFY(desk.action("mnuFileSave").isEnabled());
         desk.click(desk.document().CurNode);
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
+    }
+
+    // Menus beyond the usual size
+
+    void aMenuOfAThousandLevelsCanBeEdited() {
+        WindowDesk desk;
+        MenuDocument deep("/program");
+        MenuNode* node = nullptr;
+        for (int level = 0; level < 1000; ++level) {
+            ItemProp item;
+            item.Caption = "Level " + std::to_string(level);
+            node = deep.tree.append(node, "k" + std::to_string(level), item.Caption, item);
+        }
+        desk.disk.addFile("/site/deep.js", DefinitionFileBytes(GenerateScript(deep)));
+        desk.window.openDefinition("/site/deep.js");
+        QCOMPARE(desk.document().tree.size(), std::size_t(1000));
+        node = desk.document().tree.firstNode();
+        while (node->hasChildren())
+            node = node->children().front();
+        desk.document().tree.makeVisible(*node);
+        desk.click(node);
+        QCOMPARE(desk.document().CurNode, node);
+        QCOMPARE(desk.shownPanel(), "normal|Level 999||||");
+        desk.choose("mnuEditAddSubmenuItem");
+        desk.choose("mnuEditMoveLeft");
+        QCOMPARE(desk.document().CurNode, node);
+        QCOMPARE(node->item.Caption, "Level 999");
+        desk.clickTab("JavaScript");
+        QVERIFY(desk.script().toPlainText().contains("Level 999"));
+        desk.clickTab("Menu");
+        desk.click(desk.document().tree.firstNode());
+        desk.choose("mnuEditDelete");
+        QCOMPARE(desk.shownTree(), "");
+    }
+
+    void aMenuOfTwentyThousandSiblingsCanBeEdited() {
+        WindowDesk desk;
+        MenuDocument wide("/program");
+        for (int i = 0; i < 20000; ++i) {
+            ItemProp item;
+            item.Caption = "Item " + std::to_string(i);
+            wide.tree.append(nullptr, "k" + std::to_string(i), item.Caption, item);
+        }
+        desk.disk.addFile("/site/wide.js", DefinitionFileBytes(GenerateScript(wide)));
+        desk.window.openDefinition("/site/wide.js");
+        desk.choose("mnuEditAddMenuItem");
+        QCOMPARE(desk.document().tree.size(), std::size_t(20001));
+        QCOMPARE(desk.document().CurNode->row(), std::size_t(20000));
+        desk.choose("mnuEditMoveUp");
+        desk.choose("mnuEditDelete");
+        QCOMPARE(desk.shownPanel(), "normal|Item 19999||||");
+        desk.clickTab("JavaScript");
+        QVERIFY(desk.script().toPlainText().endsWith("\n"));
+        QVERIFY(desk.script().toPlainText().contains("Item 19999"));
+    }
+
+    void aCaptionOfManyMegabytesIsShownWithoutAStall() {
+        WindowDesk desk;
+        const std::string caption(50'000'000, 'x');
+        desk.disk.addFile("/site/long.js", "zevmenu = new ZEVMenu('0');\r\nzevmenu.AddItem('" +
+                                               caption +
+                                               "', '', '');\r\nzevmenu.AddItem('b', '', '');\r\n");
+        QElapsedTimer timer;
+        timer.start();
+        desk.window.openDefinition("/site/long.js");
+        QCOMPARE(desk.document().tree.size(), std::size_t(2));
+        desk.clickTab("JavaScript");
+        desk.script().repaint();
+        QVERIFY(desk.script().toPlainText().contains(QString(1000, 'x')));
+        QVERIFY(desk.script().toPlainText().contains(QChar(0x2026)));
+        QVERIFY(desk.script().toPlainText().contains("AddItem('b'"));
+        desk.clickTab("Menu");
+        MenuNode* first = desk.document().tree.firstNode();
+        desk.click(desk.document().tree.nextSibling(*first));
+        desk.click(first);
+        desk.tree().repaint();
+        QVERIFY(first->item.Caption == caption);
+        qInfo("50 MB caption: %lld ms", static_cast<long long>(timer.elapsed()));
+        QVERIFY(timer.elapsed() < 20'000);
     }
 
     // Exit
