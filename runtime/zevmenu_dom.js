@@ -348,7 +348,7 @@ shared.openPopup = function (a, b, where) {
 };
 
 shared.closePopup = function (a, b) {
-    // The mouse's arrival on the pop-up is told before its leaving of the link.
+    // A browser may tell of the arrival on the pop-up before it tells of the leaving of the link.
     const isInside = over && depthOf(over.box) > 0;
     if (levels.length && levels[0].menu.zevId == popupId(a, b) && !isInside) keep(0);
 };

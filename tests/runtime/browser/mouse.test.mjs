@@ -475,6 +475,15 @@ test('a pop-up stays while the mouse is on it, and closes when it leaves', async
     await waitGone(page, 'Canoes');
 });
 
+test("a pop-up stays when its link is told to be left after the mouse's arrival on it", async () => {
+    await showPopups();
+    await pointAt('mouse');
+    await hover(page, 'Canoes');
+    await page.evaluate(() => ZEVMenuClose('zev1i2', '1', false));
+    await pause(600);
+    assert.ok(await isShown(page, 'Canoes'));
+});
+
 test('one pop-up replaces the other, and the same one does not move', async () => {
     await showPopups({ definition: longDelay });
     await pointAt('mouse');
