@@ -41,25 +41,25 @@ class FaultSweep(unittest.TestCase):
         self.assertEqual(status, 0, output)
 
     def test_a_file_cut_short_is_caught(self):
-        status, output = sweep("cp", "{folder}/in.js", "{folder}/site/menu.js")
+        status, output = sweep("/bin/cp", "{folder}/in.js", "{folder}/site/menu.js")
         self.assertEqual(status, 1, output)
         self.assertIn("site/menu.js was not flushed", output)
         self.assertIn("site/menu.js was written without a copy", output)
         self.assertIn("site/menu.js is neither the old nor the new one", output)
 
     def test_what_a_killed_run_leaves_behind_is_caught(self):
-        status, output = sweep("sed", "-i", "s/old/new/g", "{folder}/site/menu.js")
+        status, output = sweep("/bin/sed", "-i", "s/old/new/g", "{folder}/site/menu.js")
         self.assertEqual(status, 1, output)
         self.assertIn("the next run did not put all right", output)
 
     def test_a_failure_without_its_status_is_caught(self):
         careless = "open(F, '>', $ARGV[0]); print F 'new'; close(F); exit(0)"
-        status, output = sweep("perl", "-e", careless, "{folder}/site/menu.js")
+        status, output = sweep("/usr/bin/perl", "-e", careless, "{folder}/site/menu.js")
         self.assertEqual(status, 1, output)
         self.assertIn("status 0, but the definition was not written", output)
 
     def test_a_command_that_writes_nothing_is_caught(self):
-        status, output = sweep("true")
+        status, output = sweep("/bin/true")
         self.assertEqual(status, 1, output)
         self.assertIn("is as before", output)
 
