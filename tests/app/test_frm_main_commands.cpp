@@ -179,6 +179,22 @@ class test_frm_main_commands : public QObject {
         QVERIFY(desk.script().toPlainText().contains("second"));
     }
 
+    void aMenuOpenedAtStartIsUnchanged() {
+        WindowDesk desk;
+        desk.disk.addFile("/site/menu.js",
+                          "zevmenu = new ZEVMenu('0');\r\nzevmenu.AddItem('a', 'u', 't');\r\n"
+                          "zevmenu.AddRollover('u', 'o', 'i', 't');\r\n");
+        desk.window.openDefinition("/site/menu.js");
+        QCOMPARE(desk.shownPanel(), "normal|a|u|t||");
+        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.action("mnuFileSave").isEnabled());
+        desk.document().CurNode = desk.document().selectedNode =
+            desk.document().tree.nextSibling(*desk.document().CurNode);
+        desk.window.ShowItem();
+        QCOMPARE(desk.shownPanel(), "rollover||u|t|o|i");
+        QVERIFY(!desk.document().bModified);
+    }
+
     void openingWhileAnotherMenuIsShownCarriesNothingOver() {
         WindowDesk desk;
         desk.add("saved");
