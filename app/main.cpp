@@ -6,6 +6,7 @@
 
 #include "app/frm_main.h"
 #include "app/icons.h"
+#include "app/preview_picture.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_shell.h"
 #include "platform/program_folder.h"
@@ -29,6 +30,9 @@ void DescribeArguments(QCommandLineParser& parser) {
     parser.setApplicationDescription("Authoring tool for cascading menus on web sites.");
     parser.addHelpOption();
     parser.addVersionOption();
+    parser.addOption({"screenshot",
+                      "Show the preview, save a picture of the window as PNG, and end.",
+                      "picture"});
     parser.addPositionalArgument("file", "Menu definition file to open.", "[file]");
 }
 
@@ -48,7 +52,7 @@ std::string ProgramFolder(FileSystem& files, MessageBox& messages) {
     return QCoreApplication::applicationDirPath().toStdString();
 }
 
-int RunEditor(QApplication& application, const QStringList& files) {
+int RunEditor(QApplication& application, const QCommandLineParser& arguments) {
     PosixFileSystem fileSystem;
     PosixShell shell(fileSystem);
     QtMessageBox messages;
@@ -61,11 +65,15 @@ int RunEditor(QApplication& application, const QStringList& files) {
     // Ends the program also while the manual's window is open.
     QObject::connect(&window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); });
     window.show();
-    if (!files.isEmpty()) {
-        const std::string path = QFileInfo(files.first()).absoluteFilePath().toStdString();
-        QMetaObject::invokeMethod(
-            &window, [&window, path] { window.openDefinition(path); }, Qt::QueuedConnection);
-    }
+    const QStringList files = arguments.positionalArguments();
+    const QString picture = arguments.value("screenshot");
+    const auto begin = [&] {
+        if (!files.isEmpty())
+            window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
+        if (!picture.isEmpty())
+            TakePreviewPicture(window, *browser, picture);
+    };
+    QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
     return QApplication::exec();
 }
 
@@ -83,5 +91,5 @@ int main(int argc, char** argv) {
     }
     QApplication application(argc, argv);
     QApplication::setWindowIcon(ProgramIcon());
-    return RunEditor(application, parser.positionalArguments());
+    return RunEditor(application, parser);
 }

@@ -14,7 +14,10 @@ namespace zev {
 
 #ifdef Q_OS_LINUX
 
-bool CanSandboxBrowser() {
+bool CanStartBrowser() {
+    if (qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") != 0) {
+        return true;
+    }
     if (geteuid() == 0) {
         return false;
     }
@@ -36,7 +39,7 @@ bool CanSandboxBrowser() {
 
 #else
 
-bool CanSandboxBrowser() {
+bool CanStartBrowser() {
     return true;
 }
 

@@ -2,9 +2,9 @@
 
 namespace zev {
 
-/// True when the browser engine can lock its page processes in. Where it cannot (for the
-/// superuser, and on systems that give ordinary users no namespaces of their own) it ends the
-/// whole program, unless it is told to do without.
-bool CanSandboxBrowser();
+/// False when the browser engine would end the whole program instead of starting: it insists on
+/// locking its page processes in, which it cannot do for the superuser and on systems that give
+/// ordinary users no namespaces of their own. QTWEBENGINE_DISABLE_SANDBOX=1 makes it do without.
+bool CanStartBrowser();
 
 }  // namespace zev

@@ -25,6 +25,7 @@ void QtBrowserView::load(const std::string& path) {
         m_webView = CreateWebView(this, problem);
         if (m_webView == nullptr) {
             showNote("The preview cannot be shown. " + problem);
+            emit loaded(false);
             return;
         }
         // Following a link would leave the preview without a way back. It says where the link
@@ -33,6 +34,7 @@ void QtBrowserView::load(const std::string& path) {
         m_webView->linkRefused = [this](const QString& address) {
             showNote("The preview does not follow links. This one leads to " + address);
         };
+        m_webView->loaded = [this](bool isOk) { emit loaded(isOk); };
         static_cast<QVBoxLayout*>(layout())->insertWidget(0, m_webView, 1);
     }
     m_note->hide();

@@ -19,6 +19,10 @@ class QtBrowserView : public QWidget, public BrowserView {
 
     void load(const std::string& path) override;
 
+  signals:
+    /// A page has been loaded, or could not be. It may not be painted yet.
+    void loaded(bool isOk);
+
   private:
     void showNote(const QString& text);
 

@@ -30,30 +30,6 @@ void drawWithoutOpenGL() {
     }
 }
 
-/// Tells the engine, for the moment of its start, to do without a sandbox where there can be none.
-/// Not for longer: the person's own browser is started with this program's environment.
-class SandboxSetting {
-  public:
-    SandboxSetting() {
-        if (!CanSandboxBrowser()) {
-            qputenv(kName, "1");
-        }
-    }
-    ~SandboxSetting() {
-        if (m_previous.isNull()) {
-            qunsetenv(kName);
-        } else {
-            qputenv(kName, m_previous);
-        }
-    }
-    SandboxSetting(const SandboxSetting&) = delete;
-    SandboxSetting& operator=(const SandboxSetting&) = delete;
-
-  private:
-    static constexpr const char* kName = "QTWEBENGINE_DISABLE_SANDBOX";
-    QByteArray m_previous = qgetenv(kName);
-};
-
 }  // namespace
 
 WebEnginePage::WebEnginePage(QWebEngineProfile* profile, const WebView& owner)
@@ -84,6 +60,7 @@ WebEngineView::WebEngineView(QWidget* parent)
     m_view->setPage(m_page);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_view, &QWidget::customContextMenuRequested, this, &WebEngineView::showContextMenu);
+    connect(m_view, &QWebEngineView::loadFinished, this, [this](bool isOk) { loaded(isOk); });
     setFocusProxy(m_view);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -121,13 +98,18 @@ void WebEngineView::showContextMenu(const QPoint& position) {
     menu.exec(m_view->mapToGlobal(position));
 }
 
-WebView* WebEngineViewFactory::create(QWidget* parent) {
+WebView* WebEngineViewFactory::create(QWidget* parent, QString& problem) {
+    if (!CanStartBrowser()) {
+        problem =
+            "Its browser locks pages into a sandbox, which this system does not allow here. Start "
+            "the program as an ordinary user, or with QTWEBENGINE_DISABLE_SANDBOX=1 set.";
+        return nullptr;
+    }
     static const bool isPrepared = [] {
         drawWithoutOpenGL();
         return true;
     }();
     Q_UNUSED(isPrepared)
-    const SandboxSetting setting;
     return new WebEngineView(parent);
 }
 

@@ -48,7 +48,7 @@ class WebEngineViewFactory : public QObject, public WebViewFactory {
     Q_PLUGIN_METADATA(IID ZEV_WEB_VIEW_FACTORY_IID)
     Q_INTERFACES(zev::WebViewFactory)
   public:
-    WebView* create(QWidget* parent) override;
+    WebView* create(QWidget* parent, QString& problem) override;
 };
 
 }  // namespace zev

@@ -37,7 +37,7 @@ WebView* CreateWebView(QWidget* parent, QString& problem) {
         problem = loader.errorString();
         return nullptr;
     }
-    return factory->create(parent);
+    return factory->create(parent, problem);
 }
 
 }  // namespace zev

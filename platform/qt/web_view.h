@@ -23,18 +23,21 @@ class WebView : public QWidget {
     /// Called with the address of a link that the view does not follow itself: one that leads to
     /// the network, asks for a window of its own, or is refused by `localLinks`.
     std::function<void(const QString& address)> linkRefused = [](const QString&) {};
+    /// Called when a page has been loaded, or could not be. It may not be painted yet.
+    std::function<void(bool isOk)> loaded = [](bool) {};
 };
 
 /// What the module with the browser engine offers.
 class WebViewFactory {
   public:
     virtual ~WebViewFactory() = default;
-    /// The new view belongs to `parent`.
-    virtual WebView* create(QWidget* parent) = 0;
+    /// The new view belongs to `parent`. Null, with the reason in `problem`, when the engine cannot
+    /// start.
+    virtual WebView* create(QWidget* parent, QString& problem) = 0;
 };
 
 /// Loads the module with the browser engine if need be and makes a view. Null, with the reason in
-/// `problem`, when the module cannot be loaded.
+/// `problem`, when the module cannot be loaded or the engine cannot start.
 WebView* CreateWebView(QWidget* parent, QString& problem);
 
 }  // namespace zev
