@@ -18,6 +18,9 @@ class ScriptReader {
 
     /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
     void readLine(std::string_view line) {
+        // How every line that means anything begins; a large file of other lines is passed quickly.
+        if (!line.starts_with("zev"))
+            return;
         if (MatchesPattern(line, "zev_state.*=*;"))
             m_document.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
         if (MatchesPattern(line, "zevmenu = new ZEVMenu('*');"))

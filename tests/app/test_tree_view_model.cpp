@@ -1,7 +1,6 @@
 // The adapter between the menu tree and Qt's views, and the view that shows it.
 
 #include <QAbstractItemModelTester>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalSpy>
