@@ -11,14 +11,9 @@ namespace {
 constexpr std::string_view kEscapedApostrophe = "\\'";
 constexpr std::string_view kPlaceholder = "~||~";
 
-std::string ScriptCall(std::string_view function, std::initializer_list<std::string_view> values) {
+void AppendCall(std::string& line, std::string_view function,
+                std::initializer_list<std::string_view> values) {
     constexpr std::string_view kSeparator = "', '";
-    std::size_t length = function.size() + 5;
-    for (const std::string_view value : values)
-        length += value.size() + kSeparator.size();
-
-    std::string line;
-    line.reserve(length);
     line += function;
     line += "('";
     bool isFirst = true;
@@ -29,7 +24,6 @@ std::string ScriptCall(std::string_view function, std::initializer_list<std::str
         isFirst = false;
     }
     line += "');";
-    return line;
 }
 
 /// Hands out the quoted arguments of a script line from left to right.
@@ -81,9 +75,16 @@ void ReadArgument(ArgumentCutter& arguments, std::string& member) {
 }  // namespace
 
 std::string ItemProp::GetText() const {
+    std::string line;
+    AppendText(line);
+    return line;
+}
+
+void ItemProp::AppendText(std::string& script) const {
     if (IsRollover)
-        return ScriptCall("zevmenu.AddRollover", {URL, ImageOut, ImageOver, Target});
-    return ScriptCall("zevmenu.AddItem", {Caption, URL, Target});
+        AppendCall(script, "zevmenu.AddRollover", {URL, ImageOut, ImageOver, Target});
+    else
+        AppendCall(script, "zevmenu.AddItem", {Caption, URL, Target});
 }
 
 void ItemProp::Set_ImageProperty(std::string_view StrLine) {

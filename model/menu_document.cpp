@@ -18,7 +18,7 @@ void MenuDocument::NewDocument() {
     DefaultProp = MenuProp();
     DefaultProp.SetDefault();
     // A horizontal bar of up to ten items whose submenus drop down.
-    RootMenuProp = NewItemMenuProp();
+    RootMenuProp = *NewItemMenuProp();
     RootMenuProp.Columns = "10";
     RootMenuProp.Position = 2;
     bModified = false;
@@ -39,12 +39,15 @@ void MenuDocument::takeFrom(MenuDocument& other) {
     other.NewDocument();
 }
 
-MenuProp NewItemMenuProp() {
-    MenuProp prop;
-    prop.Divider = "&nbsp;";
-    prop.HTMLAfter = "&nbsp;&nbsp;";
-    prop.HTMLBefore = "&nbsp;&nbsp;";
-    return prop;
+const SharedMenuProp& NewItemMenuProp() {
+    static const SharedMenuProp shared = [] {
+        MenuProp prop;
+        prop.Divider = "&nbsp;";
+        prop.HTMLAfter = "&nbsp;&nbsp;";
+        prop.HTMLBefore = "&nbsp;&nbsp;";
+        return prop;
+    }();
+    return shared;
 }
 
 }  // namespace zev

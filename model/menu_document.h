@@ -44,6 +44,6 @@ class MenuDocument {
 inline constexpr std::int16_t kMaxItemCounter = 32767;
 
 /// The submenu property set every new item starts with: usual divider and spaces, all else unset.
-MenuProp NewItemMenuProp();
+const SharedMenuProp& NewItemMenuProp();
 
 }  // namespace zev

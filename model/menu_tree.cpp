@@ -87,12 +87,15 @@ MenuNode* MenuTree::insertNode(MenuNode* parent, std::size_t row, std::string&& 
                                std::string&& text, ItemProp&& item) {
     Siblings& siblings = mutableChildrenOf(parent);
     assert(row <= siblings.size());
-    if (m_nodes.contains(key))
-        return nullptr;
-
-    if (m_observer)
+    if (m_observer) {
+        if (m_nodes.contains(key))
+            return nullptr;
         m_observer->aboutToInsert(parent, row);
-    const auto entry = m_nodes.try_emplace(std::move(key), std::move(text), std::move(item)).first;
+    }
+    const auto [entry, isNew] =
+        m_nodes.try_emplace(std::move(key), std::move(text), std::move(item));
+    if (!isNew)
+        return nullptr;
     MenuNode* const node = &entry->second;
     node->m_key = &entry->first;
     node->m_parent = parent;

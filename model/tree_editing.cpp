@@ -19,7 +19,7 @@ ItemProp InitNewNode(MenuDocument& document, const MenuNode* parent, std::string
     item.Caption = std::move(caption);
     item.MenuProperty = NewItemMenuProp();
     if (!parent && OpensBelow(document))
-        item.MenuProperty.Position = 2;
+        item.MenuProperty.edit().Position = 2;
     ++document.ItemCounter;
     return item;
 }

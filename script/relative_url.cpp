@@ -161,9 +161,12 @@ void RebaseAllURLs(MenuDocument& document, std::string_view oldFolder, std::stri
     for (MenuNode* node = document.tree.firstNode(); node;
          node = document.tree.nextInTreeOrder(*node)) {
         ItemProp& item = node->item;
-        for (std::string* url :
-             {&item.MenuProperty.BgImg, &item.URL, &item.ImageOut, &item.ImageOver})
+        for (std::string* url : {&item.URL, &item.ImageOut, &item.ImageOver})
             *url = RebaseURL(oldFolder, newFolder, *url);
+        if (!item.MenuProperty->BgImg.empty()) {
+            std::string& background = item.MenuProperty.edit().BgImg;
+            background = RebaseURL(oldFolder, newFolder, background);
+        }
     }
 }
 

@@ -48,7 +48,7 @@ class ScriptReader {
         if (isTopLevel())
             m_document.RootMenuProp.SetProperty(GetPropName(line), GetPropValue(line));
         else if (m_menuNode)
-            m_menuNode->item.MenuProperty.SetProperty(GetPropName(line), GetPropValue(line));
+            m_menuNode->item.MenuProperty.edit().SetProperty(GetPropName(line), GetPropValue(line));
         else
             ++m_errorCount;
     }
@@ -108,7 +108,8 @@ std::string_view TakeLine(std::string_view& text) {
 }  // namespace
 
 ReadResult ReadScript(std::string_view bytes, MenuDocument& document) {
-    const std::string text = DecodeDefinition(bytes);
+    std::string converted;
+    const std::string_view text = DecodeDefinition(bytes, converted);
     // Nearly every line of a definition is an item; of another file no more is taken than a menu
     // can hold.
     const auto lineCount = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));

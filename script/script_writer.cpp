@@ -22,7 +22,7 @@ void WriteMenu(std::string& script, std::string_view id, const std::string& prop
     script += properties;
     script += kLineEnd;
     for (const MenuNode* node : items) {
-        script += node->item.GetText();
+        node->item.AppendText(script);
         script += kLineEnd;
     }
     script += kLineEnd;
@@ -33,7 +33,11 @@ void WriteMenu(std::string& script, std::string_view id, const std::string& prop
 std::string GenerateScript(const MenuDocument& document) {
     const MenuProp& defaults = document.DefaultProp;
     const MenuTree& tree = document.tree;
-    std::string script = defaults.GetDefaultText();
+    // About the length of an item's line each; room that is not used costs nothing.
+    constexpr std::size_t kUsualLineBytes = 96;
+    std::string script;
+    script.reserve(1024 + tree.size() * kUsualLineBytes);
+    script += defaults.GetDefaultText();
     script += kLineEnd;
     if (tree.isEmpty())
         return script;
@@ -41,20 +45,17 @@ std::string GenerateScript(const MenuDocument& document) {
     WriteMenu(script, "0", document.RootMenuProp.GetText(defaults), tree.topLevel());
     SubmenuWalk walk(tree);
     while (const MenuNode* node = walk.next())
-        WriteMenu(script, walk.id(), node->item.MenuProperty.GetText(defaults), node->children());
+        WriteMenu(script, walk.id(), node->item.MenuProperty->GetText(defaults), node->children());
     return script;
 }
 
-std::string DefinitionFileBytes(std::string_view script) {
+std::string DefinitionFileBytes(std::string script) {
     const bool isAscii =
         std::all_of(script.begin(), script.end(), [](char c) { return (c & 0x80) == 0; });
-    std::string bytes;
-    bytes.reserve(script.size() + 5);
     if (!isAscii)
-        bytes += "\xEF\xBB\xBF";
-    bytes += script;
-    bytes += kLineEnd;
-    return bytes;
+        script.insert(0, "\xEF\xBB\xBF");
+    script += kLineEnd;
+    return script;
 }
 
 }  // namespace zev

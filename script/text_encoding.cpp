@@ -91,10 +91,13 @@ std::string Windows1252ToUtf8(std::string_view bytes) {
     return text;
 }
 
-std::string DecodeDefinition(std::string_view bytes) {
+std::string_view DecodeDefinition(std::string_view bytes, std::string& converted) {
     if (bytes.starts_with(kByteOrderMark))
         bytes.remove_prefix(kByteOrderMark.size());
-    return IsValidUtf8(bytes) ? std::string(bytes) : Windows1252ToUtf8(bytes);
+    if (IsValidUtf8(bytes))
+        return bytes;
+    converted = Windows1252ToUtf8(bytes);
+    return converted;
 }
 
 }  // namespace zev

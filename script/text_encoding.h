@@ -14,7 +14,8 @@ bool IsValidUtf8(std::string_view bytes);
 std::string Windows1252ToUtf8(std::string_view bytes);
 
 /// A definition file's bytes as UTF-8 text: a byte order mark is dropped; what is not valid UTF-8
-/// is taken for Windows-1252.
-std::string DecodeDefinition(std::string_view bytes);
+/// is taken for Windows-1252. The result is a view of `bytes`, or of `converted` when they had to
+/// be converted.
+std::string_view DecodeDefinition(std::string_view bytes, std::string& converted);
 
 }  // namespace zev

@@ -220,7 +220,7 @@ void test_file_failures::aFailedSaveAsTakesBackRecalculatedURLs() {
     desk.disk.addFolder("/other");
     makeChangedMenu(desk);
     MenuNode& first = *desk.document.tree.firstNode();
-    first.item.MenuProperty.BgImg = "img/back.gif";
+    first.item.MenuProperty.edit().BgImg = "img/back.gif";
     first.item.ImageOut = "../out.gif";
     first.item.ImageOver = "over.gif";
     const ItemProp before = first.item;

@@ -41,7 +41,7 @@ class test_tree_commands : public QObject {
         QCOMPARE(node->key(), "Key 0");
         QCOMPARE(node->text, "Item 0");
         QCOMPARE(node->item.Caption, "Item 0");
-        QCOMPARE(node->item.MenuProperty.Position, 2);
+        QCOMPARE(node->item.MenuProperty->Position, 2);
         QCOMPARE(desk.shownPanel(), "normal|Item 0||||");
         QVERIFY(desk.document().bModified);
         QVERIFY(desk.action("mnuFileSave").isEnabled());
@@ -64,7 +64,7 @@ class test_tree_commands : public QObject {
         desk.addChild("a1");
         desk.choose("mnuEditAddMenuItem");
         QCOMPARE(desk.shownTree(), "a\n  a1\n  *Item 2\n");
-        QCOMPARE(desk.document().CurNode->item.MenuProperty.Position, 0);
+        QCOMPARE(desk.document().CurNode->item.MenuProperty->Position, 0);
     }
 
     void addMenuItemStoresThePanelIntoTheItemShownBefore() {
@@ -277,13 +277,13 @@ class test_tree_commands : public QObject {
         desk.addChild("b1");
         desk.addChild("b11");
         desk.click(b);
-        b->item.MenuProperty.Position = 0;
+        b->item.MenuProperty.edit().Position = 0;
         desk.choose("mnuEditMoveLeft");
         QCOMPARE(desk.shownTree(), "a\n*b\n  b1\n    b11\n");
         QCOMPARE(keys(desk.document().tree), "Key 0\nKey 1\n  Key 2\n    Key 3\n");
         QCOMPARE(desk.document().CurNode->text, "b");
         QCOMPARE(desk.document().ItemCounter, 5);
-        QCOMPARE(desk.document().CurNode->item.MenuProperty.Position, 0);
+        QCOMPARE(desk.document().CurNode->item.MenuProperty->Position, 0);
         QVERIFY(desk.document().bModified);
     }
 

@@ -104,11 +104,11 @@ TEST(ItemPropSetItemProperty, TheImagesAndTheSubmenuKeepTheirValues) {
     ItemProp item;
     item.ImageOut = "out.gif";
     item.ImageOver = "over.gif";
-    item.MenuProperty.Columns = "3";
+    item.MenuProperty.edit().Columns = "3";
     item.Set_ItemProperty("zevmenu.AddItem('a', 'b', 'c');");
     EXPECT_EQ(item.ImageOut, "out.gif");
     EXPECT_EQ(item.ImageOver, "over.gif");
-    EXPECT_EQ(item.MenuProperty.Columns, "3");
+    EXPECT_EQ(item.MenuProperty->Columns, "3");
 }
 
 TEST(ItemPropSetImageProperty, LoadsLinkImagesAndTarget) {

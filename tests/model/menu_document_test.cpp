@@ -70,7 +70,7 @@ TEST(MenuDocument, TheSubmenuOfANewItemStartsWithTheUsualDividerAndSpaces) {
     expected.Divider = "&nbsp;";
     expected.HTMLAfter = "&nbsp;&nbsp;";
     expected.HTMLBefore = "&nbsp;&nbsp;";
-    EXPECT_EQ(NewItemMenuProp(), expected);
+    EXPECT_EQ(*NewItemMenuProp(), expected);
 }
 
 TEST(MenuDocumentTakeFrom, TakesTheWholeStateAndLeavesAnEmptyDocument) {

@@ -69,7 +69,7 @@ TEST_F(AddMenuItemTest, TheFirstItemOfANewDocument) {
     ItemProp expected;
     expected.Caption = "Item 0";
     expected.MenuProperty = NewItemMenuProp();
-    expected.MenuProperty.Position = 2;
+    expected.MenuProperty.edit().Position = 2;
     EXPECT_EQ(added.item, expected);
 }
 
@@ -88,7 +88,7 @@ TEST_F(AddMenuItemTest, InASubmenuGoesToItsEndAndIsMadeVisible) {
     EXPECT_EQ(TreeText(document.tree), "A\nB\n  B1\n    B11\n  B2\n  Item 0\nC\n");
     EXPECT_TRUE(document.tree.isVisible(*node("Key 0")));
     EXPECT_FALSE(node("B1")->isExpanded);
-    EXPECT_EQ(node("Key 0")->item.MenuProperty.Position, 0);
+    EXPECT_EQ(node("Key 0")->item.MenuProperty->Position, 0);
     expectSelected(node("Key 0"));
 }
 
@@ -124,10 +124,10 @@ TEST_F(AddMenuItemTest, ATopLevelItemOpensItsSubmenuBelowWhenTheTopLevelIsHorizo
         document.RootMenuProp.Columns = c.rootColumns;
         document.DefaultProp.Columns = c.defaultColumns;
         AddMenuItem(document);
-        EXPECT_EQ(document.CurNode->item.MenuProperty.Position, c.position);
+        EXPECT_EQ(document.CurNode->item.MenuProperty->Position, c.position);
         document.selectedNode = nullptr;
         AddSubmenuItem(document);
-        EXPECT_EQ(document.CurNode->item.MenuProperty.Position, c.position);
+        EXPECT_EQ(document.CurNode->item.MenuProperty->Position, c.position);
     }
 }
 
@@ -252,7 +252,7 @@ TEST_F(MoveTest, LeftToTheTopLevelKeepsTheSubmenusPosition) {
     select("Key 1");
     MoveLeft(document);
     EXPECT_EQ(TreeText(document.tree), "Item 0\nItem 1\n");
-    EXPECT_EQ(node("Key 1")->item.MenuProperty.Position, 0);
+    EXPECT_EQ(node("Key 1")->item.MenuProperty->Position, 0);
 }
 
 TEST_F(MoveTest, LeftFromTheThirdLevelStaysUnderTheGrandparent) {

@@ -57,7 +57,7 @@ inline std::string PropText(const MenuProp& prop) {
 inline std::string ItemText(const ItemProp& item) {
     return std::string(item.IsRollover ? "rollover" : "text") + " [" + item.Caption + "] [" +
            item.URL + "] [" + item.Target + "] [" + item.ImageOut + "] [" + item.ImageOver + "]" +
-           PropText(item.MenuProperty);
+           PropText(*item.MenuProperty);
 }
 
 /// All that a definition file brings into a document, as text: equal texts, equal documents.

@@ -145,8 +145,8 @@ TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
     EXPECT_EQ(ReadScript(script, document).errorCount, kCount - kLimit + 1);
     EXPECT_EQ(document.tree.size(), kLimit);
     EXPECT_EQ(document.ItemCounter, kMaxItemCounter);
-    EXPECT_EQ(document.tree.find("KeyLoad 1")->item.MenuProperty.Columns, "3");
-    EXPECT_EQ(document.tree.find("KeyLoad 32767")->item.MenuProperty.Columns, "4");
+    EXPECT_EQ(document.tree.find("KeyLoad 1")->item.MenuProperty->Columns, "3");
+    EXPECT_EQ(document.tree.find("KeyLoad 32767")->item.MenuProperty->Columns, "4");
     EXPECT_EQ(document.tree.find("KeyLoad 32768"), nullptr);
     EXPECT_EQ(document.DefaultProp.Columns, "6");
 
@@ -163,7 +163,7 @@ TEST(LargeDefinition, AtTheLimitASubmenusItemsAreErrorsAndItsPropertiesAreRead) 
     script += "zevmenu = new ZEVMenu('2i2');\r\nzevmenu.AddItem('c', '', '');\r\n";
     MenuDocument document("/program");
     EXPECT_EQ(ReadScript(script, document).errorCount, 3u);
-    EXPECT_EQ(document.tree.find("KeyLoad 2")->item.MenuProperty.Columns, "3");
+    EXPECT_EQ(document.tree.find("KeyLoad 2")->item.MenuProperty->Columns, "3");
     EXPECT_FALSE(document.tree.find("KeyLoad 2")->hasChildren());
 }
 

@@ -347,8 +347,8 @@ class RebaseAllURLsTest : public testing::Test {
         item.ImageOver = "img/over.gif";
         item.Target = "target.html";
         item.Caption = "caption.html";
-        item.MenuProperty.BgImg = "bg.gif";
-        item.MenuProperty.Target = "submenu.html";
+        item.MenuProperty.edit().BgImg = "bg.gif";
+        item.MenuProperty.edit().Target = "submenu.html";
         MenuNode* const parent = document.tree.append(nullptr, "1", "", item);
         MenuNode* const child = document.tree.append(parent, "2", "", item);
         document.tree.append(child, "3", "", item);
@@ -369,7 +369,7 @@ TEST_F(RebaseAllURLsTest, RebasesLinkImagesAndSubmenuBackgroundOfEveryItem) {
         EXPECT_EQ(node->item.URL, "../a.html");
         EXPECT_EQ(node->item.ImageOut, "../img/out.gif");
         EXPECT_EQ(node->item.ImageOver, "../img/over.gif");
-        EXPECT_EQ(node->item.MenuProperty.BgImg, "../bg.gif");
+        EXPECT_EQ(node->item.MenuProperty->BgImg, "../bg.gif");
         ++count;
     }
     EXPECT_EQ(count, 4u);
@@ -381,7 +381,7 @@ TEST_F(RebaseAllURLsTest, LeavesTargetsCaptionsAndTheOtherBackgroundsAlone) {
          node = document.tree.nextInTreeOrder(*node)) {
         EXPECT_EQ(node->item.Target, "target.html");
         EXPECT_EQ(node->item.Caption, "caption.html");
-        EXPECT_EQ(node->item.MenuProperty.Target, "submenu.html");
+        EXPECT_EQ(node->item.MenuProperty->Target, "submenu.html");
     }
     EXPECT_EQ(document.RootMenuProp.BgImg, "root.gif");
     EXPECT_EQ(document.DefaultProp.BgImg, "default.gif");

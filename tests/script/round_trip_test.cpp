@@ -122,7 +122,7 @@ class MenuMaker {
     std::string aValue() { return chance(2) ? "" : "<" + aText() + ">"; }
 
     MenuProp levelProp() {
-        MenuProp prop = NewItemMenuProp();
+        MenuProp prop = *NewItemMenuProp();
         prop.Columns = oneOf({"", "1", "5"});
         prop.BgImg = aValue();
         prop.HBgColor = oneOf({"", "#ABCDEF", "transparent"});
@@ -254,7 +254,7 @@ TEST_F(LossTest, APlaceholderInACaptionComesBackAsAnApostrophe) {
 }
 
 TEST_F(LossTest, AnItemWithoutChildrenLosesItsSubmenusProperties) {
-    item().MenuProperty.Columns = "3";
+    item().MenuProperty.edit().Columns = "3";
     EXPECT_EQ(readBack().tree.firstNode()->item.MenuProperty, NewItemMenuProp());
 }
 

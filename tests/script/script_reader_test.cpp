@@ -27,7 +27,7 @@ class ReadScriptTest : public testing::Test {
     }
     std::size_t read(std::initializer_list<std::string_view> lines) { return read(Lines(lines)); }
     const MenuProp& submenu(const std::string& key) {
-        return document.tree.find(key)->item.MenuProperty;
+        return *document.tree.find(key)->item.MenuProperty;
     }
 
     MenuDocument document{"/program"};
@@ -190,7 +190,7 @@ TEST_F(ReadScriptTest, AnItemLineWithAnEqualsSignAddsAnItemAndChangesNoProperty)
               0u);
     EXPECT_EQ(TreeText(document.tree), "a=b\n  columns=2;\n");
     EXPECT_EQ(document.RootMenuProp, newDocument.RootMenuProp);
-    EXPECT_EQ(submenu("KeyLoad 1"), NewItemMenuProp());
+    EXPECT_EQ(submenu("KeyLoad 1"), *NewItemMenuProp());
 }
 
 TEST_F(ReadScriptTest, UnknownLinesAreSkippedSilently) {

@@ -164,9 +164,9 @@ TEST_F(GenerateScriptTest, ASubmenuThatSetsNothingStillHasItsCreationLineAndAnEm
 
 TEST_F(GenerateScriptTest, ASubmenusPropertiesComeFromTheItemItOpensFrom) {
     MenuNode* const a = add(nullptr, "A");
-    a->item.MenuProperty.Columns = "3";
+    a->item.MenuProperty.edit().Columns = "3";
     MenuNode* const a1 = add(a, "A1");
-    a1->item.MenuProperty.Columns = "4";
+    a1->item.MenuProperty.edit().Columns = "4";
     const std::string script = menus();
     EXPECT_NE(script.find(Lines({"zevmenu = new ZEVMenu('1');", "zevmenu.columns = 3;"})),
               std::string::npos);
