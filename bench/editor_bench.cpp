@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const double small = medianAddMs(20);
     const double large = medianAddMs(20000);
-    std::printf("Add Menu Item among 20,000: %.2f ms, among 20: %.2f ms, ratio %.2f\n", large, small,
-                large / small);
+    std::printf("Add Menu Item among 20,000: %.2f ms, among 20: %.2f ms, ratio %.2f\n", large,
+                small, large / small);
     return 0;
 }
