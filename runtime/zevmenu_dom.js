@@ -98,7 +98,21 @@ function neighbour(index, count, columns, direction) {
     return next < 0 || next >= count || (isAlongRow && !isSameRow) ? -1 : next;
 }
 
-shared.sums = { place, isHeadedFor, neighbour, realSide };
+/*
+ * The item among `names` that typed letters lead to from the one at `index`, or -1. One letter, also
+ * repeated, goes on to the next name that begins with it; more letters may stay where they fit.
+ */
+function typeAhead(names, index, typed) {
+    const text = typed.toLowerCase(), isOneLetter = text == text[0].repeat(text.length);
+    const start = isOneLetter ? text[0] : text;
+    for (let i = 0; i < names.length; i++) {
+        const next = (index + i + (isOneLetter ? 1 : 0)) % names.length;
+        if (names[next].trim().toLowerCase().startsWith(start)) return next;
+    }
+    return -1;
+}
+
+shared.sums = { place, isHeadedFor, neighbour, realSide, typeAhead };
 
 // ======== State ========
 // The open submenus, from the one nearest the top menu to the deepest. A level is
@@ -277,14 +291,14 @@ function show(level) {
     box.style.pointerEvents = '';
     placeLevel(level);
     fade(level, 0, 1, () => {});
-    if (level.opener && level.opener.zevItem) level.opener.setAttribute('aria-expanded', 'true');
+    if (level.opener) level.opener.setAttribute('aria-expanded', 'true');
     if (levels.length == 1) watch(true);
 }
 
 function hide(level) {
     const opener = level.opener;
     if (level.box.contains(focused()) && opener) opener.focus();
-    if (opener && opener.zevItem) opener.setAttribute('aria-expanded', 'false');
+    if (opener) opener.setAttribute('aria-expanded', 'false');
     // A box that fades away is no longer there for the mouse.
     level.box.style.pointerEvents = 'none';
     fade(level, 1, 0, () => { level.box.hidden = true; });
@@ -446,10 +460,13 @@ function onFocusIn(event) {
     linksOf(shared.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
 }
 
-function openAndEnter(link) {
+function openAndEnter(link, isAtEnd) {
     openSubmenu(link);
     const level = levels[depthOf(boxAt(link))];
-    if (level && level.opener == link) linksOf(level.box)[0].focus();
+    if (level && level.opener == link) {
+        const links = linksOf(level.box);
+        links[isAtEnd ? links.length - 1 : 0].focus();
+    }
 }
 
 // The side on which an item's submenu stands or would stand.
@@ -466,12 +483,12 @@ function sideOfSubmenu(link) {
                       menuOffset(), frame);
 }
 
-// Moves to an item of the top menu from wherever the focus is; an open submenu follows.
-function moveInBar(target) {
-    const hadOpen = levels.length > 0;
-    closeFrom(0);
+// Moves to an item of an open box; in the top menu an open submenu follows.
+function moveTo(target) {
+    const depth = depthOf(boxAt(target)), hadOpen = levels.length > 0;
+    closeFrom(depth);
     target.focus();
-    if (hadOpen) openSubmenu(target);
+    if (!depth && hadOpen) openSubmenu(target);
 }
 
 function columnsOf(box) {
@@ -483,26 +500,41 @@ function onArrow(link, direction) {
     const box = boxAt(link), links = linksOf(box), level = levels[depthOf(box) - 1];
     const isRtl = isRtlAt(box), reading = realSide(direction, isRtl);
     const next = neighbour(links.indexOf(link), links.length, columnsOf(box), reading);
-    if (next >= 0) {
-        if (!level) return moveInBar(links[next]);
-        closeFrom(depthOf(box));
-        return links[next].focus();
-    }
+    if (next >= 0) return moveTo(links[next]);
     const side = sideOfSubmenu(link);
     if (side == direction) return openAndEnter(link);
     if (level && level.opener && level.side == opposite[direction]) {
         return closeFrom(depthOf(box) - 1);
     }
+    if (side && !level && side == opposite[direction]) return openAndEnter(link, true);
     if (side && (reading == 'right' || reading == 'bottom')) return openAndEnter(link);
     const root = levels[0] && levels[0].opener;
-    if (!level || !root || !root.zevItem) return;
+    const isGridEnd = box.className == 'grid' && (reading == 'top' || reading == 'bottom');
+    if (!level || !root || !root.zevItem || isGridEnd) return;
     // From a submenu below a row the key goes on to the row's neighbour.
     const bar = linksOf(shared.barBox), columns = columnsOf(shared.barBox);
     const index = neighbour(bar.indexOf(root), bar.length, columns, reading);
-    if (index >= 0) moveInBar(bar[index]);
+    if (index >= 0) moveTo(bar[index]);
 }
 
 const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', ArrowUp: 'top' };
+
+const typingMs = 700;               // letters that follow sooner belong together
+let typed = { text: '', time: 0 };
+
+// Follows a typed letter, and says whether it led to an item. A space does only after letters.
+function onLetter(link, event) {
+    const isMore = event.timeStamp - typed.time < typingMs;
+    if (event.key.length != 1 || (event.key == ' ' && !isMore)) return false;
+    const links = linksOf(boxAt(link)), text = (isMore ? typed.text : '') + event.key;
+    const names = links.map(other => other.getAttribute('aria-label') || shared.wordsOf(other));
+    const next = typeAhead(names, links.indexOf(link), text);
+    if (event.key == ' ' && next < 0) return false;
+    typed = { text, time: event.timeStamp };
+    if (next < 0) return false;
+    moveTo(links[next]);
+    return true;
+}
 
 function onKeyDown(event) {
     const link = event.target;
@@ -513,15 +545,13 @@ function onKeyDown(event) {
     if (arrows[event.key]) {
         onArrow(link, arrows[event.key]);
     } else if (event.key == 'Home') {
-        links[0].focus();
+        moveTo(links[0]);
     } else if (event.key == 'End') {
-        links[links.length - 1].focus();
-    } else if ((event.key == 'Enter' || event.key == ' ') && submenuOf(link)) {
-        openAndEnter(link);
-    } else if (event.key == ' ') {
-        link.click();
-    } else {
-        return;
+        moveTo(links[links.length - 1]);
+    } else if (!onLetter(link, event)) {
+        if (event.key != ' ' && !(event.key == 'Enter' && submenuOf(link))) return;
+        if (submenuOf(link)) openAndEnter(link);
+        else link.click();
     }
     event.preventDefault();
 }
@@ -560,12 +590,24 @@ function listen(host) {
 
 // ---- Links of pop-ups ----
 
-const popupLinks = '[onmouseover*="ZEVMenuOpen"],[onclick*="ZEVMenuOpen"],[onfocus*="ZEVMenuOpen"]';
+const handlers = ['onmouseover', 'onclick', 'onfocus'];
+const popupLinks = handlers.map(name => `[${name}*="ZEVMenuOpen"]`).join();
 
 let pressOnPage = { type: '', wasOpen: false };
 
 function popupLinkAt(event) {
     return event.target instanceof Element ? event.target.closest(popupLinks) : null;
+}
+
+// Gives links that open pop-ups what they lack for keyboards and assistive technology.
+function adoptPopupLinks() {
+    document.querySelectorAll(popupLinks).forEach(link => {
+        if (!link.hasAttribute('aria-expanded')) link.setAttribute('aria-expanded', 'false');
+        link.setAttribute('aria-haspopup', 'true');
+        if (link.matches('[href],button,input,[tabindex]')) return;
+        link.tabIndex = 0;
+        if (!link.hasAttribute('role')) link.setAttribute('role', 'button');
+    });
 }
 
 function isPopupOf(link) {
@@ -574,10 +616,10 @@ function isPopupOf(link) {
 
 // Lets the link's own handler open the pop-up, below the link, and says whether it did.
 function openFrom(link, event) {
-    const handler = link.onmouseover || link.onclick || link.onfocus;
+    const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name)));
     actingLink = link;
     try {
-        handler.call(link, event);
+        link[name](event);
     } finally {
         actingLink = null;
     }
@@ -601,7 +643,8 @@ function onPageClick(event) {
 
 function onPageKey(event) {
     const link = popupLinkAt(event);
-    if (!link || (event.key != 'Enter' && event.key != 'ArrowDown')) return;
+    const isPress = event.key == 'Enter' || (event.key == ' ' && link && !link.matches('[href]'));
+    if (!link || (!isPress && event.key != 'ArrowDown')) return;
     if (event.ctrlKey || event.altKey || event.metaKey || !openFrom(link, event)) return;
     event.preventDefault();
     linksOf(levels[0].box)[0].focus();
@@ -617,8 +660,10 @@ shared.adoptBar = function () {
     if (link) openSubmenu(link);
 };
 
-// Tells of submenus whose item does not exist; to be called when the definition is complete.
-function checkDefinition() {
+// What waits for the page to be complete: tells of submenus whose item does not exist, and looks
+// for links of pop-ups.
+function finish() {
+    adoptPopupLinks();
     Object.keys(shared.menus).forEach(id => {
         const parts = id.split('i'), position = parts.pop();
         const parent = shared.menus[parts.join('i') || '0'];
@@ -629,15 +674,15 @@ function checkDefinition() {
 }
 
 shared.refresh = function () {
-    if (document.readyState != 'loading') checkDefinition();
+    if (document.readyState != 'loading') finish();
     placeAll();
 };
 
 document.addEventListener('pointerdown', onPagePress);
 document.addEventListener('click', onPageClick);
 document.addEventListener('keydown', onPageKey);
-document.addEventListener('DOMContentLoaded', checkDefinition);
-if (document.readyState != 'loading') checkDefinition();
+document.addEventListener('DOMContentLoaded', finish);
+if (document.readyState != 'loading') finish();
 if (shared.barBox) shared.adoptBar();
 if (shared.waiting) shared.openPopup.apply(null, shared.waiting);
 

@@ -466,6 +466,7 @@ shared.isSide = isSide;
 shared.createHost = createHost;
 shared.buildBox = buildBox;
 shared.nameFromFiles = nameFromFiles;
+shared.wordsOf = wordsOf;
 
 // ---- The second file ----
 

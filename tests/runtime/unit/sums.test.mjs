@@ -13,7 +13,7 @@ function loadSums() {
     return window.ZEVMenu.shared.sums;
 }
 
-const { place, isHeadedFor, neighbour, realSide } = loadSums();
+const { place, isHeadedFor, neighbour, realSide, typeAhead } = loadSums();
 const frame = { width: 800, height: 600 };
 
 function rect(left, top, width, height) {
@@ -114,5 +114,28 @@ const moves = [
 for (const [rule, index, count, columns, direction, expected] of moves) {
     test(`neighbour: ${rule}`, () => {
         assert.equal(neighbour(index, count, columns, direction), expected);
+    });
+}
+
+// [rule, index, typed, expected]
+const names = ['Boats', '  Bicycles', 'Oars', 'Sea kayaks', 'Sea shells', '\u00c9t\u00e9'];
+const typings = [
+    ['a letter leads to the next name that begins with it', 0, 'o', 2],
+    ['a letter leads on from where the focus is', 0, 'b', 1],
+    ['a letter goes round at the end', 1, 'b', 0],
+    ['a letter may lead to the only name again', 2, 'o', 2],
+    ['capitals count as small letters', 0, 'O', 2],
+    ['an accented letter finds its capital', 0, '\u00e9', 5],
+    ['the same letter again goes on', 0, 'bb', 1],
+    ['two letters stay where they fit', 0, 'bo', 0],
+    ['two letters lead to where they fit', 0, 'bi', 1],
+    ['a space is part of a name', 3, 'sea s', 4],
+    ['a letter in the middle of names leads nowhere', 0, 'k', -1],
+    ['a space alone leads nowhere', 0, ' ', -1],
+];
+
+for (const [rule, index, typed, expected] of typings) {
+    test(`typeAhead: ${rule}`, () => {
+        assert.equal(typeAhead(names, index, typed), expected);
     });
 }

@@ -1,0 +1,67 @@
+// The menu under a finger, and under clicks that no pointer made.
+import assert from 'node:assert/strict';
+import { after, afterEach, before, test } from 'node:test';
+import { isShown, item, pause, rect, source, startLab, until, waitGone, waitShown } from './support.mjs';
+
+let lab, page;
+before(async () => {
+    lab = await startLab();
+    page = lab.page;
+});
+after(() => lab.close());
+afterEach(() => assert.deepEqual(page.errors, []));
+
+const popup = { place: source('menu.js'), before: `<a id="link" href=""
+    onmouseover="ZEVMenuOpen('zev1', '2', event)" onmouseout="ZEVMenuClose('zev1', '2', false)">Menu</a>`,
+    after: '<a id="after" href="#">after</a>' };
+
+async function tap(name) {
+    const { x, y, width, height } = await rect(page, name);
+    await page.touchscreen.tap(x + width / 2, y + height / 2);
+}
+
+test('touch: the first tap opens a submenu, the second follows the link', async () => {
+    await lab.show({ hasTouch: true });
+    await tap('Products');
+    await waitShown(page, 'Boats');
+    await tap('Boats');
+    await waitShown(page, 'Canoes');
+    assert.equal(page.url(), lab.origin + '/site/page.html');
+    await tap('Products');
+    await until(() => page.url() == lab.origin + '/site/products.html', 'products.html');
+});
+
+test('touch: a tap on an item without a submenu follows its link', async () => {
+    await lab.show({ hasTouch: true });
+    await tap('Products');
+    await waitShown(page, 'Oars');
+    await tap('Oars');
+    await until(() => page.url() == lab.origin + '/site/oars.html', 'oars.html');
+});
+
+test('touch: an open submenu stays, until a tap elsewhere', async () => {
+    await lab.show({ hasTouch: true });
+    await tap('Products');
+    await waitShown(page, 'Boats');
+    await pause(600);
+    assert.ok(await isShown(page, 'Boats'));
+    await page.touchscreen.tap(700, 500);
+    await waitGone(page, 'Boats');
+});
+
+test("touch: a tap on a pop-up's link opens it and does not follow the link", async () => {
+    await lab.show({ ...popup, before: popup.before.replace('href=""', 'href="away.html"'), hasTouch: true });
+    const box = await (await page.$('#link')).boundingBox();
+    await page.touchscreen.tap(box.x + 5, box.y + 5);
+    await waitShown(page, 'Boats');
+    await pause(100);
+    assert.equal(page.url(), lab.origin + '/site/page.html');
+});
+
+test('a click without a pointer, as screen readers make it, first opens and then follows', async () => {
+    await lab.show();
+    await (await item(page, 'Products')).evaluate(link => link.click());
+    await waitShown(page, 'Boats');
+    await (await item(page, 'Products')).evaluate(link => link.click());
+    await until(() => page.url() == lab.origin + '/site/products.html', 'products.html');
+});
