@@ -211,16 +211,50 @@ function ensureLayer() {
     if (!layer.isConnected) document.body.appendChild(layer);
 }
 
-function ensureBox(menu) {
+function boxOf(menu) {
     let box = boxes.get(menu);
     if (!box) {
         box = shared.buildBox(menu);
         box.hidden = true;
         promote(box, 'menu');
-        layer.shadowRoot.appendChild(box);
         boxes.set(menu, box);
     }
     return box;
+}
+
+// The box of a menu, in the page.
+function ensureBox(menu) {
+    const box = boxOf(menu);
+    ensureLayer();
+    if (!box.isConnected) layer.shadowRoot.appendChild(box);
+    return box;
+}
+
+// ---- Building ahead ----
+// The submenus of a box that can be seen are likely to open next. While the page is idle they are
+// built, outside the page, so that the first opening is as fast as the later ones.
+
+const mostMenusAhead = 50, mostItemsAhead = 200;
+let ahead = [];             // menus still to be built, the likeliest first
+
+function buildAhead(box) {
+    // Until the page has loaded, its scripts may add to the definition.
+    if (!box || document.readyState != 'complete') return;
+    const isRunning = ahead.length > 0;
+    const menus = linksOf(box).map(submenuOf).filter(menu =>
+        menu && !boxes.has(menu) && menu.zevItems.length <= mostItemsAhead);
+    ahead = menus.slice(0, mostMenusAhead).concat(ahead);
+    if (!isRunning && ahead.length) whenIdle(buildNext);
+}
+
+function buildNext() {
+    boxOf(ahead.shift());
+    if (ahead.length) whenIdle(buildNext);
+}
+
+function whenIdle(action) {
+    if (window.requestIdleCallback) window.requestIdleCallback(action);
+    else setTimeout(action, 100);
 }
 
 // ---- Showing and placing ----
@@ -293,6 +327,7 @@ function show(level) {
     fade(level, 0, 1, () => {});
     if (level.opener) level.opener.setAttribute('aria-expanded', 'true');
     if (levels.length == 1) watch(true);
+    buildAhead(box);
 }
 
 function hide(level) {
@@ -314,7 +349,6 @@ function placeAll() {
 function openSubmenu(link) {
     const depth = depthOf(boxAt(link)), menu = submenuOf(link);
     if (!menu || (levels[depth] && levels[depth].menu == menu)) return;
-    ensureLayer();
     openLevel(depth, { menu, box: ensureBox(menu), opener: link, offset: menuOffset(),
                        wish: realSide(wishedSide(menu), isRtlAt(link)) });
 }
@@ -347,7 +381,6 @@ shared.openPopup = function (a, b, where) {
     const link = actingLink || (where.link instanceof Element ? where.link : null);
     if (levels.length && levels[0].menu == menu && levels[0].opener == link) return keep(1);
     closeFrom(0);
-    ensureLayer();
     const level = { menu, box: ensureBox(menu), opener: link, wish: 'bottom', offset: 0 };
     if (where.pageX != null && where.pageY != null) {
         level.point = { x: where.pageX, y: where.pageY };
@@ -473,7 +506,6 @@ function openAndEnter(link, isAtEnd) {
 function sideOfSubmenu(link) {
     const menu = submenuOf(link);
     if (!menu || isOpen(link)) return menu && levels[depthOf(boxAt(link))].side;
-    ensureLayer();
     const box = ensureBox(menu), frame = windowSize(), isRtl = isRtlAt(link);
     const wasHidden = box.hidden;
     box.hidden = false;
@@ -658,6 +690,7 @@ shared.adoptBar = function () {
     // The mouse may have been there first.
     const link = shared.barBox.querySelector('li:hover>a');
     if (link) openSubmenu(link);
+    buildAhead(shared.barBox);
 };
 
 // What waits for the page to be complete: tells of submenus whose item does not exist, and looks
@@ -682,6 +715,7 @@ document.addEventListener('pointerdown', onPagePress);
 document.addEventListener('click', onPageClick);
 document.addEventListener('keydown', onPageKey);
 document.addEventListener('DOMContentLoaded', finish);
+window.addEventListener('load', () => buildAhead(shared.barBox), { once: true });
 if (document.readyState != 'loading') finish();
 if (shared.barBox) shared.adoptBar();
 if (shared.waiting) shared.openPopup.apply(null, shared.waiting);
