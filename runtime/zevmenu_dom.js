@@ -56,6 +56,12 @@ function place(anchor, size, side, offset, frame, isRtl) {
              side: real };
 }
 
+// A length in the window as a length inside the layer, which a page's zoom may enlarge. The layer is
+// `ruler` pixels wide by its own measure and as wide as `origin` in the window.
+function unzoomed(length, origin, ruler) {
+    return length * ruler / ((origin.right - origin.left) || ruler);
+}
+
 function cross(a, b, c) {
     return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
 }
@@ -112,11 +118,11 @@ function typeAhead(names, index, typed) {
     return -1;
 }
 
-shared.sums = { place, isHeadedFor, neighbour, realSide, typeAhead };
+shared.sums = { place, unzoomed, isHeadedFor, neighbour, realSide, typeAhead };
 
 // ======== State ========
 // The open submenus, from the one nearest the top menu to the deepest. A level is
-// { menu, box, opener, wish, offset, point, side, timer }: `opener` is the item or the pop-up's
+// { menu, box, opener, wish, offset, point, side, timer, observer }: `opener` is the item or the pop-up's
 // link, or null for a pop-up at coordinates; `wish` the real side it is to open on and `offset` its
 // distance in pixels; `point` where a pop-up stands; `side` where the box really lies.
 
@@ -285,14 +291,21 @@ function anchorOf(level) {
     return { left: x, right: x, top: y, bottom: y };
 }
 
+// A length in the window as a style of a box.
+function pixels(length) {
+    return unzoomed(length, layer.getBoundingClientRect(), 100) + 'px';
+}
+
 // Measures a box as it would stand in the window; it must not be hidden.
 function measure(box, frame) {
-    box.style.maxWidth = frame.width + 'px';
+    const scrolled = box.scrollTop;
+    box.style.maxWidth = pixels(frame.width);
     box.style.maxHeight = box.style.overflowY = '';
     let size = box.getBoundingClientRect();
     if (size.height > frame.height) {
-        box.style.maxHeight = frame.height + 'px';
+        box.style.maxHeight = pixels(frame.height);
         box.style.overflowY = 'auto';
+        box.scrollTop = scrolled;
         size = box.getBoundingClientRect();
     }
     return size;
@@ -304,8 +317,8 @@ function placeLevel(level) {
     const size = measure(level.box, frame);
     const spot = place(anchorOf(level), size, level.wish, level.offset, frame, isRtl);
     const origin = layer.getBoundingClientRect();
-    level.box.style.left = spot.left - origin.left + 'px';
-    level.box.style.top = spot.top - origin.top + 'px';
+    level.box.style.left = pixels(spot.left - origin.left);
+    level.box.style.top = pixels(spot.top - origin.top);
     level.side = spot.side;
 }
 
@@ -327,11 +340,24 @@ function show(level) {
     fade(level, 0, 1, () => {});
     if (level.opener) level.opener.setAttribute('aria-expanded', 'true');
     if (levels.length == 1) watch(true);
+    follow(level);
     buildAhead(box);
+}
+
+// Closes a level whose opener is scrolled out of sight, hidden or removed. (Some openers, such as
+// the areas of an image, have no box of their own to be watched.)
+function follow(level) {
+    if (!level.opener || !level.opener.getClientRects().length) return;
+    level.observer = new IntersectionObserver(entries => {
+        const isLeft = !level.opener.isConnected || !level.box.contains(focused());
+        if (!entries[entries.length - 1].isIntersecting && isLeft) closeFrom(levels.indexOf(level));
+    });
+    level.observer.observe(level.opener);
 }
 
 function hide(level) {
     const opener = level.opener;
+    if (level.observer) level.observer.disconnect();
     if (level.box.contains(focused()) && opener) opener.focus();
     if (opener) opener.setAttribute('aria-expanded', 'false');
     // A box that fades away is no longer there for the mouse.
@@ -340,8 +366,10 @@ function hide(level) {
     if (!levels.length) watch(false);
 }
 
-function placeAll() {
-    levels.forEach(placeLevel);
+// When a box scrolls, what it opened moves; when anything else does, everything may.
+function placeAll(event) {
+    const box = event && boxAt(event.target);
+    levels.slice(box ? depthOf(box) : 0).forEach(placeLevel);
 }
 
 // ---- Opening ----
@@ -612,6 +640,7 @@ function watch(isOn) {
 
 function listen(host) {
     const root = host.shadowRoot;
+    root.addEventListener('scroll', placeAll, { capture: true, passive: true });
     root.addEventListener('pointermove', onPointerMove);
     root.addEventListener('pointerdown', onPointerDown);
     root.addEventListener('click', onClick);

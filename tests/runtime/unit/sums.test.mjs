@@ -13,7 +13,7 @@ function loadSums() {
     return window.ZEVMenu.shared.sums;
 }
 
-const { place, isHeadedFor, neighbour, realSide, typeAhead } = loadSums();
+const { place, unzoomed, isHeadedFor, neighbour, realSide, typeAhead } = loadSums();
 const frame = { width: 800, height: 600 };
 
 function rect(left, top, width, height) {
@@ -52,6 +52,12 @@ const placements = [
         middle, { width: 150, height: 900 }, 'right', 1, false, 401, 0, 'right'],
     ['a box wider than the window begins at its left',
         middle, { width: 900, height: 80 }, 'bottom', 1, false, 0, 221, 'bottom'],
+    ['right to left, a box that reads right flips at the left edge',
+        rect(10, 200, 100, 20), box, realSide('right', true), 1, true, 111, 200, 'right'],
+    ['an item partly scrolled out to the left keeps its box in the window',
+        rect(-50, 200, 100, 20), box, 'bottom', 1, false, 0, 221, 'bottom'],
+    ['on a phone a box beside lies over its item',
+        rect(500, 200, 300, 20), { width: 700, height: 80 }, 'right', 1, false, 100, 200, 'right'],
     ['right to left, a box below ends with its item',
         middle, box, 'bottom', 1, true, 250, 221, 'bottom'],
     ['a point without a side is the corner', rect(30, 40, 0, 0), box, '', 0, false, 30, 40, ''],
@@ -62,6 +68,16 @@ const placements = [
 for (const [rule, anchor, size, side, offset, isRtl, left, top, real] of placements) {
     test(`place: ${rule}`, () => {
         assert.deepEqual({ ...place(anchor, size, side, offset, frame, isRtl) }, { left, top, side: real });
+    });
+}
+
+// [rule, length, width of a layer that is 100 wide by its own measure, expected]
+const zooms = [['no zoom', 30, 100, 30], ['zoomed in', 30, 200, 15], ['zoomed out', 30, 50, 60],
+    ['a layer that is not laid out', 30, 0, 30]];
+
+for (const [rule, length, width, expected] of zooms) {
+    test(`unzoomed: ${rule}`, () => {
+        assert.equal(unzoomed(length, rect(7, 0, width, 0), 100), expected);
     });
 }
 
