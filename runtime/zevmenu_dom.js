@@ -298,14 +298,12 @@ function pixels(length) {
 
 // Measures a box as it would stand in the window; it must not be hidden.
 function measure(box, frame) {
-    const scrolled = box.scrollTop;
     box.style.maxWidth = pixels(frame.width);
     box.style.maxHeight = box.style.overflowY = '';
     let size = box.getBoundingClientRect();
     if (size.height > frame.height) {
         box.style.maxHeight = pixels(frame.height);
         box.style.overflowY = 'auto';
-        box.scrollTop = scrolled;
         size = box.getBoundingClientRect();
     }
     return size;

@@ -1,0 +1,63 @@
+// The preview page's list of pop-up links.
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { join } from 'node:path';
+import { after, afterEach, before, test } from 'node:test';
+import { hover, libraryFolder, nested, shown, startLab, waitShown } from './support.mjs';
+
+let lab, page;
+before(async () => {
+    lab = await startLab();
+    page = lab.page;
+});
+after(() => lab.close());
+afterEach(() => assert.deepEqual(page.errors, []));
+
+async function showPreview(definition, width = 800) {
+    for (const [name, source] of [['orlet_temp.html', 'zevmenu.html'], ['zevmenu_loader.js', 'zevmenu_loader.js'],
+        ['zevmenu_dom.js', 'zevmenu_dom.js']]) {
+        lab.files.set('/preview/' + name, readFileSync(join(libraryFolder, source), 'utf8'));
+    }
+    lab.files.set('/preview/orlet_temp.js', definition);
+    await page.setViewport({ width, height: 600 });
+    await page.mouse.move(1, 1);
+    await page.goto(lab.origin + '/preview/orlet_temp.html');
+    await page.waitForFunction(() => ZEVMenu.shared.sums);
+}
+
+test('the preview page lists each submenu with items as a pop-up link', async () => {
+    await showPreview(nested.replace("'Boats'", "'<b>Bo</b>ats &amp; more'") +
+        "zevmenu = new ZEVMenu('1'); zevmenu.AddItem();");
+    const links = await page.$$eval('#links a', all => all.map(link => link.textContent));
+    assert.deepEqual(links, ['Products', 'Boats & more', 'Kayaks', 'Contact']);
+    await page.hover('#links a:nth-child(2)');
+    await waitShown(page, 'Canoes');
+    assert.equal(await shown(page, 'Boats', 'Canoes', 'Sea kayaks', 'Map'), 'Canoes');
+    await hover(page, 'Kayaks');
+    await waitShown(page, 'Sea kayaks');
+});
+
+test('the preview page names a pop-up link of a rollover after its file', async () => {
+    await showPreview(`zevmenu = new ZEVMenu('0'); zevmenu.AddRollover('our_team.html', 'a.gif', 'b.gif', '');
+        zevmenu = new ZEVMenu('1'); zevmenu.AddItem('Ann', '', '');`);
+    assert.equal(await page.$eval('#links a', link => link.textContent), 'our team');
+});
+
+test('the list of pop-up links adds no names to the page', async () => {
+    await showPreview(nested);
+    const names = await page.evaluate(() => ['shared', 'nameOf', 'addLink', 'addSubmenusOf'].filter(name =>
+        name in window));
+    assert.deepEqual(names, []);
+});
+
+test('the preview page has no list of pop-ups where there are no submenus', async () => {
+    await showPreview("zevmenu = new ZEVMenu('0'); zevmenu.AddItem('Home', '', '');");
+    assert.equal(await page.$eval('#popups', popups => popups.hidden), true);
+});
+
+test('the preview page is not wider than a phone with long names of pop-ups', async () => {
+    await showPreview(nested.replace('Kayaks', 'Kayaks'.repeat(20)), 320);
+    const [width, room] = await page.evaluate(() => [document.scrollingElement.scrollWidth,
+        document.documentElement.clientWidth]);
+    assert.ok(width <= room && room <= 320, `${width} in ${room}`);
+});
