@@ -392,7 +392,7 @@ function popupId(a, b) {
 
 function popupMenu(id) {
     const menu = shared.menus[id];
-    if (menu instanceof window.ZEVMenu && id != '0') return menu;
+    if (menu && menu.zevItems && id != '0') return menu;
     if (!told.has('popup ' + id)) shared.warn('ZEVMenuOpen: there is no submenu "' + id + '"');
     told.add('popup ' + id);
     return null;
@@ -402,7 +402,12 @@ const besideMousePx = 8;
 let actingLink = null;      // the pop-up link whose handler runs because of a key or tap
 
 shared.openPopup = function (a, b, where) {
-    const menu = popupMenu(popupId(a, b));
+    const id = popupId(a, b);
+    if (document.readyState == 'loading' && !(document.body && shared.menus[id])) {
+        shared.waiting = [a, b, where];
+        return;
+    }
+    const menu = popupMenu(id);
     if (!menu || !document.body) return;
     const link = actingLink || (where.link instanceof Element ? where.link : null);
     if (levels.length && levels[0].menu == menu && levels[0].opener == link) return keep(1);
@@ -519,13 +524,15 @@ function onFocusIn(event) {
     linksOf(shared.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
 }
 
+function enter(box, isAtEnd) {
+    const links = linksOf(box), link = links[isAtEnd ? links.length - 1 : 0];
+    if (link) link.focus();
+}
+
 function openAndEnter(link, isAtEnd) {
     openSubmenu(link);
     const level = levels[depthOf(boxAt(link))];
-    if (level && level.opener == link) {
-        const links = linksOf(level.box);
-        links[isAtEnd ? links.length - 1 : 0].focus();
-    }
+    if (level && level.opener == link) enter(level.box, isAtEnd);
 }
 
 // The side on which an item's submenu stands or would stand.
@@ -706,7 +713,7 @@ function onPageKey(event) {
     if (!link || (!isPress && event.key != 'ArrowDown')) return;
     if (event.ctrlKey || event.altKey || event.metaKey || !openFrom(link, event)) return;
     event.preventDefault();
-    linksOf(levels[0].box)[0].focus();
+    enter(levels[0].box);
 }
 
 // ---- Start ----
@@ -720,9 +727,16 @@ shared.adoptBar = function () {
     buildAhead(shared.barBox);
 };
 
+function openWaiting() {
+    const call = shared.waiting;
+    shared.waiting = null;
+    if (call) shared.openPopup.apply(null, call);
+}
+
 // What waits for the page to be complete: tells of submenus whose item does not exist, and looks
 // for links of pop-ups.
 function finish() {
+    openWaiting();
     adoptPopupLinks();
     Object.keys(shared.menus).forEach(id => {
         const parts = id.split('i'), position = parts.pop();
@@ -745,6 +759,6 @@ document.addEventListener('DOMContentLoaded', finish);
 window.addEventListener('load', () => buildAhead(shared.barBox), { once: true });
 if (document.readyState != 'loading') finish();
 if (shared.barBox) shared.adoptBar();
-if (shared.waiting) shared.openPopup.apply(null, shared.waiting);
+openWaiting();
 
 })();

@@ -14,7 +14,7 @@ var shared = {
     menus: {},          // menu id -> ZEVMenu
     bar: null,          // the element that holds the top menu in the page, from ZEVDisplayMenu on
     barBox: null,       // the drawn top menu, a UL in the bar's shadow tree
-    waiting: null       // arguments of the last ZEVMenuOpen that came before zevmenu_dom.js
+    waiting: null       // arguments of the last ZEVMenuOpen that came too early
 };
 
 var isModern = document.getElementById && document.documentElement.attachShadow &&
