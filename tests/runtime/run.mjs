@@ -1,5 +1,5 @@
-// Runs the tests of one folder: node run.mjs unit|browser. Fails, and says why, when something that
-// the tests need is missing.
+// Runs the tests of one folder: node run.mjs unit|browser. ENGINE names the browser: chromium (if it names
+// none), firefox or webkit. Fails, and says why, when something that the tests need is missing.
 import { spawnSync } from 'node:child_process';
 import { existsSync, readFileSync, readdirSync } from 'node:fs';
 import { fileURLToPath } from 'node:url';
@@ -18,13 +18,19 @@ const { devDependencies } = JSON.parse(readFileSync(here + 'package.json', 'utf8
 const missing = Object.keys(devDependencies).filter(name => !existsSync(here + 'node_modules/' + name));
 if (missing.length) fail(`${missing.join(', ')} not installed; run: npm ci --prefix tests/runtime`);
 
-const chromium = process.env.CHROMIUM || '/usr/bin/chromium';
-if (folder == 'browser' && !existsSync(chromium)) fail(`${chromium} not found; install the package chromium`);
+const browsers = {
+    chromium: [process.env.CHROMIUM || '/usr/bin/chromium', 'chromium'],
+    firefox: [process.env.FIREFOX || '/usr/bin/firefox-esr', 'firefox-esr'],
+    webkit: [process.env.WEBKIT_DRIVER || '/usr/bin/WebKitWebDriver', 'webkit2gtk-driver'],
+};
+const [program, name] = browsers[process.env.ENGINE || 'chromium'] || [];
+if (!program) fail('ENGINE has to be chromium, firefox or webkit');
+if (folder == 'browser' && !existsSync(program)) fail(`${program} not found; install the package ${name}`);
 
 const files = readdirSync(here + folder).filter(name => name.endsWith('.test.mjs'));
 if (!files.length) fail(`no tests in ${here}${folder}`);
 
 const result = spawnSync(process.execPath,
-    ['--test', '--test-reporter=spec', '--test-concurrency=2', ...files.map(name => `${here}${folder}/${name}`)],
+    ['--test', '--test-reporter=spec', '--test-concurrency=2', ...files.map(file => `${here}${folder}/${file}`)],
     { stdio: 'inherit' });
 process.exit(result.status ?? 1);

@@ -119,14 +119,14 @@ for (const key of ['Enter', 'Space']) {
     test(`K14: ${key} follows the link of an item without a submenu`, async () => {
         await lab.show({ ...around });
         await press('Tab', 'Tab', key);
-        await until(() => page.url() == lab.origin + '/site/home.html', 'home.html');
+        await until(async () => await page.url() == lab.origin + '/site/home.html', 'home.html');
     });
 }
 
 test('K12: a rollover is found by its name', async () => {
     await lab.show({ definition: names, ...around });
     await press('Tab', 'Tab', 's', 'a', 'Enter');
-    await until(() => page.url() == lab.origin + '/site/salt_water.html', 'salt_water.html');
+    await until(async () => await page.url() == lab.origin + '/site/salt_water.html', 'salt_water.html');
 });
 
 test('K16: Escape closes what the mouse opened, wherever the focus is', async () => {

@@ -192,7 +192,7 @@ test('a click follows the link of an item, with or without a submenu', async () 
         await lab.show();
         await hover(page, ...path);
         await (await item(page, path.at(-1))).click();
-        await until(() => page.url() == `${lab.origin}/site/${url}`, url);
+        await until(async () => await page.url() == `${lab.origin}/site/${url}`, url);
     }
 });
 
@@ -314,7 +314,7 @@ test('a missing image leaves a readable item that can be clicked', async () => {
     const { width } = await (await page.$$('>>> li > a.rollover'))[1].boundingBox();
     assert.ok(width > 30, `${width}`);
     await page.mouse.click(x, y);
-    await until(() => page.url() == lab.origin + '/site/second.html', 'the link');
+    await until(async () => await page.url() == lab.origin + '/site/second.html', 'the link');
 });
 
 // ---- Staying in the window ----

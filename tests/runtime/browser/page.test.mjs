@@ -246,7 +246,7 @@ test('without the renderer the top menu is a list of links, with one warning', a
     await until(() => page.warnings.length > 0, 'a warning');
     assert.equal(page.warnings.length, 1);
     await (await item(page, 'Home')).click();
-    await until(() => page.url() == lab.origin + '/site/home.html', 'home.html');
+    await until(async () => await page.url() == lab.origin + '/site/home.html', 'home.html');
 });
 
 // ---- Mistakes in a definition ----
@@ -354,15 +354,6 @@ test('submenus lie above everything in the page', async () => {
     assert.equal(await page.evaluate((x, y) => document.elementFromPoint(x + 3, y + 3).dataset.zev, x, y), 'layer');
 });
 
-test('printing shows the top menu only', async () => {
-    await lab.show();
-    await hover(page, 'Products', 'Boats');
-    await page.emulateMediaType('print');
-    const found = await shown(page, 'Home', ...everything);
-    await page.emulateMediaType('screen');
-    assert.equal(found, 'Home');
-});
-
 test('submenus are built when first opened', async () => {
     await lab.show();
     assert.equal(await page.$$eval('>>> ul', boxes => boxes.length), 1);
@@ -405,7 +396,9 @@ test('the preview page says when the menu is empty', async () => {
 test('the preview page is not wider than a phone', async () => {
     await page.setViewport({ width: 320, height: 600 });
     await showPreview(nested);
-    assert.equal(await page.evaluate(() => document.scrollingElement.scrollWidth), 320);
+    const [width, room] = await page.evaluate(() => [document.scrollingElement.scrollWidth,
+        document.documentElement.clientWidth]);
+    assert.ok(width <= room && room <= 320, `${width} in ${room}`);
 });
 
 // [sample, items from the top to the deepest]

@@ -1,12 +1,13 @@
-// What the browser tests share: one chromium, a web server on this machine that serves the library
+// What the browser tests share: one browser, a web server on this machine that serves the library
 // and the pages of a test, and questions about what a visitor sees.
 import { readFile } from 'node:fs/promises';
-import { mkdtempSync, rmSync } from 'node:fs';
 import { createServer } from 'node:http';
-import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { fileURLToPath } from 'node:url';
-import puppeteer from 'puppeteer-core';
+import { inflateSync } from 'node:zlib';
+import { engine, startBrowser } from './support_engines.mjs';
+
+export { engine };
 
 export const libraryFolder = fileURLToPath(new URL('../../../runtime/', import.meta.url));
 export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.meta.url));
@@ -14,34 +15,29 @@ export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.m
 const types = { html: 'text/html', xhtml: 'application/xhtml+xml', js: 'text/javascript', svg: 'image/svg+xml' };
 const folders = { runtime: libraryFolder, samples: samplesFolder };
 
-const chromiumArguments = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
-    '--disable-background-networking', '--disable-component-update', '--disable-sync'];
-
 /*
  * Starts the browser and the server. Paths of the server: /runtime/ and /samples/ are the folders of
  * the repository, everything else comes from `files` (path -> text, or { text, headers, delayMs });
- * any other .html answers with an empty page, as a place for links to lead to.
+ * any other .html answers with an empty page, as a place for links to lead to. The options are
+ * startBrowser()'s.
  */
-export async function startLab() {
-    const profile = mkdtempSync(join(tmpdir(), 'zevmenu-browser-'));
+export async function startLab(options = {}) {
     const files = new Map();
-    const server = createServer((request, response) => answer(files, request, response));
+    let page;
+    const server = createServer((request, response) => request.method == 'POST'
+        ? hear(page, request, response) : answer(files, request, response));
     await new Promise(resolve => server.listen(0, '127.0.0.1', resolve));
-    const browser = await puppeteer.launch({
-        executablePath: process.env.CHROMIUM || '/usr/bin/chromium', headless: true, args: chromiumArguments,
-        userDataDir: profile,
-    });
+    const { browser, close } = await startBrowser(options);
     const origin = `http://127.0.0.1:${server.address().port}`;
-    const page = await newPage(browser);
+    page = await newPage(browser);
     return {
         origin, files, page,
         newPage: () => newPage(browser),
         show: (options = {}) => show(page, origin, files, options),
         async close() {
-            await browser.close();
+            await close();
             server.closeAllConnections();
             server.close();
-            rmSync(profile, { recursive: true, force: true, maxRetries: 5 });
         },
     };
 }
@@ -51,16 +47,42 @@ async function answer(files, request, response) {
     const [, folder, name] = /^\/(runtime|samples)\/(.*)$/.exec(path) || [];
     const given = files.get(path);
     const { text = given, headers = {}, delayMs = 0 } = given instanceof Object ? given : {};
-    const found = text !== undefined ? text
+    const found = path == '/listener.js' ? listenerText : text !== undefined ? text
         : folder ? await readFile(join(folders[folder], name)).catch(() => null)
         : path.endsWith('.html') ? `<!DOCTYPE html><title>${path}</title>` : null;
     await new Promise(resolve => setTimeout(resolve, delayMs));
+    const isPage = /html$/.test(path);
     const type = types[path.split('.').pop()] || 'text/plain';
     response.writeHead(found === null ? 404 : 200, {
         'Content-Type': type + '; charset=utf-8', 'Cache-Control': given === undefined ? 'max-age=60' : 'no-store',
         ...headers,
     });
-    response.end(found);
+    response.end(engine == 'webkit' && isPage ? String(found).replace('<head>', '<head>' + listener) : found);
+}
+
+/*
+ * WebKit's driver does not tell what a page writes into its console. There the server puts a script at the
+ * start of each page, which sends that here before the page goes on.
+ */
+const listener = '<script src="/listener.js"></script>';
+const listenerText = `(() => {
+    const tell = (event, text) => {
+        const request = new XMLHttpRequest();
+        request.open('POST', '/', false);
+        request.send(JSON.stringify([event, String(text)]));
+    };
+    const warn = console.warn;
+    console.warn = (...words) => { tell('console', words.join(' ')); warn.apply(console, words); };
+    addEventListener('error', event => tell('pageerror', event.message));
+    addEventListener('unhandledrejection', event => tell('pageerror', event.reason));
+})();`;
+
+async function hear(page, request, response) {
+    let body = '';
+    for await (const part of request) body += part;
+    const [event, text] = JSON.parse(body);
+    page.emit(event, event == 'console' ? { type: () => 'warn', text: () => text } : text);
+    response.end();
 }
 
 // A browser tab; `warnings` and `errors` collect what its console got since the last show().
@@ -71,7 +93,16 @@ async function newPage(browser) {
     page.errors = [];
     page.on('console', message => message.type() == 'warn' && page.warnings.push(message.text()));
     page.on('pageerror', error => page.errors.push(String(error)));
+    if (engine == 'firefox') nameSpaceKey(page.keyboard);
     return page;
+}
+
+// Firefox takes keys by what they type, which for the space bar is not the name of the key.
+function nameSpaceKey(keyboard) {
+    for (const action of ['press', 'down', 'up']) {
+        const original = keyboard[action].bind(keyboard);
+        keyboard[action] = key => original(key == 'Space' ? ' ' : key);
+    }
 }
 
 export const script = text => `<script language="JavaScript1.2">${text}</script>`;
@@ -102,7 +133,7 @@ async function show(page, origin, files, options) {
     files.set('/site/menu.js', { text: definition, delayMs: definitionDelayMs });
     files.set(path, { text: pageText(options), headers });
     await page.setViewport({ width, height, hasTouch });
-    await page.emulateMediaFeatures([]);
+    if (engine == 'chromium') await page.emulateMediaFeatures([]);
     await page.mouse.move(width - 1, height - 1);
     page.warnings = [];
     page.errors = [];
@@ -197,6 +228,35 @@ export async function until(question, what, timeout = 5000) {
 
 export function pause(ms) {
     return new Promise(resolve => setTimeout(resolve, ms));
+}
+
+// Whether assistive technology is told exactly that name of the element.
+export async function isNamed(page, selector, name) {
+    const element = await page.$(selector);
+    if (engine == 'webkit') return await element.accessibleName() == name;
+    if (engine == 'chromium') {
+        return (await page.accessibility.snapshot({ root: element, interestingOnly: false })).name == name;
+    }
+    const parent = await element.evaluateHandle(element => element.parentNode);
+    const named = await parent.$$(`::-p-aria([name="${name}"])`);
+    return (await Promise.all(named.map(other => other.evaluate((other, element) => other == element, element))))
+        .includes(true);
+}
+
+// The fill colours on the printed page, each as "r g b" with r, g and b from 0 to 255.
+export async function printedColours(page) {
+    const bytes = Buffer.from(await page.pdf({ printBackground: true }));
+    const found = new Set();
+    for (let start = bytes.indexOf('stream\n'); start >= 0; start = bytes.indexOf('stream\n', start + 1)) {
+        if (bytes.toString('latin1', start - 3, start) == 'end') continue;
+        const data = bytes.subarray(start + 7);
+        if ((data[0] & 15) != 8) continue;
+        const text = inflateSync(data).toString('latin1');
+        for (const [, ...parts] of text.matchAll(/([\d.]+) ([\d.]+) ([\d.]+) rg\b/g)) {
+            found.add(parts.map(part => Math.round(part * 255)).join(' '));
+        }
+    }
+    return found;
 }
 
 // Moves the mouse onto items one after the other, and waits for each to be there.

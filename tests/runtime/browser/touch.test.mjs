@@ -26,9 +26,9 @@ test('touch: the first tap opens a submenu, the second follows the link', async 
     await waitShown(page, 'Boats');
     await tap('Boats');
     await waitShown(page, 'Canoes');
-    assert.equal(page.url(), lab.origin + '/site/page.html');
+    assert.equal(await page.url(), lab.origin + '/site/page.html');
     await tap('Products');
-    await until(() => page.url() == lab.origin + '/site/products.html', 'products.html');
+    await until(async () => await page.url() == lab.origin + '/site/products.html', 'products.html');
 });
 
 test('touch: a tap on an item without a submenu follows its link', async () => {
@@ -36,7 +36,7 @@ test('touch: a tap on an item without a submenu follows its link', async () => {
     await tap('Products');
     await waitShown(page, 'Oars');
     await tap('Oars');
-    await until(() => page.url() == lab.origin + '/site/oars.html', 'oars.html');
+    await until(async () => await page.url() == lab.origin + '/site/oars.html', 'oars.html');
 });
 
 test('touch: an open submenu stays, until a tap elsewhere', async () => {
@@ -55,7 +55,7 @@ test("touch: a tap on a pop-up's link opens it and does not follow the link", as
     await page.touchscreen.tap(box.x + 5, box.y + 5);
     await waitShown(page, 'Boats');
     await pause(100);
-    assert.equal(page.url(), lab.origin + '/site/page.html');
+    assert.equal(await page.url(), lab.origin + '/site/page.html');
 });
 
 test('a click without a pointer, as screen readers make it, first opens and then follows', async () => {
@@ -63,5 +63,5 @@ test('a click without a pointer, as screen readers make it, first opens and then
     await (await item(page, 'Products')).evaluate(link => link.click());
     await waitShown(page, 'Boats');
     await (await item(page, 'Products')).evaluate(link => link.click());
-    await until(() => page.url() == lab.origin + '/site/products.html', 'products.html');
+    await until(async () => await page.url() == lab.origin + '/site/products.html', 'products.html');
 });

@@ -1,0 +1,254 @@
+// A small WebDriver client for WebKit: the part of a puppeteer page that the tests use, under the same
+// names, as HTTP requests to WebKitWebDriver. Only url() differs: it gives a promise.
+
+const elementKey = 'element-6066-11e4-a52e-4f735466cecf';
+const keys = {
+    Backspace: '\uE003', Tab: '\uE004', Enter: '\uE006', Shift: '\uE008', Control: '\uE009', Alt: '\uE00A',
+    Escape: '\uE00C', Space: ' ', PageUp: '\uE00E', PageDown: '\uE00F', End: '\uE010', Home: '\uE011',
+    ArrowLeft: '\uE012', ArrowUp: '\uE013', ArrowRight: '\uE014', ArrowDown: '\uE015', Delete: '\uE017',
+    F10: '\uE03A', Meta: '\uE03D',
+};
+
+// One browser window with its tabs.
+export class WebDriverBrowser {
+    #address;
+    #current;
+    #pages = [];
+
+    constructor(address) {
+        this.#address = address;
+    }
+
+    // Starts a session; `capabilities` say which program to run.
+    static async start(server, capabilities) {
+        const { sessionId } = await request('POST', `${server}/session`, { capabilities });
+        return new WebDriverBrowser(`${server}/session/${sessionId}`);
+    }
+
+    async newPage() {
+        const handle = this.#pages.length ? (await this.#send('POST', '/window/new', { type: 'tab' })).handle
+            : await this.#send('GET', '/window');
+        const page = new WebDriverPage(this, handle);
+        this.#pages.push(page);
+        return page;
+    }
+
+    async close() {
+        await request('DELETE', this.#address);
+    }
+
+    // A command to the tab with that handle.
+    async send(handle, method, path, body) {
+        if (this.#current != handle) {
+            await this.#send('POST', '/window', { handle });
+            this.#current = handle;
+        }
+        return this.#send(method, path, body);
+    }
+
+    async closePage(page) {
+        await this.send(page.handle, 'DELETE', '/window');
+        this.#pages = this.#pages.filter(other => other != page);
+        this.#current = null;
+    }
+
+    #send(method, path, body) {
+        return request(method, this.#address + path, body);
+    }
+}
+
+async function request(method, url, body) {
+    const response = await fetch(url, { method, body: method == 'POST' ? JSON.stringify(body || {}) : undefined });
+    const { value } = await response.json();
+    if (!response.ok) throw new Error(`${method} ${new URL(url).pathname}: ${value.error}: ${value.message}`);
+    return value;
+}
+
+class WebDriverPage {
+    #browser;
+    #listeners = { console: [], pageerror: [] };
+
+    constructor(browser, handle) {
+        this.#browser = browser;
+        this.handle = handle;
+        this.keyboard = {
+            down: key => this.#keys('keyDown', key),
+            up: key => this.#keys('keyUp', key),
+            press: key => this.#press(key),
+        };
+        this.mouse = {
+            move: (x, y) => this.#pointer('mouse', [at(x, y)]),
+            down: () => this.#pointer('mouse', [{ type: 'pointerDown', button: 0 }]),
+            up: () => this.#pointer('mouse', [{ type: 'pointerUp', button: 0 }]),
+            click: (x, y) => this.#pointer('mouse', [at(x, y), ...tap]),
+            wheel: ({ deltaX = 0, deltaY = 0 }) => this.#wheel(deltaX, deltaY),
+        };
+        this.touchscreen = { tap: (x, y) => this.#pointer('touch', [at(x, y), ...tap]) };
+    }
+
+    send(method, path, body) {
+        return this.#browser.send(this.handle, method, path, body);
+    }
+
+    // Whoever hears what the page writes into its console tells the listeners by emit().
+    on(event, listener) {
+        this.#listeners[event].push(listener);
+    }
+
+    emit(event, value) {
+        for (const listener of this.#listeners[event]) listener(value);
+    }
+
+    // ---- The window ----
+
+    setDefaultTimeout() {}
+
+    async goto(url) {
+        await this.send('POST', '/url', { url });
+    }
+
+    async url() {
+        return this.send('GET', '/url');
+    }
+
+    async title() {
+        return this.send('GET', '/title');
+    }
+
+    async close() {
+        await this.#browser.closePage(this);
+    }
+
+    // Sizes the window so that the page has the width and height, both in pixels.
+    async setViewport({ width, height }) {
+        const inner = () => this.evaluate(() => [innerWidth, innerHeight]);
+        const same = ([w, h]) => w == width && h == height;
+        let size = await inner();
+        for (let tries = 0; tries < 5 && !same(size); tries++) {
+            const rect = await this.send('GET', '/window/rect');
+            await this.send('POST', '/window/rect',
+                { width: rect.width + width - size[0], height: rect.height + height - size[1] });
+            size = await inner();
+        }
+        if (!same(size)) throw new Error(`the page is ${size.join(' by ')} pixels, not ${width} by ${height}`);
+    }
+
+    // ---- Elements and scripts ----
+
+    async evaluate(code, ...args) {
+        const text = await this.send('POST', '/execute/sync', {
+            script: `const value = (${code})(...arguments);
+                return Promise.resolve(value).then(value => value === undefined ? null : JSON.stringify(value));`,
+            args: args.map(arg => arg instanceof WebDriverElement ? { [elementKey]: arg.id } : arg),
+        });
+        return text === null ? undefined : JSON.parse(text);
+    }
+
+    async waitForFunction(code) {
+        const end = Date.now() + 10000;
+        while (!await this.evaluate(`() => !!(${code})()`)) {
+            if (Date.now() > end) throw new Error(`waited 10 s for ${code}`);
+            await new Promise(resolve => setTimeout(resolve, 10));
+        }
+    }
+
+    async $$(selector) {
+        const found = await this.send('POST', '/execute/sync',
+            { script: `return (${findAll})(...arguments)`, args: [selector] });
+        return found.map(element => new WebDriverElement(this, element[elementKey]));
+    }
+
+    async $(selector) {
+        return (await this.$$(selector))[0] || null;
+    }
+
+    $$eval(selector, code, ...args) {
+        return this.evaluate(`(selector, ...args) => (${code})((${findAll})(selector), ...args)`, selector, ...args);
+    }
+
+    $eval(selector, code, ...args) {
+        return this.evaluate(`(selector, ...args) => (${code})((${findAll})(selector)[0], ...args)`, selector, ...args);
+    }
+
+    focus(selector) {
+        return this.$eval(selector, element => element.focus());
+    }
+
+    async hover(selector) {
+        const { x, y, width, height } = await (await this.$(selector)).boundingBox();
+        await this.mouse.move(x + width / 2, y + height / 2);
+    }
+
+    // ---- Input ----
+
+    async #actions(...sources) {
+        await this.send('POST', '/actions', { actions: sources });
+    }
+
+    #pointer(pointerType, actions) {
+        return this.#actions({ type: 'pointer', id: pointerType, parameters: { pointerType }, actions });
+    }
+
+    #wheel(deltaX, deltaY) {
+        return this.#actions({ type: 'wheel', id: 'wheel', actions: [{ type: 'scroll', x: 0, y: 0, deltaX, deltaY }] });
+    }
+
+    #keys(type, key) {
+        return this.#actions({ type: 'key', id: 'keyboard', actions: [{ type, value: keys[key] || key }] });
+    }
+
+    #press(key) {
+        const value = keys[key] || key;
+        return this.#actions({ type: 'key', id: 'keyboard',
+                               actions: [{ type: 'keyDown', value }, { type: 'keyUp', value }] });
+    }
+}
+
+const tap = [{ type: 'pointerDown', button: 0 }, { type: 'pointerUp', button: 0 }];
+
+function at(x, y) {
+    return { type: 'pointerMove', x: Math.round(x), y: Math.round(y), duration: 0 };
+}
+
+// Runs in the page: all elements of a selector; one that begins with ">>>" also looks into shadow trees.
+function findAll(selector) {
+    if (!selector.startsWith('>>>')) return Array.from(document.querySelectorAll(selector));
+    const roots = [document];
+    for (const root of roots) {
+        for (const element of root.querySelectorAll('*')) {
+            if (element.shadowRoot) roots.push(element.shadowRoot);
+        }
+    }
+    return roots.flatMap(root => Array.from(root.querySelectorAll(selector.slice(3))));
+}
+
+class WebDriverElement {
+    #page;
+
+    constructor(page, id) {
+        this.#page = page;
+        this.id = id;
+    }
+
+    evaluate(code, ...args) {
+        return this.#page.evaluate(code, this, ...args);
+    }
+
+    boundingBox() {
+        return this.evaluate(element => {
+            const { x, y, width, height } = element.getBoundingClientRect();
+            return element.getClientRects().length ? { x, y, width, height } : null;
+        });
+    }
+
+    async click() {
+        await this.evaluate(element => element.scrollIntoView({ block: 'nearest', inline: 'nearest' }));
+        const { x, y, width, height } = await this.boundingBox();
+        await this.#page.mouse.click(x + width / 2, y + height / 2);
+    }
+
+    // The name that assistive technology is told.
+    accessibleName() {
+        return this.#page.send('GET', `/element/${this.id}/computedlabel`);
+    }
+}
