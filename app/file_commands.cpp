@@ -1,6 +1,5 @@
 #include "app/file_commands.h"
 
-#include <cstdint>
 #include <vector>
 
 #include "platform/library_files.h"
@@ -14,9 +13,6 @@ namespace {
 
 constexpr const char* kDefinitionFilter = "All Files (*.*)|*.*|JavaScript (*.js)|*.js";
 constexpr int kJavaScriptFilter = 2;
-
-/// No menu comes near this size; a larger file was chosen by mistake and would only fill memory.
-constexpr std::uint64_t kMaxDefinitionBytes = std::uint64_t{256} * 1024 * 1024;
 
 std::string CouldNotOpenText(const std::string& path, const std::string& reason) {
     return "Could not open " + path + ": " + reason;
@@ -114,7 +110,8 @@ bool FileCommands::mayDiscardDocument() {
 }
 
 bool FileCommands::openDefinition(const std::string& path) {
-    const FileResult<std::string> content = m_services.files.readFile(path, kMaxDefinitionBytes);
+    const FileResult<std::string> content =
+        m_services.files.readFile(path, kMaxDefinitionFileBytes);
     if (!content.isOk()) {
         showNotice(CouldNotOpenText(path, content.error().reason));
         return false;

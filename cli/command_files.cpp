@@ -19,7 +19,7 @@ constexpr const char* kStandardOutput = "standard output";
 
 FileResult<std::string> readStandardInput() {
     std::string bytes;
-    if (const int error = readAll(STDIN_FILENO, kMaxDefinitionBytes, bytes))
+    if (const int error = readAll(STDIN_FILENO, kMaxDefinitionFileBytes, bytes))
         return fileErrorOf(error, kStandardInput);
     return bytes;
 }
@@ -48,7 +48,7 @@ bool writeStandardOutput(std::string_view bytes) {
 std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
                                          MenuDocument& document) {
     const FileResult<std::string> bytes =
-        path == "-" ? readStandardInput() : files.readFile(path, kMaxDefinitionBytes);
+        path == "-" ? readStandardInput() : files.readFile(path, kMaxDefinitionFileBytes);
     if (!bytes.isOk()) {
         FileError error = bytes.error();
         if (error.code == FileError::Code::TooLarge)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,9 +16,6 @@ enum class ExitStatus {
     WrongUse = 2,
     FileProblem = 3  ///< a file could not be read or written
 };
-
-/// Larger files are no menu definitions.
-inline constexpr std::uint64_t kMaxDefinitionBytes = std::uint64_t{256} << 20;
 
 /// Prints one line on standard error, after the program's name.
 void printProblem(const std::string& problem);

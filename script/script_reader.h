@@ -1,11 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include "model/menu_document.h"
 
 namespace zev {
+
+/// No menu comes near this size; a larger file was chosen by mistake and would only fill memory.
+inline constexpr std::uint64_t kMaxDefinitionFileBytes = std::uint64_t{256} << 20;
 
 /// What the reader counted.
 struct ReadResult {
