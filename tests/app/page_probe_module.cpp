@@ -16,7 +16,7 @@ void zevEvaluateInPage(QWidget* widget, const QString* script, QVariant* value) 
     // Shared, because an answer may come after the time is up.
     const auto answer = std::make_shared<QVariant>();
     QEventLoop loop;
-    QTimer::singleShot(20000, &loop, &QEventLoop::quit);
+    QTimer::singleShot(5000, &loop, &QEventLoop::quit);
     const auto quit = std::make_shared<QObject>();
     QObject::connect(quit.get(), &QObject::objectNameChanged, &loop, &QEventLoop::quit);
     view->page()->runJavaScript(*script, [answer, quit](const QVariant& result) {
