@@ -347,8 +347,9 @@ function show(level) {
 function follow(level) {
     if (!level.opener || !level.opener.getClientRects().length) return;
     level.observer = new IntersectionObserver(entries => {
+        const index = levels.indexOf(level);    // -1: closed, but told in spite of disconnect()
         const isLeft = !level.opener.isConnected || !level.box.contains(focused());
-        if (!entries[entries.length - 1].isIntersecting && isLeft) closeFrom(levels.indexOf(level));
+        if (index >= 0 && isLeft && !entries[entries.length - 1].isIntersecting) closeFrom(index);
     });
     level.observer.observe(level.opener);
 }
