@@ -209,6 +209,16 @@ function promote(box, role) {
     });
 }
 
+// The menu that a submenu opens from, and its item there; undefined or null where there is none.
+function parentOf(menu) {
+    return shared.menus[menu.zevId.replace(/i?\d+$/, '') || '0'];
+}
+
+function itemOf(menu) {
+    const parent = parentOf(menu);
+    return parent && parent.zevItems[/\d+$/.exec(menu.zevId)[0] - 1];
+}
+
 function ensureLayer() {
     if (!layer) {
         layer = shared.createHost('layer');
@@ -222,6 +232,8 @@ function boxOf(menu) {
     if (!box) {
         box = shared.buildBox(menu);
         box.hidden = true;
+        // A submenu bears the name of its item.
+        if (itemOf(menu)) box.setAttribute('aria-label', shared.nameOf(parentOf(menu), itemOf(menu)));
         promote(box, 'menu');
         boxes.set(menu, box);
     }
@@ -337,7 +349,12 @@ function show(level) {
     placeLevel(level);
     fade(level, 0, 1, () => {});
     if (level.opener) level.opener.setAttribute('aria-expanded', 'true');
-    if (levels.length == 1) watch(true);
+    if (levels.length == 1) {
+        // What is open lies outside the top menu's landmark, and is another one.
+        layer.setAttribute('role', 'navigation');
+        layer.setAttribute('aria-label', box.getAttribute('aria-label') || '');
+        watch(true);
+    }
     follow(level);
     buildAhead(box);
 }
@@ -362,7 +379,11 @@ function hide(level) {
     // A box that fades away is no longer there for the mouse.
     level.box.style.pointerEvents = 'none';
     fade(level, 1, 0, () => { level.box.hidden = true; });
-    if (!levels.length) watch(false);
+    if (!levels.length) {
+        layer.removeAttribute('role');
+        layer.removeAttribute('aria-label');
+        watch(false);
+    }
 }
 
 // When a box scrolls, what it opened moves; when anything else does, everything may.
@@ -722,6 +743,7 @@ function onPageKey(event) {
 shared.adoptBar = function () {
     listen(shared.bar);
     promote(shared.barBox, 'menubar');
+    if (!shared.bar.closest('nav,[role=navigation]')) shared.bar.setAttribute('role', 'navigation');
     // The mouse may have been there first.
     const link = shared.barBox.querySelector('li:hover>a');
     if (link) openSubmenu(link);
@@ -740,9 +762,7 @@ function finish() {
     openWaiting();
     adoptPopupLinks();
     Object.keys(shared.menus).forEach(id => {
-        const parts = id.split('i'), position = parts.pop();
-        const parent = shared.menus[parts.join('i') || '0'];
-        if (id == '0' || told.has(id) || (parent && parent.zevItems[position - 1])) return;
+        if (id == '0' || told.has(id) || itemOf(shared.menus[id])) return;
         told.add(id);
         shared.warn('menu ' + id + ' has no item to open from; it is not shown');
     });

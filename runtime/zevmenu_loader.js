@@ -303,6 +303,11 @@ function wordsOf(node) {
     return words;
 }
 
+// The name of an item.
+function nameOf(menu, item) {
+    return item.imageOut ? nameFromFiles(item) : wordsOf(parse(menu, item.caption));
+}
+
 function addCaption(link, menu, item, html) {
     var caption = parse(menu, item.caption), words = wordsOf(caption);
     if (html.before) link.appendChild(parse(menu, html.before));
@@ -466,6 +471,7 @@ shared.stateSetting = stateSetting;
 shared.isSide = isSide;
 shared.createHost = createHost;
 shared.buildBox = buildBox;
+shared.nameOf = nameOf;
 shared.nameFromFiles = nameFromFiles;
 shared.wordsOf = wordsOf;
 

@@ -234,3 +234,17 @@ test('R3: what opens a pop-up and has no address becomes a button', async () => 
     assert.deepEqual(await attributes('#link', ['role', 'tabindex', 'aria-haspopup', 'aria-expanded']),
                      ['button 0 true false']);
 });
+
+test('R4: the menu is a landmark, unless it stands in one, and what is open another', async () => {
+    await lab.show({ definition: nested.replace("'Boats'", "'<i>Big</i> boats'") });
+    const landmarks = () => page.$$eval('[data-zev]', hosts => hosts.map(host =>
+        [host.dataset.zev, host.getAttribute('role') || '-', host.getAttribute('aria-label') || '-'].join(' ')));
+    assert.deepEqual(await landmarks(), ['bar navigation -']);
+    await hover(page, 'Products', 'Big boats');
+    assert.deepEqual(await landmarks(), ['bar navigation -', 'layer navigation Products']);
+    assert.deepEqual(await attributes('ul[role=menu]', ['aria-label']), ['Products', 'Big boats']);
+    await press('Escape');
+    assert.deepEqual(await landmarks(), ['bar navigation -', 'layer - -']);
+    await lab.show({ before: '<nav>', after: '</nav>' });
+    assert.deepEqual(await landmarks(), ['bar - -']);
+});
