@@ -627,8 +627,9 @@ function onKeyDown(event) {
     const link = event.target;
     if (!link.zevItem || event.ctrlKey || event.altKey || event.metaKey) return;
     const links = linksOf(boxAt(link));
-    // Closing gives the focus to the top menu or the pop-up's link; Tab goes on from there.
-    if (event.key == 'Tab') return closeFrom(0);
+    // Closing gives the focus to the top menu or the pop-up's link; Tab goes on from there. (The key of
+    // Shift+Tab is "Unidentified" in WebKit on Linux, its code is right.)
+    if (event.key == 'Tab' || event.code == 'Tab') return closeFrom(0);
     if (arrows[event.key]) {
         onArrow(link, arrows[event.key]);
     } else if (event.key == 'Home') {
