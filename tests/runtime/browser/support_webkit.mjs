@@ -1,9 +1,10 @@
 // Starts WebKit: a display of its own, the driver on a free port, and the browser that the driver starts.
-import { spawn } from 'node:child_process';
+import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';
 import { mkdirSync, writeFileSync } from 'node:fs';
 import { createServer } from 'node:net';
 import { join } from 'node:path';
+import { promisify } from 'node:util';
 import { WebDriverBrowser } from './support_webdriver.mjs';
 
 const program = process.env.WEBKIT || '/usr/lib/x86_64-linux-gnu/webkit2gtk-4.1/MiniBrowser';
@@ -20,9 +21,11 @@ export async function startWebKit(folder, { reducedMotion = false } = {}) {
     const processes = [display];
     try {
         const [number] = await within(10000, once(display.stdio[3], 'data'), 'Xvfb');
-        const address = await startDriver(environment(folder, String(number).trim(), reducedMotion), processes);
+        const env = environment(folder, String(number).trim(), reducedMotion);
+        const address = await startDriver(env, processes);
         const browser = await WebDriverBrowser.start(
             address, { alwaysMatch: { 'webkitgtk:browserOptions': { binary: program, args } } });
+        await giveFocus(env);
         return {
             newPage: () => browser.newPage(),
             async close() {
@@ -61,6 +64,15 @@ async function startDriver(env, processes) {
     const address = `http://127.0.0.1:${port}`;
     await within(10000, answers(address), 'WebKitWebDriver');
     return address;
+}
+
+/*
+ * Makes the browser's window the one that has the keyboard, as a window manager would. In a window without
+ * it nothing matches :focus.
+ */
+async function giveFocus(env) {
+    await promisify(execFile)('xdotool', ['search', '--sync', '--onlyvisible', '--class', 'MiniBrowser',
+        'windowfocus', '--sync'], { env, timeout: 10000 });
 }
 
 async function answers(address) {
