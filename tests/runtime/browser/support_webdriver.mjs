@@ -133,6 +133,12 @@ class WebDriverPage {
         if (!same(size)) throw new Error(`the page is ${size.join(' by ')} pixels, not ${width} by ${height}`);
     }
 
+    // A picture (PNG) of a part of the window; the driver's own pictures of elements are black.
+    async screenshot({ clip }) {
+        const url = await this.evaluate(cutOut, await this.send('GET', '/screenshot'), clip);
+        return Buffer.from(url.split(',')[1], 'base64');
+    }
+
     // ---- Elements and scripts ----
 
     async evaluate(code, ...args) {
@@ -220,6 +226,16 @@ function findAll(selector) {
         }
     }
     return roots.flatMap(root => Array.from(root.querySelectorAll(selector.slice(3))));
+}
+
+// Runs in the page: a part of a picture, both as base64 (the result as a data URL).
+async function cutOut(picture, { x, y, width, height }) {
+    const image = new Image();
+    image.src = 'data:image/png;base64,' + picture;
+    await image.decode();
+    const canvas = Object.assign(document.createElement('canvas'), { width, height });
+    canvas.getContext('2d').drawImage(image, -x, -y);
+    return canvas.toDataURL();
 }
 
 class WebDriverElement {
