@@ -11,14 +11,17 @@ before(async () => {
 after(() => lab.close());
 afterEach(() => assert.deepEqual(page.errors, []));
 
-// Counts the links that the library makes, and the callbacks that it asks for.
+// Counts the links that the library makes, and the callbacks that it (not the browser's driver) asks for.
 const head = `<script>
     made = asked = 0;
     const create = document.createElement;
     document.createElement = function (name) { made += name == 'a'; return create.call(document, name); };
     ['requestIdleCallback', 'setTimeout', 'setInterval', 'requestAnimationFrame', 'queueMicrotask'].forEach(name => {
         const ask = window[name];
-        if (ask) window[name] = function () { asked++; return ask.apply(window, arguments); };
+        if (ask) window[name] = function () {
+            asked += /zevmenu/.test(new Error().stack);
+            return ask.apply(window, arguments);
+        };
     });</script>`;
 const counting = { loader: head + '<script src="/runtime/zevmenu_loader.js"></script>' };
 
@@ -26,8 +29,9 @@ function made() {
     return page.evaluate(() => made);
 }
 
+// Safari, which does not tell when a page is idle, has a menu built every 100 ms.
 async function waitMade(count) {
-    await until(async () => await made() >= count, `${count} links made`);
+    await until(async () => await made() >= count, `${count} links made`, 20000);
     assert.equal(await made(), count);
 }
 
@@ -65,7 +69,7 @@ test('an opened submenu was built before, and its own submenus are built next', 
 test('before the first opening the page has few elements, whatever the size of the menu', async () => {
     await lab.show({ ...counting, definition: broad(10, 100) });
     await waitMade(10 + 1000);
-    const count = await page.$$eval('[data-zev], >>> *', all => all.filter(element =>
+    const count = await page.$$eval('>>> *', all => all.filter(element =>
         element.matches('[data-zev]') || element.getRootNode() != document).length);
     assert.ok(count <= 10 + 3 * 10, String(count));
 });

@@ -93,15 +93,12 @@ test('the menu works in a page opened as a file, with the library in another fol
     }
     writeFileSync(join(folder, 'menu.js'), nested);
     writeFileSync(join(folder, 'pages', 'page.html'), pageText({ library: '../js/', definitionUrl: '../menu.js' }));
-    page = await lab.newPage();
     try {
         await page.goto(pathToFileURL(join(folder, 'pages', 'page.html')).href);
         await assertWorks();
         const href = await (await item(page, 'Oars')).evaluate(link => link.href);
         assert.equal(href, pathToFileURL(join(folder, 'oars.html')).href);
     } finally {
-        await page.close();
-        page = lab.page;
         rmSync(folder, { recursive: true });
     }
 });

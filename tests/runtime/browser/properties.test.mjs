@@ -94,14 +94,18 @@ for (const [property, value, element, cssProperty, expected] of styles) {
 // [CSS property, factory value]
 const factory = [
     ['backgroundColor', 'rgb(0, 0, 0)'], ['color', 'rgb(255, 255, 255)'], ['padding', '1px'],
-    ['fontFamily', 'Arial'], ['fontSize', '13.3333px'], ['fontStyle', 'normal'], ['fontWeight', '400'],
+    ['fontFamily', 'Arial'], ['fontSize', '13.33px'], ['fontStyle', 'normal'], ['fontWeight', '400'],
     ['borderTopWidth', '0px'], ['textDecorationLine', 'none'],
 ];
 
 test('what is not set has its factory value', async () => {
     await show({});
     const found = [];
-    for (const [property] of factory) found.push([property, await style(page, 'One', property)]);
+    for (const [property] of factory) {
+        // Browsers tell more or fewer decimals.
+        const value = (await style(page, 'One', property)).replace(/(\.\d\d)\d+/, '$1');
+        found.push([property, value]);
+    }
     assert.deepEqual(found, factory);
 });
 

@@ -32,7 +32,6 @@ export async function startLab(options = {}) {
     page = await newPage(browser);
     return {
         origin, files, page,
-        newPage: () => newPage(browser),
         show: (options = {}) => show(page, origin, files, options),
         async close() {
             await close();

@@ -9,11 +9,9 @@ const keys = {
     F10: '\uE03A', Meta: '\uE03D',
 };
 
-// One browser window with its tabs.
+// A browser and its one page.
 export class WebDriverBrowser {
     #address;
-    #current;
-    #pages = [];
 
     constructor(address) {
         this.#address = address;
@@ -21,73 +19,57 @@ export class WebDriverBrowser {
 
     // Starts a session; `capabilities` say which program to run.
     static async start(server, capabilities) {
-        const { sessionId } = await request('POST', `${server}/session`, { capabilities });
+        const alwaysMatch = { pageLoadStrategy: 'normal', ...capabilities };
+        const { sessionId } = await request('POST', `${server}/session`, { capabilities: { alwaysMatch } });
         return new WebDriverBrowser(`${server}/session/${sessionId}`);
     }
 
-    async newPage() {
-        const handle = this.#pages.length ? (await this.#send('POST', '/window/new', { type: 'tab' })).handle
-            : await this.#send('GET', '/window');
-        const page = new WebDriverPage(this, handle);
-        this.#pages.push(page);
-        return page;
+    newPage() {
+        return new WebDriverPage(this.#address);
     }
 
     async close() {
         await request('DELETE', this.#address);
     }
-
-    // A command to the tab with that handle.
-    async send(handle, method, path, body) {
-        if (this.#current != handle) {
-            await this.#send('POST', '/window', { handle });
-            this.#current = handle;
-        }
-        return this.#send(method, path, body);
-    }
-
-    async closePage(page) {
-        await this.send(page.handle, 'DELETE', '/window');
-        this.#pages = this.#pages.filter(other => other != page);
-        this.#current = null;
-    }
-
-    #send(method, path, body) {
-        return request(method, this.#address + path, body);
-    }
 }
 
+// How long the driver may take for a command. When the browser hangs, the driver never answers.
+const commandMs = 20000;
+
 async function request(method, url, body) {
-    const response = await fetch(url, { method, body: method == 'POST' ? JSON.stringify(body || {}) : undefined });
+    const command = `${method} ${new URL(url).pathname} ${JSON.stringify(body || {})}`;
+    const answer = fetch(url, { method, body: method == 'POST' ? JSON.stringify(body || {}) : undefined,
+                                signal: AbortSignal.timeout(commandMs) });
+    const response = await answer.catch(cause => { throw new Error(`${command}: no answer`, { cause }); });
     const { value } = await response.json();
-    if (!response.ok) throw new Error(`${method} ${new URL(url).pathname}: ${value.error}: ${value.message}`);
+    if (!response.ok) throw new Error(`${command}: ${value.error}: ${value.message}`);
     return value;
 }
 
 class WebDriverPage {
-    #browser;
+    #address;
+    #mouseAt = { x: 0, y: 0 };
     #listeners = { console: [], pageerror: [] };
 
-    constructor(browser, handle) {
-        this.#browser = browser;
-        this.handle = handle;
+    constructor(address) {
+        this.#address = address;
         this.keyboard = {
             down: key => this.#keys('keyDown', key),
             up: key => this.#keys('keyUp', key),
             press: key => this.#press(key),
         };
         this.mouse = {
-            move: (x, y) => this.#pointer('mouse', [at(x, y)]),
+            move: (x, y) => this.#moveMouse(x, y),
             down: () => this.#pointer('mouse', [{ type: 'pointerDown', button: 0 }]),
             up: () => this.#pointer('mouse', [{ type: 'pointerUp', button: 0 }]),
-            click: (x, y) => this.#pointer('mouse', [at(x, y), ...tap]),
+            click: (x, y) => this.#moveMouse(x, y, ...tap),
             wheel: ({ deltaX = 0, deltaY = 0 }) => this.#wheel(deltaX, deltaY),
         };
         this.touchscreen = { tap: (x, y) => this.#pointer('touch', [at(x, y), ...tap]) };
     }
 
     send(method, path, body) {
-        return this.#browser.send(this.handle, method, path, body);
+        return request(method, this.#address + path, body);
     }
 
     // Whoever hears what the page writes into its console tells the listeners by emit().
@@ -103,8 +85,10 @@ class WebDriverPage {
 
     setDefaultTimeout() {}
 
-    async goto(url) {
+    // The session's strategy lets the driver answer when the document has been read.
+    async goto(url, { waitUntil = 'load' } = {}) {
         await this.send('POST', '/url', { url });
+        if (waitUntil == 'load') await this.waitForFunction(() => document.readyState == 'complete');
     }
 
     async url() {
@@ -113,10 +97,6 @@ class WebDriverPage {
 
     async title() {
         return this.send('GET', '/title');
-    }
-
-    async close() {
-        await this.#browser.closePage(this);
     }
 
     // Sizes the window so that the page has the width and height, both in pixels.
@@ -195,8 +175,16 @@ class WebDriverPage {
         return this.#actions({ type: 'pointer', id: pointerType, parameters: { pointerType }, actions });
     }
 
+    // Turns the wheel where the mouse is.
     #wheel(deltaX, deltaY) {
-        return this.#actions({ type: 'wheel', id: 'wheel', actions: [{ type: 'scroll', x: 0, y: 0, deltaX, deltaY }] });
+        const { x, y } = this.#mouseAt;
+        return this.#actions({ type: 'wheel', id: 'wheel', actions: [{ type: 'scroll', x, y, deltaX, deltaY }] });
+    }
+
+    #moveMouse(x, y, ...next) {
+        const move = at(x, y);
+        this.#mouseAt = move;
+        return this.#pointer('mouse', [move, ...next]);
     }
 
     #keys(type, key) {
