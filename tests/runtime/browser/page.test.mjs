@@ -205,35 +205,7 @@ test('a menu without items draws nothing', async () => {
     assert.deepEqual(page.warnings, []);
 });
 
-// ---- The second file is late or missing ----
-
-async function showWithSlowRenderer() {
-    for (const name of ['zevmenu_loader.js', 'zevmenu_dom.js']) {
-        lab.files.set('/slow/' + name, { text: readFileSync(join(libraryFolder, name), 'utf8'),
-                                         delayMs: name == 'zevmenu_dom.js' ? 1500 : 0 });
-    }
-    lab.files.set('/site/menu.js', nested);
-    lab.files.set('/site/slow.html', pageText({ library: '/slow/', before:
-        `<a id="link" href="" onmouseover="ZEVMenuOpen('zev1', '3', event)">Menu</a>` }));
-    await page.setViewport({ width: 800, height: 600 });
-    await page.mouse.move(799, 599);
-    await page.goto(lab.origin + '/site/slow.html', { waitUntil: 'domcontentloaded' });
-}
-
-test('the top menu is drawn before the renderer has arrived, and an early hover opens when it has', async () => {
-    await showWithSlowRenderer();
-    assert.equal(await page.evaluate(() => ZEVMenu.shared.sums), undefined);
-    await hover(page, 'Products');
-    assert.notEqual(await style(page, 'Products', 'backgroundColor'), await style(page, 'Home', 'backgroundColor'));
-    assert.equal(await shown(page, ...everything), '');
-    await waitShown(page, 'Boats');
-});
-
-test('an early pop-up opens when the renderer has arrived', async () => {
-    await showWithSlowRenderer();
-    await page.hover('#link');
-    await waitShown(page, 'Map');
-});
+// ---- The second file is missing ----
 
 test('without the renderer the top menu is a list of links, with one warning', async () => {
     lab.files.set('/alone/zevmenu_loader.js', readFileSync(join(libraryFolder, 'zevmenu_loader.js'), 'utf8'));

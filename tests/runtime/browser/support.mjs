@@ -17,7 +17,8 @@ const folders = { runtime: libraryFolder, samples: samplesFolder };
 
 /*
  * Starts the browser and the server. Paths of the server: /runtime/ and /samples/ are the folders of
- * the repository, everything else comes from `files` (path -> text, or { text, headers, delayMs });
+ * the repository, everything else comes from `files` (path -> text, a function that gives it or a promise of
+ * it, or { text, headers, delayMs });
  * any other .html answers with an empty page, as a place for links to lead to. The options are
  * startBrowser()'s.
  */
@@ -45,7 +46,7 @@ async function answer(files, request, response) {
     const path = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
     const [, folder, name] = /^\/(runtime|samples)\/(.*)$/.exec(path) || [];
     const given = files.get(path);
-    const { text = given, headers = {}, delayMs = 0 } = given instanceof Object ? given : {};
+    const { text = typeof given == 'function' ? await given() : given, headers = {}, delayMs = 0 } = given ?? {};
     const found = path == '/listener.js' ? listenerText : text !== undefined ? text
         : folder ? await readFile(join(folders[folder], name)).catch(() => null)
         : path.endsWith('.html') ? `<!DOCTYPE html><title>${path}</title>` : null;

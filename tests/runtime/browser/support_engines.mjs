@@ -24,7 +24,8 @@ const launchers = {
 };
 
 /*
- * Options: reducedMotion, for a visitor who wants less motion. Gives { browser, close }.
+ * Options: reducedMotion, for a visitor who wants less motion; awaitsLoad, false where a test asks a page that
+ * has not loaded yet. Gives { browser, close }.
  */
 export async function startBrowser(options = {}) {
     const profile = mkdtempSync(join(tmpdir(), 'zevmenu-browser-'));

@@ -19,8 +19,8 @@ export class WebDriverBrowser {
 
     // Starts a session; `capabilities` say which program to run.
     static async start(server, capabilities) {
-        const alwaysMatch = { pageLoadStrategy: 'normal', ...capabilities };
-        const { sessionId } = await request('POST', `${server}/session`, { capabilities: { alwaysMatch } });
+        const { sessionId } = await request(
+            'POST', `${server}/session`, { capabilities: { alwaysMatch: capabilities } });
         return new WebDriverBrowser(`${server}/session/${sessionId}`);
     }
 
@@ -85,10 +85,9 @@ class WebDriverPage {
 
     setDefaultTimeout() {}
 
-    // The session's strategy lets the driver answer when the document has been read.
-    async goto(url, { waitUntil = 'load' } = {}) {
+    // Whether it waits until the page has loaded is a matter of the whole session's `pageLoadStrategy`.
+    async goto(url) {
         await this.send('POST', '/url', { url });
-        if (waitUntil == 'load') await this.waitForFunction(() => document.readyState == 'complete');
     }
 
     async url() {

@@ -15,7 +15,7 @@ const args = ['--automation', '--full-screen'];
  * Starts everything with the settings and files of `folder`. Gives a browser whose close() ends every
  * process that was started here.
  */
-export async function startWebKit(folder, { reducedMotion = false } = {}) {
+export async function startWebKit(folder, { reducedMotion = false, awaitsLoad = true }) {
     const display = spawn('Xvfb', ['-displayfd', '3', '-screen', '0', '1400x1200x24', '-nolisten', 'tcp'],
                           { stdio: ['ignore', 'ignore', 'ignore', 'pipe'] });
     const processes = [display];
@@ -24,7 +24,8 @@ export async function startWebKit(folder, { reducedMotion = false } = {}) {
         const env = environment(folder, String(number).trim(), reducedMotion);
         const address = await startDriver(env, processes);
         const browser = await WebDriverBrowser.start(
-            address, { 'webkitgtk:browserOptions': { binary: program, args } });
+            address, { 'webkitgtk:browserOptions': { binary: program, args },
+                       pageLoadStrategy: awaitsLoad ? 'normal' : 'none' });
         await giveFocus(env);
         return {
             newPage: () => browser.newPage(),
