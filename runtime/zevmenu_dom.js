@@ -295,28 +295,41 @@ function windowSize() {
     return { width: root.clientWidth, height: root.clientHeight };
 }
 
+// The rectangle of an element in the window. Browsers that do not tell an element's zoom divide the
+// rectangle by it (Chromium before 128, Safari).
+function rectOf(element) {
+    const { x, y, width, height } = element.getBoundingClientRect();
+    let zoom = 1;
+    if (!('currentCSSZoom' in element)) {
+        for (let node = element; node; node = node.parentNode || node.host) {
+            if (node.nodeType == 1) zoom *= getComputedStyle(node).zoom || 1;
+        }
+    }
+    return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom);
+}
+
 // The rectangle a level opens from. A pop-up's point is in page coordinates, so that it stays with
 // the page when that scrolls.
 function anchorOf(level) {
-    if (!level.point) return level.opener.getBoundingClientRect();
+    if (!level.point) return rectOf(level.opener);
     const x = level.point.x - window.scrollX, y = level.point.y - window.scrollY;
     return { left: x, right: x, top: y, bottom: y };
 }
 
 // A length in the window as a style of a box.
 function pixels(length) {
-    return unzoomed(length, layer.getBoundingClientRect(), 100) + 'px';
+    return unzoomed(length, rectOf(layer), 100) + 'px';
 }
 
 // Measures a box as it would stand in the window; it must not be hidden.
 function measure(box, frame) {
     box.style.maxWidth = pixels(frame.width);
     box.style.maxHeight = box.style.overflowY = '';
-    let size = box.getBoundingClientRect();
+    let size = rectOf(box);
     if (size.height > frame.height) {
         box.style.maxHeight = pixels(frame.height);
         box.style.overflowY = 'auto';
-        size = box.getBoundingClientRect();
+        size = rectOf(box);
     }
     return size;
 }
@@ -326,7 +339,7 @@ function placeLevel(level) {
     level.box.dir = isRtl ? 'rtl' : 'ltr';
     const size = measure(level.box, frame);
     const spot = place(anchorOf(level), size, level.wish, level.offset, frame, isRtl);
-    const origin = layer.getBoundingClientRect();
+    const origin = rectOf(layer);
     level.box.style.left = pixels(spot.left - origin.left);
     level.box.style.top = pixels(spot.top - origin.top);
     level.side = spot.side;
@@ -475,7 +488,7 @@ function hover() {
 }
 
 function isOnItsWay(from, point, level) {
-    return isHeadedFor(from, point, level.box.getBoundingClientRect(), level.side);
+    return isHeadedFor(from, point, rectOf(level.box), level.side);
 }
 
 // Only a mouse that moves points at something: a box that appears under a resting one is entered
@@ -566,7 +579,7 @@ function sideOfSubmenu(link) {
     box.hidden = false;
     const size = measure(box, frame);
     box.hidden = wasHidden;
-    return chooseSide(realSide(wishedSide(menu), isRtl), link.getBoundingClientRect(), size,
+    return chooseSide(realSide(wishedSide(menu), isRtl), rectOf(link), size,
                       menuOffset(), frame);
 }
 

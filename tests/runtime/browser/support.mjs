@@ -196,13 +196,28 @@ export async function shown(page, ...names) {
     return result.join(' ');
 }
 
+// The rectangle of an item in the window.
 export async function rect(page, name) {
-    return (await item(page, name)).evaluate(link => link.getBoundingClientRect().toJSON());
+    return (await item(page, name)).evaluate(windowRect, 'a');
 }
 
 // The rectangle of the box around an item.
 export async function boxRect(page, name) {
-    return (await item(page, name)).evaluate(link => link.closest('ul').getBoundingClientRect().toJSON());
+    return (await item(page, name)).evaluate(windowRect, 'ul');
+}
+
+// Runs in the page. WebKit divides an element's rectangle by the zoom that the element has from its style and
+// its ancestors'.
+function windowRect(link, selector) {
+    const element = link.closest(selector);
+    const { x, y, width, height } = element.getBoundingClientRect();
+    let zoom = 1;
+    if (!('currentCSSZoom' in element)) {
+        for (let other = element; other; other = other.parentElement || other.getRootNode().host) {
+            zoom *= parseFloat(getComputedStyle(other).zoom) || 1;
+        }
+    }
+    return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom).toJSON();
 }
 
 export async function style(page, name, property, selector = 'a') {
