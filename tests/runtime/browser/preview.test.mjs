@@ -25,11 +25,12 @@ async function showPreview(definition, width = 800) {
     await page.waitForFunction(() => ZEVMenu.shared.sums);
 }
 
-test('the preview page lists each submenu with items as a pop-up link', async () => {
+test('the preview page lists each submenu with items as a pop-up link that bears the way to it', async () => {
     await showPreview(nested.replace("'Boats'", "'<b>Bo</b>ats &amp; more'") +
         "zevmenu = new ZEVMenu('1'); zevmenu.AddItem();");
     const links = await page.$$eval('#links a', all => all.map(link => link.textContent));
-    assert.deepEqual(links, ['Products', 'Boats & more', 'Kayaks', 'Contact']);
+    assert.deepEqual(links, ['Products', 'Products › Boats & more', 'Products › Boats & more › Kayaks',
+                             'Contact']);
     await page.hover('#links a:nth-child(2)');
     await waitShown(page, 'Canoes');
     assert.equal(await shown(page, 'Boats', 'Canoes', 'Sea kayaks', 'Map'), 'Canoes');
