@@ -10,7 +10,7 @@ editor_packages=(qt6-base-dev qt6-webengine-dev qt6-svg-dev libqt6svg6 qt6-qpa-p
     xdg-utils fonts-dejavu-core)
 display_packages=(xvfb xauth)
 test_packages=(ca-certificates libgtest-dev chromium fonts-liberation strace python3 acl attr)
-bench_packages=(libbenchmark-dev python3)
+bench_packages=(libbenchmark-dev python3 chromium firefox-esr fonts-liberation)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
@@ -46,13 +46,14 @@ need_node() {
     command -v npm >/dev/null || need_packages npm
 }
 
-# The browser tests' packages, installed once for each state of the lock file.
+# A folder's Node packages, the browser tests' if none is named, installed once for each state of its
+# lock file.
 need_node_modules() {
-    local folder=tests/runtime
-    if [ ! -e $folder/node_modules/.package-lock.json ] ||
-        [ $folder/package-lock.json -nt $folder/node_modules/.package-lock.json ]; then
-        npm ci --prefix $folder --no-audit --no-fund --loglevel=error
-        touch $folder/node_modules/.package-lock.json
+    local folder=${1:-tests/runtime}
+    if [ ! -e "$folder/node_modules/.package-lock.json" ] ||
+        [ "$folder/package-lock.json" -nt "$folder/node_modules/.package-lock.json" ]; then
+        npm ci --prefix "$folder" --no-audit --no-fund --loglevel=error
+        touch "$folder/node_modules/.package-lock.json"
     fi
 }
 

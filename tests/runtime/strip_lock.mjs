@@ -1,8 +1,8 @@
 // Takes the registry's addresses and the makers' funding links out of package-lock.json, so that it
-// serves behind any mirror. Run it after every change of dependencies: node strip_lock.mjs
+// serves behind any mirror. Run it after every change of dependencies: node strip_lock.mjs [FILE]
 import { readFileSync, writeFileSync } from 'node:fs';
 
-const file = new URL('package-lock.json', import.meta.url);
+const file = process.argv[2] || new URL('package-lock.json', import.meta.url);
 const lock = JSON.parse(readFileSync(file, 'utf8'));
 for (const entry of Object.values(lock.packages)) {
     delete entry.resolved;
