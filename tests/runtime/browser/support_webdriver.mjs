@@ -60,12 +60,12 @@ class WebDriverPage {
         };
         this.mouse = {
             move: (x, y) => this.#moveMouse(x, y),
-            down: () => this.#pointer('mouse', [{ type: 'pointerDown', button: 0 }]),
-            up: () => this.#pointer('mouse', [{ type: 'pointerUp', button: 0 }]),
+            down: () => this.#mouse([{ type: 'pointerDown', button: 0 }]),
+            up: () => this.#mouse([{ type: 'pointerUp', button: 0 }]),
             click: (x, y) => this.#moveMouse(x, y, ...tap),
             wheel: ({ deltaX = 0, deltaY = 0 }) => this.#wheel(deltaX, deltaY),
         };
-        this.touchscreen = { tap: (x, y) => this.#pointer('touch', [at(x, y), ...tap]) };
+        this.touchscreen = { tap: (x, y) => this.evaluate(touch, x, y) };
     }
 
     send(method, path, body) {
@@ -120,7 +120,14 @@ class WebDriverPage {
 
     // ---- Elements and scripts ----
 
-    async evaluate(code, ...args) {
+    // `code` is a function, or a text that is run as it stands and gives nothing.
+    evaluate(code, ...args) {
+        return typeof code == 'function' ? this.#call(code, ...args)
+            : this.send('POST', '/execute/sync', { script: code, args });
+    }
+
+    // Calls a function, given as such or as its text, in the page. Elements among the arguments stay elements.
+    async #call(code, ...args) {
         const text = await this.send('POST', '/execute/sync', {
             script: `const value = (${code})(...arguments);
                 return Promise.resolve(value).then(value => value === undefined ? null : JSON.stringify(value));`,
@@ -131,7 +138,7 @@ class WebDriverPage {
 
     async waitForFunction(code) {
         const end = Date.now() + 10000;
-        while (!await this.evaluate(`() => !!(${code})()`)) {
+        while (!await this.#call(`() => !!(${code})()`)) {
             if (Date.now() > end) throw new Error(`waited 10 s for ${code}`);
             await new Promise(resolve => setTimeout(resolve, 10));
         }
@@ -148,11 +155,11 @@ class WebDriverPage {
     }
 
     $$eval(selector, code, ...args) {
-        return this.evaluate(`(selector, ...args) => (${code})((${findAll})(selector), ...args)`, selector, ...args);
+        return this.#call(`(selector, ...args) => (${code})((${findAll})(selector), ...args)`, selector, ...args);
     }
 
     $eval(selector, code, ...args) {
-        return this.evaluate(`(selector, ...args) => (${code})((${findAll})(selector)[0], ...args)`, selector, ...args);
+        return this.#call(`(selector, ...args) => (${code})((${findAll})(selector)[0], ...args)`, selector, ...args);
     }
 
     focus(selector) {
@@ -170,8 +177,8 @@ class WebDriverPage {
         await this.send('POST', '/actions', { actions: sources });
     }
 
-    #pointer(pointerType, actions) {
-        return this.#actions({ type: 'pointer', id: pointerType, parameters: { pointerType }, actions });
+    #mouse(actions) {
+        return this.#actions({ type: 'pointer', id: 'mouse', parameters: { pointerType: 'mouse' }, actions });
     }
 
     // Turns the wheel where the mouse is.
@@ -183,7 +190,7 @@ class WebDriverPage {
     #moveMouse(x, y, ...next) {
         const move = at(x, y);
         this.#mouseAt = move;
-        return this.#pointer('mouse', [move, ...next]);
+        return this.#mouse([move, ...next]);
     }
 
     #keys(type, key) {
@@ -223,6 +230,20 @@ async function cutOut(picture, { x, y, width, height }) {
     const canvas = Object.assign(document.createElement('canvas'), { width, height });
     canvas.getContext('2d').drawImage(image, -x, -y);
     return canvas.toDataURL();
+}
+
+/*
+ * Runs in the page: what it is told when a finger taps at a point of the window. The driver itself makes a mouse
+ * click of a finger's tap.
+ */
+function touch(x, y) {
+    let target = document.elementFromPoint(x, y), inner;
+    while ((inner = target.shadowRoot?.elementFromPoint(x, y)) && inner != target) target = inner;
+    const tell = (kind, type) => target.dispatchEvent(new kind(type, {
+        bubbles: true, cancelable: true, composed: true, view: window, clientX: x, clientY: y, pointerType: 'touch' }));
+    for (const type of ['over', 'down', 'up', 'out']) tell(PointerEvent, 'pointer' + type);
+    for (const type of ['over', 'move', 'down', 'up']) tell(MouseEvent, 'mouse' + type);
+    target.click();
 }
 
 class WebDriverElement {
