@@ -33,7 +33,7 @@ function listOf(menu) {
     for (i = 0; i < menu.zevItems.length; i++) {
         item = menu.zevItems[i];
         if (item) {
-            child = shared.menus[item.childId];
+            child = shared.menus[shared.submenuId(menu, i + 1)];
             html += '<li>' + linkOf(menu, item) + (child ? listOf(child) : '') + '</li>';
         }
     }

@@ -1,7 +1,8 @@
 // The menu under a real keyboard. The ids are those of the table in runtime/README.md.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { focus, hover, isShown, item, nested, script, shown, source, startLab, until, waitGone } from './support.mjs';
+import { boxRect, focus, hover, isShown, item, nested, script, shown, source, startLab, until, waitGone, waitShown }
+    from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -98,7 +99,9 @@ const keyRows = [
     ['K15', 'Escape goes back to the top menu', nested, 'ArrowRight ArrowDown Escape', 'Products', ''],
     ['K16', 'Escape on the top menu closes what is open below it', nested,
         'ArrowLeft ArrowDown ArrowLeft Escape', 'Products', ''],
-    ['K17', "a key with Ctrl is not the menu's", nested, 'Control+ArrowRight', 'Home', ''],
+    ['K17', "an arrow with Ctrl is not the menu's", nested, 'Control+ArrowRight', 'Home', ''],
+    ['K17', "an arrow with Alt is not the menu's", nested, 'ArrowRight Alt+ArrowDown', 'Products', ''],
+    ['K17', "an arrow with Meta is not the menu's", nested, 'ArrowRight Meta+ArrowDown', 'Products', ''],
 ];
 
 for (const [id, rule, definition, keys, expected, open, options] of keyRows) {
@@ -183,6 +186,39 @@ for (const [what, before, keys] of openers) {
     }
 }
 
+for (const modifier of ['Control', 'Alt', 'Meta']) {
+    test(`K17: Arrow Down with ${modifier} opens no pop-up`, async () => {
+        await lab.show(popup);
+        await press('Tab');
+        await page.keyboard.down(modifier);
+        await press('ArrowDown');
+        await page.keyboard.up(modifier);
+        assert.equal(await isShown(page, 'Boats'), false);
+        await press('ArrowDown');
+        assert.equal(await isShown(page, 'Boats'), true);
+    });
+}
+
+// A link whose handlers were put in by a script of the page, not written as attributes.
+const scripted = { ...popup, before: '<a id="link" href="away.html">Menu</a>', after: `${popup.after}<script>
+    const link = document.getElementById('link');
+    link.addEventListener('mouseover', event => ZEVMenuOpen('zev1', '2', event));
+    link.addEventListener('mouseout', () => ZEVMenuClose('zev1', '2', false));</script>` };
+
+test('K18, K19: a link with listeners has the keys of a pop-up link from its first opening on', async () => {
+    await lab.show(scripted);
+    await page.hover('#link');
+    await waitShown(page, 'Boats');
+    await press('Escape', 'Tab', 'ArrowDown');
+    assert.equal(await focus(page), 'Boats');
+    const [link, box] = [await page.$eval('#link', link => link.getBoundingClientRect().toJSON()),
+        await boxRect(page, 'Boats')];
+    assert.ok(Math.abs(box.top - link.bottom) < 1 && Math.abs(box.left - link.left) < 1, JSON.stringify([link, box]));
+    await press('Escape');
+    assert.equal(await focus(page), 'link');
+    assert.equal(await isShown(page, 'Boats'), false);
+});
+
 test('K19: Tab leaves a pop-up from its link on', async () => {
     await lab.show(popup);
     await press('Tab', 'Enter', 'ArrowRight', 'Tab');
@@ -227,6 +263,23 @@ test('R3: links of pop-ups say that they have one and whether it is open', async
     assert.deepEqual(await attributes('#link', states), ['- - true true']);
     await press('Escape');
     assert.deepEqual(await attributes('#link', states), ['- - true false']);
+});
+
+test('R3: links with listeners say so from their first opening on', async () => {
+    await lab.show(scripted);
+    const states = ['role', 'tabindex', 'aria-haspopup', 'aria-expanded'];
+    await page.hover('#link');
+    await waitShown(page, 'Boats');
+    assert.deepEqual(await attributes('#link', states), ['- - true true']);
+    await press('Escape');
+    assert.deepEqual(await attributes('#link', states), ['- - true false']);
+});
+
+test('R3: an element that listens for the links inside it is not taken for a link', async () => {
+    await lab.show({ ...popup, before: '<p id="link"><a href="away.html">Menu</a></p>', after: scripted.after });
+    await page.hover('#link a');
+    await waitShown(page, 'Boats');
+    assert.deepEqual(await attributes('#link', ['role', 'tabindex', 'aria-expanded']), ['- - -']);
 });
 
 test('R3: what opens a pop-up and has no address becomes a button', async () => {

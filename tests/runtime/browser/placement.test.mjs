@@ -1,7 +1,8 @@
 // Where submenus stand in pages that scroll in boxes, are zoomed, or are as narrow as a phone.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, hover, isShown, pause, rect, script, source, startLab, waitGone, waitShown } from './support.mjs';
+import { boxRect, hover, isShown, nested, pause, rect, script, source, startLab, waitGone, waitShown }
+    from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -57,6 +58,7 @@ for (const [zoom, css] of zooms) {
 
 // The menu in a box that scrolls inside another one.
 const nestedBoxes = {
+    definition: nested.replace('300', '60000'),
     before: `<div id="outer" style="height:300px;overflow:auto"><div style="height:100px"></div>
         <div id="inner" style="height:150px;overflow:auto"><div style="height:60px"></div>`,
     after: '<div style="height:900px"></div></div><div style="height:900px"></div></div>',

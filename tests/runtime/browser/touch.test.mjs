@@ -58,6 +58,17 @@ test("touch: a tap on a pop-up's link opens it and does not follow the link", as
     assert.equal(await page.url(), lab.origin + '/site/page.html');
 });
 
+test('touch: a tap on a link with listeners opens its pop-up and does not follow the link', async () => {
+    await lab.show({ ...popup, before: '<a id="link" href="away.html">Menu</a>', hasTouch: true,
+        after: `<script>document.getElementById('link').addEventListener('mouseover', event =>
+            ZEVMenuOpen('zev1', '2', event));</script>` });
+    const box = await (await page.$('#link')).boundingBox();
+    await page.touchscreen.tap(box.x + 5, box.y + 5);
+    await waitShown(page, 'Boats');
+    await pause(100);
+    assert.equal(await page.url(), lab.origin + '/site/page.html');
+});
+
 test('a click without a pointer, as screen readers make it, first opens and then follows', async () => {
     await lab.show();
     await (await item(page, 'Products')).evaluate(link => link.click());
