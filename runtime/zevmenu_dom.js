@@ -4,9 +4,9 @@
 
 const shared = window.ZEVMenu && window.ZEVMenu.shared;
 if (!shared || shared.sums) return;
+const { asText, menus, ownSetting, setting, warn, wordsOf } = shared;
 
-// ======== Sums ========
-// Rectangles are { left, top, right, bottom } in pixels of the window, sizes { width, height }.
+// ---- Sums: rectangles of the window in, coordinates out; no page needed ----
 
 const opposite = { right: 'left', left: 'right', top: 'bottom', bottom: 'top' };
 
@@ -14,7 +14,6 @@ function isBeside(side) {
     return side == 'right' || side == 'left';
 }
 
-// A side as it reads, as the side where it lies.
 function realSide(side, isRtl) {
     return isRtl && isBeside(side) ? opposite[side] : side;
 }
@@ -24,8 +23,8 @@ function shift(start, length, limit) {
     return Math.max(0, Math.min(start, limit - length));
 }
 
-// Where a box of `size` opens from `anchor`: on the real side `side`, on the opposite one if only that
-// has room, without a side at the corner; then shifted into the window of size `frame`.
+// A box opens on its side of the anchor, on the opposite one if only that has room, without a side at
+// the corner, and is then shifted into the window.
 function place(anchor, size, side, offset, frame, isRtl) {
     const starts = { right: anchor.right + offset, left: anchor.left - offset - size.width,
                      bottom: anchor.bottom + offset, top: anchor.top - offset - size.height };
@@ -38,14 +37,12 @@ function place(anchor, size, side, offset, frame, isRtl) {
              top: shift(spot.top, size.height, frame.height), side: real };
 }
 
-// A length in the window as a length inside the layer, which a page's zoom may enlarge: `ruler` pixels
-// there are as wide as `origin` in the window.
+// The page's zoom may enlarge the layer: `ruler` pixels there are as wide as `origin` in the window.
 function unzoomed(length, origin, ruler) {
     return length * ruler / ((origin.right - origin.left) || ruler);
 }
 
-// Whether a pointer is on its way to `box` on `side` of its item: inside the triangle from where it was
-// to the near edge of the box, a little widened.
+// Whether a pointer is inside the triangle from where it was to the near edge of the box.
 function isHeadedFor(from, to, box, side) {
     const [along, across, start, end] = isBeside(side)
         ? ['x', 'y', 'top', 'bottom'] : ['y', 'x', 'left', 'right'];
@@ -56,8 +53,7 @@ function isHeadedFor(from, to, box, side) {
         way <= part * (box[end] + slack - from[across]);
 }
 
-// The item that an arrow key leads to in a box of `count` items in rows of `columns`, or -1 when it leads
-// out of the box. A single column or row goes round at its ends.
+// A single column or row goes round at its ends; -1 is outside.
 function neighbour(index, count, columns, direction) {
     const step = direction == 'right' || direction == 'bottom' ? 1 : -1;
     const isAlongRow = isBeside(direction);
@@ -66,11 +62,10 @@ function neighbour(index, count, columns, direction) {
     }
     const next = index + step * (isAlongRow ? 1 : columns);
     const isSameRow = Math.floor(next / columns) == Math.floor(index / columns);
-    return next >= count || (isAlongRow && !isSameRow) ? -1 : Math.max(next, -1);
+    return next < 0 || next >= count || (isAlongRow && !isSameRow) ? -1 : next;
 }
 
-// The item that typed letters lead to from the one at `index`, or -1. One letter, also repeated, goes
-// on to the next name that begins with it; more letters may stay where they fit.
+// One letter, also repeated, goes on to the next name; more letters may stay where they fit.
 function typeAhead(names, index, typed) {
     const text = typed.toLowerCase(), isOneLetter = text == text[0].repeat(text.length);
     const start = isOneLetter ? text[0] : text;
@@ -83,9 +78,10 @@ function typeAhead(names, index, typed) {
 
 shared.sums = { place, unzoomed, isHeadedFor, neighbour, realSide, typeAhead };
 
-// ======== State ========
-// The open submenus, the deepest last. A level has an `opener` (the item, the pop-up's link, or null),
-// the real side `wish` it is to open on at `offset` pixels and the `side` where it lies, or a `point`.
+// ---- State ----
+
+// The open submenus, the deepest last. `opener` is the item or link, `wish` the side to open on,
+// `side` where the box lies, `point` a pop-up's place.
 const levels = [];
 
 function openLevel(depth, level) {
@@ -102,8 +98,7 @@ function closeFrom(depth) {
     }
 }
 
-// The mouse holds the first `depth` levels open; deeper ones close after a delay from when they were
-// left first.
+// Lets all but the first `depth` levels close, after the delay from when they were left first.
 function keep(depth) {
     levels.forEach((level, index) => {
         if (index < depth) {
@@ -111,29 +106,32 @@ function keep(depth) {
             level.timer = 0;
         } else if (!level.timer) {
             level.timer = setTimeout(() => closeFrom(levels.indexOf(level)),
-                                     shared.setting(null, 'closedelay'));
+                                     setting(null, 'closedelay'));
         }
     });
 }
 
-// ======== Page ========
+// ---- Page ----
 
-let layer = null;           // the element at the end of the body that holds every submenu box
+let layer = null;           // holds every submenu box
 
 function submenuOf(link) {
-    const menu = shared.menus[link.zevSubmenu];
+    const menu = menus[link.zevSubmenu];
     return menu && menu.zevItems.some(Boolean) ? menu : null;
 }
 
-// The item and the box around an element.
-function linkAt(element) {
-    while (element && !element.zevSubmenu) element = element.parentNode;
+// The nearest element, from this one outwards, with a property of ours.
+function around(element, property) {
+    while (element && !element[property]) element = element.parentNode;
     return element;
 }
 
+function linkAt(element) {
+    return around(element, 'zevSubmenu');
+}
+
 function boxAt(element) {
-    while (element && !element.zevMenu) element = element.parentNode;
-    return element;
+    return around(element, 'zevMenu');
 }
 
 function linksOf(box) {
@@ -169,10 +167,9 @@ function promote(box, role) {
     });
 }
 
-// The item that a submenu opens from.
 function itemOf(menu) {
     const [, parentId, position] = /^(?:(.*)i)?(.*)/.exec(menu.zevId);
-    const parent = shared.menus[parentId || '0'];
+    const parent = menus[parentId || '0'];
     return parent && parent.zevItems[position - 1];
 }
 
@@ -198,12 +195,9 @@ function ensureBox(menu) {
     return box;
 }
 
-// ---- Building ahead ----
-
 const mostMenusAhead = 50, mostItemsAhead = 200;
-let ahead = [];             // menus still to be built, the likeliest to open first
+let ahead = [];             // menus still to be built
 
-// Builds the submenus of a box while the page is idle, outside the page.
 function buildAhead(box) {
     // Until the page has loaded, its scripts may add to the definition.
     if (!box || document.readyState != 'complete') return;
@@ -223,15 +217,14 @@ function buildWhenIdle() {
 
 // ---- Showing and placing ----
 
-// The level that an item is to open.
 function levelOf(link) {
-    const menu = submenuOf(link), top = shared.menus['0'];
+    const menu = submenuOf(link), top = menus['0'];
     if (!menu) return null;
-    const isBelowRow = top && !menu.zevId.includes('i') && shared.setting(top, 'columns') > 1;
-    const position = shared.ownSetting(menu, 'position') ||
-        shared.setting(isBelowRow ? top : null, 'position');
+    // The submenus of a row follow the row, unless they have a position of their own.
+    const isBelowRow = !menu.zevId.includes('i') && setting(top, 'columns') > 1;
+    const position = ownSetting(menu, 'position') || setting(isBelowRow && top, 'position');
     return { menu, box: ensureBox(menu), opener: link, wish: realSide(position, isRtlAt(link)),
-             offset: shared.setting(null, 'menuoffset') };
+             offset: setting(null, 'menuoffset') };
 }
 
 // The rectangle of an element in the window. Browsers that do not tell an element's zoom divide the
@@ -254,36 +247,29 @@ function anchorOf(level) {
     return { left: x, right: x, top: y, bottom: y };
 }
 
-// A length in the window as a style of a box.
-function pixels(length) {
-    return unzoomed(length, rectOf(layer), 100) + 'px';
-}
-
-// Where a level's box, which must not be hidden, is to lie.
-function spotOf(level) {
-    const root = document.scrollingElement || document.documentElement, style = level.box.style;
+function placeLevel(level) {
+    const { box } = level, { style } = box, isRtl = isRtlAt(level.opener || document.body);
+    const root = document.scrollingElement || document.documentElement;
     const frame = { width: root.clientWidth, height: root.clientHeight };
-    const isRtl = isRtlAt(level.opener || document.body);
-    level.box.dir = isRtl ? 'rtl' : 'ltr';
+    const origin = rectOf(layer), anchor = anchorOf(level);
+    const pixels = length => unzoomed(length, origin, 100) + 'px';
+    box.hidden = false;
+    box.dir = isRtl ? 'rtl' : 'ltr';
     style.maxWidth = pixels(frame.width);
     style.maxHeight = style.overflowY = '';
-    if (rectOf(level.box).height > frame.height) {
+    if (rectOf(box).height > frame.height) {
         style.maxHeight = pixels(frame.height);
         style.overflowY = 'auto';
     }
-    return place(anchorOf(level), rectOf(level.box), level.wish, level.offset, frame,
-                 isRtl);
-}
-
-function placeLevel(level) {
-    const spot = spotOf(level), origin = rectOf(layer);
-    level.box.style.left = pixels(spot.left - origin.left);
-    level.box.style.top = pixels(spot.top - origin.top);
+    const size = rectOf(box);
+    const spot = place(anchor, size, level.wish, level.offset, frame, isRtl);
+    style.left = pixels(spot.left - origin.left);
+    style.top = pixels(spot.top - origin.top);
     level.side = spot.side;
 }
 
 function fade(level, direction, onEnd) {
-    const duration = shared.setting(level.menu, 'ffade') * 1000;
+    const duration = setting(level.menu, 'ffade') * 1000;
     level.box.getAnimations().forEach(fading => fading.cancel());
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
     level.box.animate([{}, { opacity: 0 }], { duration, direction }).onfinish = onEnd;
@@ -291,13 +277,11 @@ function fade(level, direction, onEnd) {
 
 function show(level) {
     const { box, opener } = level;
-    box.hidden = false;
     box.style.pointerEvents = '';
     placeLevel(level);
     fade(level, 'reverse', () => {});
     if (opener) mark(opener, { 'aria-expanded': true });
     if (levels.length == 1) {
-        // What is open lies outside the top menu's landmark, and is another one.
         mark(layer, { role: 'navigation', 'aria-label': box.getAttribute('aria-label') || '' });
         watch(true);
     }
@@ -305,8 +289,8 @@ function show(level) {
     buildAhead(box);
 }
 
-// Closes a level whose opener is scrolled out of sight, hidden or removed. (An image's area has no box
-// to be watched.)
+// Closes a level whose opener is scrolled out of sight, hidden or removed; an image's area has no box
+// to be watched.
 function follow(level) {
     if (!level.opener || !level.opener.getClientRects().length) return;
     level.observer = new IntersectionObserver(entries => {
@@ -334,12 +318,9 @@ function hide(level) {
     }
 }
 
-// When a box scrolls, what it opened moves; when anything else does, everything may.
 function placeAll(event) {
     levels.slice(event ? depthOf(event.target) : 0).forEach(placeLevel);
 }
-
-// ---- Opening ----
 
 function openSubmenu(link) {
     const depth = depthOf(link), level = levelOf(link);
@@ -348,22 +329,21 @@ function openSubmenu(link) {
 
 // The id in a pop-up call: 'zev1' and the id, or 'zev1i' + N and the rest of it.
 function popupId(a, b) {
-    const call = typeof a == 'string' && /^zev1(?:(i\d+))?$/.exec(a);
-    if (!call || !/^(string|number)$/.test(typeof b)) return '';
-    return call[1] ? call[1].slice(1) + 'i' + b : '' + b;
+    const call = /^zev1(i\d+)?$/.exec(asText(a));
+    return call && asText(b) ? ((call[1] || '') + 'i' + b).slice(1) : '';
 }
 
 const besideMousePx = 8;
 let actingLink = null;      // the pop-up link that a key or tap is to open
 
 shared.openPopup = function (a, b, where) {
-    const id = popupId(a, b), menu = shared.menus[id];
+    const id = popupId(a, b), menu = menus[id];
     if (document.readyState == 'loading' && !(document.body && menu)) {
         shared.waiting = [a, b, where];
         return;
     }
     if (!menu || !menu.zevItems || id == '0') {
-        return shared.warn('ZEVMenuOpen: there is no submenu "' + id + '"');
+        return warn('ZEVMenuOpen: there is no submenu "' + id + '"');
     }
     if (!document.body) return;
     const link = where.link instanceof Element && where.link.matches(anyLink) ? where.link : actingLink;
@@ -393,7 +373,7 @@ shared.closePopup = function (a, b) {
 
 const restMs = 200;                 // how long a mouse rests before it counts as staying
 let over = null;                    // { box, link } under the mouse
-let lastPoint = null;               // where it is there
+let lastPoint = null;
 let waiting = null;                 // { from, timer } of a hover put off
 
 function dropWaiting() {
@@ -401,7 +381,6 @@ function dropWaiting() {
     waiting = null;
 }
 
-// The mouse has come to stay, on an item or beside one.
 function hover() {
     const { box, link } = over, depth = depthOf(box), child = levels[depth];
     dropWaiting();
@@ -410,7 +389,6 @@ function hover() {
     if (link) openSubmenu(link);
 }
 
-// Not pointerover, which comes too when a box appears under a resting mouse.
 function onPointerMove(event) {
     if (event.pointerType != 'mouse') return;
     const point = { x: event.clientX, y: event.clientY };
@@ -418,7 +396,7 @@ function onPointerMove(event) {
     lastPoint = point;
     if (!box || (was && was.link == link && was.box == box && !waiting)) return;
     over = { box, link };
-    // On its way to the open submenu the mouse may cross other items, until it rests on one.
+    // On its way to a submenu the mouse may cross other items, until it rests on one.
     const from = waiting ? waiting.from : before, level = levels[depthOf(box)];
     dropWaiting();
     if (was && level && level.opener != link &&
@@ -429,6 +407,11 @@ function onPointerMove(event) {
     }
 }
 
+// Holds a box that appears under a resting mouse, and opens nothing.
+function onPointerOver(event) {
+    if (event.pointerType == 'mouse' && !over) keep(depthOf(event.target));
+}
+
 function onPointerLeave(event) {
     if (event.pointerType != 'mouse') return;
     lastPoint = over = null;
@@ -436,9 +419,7 @@ function onPointerLeave(event) {
     keep(0);
 }
 
-// ---- Tap and click ----
-
-let press = { type: '', wasOpen: false };   // the last pointerdown on an item or a pop-up's link
+let press = { type: '', wasOpen: false };   // the last pointerdown on a link
 
 function onPress(event) {
     const link = linkAt(event.target) || popupLinkAt(event);
@@ -451,7 +432,7 @@ function takePress() {
     return last;
 }
 
-// A finger, a pen or an assistive technology, which presses nothing, first opens and then follows.
+// A finger or an assistive technology, which presses nothing, first opens and then follows.
 function onClick(event) {
     const link = linkAt(event.target);
     if (!link) return;
@@ -469,7 +450,6 @@ function focused() {
     return (host && host.shadowRoot || document).activeElement;
 }
 
-// One item of the top menu is in the tab order: the last one that had the focus.
 function onFocusIn(event) {
     const link = event.target;
     if (!link.zevSubmenu || boxAt(link) != shared.barBox) return;
@@ -487,19 +467,17 @@ function openAndEnter(link, isAtEnd) {
     if (level && level.opener == link) enter(level.box, isAtEnd);
 }
 
-// The side on which an item's submenu stands or would stand.
 function sideOfSubmenu(link) {
     if (isOpen(link)) return levels[depthOf(link)].side;
     const level = levelOf(link);
     if (!level) return '';
     const wasHidden = level.box.hidden;
-    level.box.hidden = false;
-    const { side } = spotOf(level);
+    placeLevel(level);
     level.box.hidden = wasHidden;
-    return side;
+    return level.side;
 }
 
-// Moves to an item of an open box; in the top menu an open submenu follows.
+// In the top menu an open submenu follows the focus.
 function moveTo(target) {
     const depth = depthOf(target), hadOpen = levels.length;
     closeFrom(depth);
@@ -509,7 +487,7 @@ function moveTo(target) {
 
 function nextLink(link, reading) {
     const box = boxAt(link), links = linksOf(box);
-    const columns = shared.setting(box.zevMenu, 'columns');
+    const columns = setting(box.zevMenu, 'columns');
     return links[neighbour(links.indexOf(link), links.length, columns, reading)];
 }
 
@@ -534,12 +512,12 @@ const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', Ar
 const typingMs = 700;               // letters that follow sooner belong together
 let typed = { text: '', time: 0 };
 
-// Gives the item that a typed letter led to. A space does only after letters.
+// A space belongs to typing only after letters.
 function onLetter(link, event) {
     const isMore = event.timeStamp - typed.time < typingMs;
     if (event.key.length != 1 || (event.key == ' ' && !isMore)) return false;
     const links = linksOf(boxAt(link)), text = (isMore ? typed.text : '') + event.key;
-    const names = links.map(other => other.getAttribute('aria-label') || shared.wordsOf(other));
+    const names = links.map(other => other.getAttribute('aria-label') || wordsOf(other));
     const next = links[typeAhead(names, links.indexOf(link), text)];
     if (next || event.key != ' ') typed = { text, time: event.timeStamp };
     if (next) moveTo(next);
@@ -571,8 +549,6 @@ function onKeyDown(event) {
     event.preventDefault();
 }
 
-// ---- Watching the page while something is open ----
-
 function onEscape(event) {
     if (event.key != 'Escape') return;
     const index = levels.findIndex(level => level.box.contains(focused()));
@@ -595,6 +571,7 @@ function watch(isOn) {
 function listen(host) {
     const root = host.shadowRoot;
     root.addEventListener('scroll', placeAll, { capture: true, passive: true });
+    root.addEventListener('pointerover', onPointerOver);
     root.addEventListener('pointermove', onPointerMove);
     root.addEventListener('pointerdown', onPress);
     root.addEventListener('click', onClick);
@@ -609,16 +586,11 @@ const handlers = ['onmouseover', 'onclick', 'onfocus'];
 const popupLinks = handlers.map(name => `[${name}*="ZEVMenuOpen"]`).join();
 const anyLink = 'a,area,button,input,[tabindex],' + popupLinks;
 
-// The link of a pop-up around an event's target: known by its attributes, or from its first call on.
-function popupLinkAt(event) {
-    let element = event.target;
-    while (element && !element.zevCall && !(element.matches && element.matches(popupLinks))) {
-        element = element.parentNode;
-    }
-    return element;
+// A pop-up's link is known by its attributes, or from its first call on.
+function popupLinkAt({ target }) {
+    return (target instanceof Element && target.closest(popupLinks)) || around(target, 'zevCall');
 }
 
-// Adds what a link lacks for keyboards and assistive technology.
 function adopt(link) {
     if (!link.hasAttribute('aria-expanded')) mark(link, { 'aria-expanded': false });
     mark(link, { 'aria-haspopup': true });
@@ -627,8 +599,7 @@ function adopt(link) {
     if (!link.hasAttribute('role')) mark(link, { role: 'button' });
 }
 
-// Lets the link's own handler open the pop-up below the link, or else does what its listener did
-// last, and says whether it is open then.
+// Runs the link's own handler, or else does what its listener did last.
 function openFrom(link, event) {
     const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name)));
     actingLink = link;
@@ -680,9 +651,9 @@ function openWaiting() {
 function finish() {
     openWaiting();
     document.querySelectorAll(popupLinks).forEach(adopt);
-    Object.keys(shared.menus).forEach(id => {
-        if (id == '0' || itemOf(shared.menus[id])) return;
-        shared.warn('menu ' + id + ' has no item to open from; it is not shown');
+    Object.keys(menus).forEach(id => {
+        if (id == '0' || itemOf(menus[id])) return;
+        warn('menu ' + id + ' has no item to open from; it is not shown');
     });
 }
 

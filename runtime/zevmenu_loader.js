@@ -5,10 +5,10 @@ if (!window.ZEVMenu) (function () {
 // What the files tell each other. The page sees no names but the documented ones.
 var shared = {
     menus: {},          // menu id -> ZEVMenu
-    bar: null,          // the element that holds the top menu in the page
+    bar: null,          // the element around the top menu in the page
     barBox: null,       // the drawn top menu
-    waiting: null,      // arguments of the last ZEVMenuOpen that came too early
-    warn: warn, ownSetting: ownSetting, setting: setting, submenuId: submenuId,
+    waiting: null,      // the last ZEVMenuOpen that came too early
+    warn: warn, asText: asText, ownSetting: ownSetting, setting: setting, submenuId: submenuId,
     createHost: createHost, buildBox: buildBox, nameOf: nameOf, wordsOf: wordsOf,
     nameFromFiles: nameFromFiles
 };
@@ -78,8 +78,7 @@ var properties = {
     fshadow: [asCss('color'), '', '--zev-shadow']
 };
 
-// Checked value of a property of a menu or of zev_state, or null. Empty means "not set", but "nothing"
-// where it is HTML.
+// The checked value or null. Empty means "not set", but "nothing" where it is HTML.
 function ownSetting(owner, name) {
     var value = owner ? owner[name] : null;
     if (value == null || (asText(value) == '' && !/^(html|divider)/.test(name))) return null;
@@ -91,7 +90,6 @@ function ownSetting(owner, name) {
     return value;
 }
 
-// What holds for a menu, or where no menu is given for all.
 function setting(menu, name) {
     var value = ownSetting(menu, name);
     if (value == null) value = ownSetting(window.zev_state, name);
@@ -109,7 +107,6 @@ function ZEVMenu(id) {
     var script = document.currentScript;
     this.zevId = asText(id) || '';
     this.zevItems = [];         // null where a mistaken item keeps its number
-    // Address of the definition file; empty when it stands in the page.
     this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';
     if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(this.zevId)) {
         warn('"' + this.zevId + '" is not a menu id; the menu is not shown');
@@ -140,11 +137,9 @@ ZEVMenu.prototype.AddRollover = function (url, imageOut, imageOver, target) {
         { url: asText(url) || '', imageOut: out, imageOver: over, target: asText(target) || '' });
 };
 
-// What `zevmenu` is until the definition makes a menu of its own.
-function NoMenu() { }
-NoMenu.prototype.AddItem = NoMenu.prototype.AddRollover = function () {
+function warnOfItem() {
     warn('an item stands before any menu; it is not shown');
-};
+}
 
 // What follows two slashes could be a host that URL() refuses by throwing.
 function resolve(menu, url) {
@@ -153,7 +148,7 @@ function resolve(menu, url) {
         : new URL(url, menu.zevFile).href;
 }
 
-// A name for people out of a link, or else out of an image: "pages/our_team.html" is "our team".
+// "pages/our_team.html" is "our team".
 function nameFromFiles(item) {
     return (/^javascript:/i.test(item.url) ? '' : nameFromFile(item.url)) || nameFromFile(item.imageOut);
 }
@@ -176,7 +171,7 @@ var styleText = [
     'ul.list{display:flex;flex-direction:column}',
     'ul.bar{display:flex;flex-wrap:wrap}',
     'ul.grid{display:grid}',
-    ':host([data-zev=layer]) ul{position:absolute;overscroll-behavior:contain}',
+    'ul[role=menu]{position:absolute;overscroll-behavior:contain}',
     'ul[hidden]{display:none}',
     'li{display:flex;min-width:0}',
     'ul.list>li{flex-direction:column}',
@@ -184,7 +179,6 @@ var styleText = [
     'padding:var(--zev-padding);border:var(--zev-border,0);background:var(--zev-nbg);',
     'color:var(--zev-nft);text-decoration:none}',
     'a:is(:hover,:focus,[aria-expanded=true]){background:var(--zev-hbg);color:var(--zev-hft)}',
-    'a:focus{outline:0}',
     'a:focus-visible{outline:2px solid;outline-offset:-2px}',
     // Both pictures share one cell, so that nothing moves when they change places.
     'a.rollover{display:grid;justify-content:start}',
@@ -196,7 +190,7 @@ var styleText = [
     'ul.list>li>span.divider{align-self:stretch}',
     '@media(forced-colors:active){a:is(:hover,[aria-expanded=true]){outline:2px solid;',
     'outline-offset:-2px}}',
-    '@media print{:host([data-zev=layer]){display:none!important}}'
+    '@media print{ul[role=menu]{display:none}}'
 ].join('');
 
 // A constructed style sheet passes every Content-Security-Policy; Firefox until 100 and Safari until
@@ -296,7 +290,7 @@ function styleBox(box, menu, columns, hasDivider) {
     }
     if (image) style.backgroundImage = 'url("' + resolve(menu, image).replace(/["\\]/g, '\\$&') + '")';
     if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + columns + ',auto)';
-    // A divider fills the space along its row itself, and grows it where it needs more.
+    // A divider fills the space itself, and grows it where it needs more.
     if (hasDivider) style[columns == 1 ? 'rowGap' : 'columnGap'] = 0;
 }
 
@@ -374,7 +368,7 @@ window.ZEVMenuClose = function (a, b) {
 ZEVMenu.shared = shared;
 window.ZEVMenu = ZEVMenu;
 window.zev_state = window.zev_state || {};
-window.zevmenu = new NoMenu();
+window.zevmenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
 
 var own = document.currentScript;
 var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';

@@ -371,6 +371,14 @@ test('on a narrow window a submenu lies over its parent, whole', async () => {
     assertInWindow(await boxRect(page, 'A submenu of some width'), 200);
 });
 
+test('a submenu that opens under a resting mouse stays as long as the mouse rests', async () => {
+    await lab.show({ definition: oneSubmenu('right'), ...placed(60, 100), width: 200 });
+    await hover(page, 'One');
+    await waitShown(page, 'A submenu of some width');
+    await pause(1000);
+    assert.ok(await isShown(page, 'A submenu of some width'));
+});
+
 test('a submenu taller than the window scrolls, and its last item can be reached', async () => {
     await lab.show({ definition: oneSubmenu('right', 100) });
     await hover(page, 'One', 'A submenu of some width');
