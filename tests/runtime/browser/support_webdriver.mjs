@@ -34,7 +34,7 @@ export class WebDriverBrowser {
 }
 
 // How long the driver may take for a command. When the browser hangs, the driver never answers.
-const commandMs = 20000;
+const commandMs = 30000;
 
 async function request(method, url, body) {
     const command = `${method} ${new URL(url).pathname} ${JSON.stringify(body || {})}`;

@@ -10,6 +10,7 @@ import { WebDriverBrowser } from './support_webdriver.mjs';
 const program = process.env.WEBKIT || '/usr/lib/x86_64-linux-gnu/webkit2gtk-4.1/MiniBrowser';
 // Full screen means without a toolbar, which the window could not be narrower than.
 const args = ['--automation', '--full-screen'];
+const startMs = 30000;     // how long a program may take to start, on a busy machine
 
 /*
  * Starts everything with the settings and files of `folder`. Gives a browser whose close() ends every
@@ -20,7 +21,7 @@ export async function startWebKit(folder, { reducedMotion = false, awaitsLoad = 
                           { stdio: ['ignore', 'ignore', 'ignore', 'pipe'] });
     const processes = [display];
     try {
-        const [number] = await within(10000, once(display.stdio[3], 'data'), 'Xvfb');
+        const [number] = await within(startMs, once(display.stdio[3], 'data'), 'Xvfb');
         const env = environment(folder, String(number).trim(), reducedMotion);
         const address = await startDriver(env, processes);
         const browser = await WebDriverBrowser.start(
@@ -65,7 +66,7 @@ async function startDriver(env, processes) {
                          { env, stdio: 'ignore' });
     processes.push(driver);
     const address = `http://127.0.0.1:${port}`;
-    await within(10000, answers(address), 'WebKitWebDriver');
+    await answers(address);
     return address;
 }
 
@@ -75,15 +76,17 @@ async function startDriver(env, processes) {
  */
 async function giveFocus(env) {
     await promisify(execFile)('xdotool', ['search', '--sync', '--onlyvisible', '--class', 'MiniBrowser',
-        'windowfocus', '--sync'], { env, timeout: 10000 });
+        'windowfocus', '--sync'], { env, timeout: startMs });
 }
 
 async function answers(address) {
-    for (;;) {
-        const response = await fetch(address + '/status').catch(() => null);
+    const signal = AbortSignal.timeout(startMs);
+    while (!signal.aborted) {
+        const response = await fetch(address + '/status', { signal }).catch(() => null);
         if (response?.ok) return;
         await new Promise(resolve => setTimeout(resolve, 20));
     }
+    throw new Error('WebKitWebDriver does not answer');
 }
 
 async function freePort() {
