@@ -98,24 +98,13 @@ class WebDriverPage {
         return this.send('GET', '/title');
     }
 
-    // Sizes the window so that the page has the width and height, both in pixels.
+    // Sizes the window, which has nothing but the page in it, in pixels. The page hears of it a little later.
     async setViewport({ width, height }) {
-        const inner = () => this.evaluate(() => [innerWidth, innerHeight]);
-        const same = ([w, h]) => w == width && h == height;
-        let size = await inner();
-        for (let tries = 0; tries < 5 && !same(size); tries++) {
-            const rect = await this.send('GET', '/window/rect');
-            await this.send('POST', '/window/rect',
-                { width: rect.width + width - size[0], height: rect.height + height - size[1] });
-            size = await inner();
-        }
-        if (!same(size)) throw new Error(`the page is ${size.join(' by ')} pixels, not ${width} by ${height}`);
-    }
-
-    // A picture (PNG) of a part of the window; the driver's own pictures of elements are black.
-    async screenshot({ clip }) {
-        const url = await this.evaluate(cutOut, await this.send('GET', '/screenshot'), clip);
-        return Buffer.from(url.split(',')[1], 'base64');
+        const size = () => this.evaluate(() => `${innerWidth} by ${innerHeight}`);
+        const wanted = `${width} by ${height}`;
+        if (await size() == wanted) return;
+        await this.send('POST', '/window/rect', { width, height });
+        await this.#until(async () => await size() == wanted, `a page of ${wanted} pixels`);
     }
 
     // ---- Elements and scripts ----
@@ -137,9 +126,13 @@ class WebDriverPage {
     }
 
     async waitForFunction(code) {
+        await this.#until(() => this.#call(`() => !!(${code})()`), code);
+    }
+
+    async #until(question, what) {
         const end = Date.now() + 10000;
-        while (!await this.#call(`() => !!(${code})()`)) {
-            if (Date.now() > end) throw new Error(`waited 10 s for ${code}`);
+        while (!await question()) {
+            if (Date.now() > end) throw new Error(`waited 10 s for ${what}`);
             await new Promise(resolve => setTimeout(resolve, 10));
         }
     }
