@@ -4,7 +4,7 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
-import { hover, libraryFolder, nested, source, startLab, waitGone, waitShown } from './support.mjs';
+import { hover, libraryFolder, nested, source, startLab, waitGone, waitReady, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -138,7 +138,7 @@ async function showPreview(definition) {
     await page.setViewport({ width: 800, height: 600 });
     await page.mouse.move(799, 599);
     await page.goto(lab.origin + '/preview/zevmenu.html');
-    await page.waitForFunction(() => window.ZEVMenu?.shared.sums);
+    await waitReady(page);
 }
 
 test('axe-core finds nothing in the preview page, closed or open', async () => {

@@ -1,8 +1,8 @@
 // The menu under a real keyboard. The ids are those of the table in runtime/README.md.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, focus, hover, isShown, item, nested, script, shown, source, startLab, until, waitGone, waitShown }
-    from './support.mjs';
+import { boxRect, focus, hover, isShown, item, nested, script, shown, source, startLab, waitAt,
+    waitGone, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -122,14 +122,14 @@ for (const key of ['Enter', 'Space']) {
     test(`K14: ${key} follows the link of an item without a submenu`, async () => {
         await lab.show({ ...around });
         await press('Tab', 'Tab', key);
-        await until(async () => await page.url() == lab.origin + '/site/home.html', 'home.html');
+        await waitAt(page, lab.origin + '/site/home.html');
     });
 }
 
 test('K12: a rollover is found by its name', async () => {
     await lab.show({ definition: names, ...around });
     await press('Tab', 'Tab', 's', 'a', 'Enter');
-    await until(async () => await page.url() == lab.origin + '/site/salt_water.html', 'salt_water.html');
+    await waitAt(page, lab.origin + '/site/salt_water.html');
 });
 
 test('K16: Escape closes what the mouse opened, wherever the focus is', async () => {

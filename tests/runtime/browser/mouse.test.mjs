@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
 import { boxRect, focus, hover, isShown, item, nested, pause, rect, script, shown, source, startLab,
-    until, waitGone, waitShown } from './support.mjs';
+    until, waitAt, waitGone, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -192,7 +192,7 @@ test('a click follows the link of an item, with or without a submenu', async () 
         await lab.show();
         await hover(page, ...path);
         await (await item(page, path.at(-1))).click();
-        await until(async () => await page.url() == `${lab.origin}/site/${url}`, url);
+        await waitAt(page, `${lab.origin}/site/${url}`);
     }
 });
 
@@ -314,7 +314,7 @@ test('a missing image leaves a readable item that can be clicked', async () => {
     const { width } = await (await page.$$('>>> li > a.rollover'))[1].boundingBox();
     assert.ok(width > 30, `${width}`);
     await page.mouse.click(x, y);
-    await until(async () => await page.url() == lab.origin + '/site/second.html', 'the link');
+    await waitAt(page, lab.origin + '/site/second.html');
 });
 
 // ---- Staying in the window ----

@@ -6,7 +6,7 @@ import { join } from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { after, afterEach, before, test } from 'node:test';
 import { boxRect, hover, isShown, item, libraryFolder, nested, pageText, rect, script, shown, source,
-    startLab, style, until, waitShown } from './support.mjs';
+    startLab, style, until, waitAt, waitReady, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -215,7 +215,7 @@ test('without the renderer the top menu is a list of links, with one warning', a
     await until(() => page.warnings.length > 0, 'a warning');
     assert.equal(page.warnings.length, 1);
     await (await item(page, 'Home')).click();
-    await until(async () => await page.url() == lab.origin + '/site/home.html', 'home.html');
+    await waitAt(page, lab.origin + '/site/home.html');
 });
 
 // ---- Mistakes in a definition ----
@@ -348,7 +348,7 @@ async function showPreview(definition) {
     if (definition) lab.files.set('/preview/orlet_temp.js', definition);
     page.warnings.length = 0;
     await page.goto(lab.origin + '/preview/orlet_temp.html');
-    await page.waitForFunction(() => ZEVMenu.shared.sums);
+    await waitReady(page);
     return page.$eval('#empty', note => !note.hidden && note.textContent);
 }
 

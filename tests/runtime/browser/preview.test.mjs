@@ -3,7 +3,7 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
-import { hover, libraryFolder, nested, shown, startLab, waitShown } from './support.mjs';
+import { hover, libraryFolder, nested, shown, startLab, waitReady, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -22,7 +22,7 @@ async function showPreview(definition, width = 800) {
     await page.setViewport({ width, height: 600 });
     await page.mouse.move(1, 1);
     await page.goto(lab.origin + '/preview/orlet_temp.html');
-    await page.waitForFunction(() => ZEVMenu.shared.sums);
+    await waitReady(page);
 }
 
 test('the preview page lists each submenu with items as a pop-up link that bears the way to it', async () => {

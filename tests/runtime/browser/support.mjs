@@ -25,19 +25,20 @@ const folders = { runtime: libraryFolder, samples: samplesFolder };
 export async function startLab(options = {}) {
     const files = new Map();
     let page;
+    const { browser, close } = await startBrowser(options);
     const server = createServer((request, response) => request.method == 'POST'
         ? hear(page, request, response) : answer(files, request, response));
     await new Promise(resolve => server.listen(0, '127.0.0.1', resolve));
-    const { browser, close } = await startBrowser(options);
     const origin = `http://127.0.0.1:${server.address().port}`;
     page = await newPage(browser);
     return {
         origin, files, page,
         show: (options = {}) => show(page, origin, files, options),
         async close() {
-            await close();
+            // The server first: while it runs, so do the tests.
             server.closeAllConnections();
             server.close();
+            await close();
         },
     };
 }
@@ -93,8 +94,20 @@ async function newPage(browser) {
     page.errors = [];
     page.on('console', message => message.type() == 'warn' && page.warnings.push(message.text()));
     page.on('pageerror', error => page.errors.push(String(error)));
+    sizeOnce(page);
     if (engine == 'firefox') nameSpaceKey(page.keyboard);
     return page;
+}
+
+// Sizing the window takes longer than most tests; it is done when the size changes.
+function sizeOnce(page) {
+    const original = page.setViewport.bind(page);
+    let current = '';
+    page.setViewport = async viewport => {
+        const wanted = JSON.stringify(viewport);
+        if (wanted != current) await original(viewport);
+        current = wanted;
+    };
 }
 
 // Firefox takes keys by what they type, which for the space bar is not the name of the key.
@@ -133,13 +146,17 @@ async function show(page, origin, files, options) {
     files.set('/site/menu.js', { text: definition, delayMs: definitionDelayMs });
     files.set(path, { text: pageText(options), headers });
     await page.setViewport({ width, height, hasTouch });
-    if (engine == 'chromium') await page.emulateMediaFeatures([]);
     await page.mouse.move(width - 1, height - 1);
     page.warnings = [];
     page.errors = [];
     await page.goto(origin + path);
-    await page.waitForFunction(() => window.ZEVMenu?.shared.sums);
+    await waitReady(page);
     return page;
+}
+
+// Waits until both files of the library are there.
+export async function waitReady(page) {
+    await until(() => page.evaluate(() => !!window.ZEVMenu?.shared.sums), 'the library');
 }
 
 // Home, Products and Contact; below Products two boats, below them kayaks, below them sea kayaks.
@@ -171,58 +188,71 @@ zevmenu.AddItem('Letter', 'letter.html', '');
 
 // ---- What a visitor sees ----
 
-// The element of the item with that name; fails when no menu has it.
-export async function item(page, name) {
-    const found = await findItem(page, name);
+/*
+ * Runs in the page: what is to be seen of the items with those names, all at one moment; null for a name
+ * that no menu has. `value` is that of the CSS property of what the selector finds around the item.
+ */
+function look(names, selector, property) {
+    // WebKit divides an element's rectangle by the zoom that the element has from its style and its ancestors'.
+    const windowRect = element => {
+        const { x, y, width, height } = element.getBoundingClientRect();
+        let zoom = 1;
+        if (!('currentCSSZoom' in element)) {
+            for (let other = element; other; other = other.parentElement || other.getRootNode().host) {
+                zoom *= parseFloat(getComputedStyle(other).zoom) || 1;
+            }
+        }
+        return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom).toJSON();
+    };
+    const roots = Array.from(document.querySelectorAll('[data-zev]'), host => host.shadowRoot);
+    return names.map(name => {
+        const selected = `li > a:is([aria-label="${name}"], :has(> img[alt="${name}"]))`;
+        const link = roots.map(root => root.querySelector(selected)).find(Boolean);
+        return !link ? null : {
+            isShown: link.getClientRects().length > 0,
+            rect: windowRect(link),
+            boxRect: windowRect(link.closest('ul')),
+            value: getComputedStyle(link.closest(selector))[property],
+        };
+    });
+}
+
+// What look() tells of one item; fails when no menu has it.
+async function lookAt(page, name, selector = 'a', property = 'display') {
+    const [found] = await page.evaluate(look, [name], selector, property);
     if (!found) throw new Error(`no item "${name}"`);
     return found;
 }
 
-async function findItem(page, name) {
-    return page.$(`>>> li > a:is([aria-label="${name}"], :has(> img[alt="${name}"]))`);
+// The element of the item with that name; fails when no menu has it.
+export async function item(page, name) {
+    const found = await page.$(`>>> li > a:is([aria-label="${name}"], :has(> img[alt="${name}"]))`);
+    if (!found) throw new Error(`no item "${name}"`);
+    return found;
 }
 
 export async function isShown(page, name) {
-    const link = await findItem(page, name);
-    return !!link && (await link.boundingBox()) !== null;
+    return await shown(page, name) == name;
 }
 
 // Which of the names are to be seen.
 export async function shown(page, ...names) {
-    const result = [];
-    for (const name of names) {
-        if (await isShown(page, name)) result.push(name);
-    }
-    return result.join(' ');
+    const found = await page.evaluate(look, names, 'a', 'display');
+    return names.filter((name, index) => found[index]?.isShown).join(' ');
 }
 
 // The rectangle of an item in the window.
 export async function rect(page, name) {
-    return (await item(page, name)).evaluate(windowRect, 'a');
+    return (await lookAt(page, name)).rect;
 }
 
 // The rectangle of the box around an item.
 export async function boxRect(page, name) {
-    return (await item(page, name)).evaluate(windowRect, 'ul');
-}
-
-// Runs in the page. WebKit divides an element's rectangle by the zoom that the element has from its style and
-// its ancestors'.
-function windowRect(link, selector) {
-    const element = link.closest(selector);
-    const { x, y, width, height } = element.getBoundingClientRect();
-    let zoom = 1;
-    if (!('currentCSSZoom' in element)) {
-        for (let other = element; other; other = other.parentElement || other.getRootNode().host) {
-            zoom *= parseFloat(getComputedStyle(other).zoom) || 1;
-        }
-    }
-    return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom).toJSON();
+    return (await lookAt(page, name)).boxRect;
 }
 
 export async function style(page, name, property, selector = 'a') {
-    return (await item(page, name)).evaluate(
-        (link, property, selector) => getComputedStyle(link.closest(selector))[property], property, selector);
+    return (await lookAt(page, name, selector, property)).value;
 }
 
 export async function waitShown(page, name, timeout = 5000) {
@@ -239,6 +269,13 @@ export async function until(question, what, timeout = 5000) {
         if (Date.now() > end) throw new Error(`waited ${timeout} ms for ${what}`);
         await pause(10);
     }
+}
+
+// Waits until a link has led to that address and the page there is complete, so that its arrival does not
+// disturb what the test does next.
+export async function waitAt(page, url) {
+    await until(async () => await page.url() == url &&
+        await page.evaluate(() => document.readyState == 'complete'), url);
 }
 
 export function pause(ms) {

@@ -1,5 +1,6 @@
 // Starts the browser that ENGINE names: chromium (if nothing is named), firefox or webkit. Whatever a
 // browser writes goes into a folder of its own, which close() removes.
+import { once } from 'node:events';
 import { mkdtempSync, rmSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
@@ -11,21 +12,28 @@ export const engine = process.env.ENGINE || 'chromium';
 const chromiumArguments = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
     '--disable-background-networking', '--disable-component-update', '--disable-sync'];
 
+const timeout = 120000;     // milliseconds that a browser may take to start on a busy machine
+
 const launchers = {
-    chromium: (profile, { reducedMotion }) => puppeteer.launch({
-        executablePath: process.env.CHROMIUM || '/usr/bin/chromium', headless: true, userDataDir: profile,
-        args: [...chromiumArguments, ...reducedMotion ? ['--force-prefers-reduced-motion'] : []],
+    chromium: (profile, { reducedMotion, forcedColours }) => puppeteer.launch({
+        executablePath: process.env.CHROMIUM || '/usr/bin/chromium', headless: true, userDataDir: profile, timeout,
+        args: [...chromiumArguments, ...reducedMotion ? ['--force-prefers-reduced-motion'] : [],
+               ...forcedColours ? ['--force-high-contrast'] : []],
     }),
-    firefox: (profile, { reducedMotion }) => puppeteer.launch({
+    firefox: (profile, { reducedMotion, forcedColours }) => puppeteer.launch({
         browser: 'firefox', executablePath: process.env.FIREFOX || '/usr/bin/firefox-esr', headless: true,
-        userDataDir: profile, extraPrefsFirefox: { 'ui.prefersReducedMotion': reducedMotion ? 1 : 0 },
+        userDataDir: profile, timeout, extraPrefsFirefox: {
+            'ui.prefersReducedMotion': reducedMotion ? 1 : 0,
+            'browser.display.document_color_use': forcedColours ? 2 : 1,
+        },
     }),
     webkit: startWebKit,
 };
 
 /*
- * Options: reducedMotion, for a visitor who wants less motion; awaitsLoad, false where a test asks a page that
- * has not loaded yet. Gives { browser, close }.
+ * Options: reducedMotion, for a visitor who wants less motion; forcedColours (not in webkit), for one who
+ * has chosen few colours for all pages; awaitsLoad, false where a test asks a page that has not loaded yet.
+ * Gives { browser, close }.
  */
 export async function startBrowser(options = {}) {
     const profile = mkdtempSync(join(tmpdir(), 'zevmenu-browser-'));
@@ -33,8 +41,23 @@ export async function startBrowser(options = {}) {
     return {
         browser,
         async close() {
+            const program = browser.process?.();
             await browser.close();
-            rmSync(profile, { recursive: true, force: true, maxRetries: 5 });
+            // On a busy machine puppeteer does not wait until Firefox has ended.
+            if (program && program.exitCode === null && program.signalCode === null) await once(program, 'exit');
+            await remove(profile);
         },
     };
+}
+
+// Removes a browser's folder, into which its last processes may still write while they end.
+async function remove(folder) {
+    for (let tries = 1;; tries++) {
+        try {
+            return rmSync(folder, { recursive: true, force: true });
+        } catch (error) {
+            if (error.code != 'ENOTEMPTY' || tries == 50) throw error;
+            await new Promise(resolve => setTimeout(resolve, 100));
+        }
+    }
 }

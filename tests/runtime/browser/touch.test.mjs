@@ -1,7 +1,7 @@
 // The menu under a finger, and under clicks that no pointer made.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { isShown, item, pause, rect, source, startLab, until, waitGone, waitShown } from './support.mjs';
+import { isShown, item, pause, rect, source, startLab, waitAt, waitGone, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -28,7 +28,7 @@ test('touch: the first tap opens a submenu, the second follows the link', async 
     await waitShown(page, 'Canoes');
     assert.equal(await page.url(), lab.origin + '/site/page.html');
     await tap('Products');
-    await until(async () => await page.url() == lab.origin + '/site/products.html', 'products.html');
+    await waitAt(page, lab.origin + '/site/products.html');
 });
 
 test('touch: a tap on an item without a submenu follows its link', async () => {
@@ -36,7 +36,7 @@ test('touch: a tap on an item without a submenu follows its link', async () => {
     await tap('Products');
     await waitShown(page, 'Oars');
     await tap('Oars');
-    await until(async () => await page.url() == lab.origin + '/site/oars.html', 'oars.html');
+    await waitAt(page, lab.origin + '/site/oars.html');
 });
 
 test('touch: an open submenu stays, until a tap elsewhere', async () => {
@@ -74,5 +74,5 @@ test('a click without a pointer, as screen readers make it, first opens and then
     await (await item(page, 'Products')).evaluate(link => link.click());
     await waitShown(page, 'Boats');
     await (await item(page, 'Products')).evaluate(link => link.click());
-    await until(async () => await page.url() == lab.origin + '/site/products.html', 'products.html');
+    await waitAt(page, lab.origin + '/site/products.html');
 });
