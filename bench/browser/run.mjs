@@ -14,6 +14,7 @@ const largest = sizes.at(-1);
 const slowSizes = [sizes[0], largest];
 const laterOpenings = 3;
 const answerDelayMs = 100;
+const restMs = 200;
 const idleMs = 1000;
 
 const probeText = readFileSync(new URL('probe.js', import.meta.url), 'utf8');
@@ -56,10 +57,15 @@ function folderOf(name, size, isSlow) {
     return `/${name.replace(' ', '-')}/${size}/${isSlow ? 'slow' : 'fast'}/`;
 }
 
+// Shows the page of a contender, after a rest on an empty one, in which the browser can tidy up what the page
+// before left. Gives the milliseconds until it was drawn and ready.
 async function load(page, origin, name, size, isSlow = false) {
+    await page.goto(origin + '/empty.html');
     await page.mouse.move(1000, 700);
+    await pause(restMs);
     await page.goto(origin + folderOf(name, size, isSlow) + 'page.html');
     await page.waitForFunction(() => bench.ready);
+    if (page.errors?.length) throw new Error(`${name}: ${page.errors.join('; ')}`);
     return page.evaluate(() => ({ drawn: bench.drawn - bench.start, ready: bench.ready - bench.start }));
 }
 
@@ -110,9 +116,19 @@ async function measureHeap(lab, name) {
     await page.close();
 }
 
-async function measureRound(lab, order, isCounted) {
+// Another order each time, so that what a page leaves to tidy up falls on every other in turn.
+function shuffled(list) {
+    const result = [...list];
+    for (let index = result.length - 1; index > 0; index--) {
+        const other = Math.floor(Math.random() * (index + 1));
+        [result[index], result[other]] = [result[other], result[index]];
+    }
+    return result;
+}
+
+async function measureRound(lab, isCounted) {
     for (const size of sizes) {
-        for (const name of order) {
+        for (const name of shuffled(names)) {
             const { drawn, ready } = await load(lab.page, lab.origin, name, size);
             if (!isCounted) continue;
             note('drawn', name, size, drawn);
@@ -122,14 +138,14 @@ async function measureRound(lab, order, isCounted) {
     }
     if (!isCounted) return;
     for (const size of slowSizes) {
-        for (const name of order) {
+        for (const name of shuffled(names)) {
             const { drawn, ready } = await load(lab.page, lab.origin, name, size, true);
             note('slow drawn', name, size, drawn);
             note('slow ready', name, size, ready);
         }
     }
     if (engine != 'chromium') return;
-    for (const name of order) await measureHeap(lab, name);
+    for (const name of names) await measureHeap(lab, name);
 }
 
 // What 300 openings and 50 calls of ZEVLoadMenu leave behind: { elements, listeners }. Only chromium
@@ -165,14 +181,12 @@ async function measureGrowth(lab) {
 const lab = await startLab();
 try {
     await lab.page.setViewport({ width: 1024, height: 768 });
+    lab.files.set('/empty.html', { text: '<!DOCTYPE html><title>Empty</title>', headers: isolation });
     for (const name of names) {
         for (const size of sizes) addPages(lab.files, name, size);
     }
-    await measureRound(lab, names, false);
-    for (let round = 0; round < rounds; round++) {
-        const turn = round % names.length;
-        await measureRound(lab, [...names.slice(turn), ...names.slice(0, turn)], true);
-    }
+    await measureRound(lab, false);
+    for (let round = 0; round < rounds; round++) await measureRound(lab, true);
     const growth = await measureGrowth(lab), sizesOf = await measureSizes();
     printTable({ rounds, names, sizes, slowSizes, median, growth, sizesOf });
 } finally {
