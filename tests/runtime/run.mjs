@@ -18,14 +18,17 @@ const { devDependencies } = JSON.parse(readFileSync(here + 'package.json', 'utf8
 const missing = Object.keys(devDependencies).filter(name => !existsSync(here + 'node_modules/' + name));
 if (missing.length) fail(`${missing.join(', ')} not installed; run: npm ci --prefix tests/runtime`);
 
-const browsers = {
-    chromium: [process.env.CHROMIUM || '/usr/bin/chromium', 'chromium'],
-    firefox: [process.env.FIREFOX || '/usr/bin/firefox-esr', 'firefox-esr'],
-    webkit: [process.env.WEBKIT_DRIVER || '/usr/bin/WebKitWebDriver', 'webkit2gtk-driver'],
-};
-const [program, name] = browsers[process.env.ENGINE || 'chromium'] || [];
-if (!program) fail('ENGINE has to be chromium, firefox or webkit');
-if (folder == 'browser' && !existsSync(program)) fail(`${program} not found; install the package ${name}`);
+// engine: package -> program in it
+const programs = {
+    chromium: { chromium: process.env.CHROMIUM || '/usr/bin/chromium' },
+    firefox: { 'firefox-esr': process.env.FIREFOX || '/usr/bin/firefox-esr' },
+    webkit: { 'webkit2gtk-driver': process.env.WEBKIT_DRIVER || '/usr/bin/WebKitWebDriver',
+              xvfb: '/usr/bin/Xvfb', xdotool: '/usr/bin/xdotool' },
+}[process.env.ENGINE || 'chromium'];
+if (!programs) fail('ENGINE has to be chromium, firefox or webkit');
+for (const [name, program] of Object.entries(programs)) {
+    if (folder == 'browser' && !existsSync(program)) fail(`${program} not found; install the package ${name}`);
+}
 
 const files = readdirSync(here + folder).filter(name => name.endsWith('.test.mjs'));
 if (!files.length) fail(`no tests in ${here}${folder}`);
