@@ -1,12 +1,12 @@
-// zevmenu_dom.js: submenus, pop-ups, placement and keyboard of a menu that zevmenu_loader.js drew.
+// Submenus, pop-ups, placement and keyboard of a menu that zevmenu_loader.js drew.
 (function () {
 'use strict';
 
 const shared = window.ZEVMenu && window.ZEVMenu.shared;
 if (!shared || shared.sums) return;
-const { asText, menus, ownSetting, setting, warn, wordsOf } = shared;
+const { menus, setting, warn } = shared;
 
-// ---- Sums: rectangles of the window in, coordinates out; no page needed ----
+// ---- Sums: rectangles in, coordinates out ----
 
 const opposite = { right: 'left', left: 'right', top: 'bottom', bottom: 'top' };
 
@@ -18,13 +18,13 @@ function realSide(side, isRtl) {
     return isRtl && isBeside(side) ? opposite[side] : side;
 }
 
-// Nearest place to `start` at which `length` lies within 0 to `limit`; the start wins if too long.
+// Moves a length into 0 to `limit`; its start wins if it is too long.
 function shift(start, length, limit) {
     return Math.max(0, Math.min(start, limit - length));
 }
 
-// A box opens on its side of the anchor, on the opposite one if only that has room, without a side at
-// the corner, and is then shifted into the window.
+// On its side of the anchor, on the opposite one if only that has room, without a side at the
+// corner; then shifted into the window.
 function place(anchor, size, side, offset, frame, isRtl) {
     const starts = { right: anchor.right + offset, left: anchor.left - offset - size.width,
                      bottom: anchor.bottom + offset, top: anchor.top - offset - size.height };
@@ -37,12 +37,12 @@ function place(anchor, size, side, offset, frame, isRtl) {
              top: shift(spot.top, size.height, frame.height), side: real };
 }
 
-// The page's zoom may enlarge the layer: `ruler` pixels there are as wide as `origin` in the window.
+// In a zoomed page `ruler` pixels of the layer are as wide as `origin`.
 function unzoomed(length, origin, ruler) {
     return length * ruler / ((origin.right - origin.left) || ruler);
 }
 
-// Whether a pointer is inside the triangle from where it was to the near edge of the box.
+// Whether a pointer is in the triangle from where it was to the near edge of the box.
 function isHeadedFor(from, to, box, side) {
     const [along, across, start, end] = isBeside(side)
         ? ['x', 'y', 'top', 'bottom'] : ['y', 'x', 'left', 'right'];
@@ -53,7 +53,7 @@ function isHeadedFor(from, to, box, side) {
         way <= part * (box[end] + slack - from[across]);
 }
 
-// A single column or row goes round at its ends; -1 is outside.
+// A column or row goes round at its ends; -1 is outside.
 function neighbour(index, count, columns, direction) {
     const step = direction == 'right' || direction == 'bottom' ? 1 : -1;
     const isAlongRow = isBeside(direction);
@@ -80,25 +80,48 @@ shared.sums = { place, unzoomed, isHeadedFor, neighbour, realSide, typeAhead };
 
 // ---- State ----
 
-// The open submenus, the deepest last. `opener` is the item or link, `wish` the side to open on,
-// `side` where the box lies, `point` a pop-up's place.
+// The open submenus: `opener` is the item or link, `wish` the side to open on, `side` the one
+// found, `point` a pop-up's place.
 const levels = [];
 
 function openLevel(depth, level) {
+    const { box, opener } = level;
     closeFrom(depth);
     levels.push(level);
-    show(level);
+    if (opener) mark(opener, { 'aria-expanded': true });
+    if (!depth) {
+        mark(layer, { role: 'navigation', 'aria-label': box.getAttribute('aria-label') || '' });
+        watch(true);
+    }
+    follow(level);
+    box.style.pointerEvents = '';
+    placeLevel(level);
+    fade(level, 'reverse', () => {});
+    buildAhead(box);
 }
 
 function closeFrom(depth) {
-    while (levels.length > depth) {
-        const level = levels.pop();
-        clearTimeout(level.timer);
-        hide(level);
+    while (levels.length > depth) hide(levels.pop());
+}
+
+function hide(level) {
+    const { box, opener } = level;
+    clearTimeout(level.timer);
+    if (level.observer) level.observer.disconnect();
+    if (opener) {
+        if (box.contains(focused())) opener.focus();
+        mark(opener, { 'aria-expanded': false });
+    }
+    box.style.pointerEvents = 'none';
+    fade(level, 'normal', () => { box.hidden = true; });
+    if (!levels.length) {
+        layer.removeAttribute('role');
+        layer.removeAttribute('aria-label');
+        watch(false);
     }
 }
 
-// Lets all but the first `depth` levels close, after the delay from when they were left first.
+// Lets all but the first `depth` levels close when their delay is over.
 function keep(depth) {
     levels.forEach((level, index) => {
         if (index < depth) {
@@ -120,7 +143,6 @@ function submenuOf(link) {
     return menu && menu.zevItems.some(Boolean) ? menu : null;
 }
 
-// The nearest element, from this one outwards, with a property of ours.
 function around(element, property) {
     while (element && !element[property]) element = element.parentNode;
     return element;
@@ -183,7 +205,6 @@ function boxOf(menu) {
     return menu.zevBox;
 }
 
-// The box of a menu, in the page.
 function ensureBox(menu) {
     const box = boxOf(menu);
     if (!layer) {
@@ -220,15 +241,13 @@ function buildWhenIdle() {
 function levelOf(link) {
     const menu = submenuOf(link), top = menus['0'];
     if (!menu) return null;
-    // The submenus of a row follow the row, unless they have a position of their own.
     const isBelowRow = !menu.zevId.includes('i') && setting(top, 'columns') > 1;
-    const position = ownSetting(menu, 'position') || setting(isBelowRow && top, 'position');
-    return { menu, box: ensureBox(menu), opener: link, wish: realSide(position, isRtlAt(link)),
+    const side = setting(menu, 'position', isBelowRow && top);
+    return { menu, box: ensureBox(menu), opener: link, wish: realSide(side, isRtlAt(link)),
              offset: setting(null, 'menuoffset') };
 }
 
-// The rectangle of an element in the window. Browsers that do not tell an element's zoom divide the
-// rectangle by it (Chromium before 128, Safari).
+// Chromium before 128 and Safari do not tell an element's zoom, and divide its rectangle by it.
 function rectOf(element) {
     const { x, y, width, height } = element.getBoundingClientRect();
     let zoom = 1;
@@ -240,7 +259,7 @@ function rectOf(element) {
     return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom);
 }
 
-// A pop-up's point is in page coordinates, so that it stays with the page when that scrolls.
+// A pop-up stays with the page when that scrolls.
 function anchorOf(level) {
     if (!level.point) return rectOf(level.opener);
     const x = level.point.x - window.scrollX, y = level.point.y - window.scrollY;
@@ -275,22 +294,7 @@ function fade(level, direction, onEnd) {
     level.box.animate([{}, { opacity: 0 }], { duration, direction }).onfinish = onEnd;
 }
 
-function show(level) {
-    const { box, opener } = level;
-    box.style.pointerEvents = '';
-    placeLevel(level);
-    fade(level, 'reverse', () => {});
-    if (opener) mark(opener, { 'aria-expanded': true });
-    if (levels.length == 1) {
-        mark(layer, { role: 'navigation', 'aria-label': box.getAttribute('aria-label') || '' });
-        watch(true);
-    }
-    follow(level);
-    buildAhead(box);
-}
-
-// Closes a level whose opener is scrolled out of sight, hidden or removed; an image's area has no box
-// to be watched.
+// Closes a level whose opener goes out of sight; an image's area has no box to be watched.
 function follow(level) {
     if (!level.opener || !level.opener.getClientRects().length) return;
     level.observer = new IntersectionObserver(entries => {
@@ -299,23 +303,6 @@ function follow(level) {
         if (index >= 0 && isLeft && !entries[entries.length - 1].isIntersecting) closeFrom(index);
     });
     level.observer.observe(level.opener);
-}
-
-function hide(level) {
-    const { box, opener } = level;
-    if (level.observer) level.observer.disconnect();
-    if (opener) {
-        if (box.contains(focused())) opener.focus();
-        mark(opener, { 'aria-expanded': false });
-    }
-    // A box that fades away is no longer there for the mouse.
-    box.style.pointerEvents = 'none';
-    fade(level, 'normal', () => { box.hidden = true; });
-    if (!levels.length) {
-        layer.removeAttribute('role');
-        layer.removeAttribute('aria-label');
-        watch(false);
-    }
 }
 
 function placeAll(event) {
@@ -327,51 +314,43 @@ function openSubmenu(link) {
     if (level && !(levels[depth] && levels[depth].menu == level.menu)) openLevel(depth, level);
 }
 
-// The id in a pop-up call: 'zev1' and the id, or 'zev1i' + N and the rest of it.
-function popupId(a, b) {
-    const call = /^zev1(i\d+)?$/.exec(asText(a));
-    return call && asText(b) ? ((call[1] || '') + 'i' + b).slice(1) : '';
-}
-
 const besideMousePx = 8;
 let actingLink = null;      // the pop-up link that a key or tap is to open
 
-shared.openPopup = function (a, b, where) {
-    const id = popupId(a, b), menu = menus[id];
+shared.openPopup = function (call) {
+    const { id, isEvent, x, y } = call, menu = menus[id];
     if (document.readyState == 'loading' && !(document.body && menu)) {
-        shared.waiting = [a, b, where];
+        shared.waiting = call;
         return;
     }
-    if (!menu || !menu.zevItems || id == '0') {
-        return warn('ZEVMenuOpen: there is no submenu "' + id + '"');
-    }
+    if (!menu || !menu.zevItems || id == '0') return warn(`ZEVMenuOpen: there is no submenu "${id}"`);
     if (!document.body) return;
-    const link = where.link instanceof Element && where.link.matches(anyLink) ? where.link : actingLink;
+    const link = call.link instanceof Element && call.link.matches(anyLink) ? call.link : actingLink;
     if (link) {
-        link.zevCall = [a, b];
+        link.zevPopup = id;
         adopt(link);
     }
     if (levels.length && levels[0].menu == menu && levels[0].opener == link) return keep(1);
     closeFrom(0);
     // By a key, a tap or the focus the menu opens below the link.
-    const isBelow = link && where.isEvent && (actingLink || where.x == null);
+    const isBelow = link && isEvent && (actingLink || x == null);
     openLevel(0, {
         menu, box: ensureBox(menu), opener: link,
-        point: isBelow ? null : { x: where.x || 0, y: where.y || 0 },
-        wish: isBelow ? 'bottom' : where.isEvent ? realSide('right', isRtlAt(document.body)) : '',
-        offset: isBelow || !where.isEvent ? 0 : besideMousePx
+        point: isBelow ? null : { x: x || 0, y: y || 0 },
+        wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(document.body)) : '',
+        offset: isBelow || !isEvent ? 0 : besideMousePx
     });
 };
 
-shared.closePopup = function (a, b) {
-    // A browser may tell of the arrival on the pop-up before it tells of the leaving of the link.
+shared.closePopup = function (id) {
+    // Browsers may tell of the arrival on the pop-up before the leaving of the link.
     const isInside = over && depthOf(over.box) > 0;
-    if (levels.length && levels[0].menu.zevId == popupId(a, b) && !isInside) keep(0);
+    if (levels.length && levels[0].menu.zevId == id && !isInside) keep(0);
 };
 
 // ---- Mouse ----
 
-const restMs = 200;                 // how long a mouse rests before it counts as staying
+const restMs = 200;                 // a mouse that rests so long stays
 let over = null;                    // { box, link } under the mouse
 let lastPoint = null;
 let waiting = null;                 // { from, timer } of a hover put off
@@ -396,7 +375,7 @@ function onPointerMove(event) {
     lastPoint = point;
     if (!box || (was && was.link == link && was.box == box && !waiting)) return;
     over = { box, link };
-    // On its way to a submenu the mouse may cross other items, until it rests on one.
+    // On its way to a submenu the mouse may cross other items.
     const from = waiting ? waiting.from : before, level = levels[depthOf(box)];
     dropWaiting();
     if (was && level && level.opener != link &&
@@ -419,24 +398,19 @@ function onPointerLeave(event) {
     keep(0);
 }
 
-let press = { type: '', wasOpen: false };   // the last pointerdown on a link
+let press = {};             // the last pointerdown on a link, until the click
 
 function onPress(event) {
     const link = linkAt(event.target) || popupLinkAt(event);
     if (link) press = { type: event.pointerType, wasOpen: isOpen(link) };
 }
 
-function takePress() {
-    const last = press;
-    press = { type: '', wasOpen: false };
-    return last;
-}
-
 // A finger or an assistive technology, which presses nothing, first opens and then follows.
 function onClick(event) {
     const link = linkAt(event.target);
     if (!link) return;
-    const { type, wasOpen } = takePress();
+    const { type, wasOpen } = press;
+    press = {};
     const isFirst = type != 'mouse' && !(type ? wasOpen : isOpen(link)) && submenuOf(link);
     if (isFirst) event.preventDefault();
     if (!isFirst && link.hasAttribute('href')) closeFrom(0);
@@ -477,7 +451,6 @@ function sideOfSubmenu(link) {
     return level.side;
 }
 
-// In the top menu an open submenu follows the focus.
 function moveTo(target) {
     const depth = depthOf(target), hadOpen = levels.length;
     closeFrom(depth);
@@ -517,8 +490,7 @@ function onLetter(link, event) {
     const isMore = event.timeStamp - typed.time < typingMs;
     if (event.key.length != 1 || (event.key == ' ' && !isMore)) return false;
     const links = linksOf(boxAt(link)), text = (isMore ? typed.text : '') + event.key;
-    const names = links.map(other => other.getAttribute('aria-label') || wordsOf(other));
-    const next = links[typeAhead(names, links.indexOf(link), text)];
+    const next = links[typeAhead(links.map(other => other.zevName), links.indexOf(link), text)];
     if (next || event.key != ' ') typed = { text, time: event.timeStamp };
     if (next) moveTo(next);
     return next;
@@ -532,7 +504,7 @@ function onKeyDown(event) {
     const link = event.target, { key } = event;
     if (!link.zevSubmenu || hasModifier(event)) return;
     const links = linksOf(boxAt(link));
-    // Closing gives the focus back; Tab goes on from there. WebKit names Shift+Tab only by its code.
+    // Tab goes on from where closing puts the focus. WebKit names Shift+Tab only by its code.
     if (key == 'Tab' || event.code == 'Tab') return closeFrom(0);
     if (arrows[key]) {
         onArrow(link, arrows[key]);
@@ -586,9 +558,9 @@ const handlers = ['onmouseover', 'onclick', 'onfocus'];
 const popupLinks = handlers.map(name => `[${name}*="ZEVMenuOpen"]`).join();
 const anyLink = 'a,area,button,input,[tabindex],' + popupLinks;
 
-// A pop-up's link is known by its attributes, or from its first call on.
+// Known by their attributes, or from their first call on.
 function popupLinkAt({ target }) {
-    return (target instanceof Element && target.closest(popupLinks)) || around(target, 'zevCall');
+    return (target instanceof Element && target.closest(popupLinks)) || around(target, 'zevPopup');
 }
 
 function adopt(link) {
@@ -599,13 +571,13 @@ function adopt(link) {
     if (!link.hasAttribute('role')) mark(link, { role: 'button' });
 }
 
-// Runs the link's own handler, or else does what its listener did last.
+// Runs the link's handler, or does what its listener did last.
 function openFrom(link, event) {
     const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name)));
     actingLink = link;
     try {
         if (link[name]) link[name](event);
-        else if (link.zevCall) shared.openPopup(...link.zevCall, { isEvent: true });
+        else if (link.zevPopup) shared.openPopup({ id: link.zevPopup, isEvent: true });
     } finally {
         actingLink = null;
     }
@@ -615,8 +587,9 @@ function openFrom(link, event) {
 function onPageClick(event) {
     const link = popupLinkAt(event);
     if (!link) return;
-    const { type, wasOpen } = takePress(), isTap = type != 'mouse' && !wasOpen;
-    // An empty address would only load the page anew.
+    const isTap = press.type != 'mouse' && !press.wasOpen;
+    press = {};
+    // An empty address would load the page anew.
     if (link.getAttribute('href') == '' || isTap) event.preventDefault();
     if (isTap && !isOpen(link)) openFrom(link, event);
 }
@@ -629,8 +602,6 @@ function onPageKey(event) {
     event.preventDefault();
     enter(levels[0].box);
 }
-
-// ---- Start ----
 
 shared.adoptBar = function () {
     listen(shared.bar);
@@ -645,7 +616,7 @@ shared.adoptBar = function () {
 function openWaiting() {
     const call = shared.waiting;
     shared.waiting = null;
-    if (call) shared.openPopup(...call);
+    if (call) shared.openPopup(call);
 }
 
 function finish() {
@@ -653,7 +624,7 @@ function finish() {
     document.querySelectorAll(popupLinks).forEach(adopt);
     Object.keys(menus).forEach(id => {
         if (id == '0' || itemOf(menus[id])) return;
-        warn('menu ' + id + ' has no item to open from; it is not shown');
+        warn(`menu ${id} has no item to open from`);
     });
 }
 

@@ -1,20 +1,17 @@
-// zevmenu_loader.js: takes a menu definition and draws its top menu. Every browser ever made may meet
-// this file, so it keeps to JavaScript 1.2: no try, no ===, no newer word.
+// Takes a menu definition and draws its top menu. Keeps to JavaScript 1.2 (no try, no ===), because
+// every browser ever made may meet it.
 if (!window.ZEVMenu) (function () {
 
-// What the files tell each other. The page sees no names but the documented ones.
 var shared = {
-    menus: {},          // menu id -> ZEVMenu
-    bar: null,          // the element around the top menu in the page
-    barBox: null,       // the drawn top menu
-    waiting: null,      // the last ZEVMenuOpen that came too early
-    warn: warn, asText: asText, ownSetting: ownSetting, setting: setting, submenuId: submenuId,
-    createHost: createHost, buildBox: buildBox, nameOf: nameOf, wordsOf: wordsOf,
-    nameFromFiles: nameFromFiles
+    menus: {},          // by id
+    bar: null,          // the page's element around the top menu
+    barBox: null,
+    waiting: null,      // a ZEVMenuOpen that came too early
+    warn: warn, setting: setting, submenuId: submenuId,
+    createHost: createHost, buildBox: buildBox, nameOf: nameOf, nameFromFiles: nameFromFiles
 };
 
-var isModern = document.getElementById && document.documentElement.attachShadow &&
-    window.CSS && CSS.supports && window.URL;
+var isModern = document.getElementById && document.documentElement.attachShadow;
 
 var told = {};
 function warn(text) {
@@ -22,7 +19,7 @@ function warn(text) {
     told[text] = true;
 }
 
-// ---- Checks: each gives the value to use, or null when the value makes no sense ----
+// ---- Checks: the value to use, or null ----
 
 function asText(value) {
     return typeof value == 'string' || typeof value == 'number' ? '' + value : null;
@@ -49,7 +46,7 @@ function asCss(property) {
     };
 }
 
-// ---- Properties: check, factory value, style of the box that takes the value, its unit ----
+// ---- Properties: check, factory value, style of the box, unit ----
 
 var properties = {
     columns: [asNumber(1, 1000000, true), 1],
@@ -78,27 +75,28 @@ var properties = {
     fshadow: [asCss('color'), '', '--zev-shadow']
 };
 
-// The checked value or null. Empty means "not set", but "nothing" where it is HTML.
+// Empty means "not set", but "nothing" where it is HTML.
 function ownSetting(owner, name) {
     var value = owner ? owner[name] : null;
     if (value == null || (asText(value) == '' && !/^(html|divider)/.test(name))) return null;
     value = properties[name][0](value);
     if (value == null) {
         warn((owner.zevId ? 'menu ' + owner.zevId : 'zev_state') + ': the value of ' + name +
-            ' makes no sense and is not used');
+            ' makes no sense');
     }
     return value;
 }
 
-function setting(menu, name) {
+// What holds for a menu: its own value, else that of another menu, if given, else everybody's.
+function setting(menu, name, other) {
     var value = ownSetting(menu, name);
+    if (value == null) value = ownSetting(other, name);
     if (value == null) value = ownSetting(window.zev_state, name);
     return value == null ? properties[name][1] : value;
 }
 
 // ---- Definition ----
 
-// `position` counts from 1.
 function submenuId(menu, position) {
     return (menu.zevId == '0' ? '' : menu.zevId + 'i') + position;
 }
@@ -109,19 +107,19 @@ function ZEVMenu(id) {
     this.zevItems = [];         // null where a mistaken item keeps its number
     this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';
     if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(this.zevId)) {
-        warn('"' + this.zevId + '" is not a menu id; the menu is not shown');
+        warn('"' + this.zevId + '" is not a menu id');
     } else if (shared.menus[this.zevId]) {
-        warn('menu ' + this.zevId + ' is defined twice; the first one is used');
+        warn('menu ' + this.zevId + ' is defined twice; the first is used');
     } else {
         shared.menus[this.zevId] = this;
-        // ZEVDisplayMenu may have been called before the definition arrived.
+        // ZEVDisplayMenu may have been called first.
         if (shared.bar && this.zevId == '0') setTimeout(drawTop, 0);
     }
 }
 
 function addItem(menu, isGood, item) {
     var position = menu.zevItems.length + 1;
-    if (!isGood) warn('item ' + position + ' of menu ' + menu.zevId + ' is mistaken and not shown');
+    if (!isGood) warn('item ' + position + ' of menu ' + menu.zevId + ' is mistaken');
     menu.zevItems[position - 1] = isGood ? item : null;
 }
 
@@ -138,10 +136,10 @@ ZEVMenu.prototype.AddRollover = function (url, imageOut, imageOver, target) {
 };
 
 function warnOfItem() {
-    warn('an item stands before any menu; it is not shown');
+    warn('an item stands before any menu');
 }
 
-// What follows two slashes could be a host that URL() refuses by throwing.
+// URL() throws at some hosts, so what begins with two slashes is taken as it stands too.
 function resolve(menu, url) {
     url = url.replace(/^[\x00- ]+|[\x00-\x1f]/g, '');
     return !menu.zevFile || url == '' || /^([#?]|[\\\/][\\\/]|[a-z][a-z0-9+.\-]*:)/i.test(url) ? url
@@ -164,25 +162,23 @@ var styleText = [
     ':host{all:initial!important;display:block!important;width:fit-content!important;',
     'max-width:100%!important}',
     ':host([data-zev=layer]){position:absolute!important;left:0!important;top:0!important;',
-    'width:100px!important;max-width:none!important;height:0!important;',
-    'z-index:2147483647!important}',
-    'ul{box-sizing:border-box;list-style:none;margin:0;padding:0;width:max-content;max-width:100%;',
-    'gap:var(--zev-space);line-height:normal;box-shadow:3px 3px 6px var(--zev-shadow)}',
-    'ul.list{display:flex;flex-direction:column}',
-    'ul.bar{display:flex;flex-wrap:wrap}',
+    'width:100px!important;max-width:none!important;z-index:2147483647!important}',
+    'ul{display:flex;box-sizing:border-box;margin:0;padding:0;width:max-content;max-width:100%;',
+    'gap:var(--zev-space);box-shadow:3px 3px 6px var(--zev-shadow)}',
+    'ul.list,ul.list>li{flex-direction:column}',
+    'ul.bar{flex-wrap:wrap}',
     'ul.grid{display:grid}',
     'ul[role=menu]{position:absolute;overscroll-behavior:contain}',
     'ul[hidden]{display:none}',
     'li{display:flex;min-width:0}',
-    'ul.list>li{flex-direction:column}',
-    'a{box-sizing:border-box;flex:1 1 auto;min-width:0;overflow-wrap:break-word;cursor:pointer;',
+    'a{box-sizing:border-box;flex:auto;min-width:0;overflow-wrap:break-word;cursor:pointer;',
     'padding:var(--zev-padding);border:var(--zev-border,0);background:var(--zev-nbg);',
     'color:var(--zev-nft);text-decoration:none}',
     'a:is(:hover,:focus,[aria-expanded=true]){background:var(--zev-hbg);color:var(--zev-hft)}',
     'a:focus-visible{outline:2px solid;outline-offset:-2px}',
-    // Both pictures share one cell, so that nothing moves when they change places.
+    // Both pictures share one cell, so that nothing moves.
     'a.rollover{display:grid;justify-content:start}',
-    'a.rollover>img{grid-area:1/1;border:0}',
+    'a.rollover>img{grid-area:1/1}',
     'img.over,a:is(:hover,:focus,[aria-expanded=true])>img.out{visibility:hidden}',
     'a:is(:hover,:focus,[aria-expanded=true])>img.over{visibility:visible}',
     'span.divider{flex:none;min-width:var(--zev-space);min-height:var(--zev-space);',
@@ -193,8 +189,7 @@ var styleText = [
     '@media print{ul[role=menu]{display:none}}'
 ].join('');
 
-// A constructed style sheet passes every Content-Security-Policy; Firefox until 100 and Safari until
-// 16.3 have none.
+// Firefox until 100 and Safari until 16.3 cannot construct style sheets.
 var sheet;
 function addStyle(root) {
     if (CSSStyleSheet.prototype.replaceSync && document.adoptedStyleSheets) {
@@ -221,8 +216,7 @@ function createHost(kind) {
     return host;
 }
 
-// HTML is read in a document of its own: as HTML in an XML page too, and with its addresses put right
-// before anything is fetched.
+// Read in another document: as HTML in an XML page too, and before anything is fetched.
 var workshop;
 function parse(menu, html) {
     var text = html.replace(/&nbsp;/g, '\xa0'), names = ['src', 'href'], linked, i, k, value;
@@ -239,7 +233,6 @@ function parse(menu, html) {
     return document.importNode(workshop.content, true);
 }
 
-// Text, and alternative text of pictures.
 function wordsOf(node) {
     var words = node.nodeType == 3 ? node.data : node.alt || '', child;
     for (child = node.firstChild; child; child = child.nextSibling) words += wordsOf(child);
@@ -250,9 +243,9 @@ function nameOf(menu, item) {
     return item.imageOut ? nameFromFiles(item) : wordsOf(parse(menu, item.caption));
 }
 
-function addPicture(link, className, url, name) {
+function addPicture(link, className, url) {
     var picture = append(link, 'img', className);
-    picture.alt = name;
+    picture.alt = link.zevName;
     picture.src = url;
 }
 
@@ -265,12 +258,14 @@ function addItemTo(box, menu, position, settings) {
     if (item.url) link.setAttribute('href', resolve(menu, item.url));
     if (item.url && target) link.setAttribute('target', target);
     if (item.imageOut) {
-        addPicture(link, 'out', resolve(menu, item.imageOut), nameFromFiles(item));
-        addPicture(link, 'over', resolve(menu, item.imageOver), nameFromFiles(item));
+        link.zevName = nameFromFiles(item);
+        addPicture(link, 'out', resolve(menu, item.imageOut));
+        addPicture(link, 'over', resolve(menu, item.imageOver));
     } else {
         link.appendChild(parse(menu, item.caption));
-        // What stands around the caption is decoration and no part of the item's name.
-        if (settings.before || settings.after) link.setAttribute('aria-label', wordsOf(link));
+        link.zevName = wordsOf(link);
+        // What stands around the caption is no part of the name.
+        if (settings.before || settings.after) link.setAttribute('aria-label', link.zevName);
         link.insertBefore(parse(menu, settings.before), link.firstChild);
         link.appendChild(parse(menu, settings.after));
     }
@@ -290,7 +285,7 @@ function styleBox(box, menu, columns, hasDivider) {
     }
     if (image) style.backgroundImage = 'url("' + resolve(menu, image).replace(/["\\]/g, '\\$&') + '")';
     if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + columns + ',auto)';
-    // A divider fills the space itself, and grows it where it needs more.
+    // A divider fills the space itself.
     if (hasDivider) style[columns == 1 ? 'rowGap' : 'columnGap'] = 0;
 }
 
@@ -322,7 +317,7 @@ function drawTop() {
     if (shared.adoptBar) shared.adoptBar();
 }
 
-// A call from elsewhere (a handler, the page's head) names no place, and gets the start of the page.
+// A handler or the page's head names no place, and gets the start of the page.
 function placeBar() {
     var script = document.currentScript;
     if (script && script.parentNode && script.parentNode != document.head) {
@@ -350,19 +345,25 @@ window.ZEVCreateMenu = window.ZEVLoadMenu = function () {
     if (shared.refresh) shared.refresh();
 };
 
-// The event's data are copied, because they are gone when zevmenu_dom.js comes to a waiting call.
+// 'zev1' and the id, or 'zev1i' + N and the rest of it.
+function popupId(a, b) {
+    var call = /^zev1(i\d+)?$/.exec(asText(a));
+    return call && asText(b) ? ((call[1] || '') + 'i' + b).substring(1) : '';
+}
+
+// An event's data are gone when a waiting call is done.
 window.ZEVMenuOpen = function (a, b, x, y) {
     if (!isModern) return;
     var event = x && typeof x == 'object' ? x : null, coordinate = asNumber(-10000000, 10000000);
-    var where = { link: event && event.currentTarget, isEvent: event != null,
+    var call = { id: popupId(a, b), link: event && event.currentTarget, isEvent: event != null,
         x: coordinate(event ? event.pageX : x), y: coordinate(event ? event.pageY : y) };
-    if (shared.openPopup) shared.openPopup(a, b, where);
-    else shared.waiting = [a, b, where];
+    if (shared.openPopup) shared.openPopup(call);
+    else shared.waiting = call;
 };
 
 window.ZEVMenuClose = function (a, b) {
     shared.waiting = null;
-    if (shared.closePopup) shared.closePopup(a, b);
+    if (shared.closePopup) shared.closePopup(popupId(a, b));
 };
 
 ZEVMenu.shared = shared;
@@ -372,13 +373,13 @@ window.zevmenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
 
 var own = document.currentScript;
 var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
-if (prefix == '' && own && own.src) prefix = own.src.replace(/[?#].*$/, '').replace(/[^\/]*$/, '');
+if (prefix == '' && own && own.src) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
 
 if (isModern) {
     var renderer = document.createElement('script');
     renderer.src = prefix + 'zevmenu_dom.js';
     renderer.onerror = function () {
-        warn(renderer.src + ' did not load; the top menu works, submenus do not');
+        warn(renderer.src + ' did not load; submenus do not open');
     };
     (document.head || document.documentElement).appendChild(renderer);
 } else {
