@@ -2,7 +2,7 @@
 (function () {
 'use strict';
 
-const shared = window.ZEVMenu && window.ZEVMenu.shared;
+const shared = window.ZEVMenu?.shared;
 if (!shared || shared.sums) return;
 const { menus, setting, warn } = shared;
 
@@ -107,7 +107,7 @@ function closeFrom(depth) {
 function hide(level) {
     const { box, opener } = level;
     clearTimeout(level.timer);
-    if (level.observer) level.observer.disconnect();
+    level.observer?.disconnect();
     if (opener) {
         if (box.contains(focused())) opener.focus();
         mark(opener, { 'aria-expanded': false });
@@ -140,7 +140,7 @@ let layer = null;           // holds every submenu box
 
 function submenuOf(link) {
     const menu = menus[link.zevSubmenu];
-    return menu && menu.zevItems.some(Boolean) ? menu : null;
+    return menu?.zevItems.some(Boolean) ? menu : null;
 }
 
 function around(element, property) {
@@ -191,8 +191,7 @@ function promote(box, role) {
 
 function itemOf(menu) {
     const [, parentId, position] = /^(?:(.*)i)?(.*)/.exec(menu.zevId);
-    const parent = menus[parentId || '0'];
-    return parent && parent.zevItems[position - 1];
+    return menus[parentId || '0']?.zevItems[position - 1];
 }
 
 function boxOf(menu) {
@@ -296,7 +295,7 @@ function fade(level, direction, onEnd) {
 
 // Closes a level whose opener goes out of sight; an image's area has no box to be watched.
 function follow(level) {
-    if (!level.opener || !level.opener.getClientRects().length) return;
+    if (!level.opener?.getClientRects().length) return;
     level.observer = new IntersectionObserver(entries => {
         const index = levels.indexOf(level);    // -1: closed, but told in spite of disconnect()
         const isLeft = !level.opener.isConnected || !level.box.contains(focused());
@@ -311,7 +310,7 @@ function placeAll(event) {
 
 function openSubmenu(link) {
     const depth = depthOf(link), level = levelOf(link);
-    if (level && !(levels[depth] && levels[depth].menu == level.menu)) openLevel(depth, level);
+    if (level && levels[depth]?.menu != level.menu) openLevel(depth, level);
 }
 
 const besideMousePx = 8;
@@ -319,18 +318,17 @@ let actingLink = null;      // the pop-up link that a key or tap is to open
 
 shared.openPopup = function (call) {
     const { id, isEvent, x, y } = call, menu = menus[id];
-    if (document.readyState == 'loading' && !(document.body && menu)) {
+    if (!document.body || (document.readyState == 'loading' && !menu)) {
         shared.waiting = call;
         return;
     }
-    if (!menu || !menu.zevItems || id == '0') return warn(`ZEVMenuOpen: there is no submenu "${id}"`);
-    if (!document.body) return;
+    if (!menu) return warn(`ZEVMenuOpen: there is no submenu "${id}"`);
     const link = call.link instanceof Element && call.link.matches(anyLink) ? call.link : actingLink;
     if (link) {
         link.zevPopup = id;
         adopt(link);
     }
-    if (levels.length && levels[0].menu == menu && levels[0].opener == link) return keep(1);
+    if (levels[0]?.menu == menu && levels[0].opener == link) return keep(1);
     closeFrom(0);
     // By a key, a tap or the focus the menu opens below the link.
     const isBelow = link && isEvent && (actingLink || x == null);
@@ -345,7 +343,7 @@ shared.openPopup = function (call) {
 shared.closePopup = function (id) {
     // Browsers may tell of the arrival on the pop-up before the leaving of the link.
     const isInside = over && depthOf(over.box) > 0;
-    if (levels.length && levels[0].menu.zevId == id && !isInside) keep(0);
+    if (levels[0]?.menu.zevId == id && !isInside) keep(0);
 };
 
 // ---- Mouse ----
@@ -356,14 +354,14 @@ let lastPoint = null;
 let waiting = null;                 // { from, timer } of a hover put off
 
 function dropWaiting() {
-    if (waiting) clearTimeout(waiting.timer);
+    clearTimeout(waiting?.timer);
     waiting = null;
 }
 
 function hover() {
     const { box, link } = over, depth = depthOf(box), child = levels[depth];
     dropWaiting();
-    if (link && child && child.opener == link) return keep(depth + 1);
+    if (link && child?.opener == link) return keep(depth + 1);
     keep(depth);
     if (link) openSubmenu(link);
 }
@@ -420,8 +418,7 @@ function onClick(event) {
 // ---- Keyboard ----
 
 function focused() {
-    const host = document.activeElement;
-    return (host && host.shadowRoot || document).activeElement;
+    return (document.activeElement?.shadowRoot || document).activeElement;
 }
 
 function onFocusIn(event) {
@@ -432,13 +429,13 @@ function onFocusIn(event) {
 
 function enter(box, isAtEnd) {
     const links = linksOf(box), link = links[isAtEnd ? links.length - 1 : 0];
-    if (link) link.focus();
+    link?.focus();
 }
 
 function openAndEnter(link, isAtEnd) {
     openSubmenu(link);
     const level = levels[depthOf(link)];
-    if (level && level.opener == link) enter(level.box, isAtEnd);
+    if (level?.opener == link) enter(level.box, isAtEnd);
 }
 
 function sideOfSubmenu(link) {
@@ -470,13 +467,13 @@ function onArrow(link, direction) {
     if (next) return moveTo(next);
     const side = sideOfSubmenu(link);
     if (side == direction) return openAndEnter(link);
-    if (level && level.opener && level.side == opposite[direction]) return closeFrom(depth - 1);
+    if (level?.opener && level.side == opposite[direction]) return closeFrom(depth - 1);
     if (side && !level && side == opposite[direction]) return openAndEnter(link, true);
     if (side && (reading == 'right' || reading == 'bottom')) return openAndEnter(link);
     // From a submenu below a row the key goes on to the row's neighbour.
     const root = level && levels[0].opener;
     const isGridEnd = boxAt(link).className == 'grid' && !isBeside(reading);
-    const beyond = root && root.zevSubmenu && !isGridEnd && nextLink(root, reading);
+    const beyond = root?.zevSubmenu && !isGridEnd && nextLink(root, reading);
     if (beyond) moveTo(beyond);
 }
 
@@ -536,13 +533,13 @@ function watch(isOn) {
     const change = isOn ? 'addEventListener' : 'removeEventListener';
     document[change]('keydown', onEscape, true);
     document[change]('pointerdown', onOutside, true);
-    window[change]('scroll', placeAll, { capture: true, passive: true });
+    window[change]('scroll', placeAll, true);
     window[change]('resize', placeAll);
 }
 
 function listen(host) {
     const root = host.shadowRoot;
-    root.addEventListener('scroll', placeAll, { capture: true, passive: true });
+    root.addEventListener('scroll', placeAll, true);
     root.addEventListener('pointerover', onPointerOver);
     root.addEventListener('pointermove', onPointerMove);
     root.addEventListener('pointerdown', onPress);
@@ -637,7 +634,7 @@ document.addEventListener('pointerdown', onPress);
 document.addEventListener('click', onPageClick);
 document.addEventListener('keydown', onPageKey);
 document.addEventListener('DOMContentLoaded', finish);
-window.addEventListener('load', () => buildAhead(shared.barBox), { once: true });
+window.addEventListener('load', () => buildAhead(shared.barBox));
 if (document.readyState != 'loading') finish();
 if (shared.barBox) shared.adoptBar();
 openWaiting();

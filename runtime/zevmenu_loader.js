@@ -49,27 +49,27 @@ function asCss(property) {
 // ---- Properties: check, factory value, style of the box, unit ----
 
 var properties = {
-    columns: [asNumber(1, 1000000, true), 1],
+    columns: [asNumber(1, 1e6, true), 1],
     bgimage: [asText, ''],
     nbgcolor: [asCss('color'), '#000000', '--zev-nbg'],
     nftcolor: [asCss('color'), '#FFFFFF', '--zev-nft'],
     hbgcolor: [asCss('color'), '#888888', '--zev-hbg'],
     hftcolor: [asCss('color'), '#000000', '--zev-hft'],
-    hspacing: [asNumber(0, 10000), 0, '--zev-space', 'px'],
+    hspacing: [asNumber(0, 1e4), 0, '--zev-space', 'px'],
     divider: [asText, '&nbsp;'],
     htmlBefore: [asText, '&nbsp;&nbsp;'],
     htmlAfter: [asText, '&nbsp;&nbsp;'],
     itemborder: [asCss('border'), '', '--zev-border'],
     menuborder: [asCss('border'), '', 'border'],
-    cellpadding: [asNumber(0, 10000), 1, '--zev-padding', 'px'],
+    cellpadding: [asNumber(0, 1e4), 1, '--zev-padding', 'px'],
     target: [asText, ''],
     fontFamily: [asCss('font-family'), 'Arial', 'font-family'],
     fontSize: [asCss('font-size'), '10pt', 'font-size'],
     fontStyle: [asCss('font-style'), 'normal', 'font-style'],
     fontWeight: [asCss('font-weight'), 'normal', 'font-weight'],
     position: [asSide, 'right'],
-    menuoffset: [asNumber(-10000, 10000), 1],           // pixels
-    closedelay: [asNumber(0, 2147483647), 500],         // milliseconds
+    menuoffset: [asNumber(-1e4, 1e4), 1],               // pixels
+    closedelay: [asNumber(0, 1e9), 500],                // milliseconds
     ffade: [asNumber(0, 5), 0],                         // seconds
     fopacity: [asNumber(1, 100), 100, 'opacity', '%'],
     fshadow: [asCss('color'), '', '--zev-shadow']
@@ -148,11 +148,11 @@ function resolve(menu, url) {
 
 // "pages/our_team.html" is "our team".
 function nameFromFiles(item) {
-    return (/^javascript:/i.test(item.url) ? '' : nameFromFile(item.url)) || nameFromFile(item.imageOut);
+    return nameFromFile(item.url) || nameFromFile(item.imageOut);
 }
 
 function nameFromFile(url) {
-    return url.replace(/[?].*$/, '').replace(/^.*#(.)/, '$1').replace(/^[a-z]+:\/\/|[#\/]+$/gi, '')
+    return url.replace(/^javascript:.*|[?].*$/i, '').replace(/^.*#(.)/, '$1').replace(/[#\/]+$/, '')
         .replace(/^.*\//, '').replace(/\.[a-z0-9]+$/i, '').replace(/(%20|[_+\-])+/g, ' ');
 }
 
@@ -250,7 +250,7 @@ function addPicture(link, className, url) {
 }
 
 function addItemTo(box, menu, position, settings) {
-    var item = menu.zevItems[position - 1];
+    var item = menu.zevItems[position - 1], before = settings.htmlBefore, after = settings.htmlAfter;
     var link = append(append(box, 'li'), 'a', item.imageOut && 'rollover');
     // A script runs in this page; the menu's frame is for its pages.
     var target = item.target || (/^ *javascript:/i.test(item.url) ? '' : settings.target);
@@ -265,9 +265,9 @@ function addItemTo(box, menu, position, settings) {
         link.appendChild(parse(menu, item.caption));
         link.zevName = wordsOf(link);
         // What stands around the caption is no part of the name.
-        if (settings.before || settings.after) link.setAttribute('aria-label', link.zevName);
-        link.insertBefore(parse(menu, settings.before), link.firstChild);
-        link.appendChild(parse(menu, settings.after));
+        if (before || after) link.setAttribute('aria-label', link.zevName);
+        link.insertBefore(parse(menu, before), link.firstChild);
+        link.appendChild(parse(menu, after));
     }
 }
 
@@ -277,35 +277,33 @@ function addDivider(line, menu, html) {
     divider.appendChild(parse(menu, html));
 }
 
-function styleBox(box, menu, columns, hasDivider) {
-    var style = box.style, image = setting(menu, 'bgimage'), name, row;
+function styleBox(box, menu, settings) {
+    var style = box.style, image = settings.bgimage, name, row;
     for (name in properties) {
         row = properties[name];
-        if (row[2]) style.setProperty(row[2], setting(menu, name) + (row[3] || ''));
+        if (row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
     }
     if (image) style.backgroundImage = 'url("' + resolve(menu, image).replace(/["\\]/g, '\\$&') + '")';
-    if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + columns + ',auto)';
-    // A divider fills the space itself.
-    if (hasDivider) style[columns == 1 ? 'rowGap' : 'columnGap'] = 0;
+    if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + settings.columns + ',auto)';
 }
 
 function buildBox(menu) {
-    var box = document.createElement('ul'), columns = setting(menu, 'columns'), i, count = 0;
-    var divider = setting(menu, 'hspacing') ? setting(menu, 'divider') : '';
-    var settings = { before: setting(menu, 'htmlBefore'), after: setting(menu, 'htmlAfter'),
-        target: setting(menu, 'target') };
-    if (divider == '&nbsp;') divider = '';
+    var box = document.createElement('ul'), settings = {}, count = 0, name, i;
+    for (name in properties) settings[name] = setting(menu, name);
+    var columns = settings.columns, hasDivider = settings.hspacing && !/^(&nbsp;)?$/.test(settings.divider);
     for (i = 1; i <= menu.zevItems.length; i++) {
         if (menu.zevItems[i - 1]) {
-            if (divider && count && (columns == 1 || count % columns)) {
-                addDivider(box.lastChild, menu, divider);
+            if (hasDivider && count && (columns == 1 || count % columns)) {
+                addDivider(box.lastChild, menu, settings.divider);
             }
             addItemTo(box, menu, i, settings);
             count++;
         }
     }
     box.className = columns == 1 ? 'list' : columns >= count ? 'bar' : 'grid';
-    styleBox(box, menu, columns, divider != '');
+    styleBox(box, menu, settings);
+    // A divider fills the space itself.
+    if (hasDivider) box.style[columns == 1 ? 'rowGap' : 'columnGap'] = 0;
     box.zevMenu = menu;
     return box;
 }
@@ -340,21 +338,19 @@ window.ZEVDisplayMenu = function () {
 };
 
 window.ZEVCreateMenu = window.ZEVLoadMenu = function () {
-    if (!isModern) return;
     drawTop();
     if (shared.refresh) shared.refresh();
 };
 
 // 'zev1' and the id, or 'zev1i' + N and the rest of it.
 function popupId(a, b) {
-    var call = /^zev1(i\d+)?$/.exec(asText(a));
-    return call && asText(b) ? ((call[1] || '') + 'i' + b).substring(1) : '';
+    var call = /^zev1(i\d+)? ([1-9][\di]*)$/.exec(asText(a) + ' ' + asText(b));
+    return call ? ((call[1] || '') + 'i' + call[2]).substring(1) : '';
 }
 
 // An event's data are gone when a waiting call is done.
 window.ZEVMenuOpen = function (a, b, x, y) {
-    if (!isModern) return;
-    var event = x && typeof x == 'object' ? x : null, coordinate = asNumber(-10000000, 10000000);
+    var event = x && typeof x == 'object' ? x : null, coordinate = asNumber(-1e7, 1e7);
     var call = { id: popupId(a, b), link: event && event.currentTarget, isEvent: event != null,
         x: coordinate(event ? event.pageX : x), y: coordinate(event ? event.pageY : y) };
     if (shared.openPopup) shared.openPopup(call);
