@@ -57,12 +57,16 @@ function folderOf(name, size, isSlow) {
     return `/${name.replace(' ', '-')}/${size}/${isSlow ? 'slow' : 'fast'}/`;
 }
 
-// Shows the page of a contender, after a rest on an empty one, in which the browser can tidy up what the page
+// Shows the page of a contender after a rest on an empty one, in which the browser can tidy up what the page
 // before left. Gives the milliseconds until it was drawn and ready.
 async function load(page, origin, name, size, isSlow = false) {
     await page.goto(origin + '/empty.html');
     await page.mouse.move(1000, 700);
     await pause(restMs);
+    return show(page, origin, name, size, isSlow);
+}
+
+async function show(page, origin, name, size, isSlow) {
     await page.goto(origin + folderOf(name, size, isSlow) + 'page.html');
     await page.waitForFunction(() => bench.ready);
     if (page.errors?.length) throw new Error(`${name}: ${page.errors.join('; ')}`);
@@ -106,7 +110,7 @@ async function measureOpenings(page, name, size) {
 // nothing in it of the pages before.
 async function measureHeap(lab, name) {
     const page = await lab.page.browser().newPage();
-    await load(page, lab.origin, name, largest);
+    await show(page, lab.origin, name, largest, false);
     await pause(idleMs);
     const session = await page.createCDPSession();
     await session.send('HeapProfiler.collectGarbage');
