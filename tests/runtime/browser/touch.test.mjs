@@ -59,7 +59,9 @@ test("touch: a tap on a pop-up's link opens it and does not follow the link", as
 });
 
 test('touch: a tap on a link with listeners opens its pop-up and does not follow the link', async () => {
-    await lab.show({ ...popup, before: '<a id="link" href="away.html">Menu</a>', hasTouch: true,
+    // Where no test before has tapped: Firefox takes the last tap's place for the mouse's, in the next page too.
+    await lab.show({ ...popup, before: '<p style="margin:200px"><a id="link" href="away.html">Menu</a></p>',
+        hasTouch: true,
         after: `<script>document.getElementById('link').addEventListener('mouseover', event =>
             ZEVMenuOpen('zev1', '2', event));</script>` });
     const box = await (await page.$('#link')).boundingBox();
