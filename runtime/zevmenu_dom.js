@@ -23,8 +23,7 @@ function shift(start, length, limit) {
     return Math.max(0, Math.min(start, limit - length));
 }
 
-// On its side of the anchor, on the opposite one if only that has room, without a side at the
-// corner; then shifted into the window.
+// Flips to the opposite side if only that has room, then shifts into the window.
 function place(anchor, size, side, offset, frame, isRtl) {
     const starts = { right: anchor.right + offset, left: anchor.left - offset - size.width,
                      bottom: anchor.bottom + offset, top: anchor.top - offset - size.height };
@@ -42,7 +41,7 @@ function unzoomed(length, origin, ruler) {
     return length * ruler / ((origin.right - origin.left) || ruler);
 }
 
-// Whether a pointer is in the triangle from where it was to the near edge of the box.
+// In the triangle from where the pointer was to the near edge of the box.
 function isHeadedFor(from, to, box, side) {
     const [along, across, start, end] = isBeside(side)
         ? ['x', 'y', 'top', 'bottom'] : ['y', 'x', 'left', 'right'];
@@ -121,7 +120,7 @@ function hide(level) {
     }
 }
 
-// Lets all but the first `depth` levels close when their delay is over.
+// Lets all but the first `depth` levels close after the delay.
 function keep(depth) {
     levels.forEach((level, index) => {
         if (index < depth) {
@@ -555,7 +554,7 @@ const handlers = ['onmouseover', 'onclick', 'onfocus'];
 const popupLinks = handlers.map(name => `[${name}*="ZEVMenuOpen"]`).join();
 const anyLink = 'a,area,button,input,[tabindex],' + popupLinks;
 
-// Known by their attributes, or from their first call on.
+// Known by its attributes, or from its first call on.
 function popupLinkAt({ target }) {
     return (target instanceof Element && target.closest(popupLinks)) || around(target, 'zevPopup');
 }
@@ -568,7 +567,7 @@ function adopt(link) {
     if (!link.hasAttribute('role')) mark(link, { role: 'button' });
 }
 
-// Runs the link's handler, or does what its listener did last.
+// By its handler, or as its listener did last.
 function openFrom(link, event) {
     const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name)));
     actingLink = link;

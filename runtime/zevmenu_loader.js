@@ -87,7 +87,7 @@ function ownSetting(owner, name) {
     return value;
 }
 
-// What holds for a menu: its own value, else that of another menu, if given, else everybody's.
+// The menu's own value, else the other menu's, else everybody's.
 function setting(menu, name, other) {
     var value = ownSetting(menu, name);
     if (value == null) value = ownSetting(other, name);
@@ -139,7 +139,7 @@ function warnOfItem() {
     warn('an item stands before any menu');
 }
 
-// URL() throws at some hosts, so what begins with two slashes is taken as it stands too.
+// URL() throws at some hosts, which follow two slashes.
 function resolve(menu, url) {
     url = url.replace(/^[\x00- ]+|[\x00-\x1f]/g, '');
     return !menu.zevFile || url == '' || /^([#?]|[\\\/][\\\/]|[a-z][a-z0-9+.\-]*:)/i.test(url) ? url
