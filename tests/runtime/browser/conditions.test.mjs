@@ -65,7 +65,7 @@ test('the rules for paper, put in force on the screen, show the top menu only', 
     assert.equal(await shown(page, 'Home', 'Boats'), 'Home');
 });
 
-const skip = engine == 'webkit' && 'WebKit knows no forced colours';
+const skip = engine == 'webkit' && 'WebKit on Linux forces no colours';
 
 test('with forced colours every item can still be told from its background', { skip }, () =>
     inLab({ forcedColours: true }, async (lab, page) => {
