@@ -1,7 +1,7 @@
 // Where submenus stand in pages that scroll in boxes, are zoomed, or are as narrow as a phone.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, hover, isShown, nested, pause, rect, script, source, startLab, waitGone, waitShown }
+import { boxRect, hover, isShown, nested, rect, script, source, startLab, until, waitGone, waitShown }
     from './support.mjs';
 
 let lab, page;
@@ -74,9 +74,8 @@ test('an open submenu follows its item through nested scrolling boxes', async ()
     await waitShown(page, 'Boats');
     await scrollBy('#outer', 30);
     await scrollBy('#inner', 20);
-    await pause(100);
-    const [products, boats] = [await rect(page, 'Products'), await boxRect(page, 'Boats')];
-    assertNear(boats.top, products.bottom + 1, 'top of the submenu');
+    const top = (await rect(page, 'Products')).bottom + 1;
+    await until(async () => Math.abs((await boxRect(page, 'Boats')).top - top) <= 1, `the submenu at ${top}`);
 });
 
 test('a submenu closes when its item is scrolled out of the box around it', async () => {
@@ -99,9 +98,9 @@ test('a submenu of a tall, scrolled submenu follows its item', async () => {
     await hover(page, 'Top', 'Item 3');
     await waitShown(page, 'Deep');
     await page.mouse.wheel({ deltaY: 20 });
-    await pause(300);
-    assert.ok((await rect(page, 'Item 1')).top < 0);
-    assertNear((await boxRect(page, 'Deep')).top, (await rect(page, 'Item 3')).top, 'top of the deep submenu');
+    await until(async () => (await rect(page, 'Item 1')).top < 0, 'the submenu to scroll');
+    await until(async () => Math.abs((await boxRect(page, 'Deep')).top - (await rect(page, 'Item 3')).top) <= 1,
+                'the deep submenu to follow');
 });
 
 test('a tall submenu keeps its scrolling when the page is resized or scrolls', async () => {
