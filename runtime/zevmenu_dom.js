@@ -222,7 +222,8 @@ function buildAhead(box) {
     if (!box || document.readyState != 'complete') return;
     const isRunning = ahead.length;
     ahead = linksOf(box).map(submenuOf)
-        .filter(menu => menu && !menu.zevBox && menu.zevItems.length <= mostItemsAhead)
+        .filter(menu => menu && !menu.zevBox && !ahead.includes(menu) &&
+                menu.zevItems.length <= mostItemsAhead)
         .slice(0, mostMenusAhead).concat(ahead);
     if (!isRunning) buildWhenIdle();
 }
