@@ -59,7 +59,7 @@ var properties = {
     divider: [asText, '&nbsp;'],
     htmlBefore: [asText, '&nbsp;&nbsp;'],
     htmlAfter: [asText, '&nbsp;&nbsp;'],
-    itemborder: [asCss('border'), '', '--zev-border'],
+    itemborder: [asCss('border'), '0', '--zev-border'],
     menuborder: [asCss('border'), '', 'border'],
     cellpadding: [asNumber(0, 1e4), 1, '--zev-padding', 'px'],
     target: [asText, ''],
@@ -72,7 +72,7 @@ var properties = {
     closedelay: [asNumber(0, 1e9), 500],                // milliseconds
     ffade: [asNumber(0, 5), 0],                         // seconds
     fopacity: [asNumber(1, 100), 100, 'opacity', '%'],
-    fshadow: [asCss('color'), '', '--zev-shadow']
+    fshadow: [asCss('color'), 'transparent', '--zev-shadow']
 };
 
 // Empty means "not set", but "nothing" where it is HTML.
@@ -172,7 +172,7 @@ var styleText = [
     'ul[hidden]{display:none}',
     'li{display:flex;min-width:0}',
     'a{box-sizing:border-box;flex:auto;min-width:0;overflow-wrap:break-word;cursor:pointer;',
-    'padding:var(--zev-padding);border:var(--zev-border,0);background:var(--zev-nbg);',
+    'padding:var(--zev-padding);border:var(--zev-border);background:var(--zev-nbg);',
     'color:var(--zev-nft);text-decoration:none}',
     'a:is(:hover,:focus,[aria-expanded=true]){background:var(--zev-hbg);color:var(--zev-hft)}',
     'a:focus-visible{outline:2px solid;outline-offset:-2px}',
