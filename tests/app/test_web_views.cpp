@@ -67,6 +67,8 @@ class test_web_views : public QObject {
     void thePreviewTellsWhereALinkLeadsAndStays();
     void javaScriptLinksRunInThePreview();
     void theNoteAboutALinkGoesWithTheNextPage();
+    void theMenuOfThePreviewOpensAndIsDrawn_data();
+    void theMenuOfThePreviewOpensAndIsDrawn();
     void helpOpensAWindowOfItsOwn();
     void helpUsesItsWindowAgain();
     void helpFollowsLinksOfTheManual();
@@ -238,6 +240,51 @@ void test_web_views::theNoteAboutALinkGoesWithTheNextPage() {
     QTRY_VERIFY_WITH_TIMEOUT(note->isVisible(), kPageTimeMs);
     view.load(page.toStdString());
     QVERIFY(!note->isVisible());
+}
+
+// The engine's scripts and style sheets are those of a browser some years old.
+void test_web_views::theMenuOfThePreviewOpensAndIsDrawn_data() {
+    QTest::addColumn<QString>("zoom");
+    QTest::newRow("at its own size") << "1";
+    QTest::newRow("enlarged") << "2";
+    QTest::newRow("made smaller") << "0.5";
+}
+
+void test_web_views::theMenuOfThePreviewOpensAndIsDrawn() {
+    QFETCH(QString, zoom);
+    QTemporaryDir folder;
+    for (const QString name : {"zevmenu_loader.js", "zevmenu_dom.js", "zevmenu.html"}) {
+        QVERIFY(QFile::copy(ZEV_RUNTIME_FOLDER "/" + name, folder.filePath(name)));
+    }
+    write(folder, "orlet_temp.js",
+          "zevmenu = new ZEVMenu('0'); zevmenu.columns = 2; zevmenu.nbgcolor = '#336699';"
+          "zevmenu.position = 'bottom';"
+          "zevmenu.AddItem('One', '', ''); zevmenu.AddItem('Two', '', '');"
+          "zevmenu.AddItem('Three', '', '');"
+          "zevmenu = new ZEVMenu('2'); zevmenu.AddItem('Below', '', '');");
+    QtBrowserView view;
+    view.resize(900, 700);
+    view.show();
+    QVERIFY(openPage(view, folder.filePath("zevmenu.html")));
+    TRY_IN_PAGE(view, "typeof ZEVMenu.shared.sums", "object");
+    evaluateInPage(view, "document.body.style.zoom = " + zoom +
+                             "; item = name => [...document.querySelectorAll('[data-zev]')]"
+                             ".map(host => host.shadowRoot.querySelector"
+                             "(`a[aria-label=${name}]`)).find(Boolean);"
+                             "rect = name => item(name).getBoundingClientRect(); 0");
+    TRY_IN_PAGE(view, "getComputedStyle(item('One')).backgroundColor", "rgb(51, 102, 153)");
+    TRY_IN_PAGE(view,
+                "rect('One').top == rect('Two').top && rect('One').right <= rect('Two').left &&"
+                "rect('Three').top >= rect('One').bottom && rect('Three').left == rect('One').left",
+                "true");
+    evaluateInPage(view, "item('Two').dispatchEvent(new PointerEvent('pointermove', "
+                         "{ pointerType: 'mouse', bubbles: true, composed: true })); 0");
+    TRY_IN_PAGE(view, "item('Below').getClientRects().length", "1");
+    TRY_IN_PAGE(view, "item('Two').getAttribute('aria-expanded')", "true");
+    TRY_IN_PAGE(view,
+                "Math.abs(rect('Below').left - rect('Two').left) < 2 &&"
+                "Math.abs(rect('Below').top - rect('Two').bottom - 1) < 2",
+                "true");
 }
 
 void test_web_views::helpOpensAWindowOfItsOwn() {
