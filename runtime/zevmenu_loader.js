@@ -159,15 +159,16 @@ function nameFromFile(url) {
 // ---- Elements ----
 
 var styleText = [
+    // Inline boxes do not take part in the page's underlining.
     ':host{all:initial!important;display:block!important;width:fit-content!important;',
-    'max-width:100%!important}',
+    'max-width:100%!important;line-height:0!important}',
     ':host([data-zev=layer]){position:absolute!important;left:0!important;top:0!important;',
     'width:100px!important;max-width:none!important;z-index:2147483647!important}',
-    'ul{display:flex;box-sizing:border-box;margin:0;padding:0;width:max-content;max-width:100%;',
+    'ul{display:inline-flex;vertical-align:top;line-height:normal;box-sizing:border-box;margin:0;padding:0;width:max-content;max-width:100%;',
     'gap:var(--zev-space);box-shadow:3px 3px 6px var(--zev-shadow)}',
     'ul.list,ul.list>li{flex-direction:column}',
     'ul.bar{flex-wrap:wrap}',
-    'ul.grid{display:grid}',
+    'ul.grid{display:inline-grid}',
     'ul[role=menu]{position:absolute;overscroll-behavior:contain}',
     'ul[hidden]{display:none}',
     'li{display:flex;min-width:0}',

@@ -77,6 +77,23 @@ async function showOpen(options) {
     await until(() => page.$$eval('>>> img', images => images.every(image => image.naturalWidth)), 'the images');
 }
 
+// No computed style tells of the lines that a page draws through all its text.
+test('a page that underlines and strikes its text does not do so with the menu', async () => {
+    const pictures = [];
+    for (const line of ['none', 'underline', 'line-through 3px red']) {
+        await lab.show({ definition, head: `<style>html { text-decoration: ${line} }</style>` });
+        await until(() => page.$$eval('>>> img', images => images.every(image => image.naturalWidth)), 'the images');
+        const clip = await page.$eval('>>> [role=menubar]', box => {
+            const { x, y, width, height } = box.getBoundingClientRect();
+            return { x, y, width, height };
+        });
+        const picture = await page.screenshot({ clip, captureBeyondViewport: false });
+        pictures.push(Buffer.from(picture).toString('base64'));
+    }
+    assert.ok(pictures[0].length > 1000);
+    assert.ok(pictures.every(picture => picture == pictures[0]));
+});
+
 const elements = 'html,body,div,ul,li,a,span,img,b,i';
 
 // [what the style sheet does, style sheet]
