@@ -339,8 +339,8 @@ const nonsense = [
     ['fopacity', "'101'", 'opacity', 'ul', '0.5'],
     ['menuborder', "'solid gold bars'", 'borderTopStyle', 'ul', 'double'],
     ['itemborder', "'5 solid'", 'borderTopStyle', 'a', 'dotted'],
-    ['columns', '0', 'display', 'ul', 'grid'],
-    ['columns', '2.5', 'display', 'ul', 'grid'],
+    ['columns', '0', 'display', 'ul', 'inline-grid'],
+    ['columns', '2.5', 'display', 'ul', 'inline-grid'],
 ];
 const sensible = `zev_state.nbgcolor = 'rgb(1,2,3)'; zev_state.cellpadding = 4; zev_state.fontSize = '12pt';
     zev_state.fontWeight = 'bold'; zev_state.fopacity = 50; zev_state.itemborder = '1px dotted red';
