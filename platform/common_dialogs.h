@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace zev {
@@ -14,6 +16,15 @@ struct FileDialogRequest {
     bool asksBeforeReplacing = false;  ///< save dialogs: prompt before an existing file is chosen
 };
 
+/// A font as a person chooses it.
+struct FontChoice {
+    std::string name;  ///< family; empty: the dialog starts with the system's own
+    float points = 0;  ///< size; 0: the same
+    bool isItalic = false;
+    bool isBold = false;
+    bool operator==(const FontChoice&) const = default;
+};
+
 /// The system's common dialogs. An empty result means that the person cancelled.
 class CommonDialogs {
   public:
@@ -22,6 +33,11 @@ class CommonDialogs {
     virtual std::string openFile(const FileDialogRequest& request) = 0;
     /// Full path of the file to write.
     virtual std::string saveFile(const FileDialogRequest& request) = 0;
+    /// A colour value (red in bits 0 to 7, green in 8 to 15, blue in 16 to 23), preselected with
+    /// `initial`. The part for mixing colours is open from the start.
+    virtual std::optional<std::int32_t> chooseColor(std::int32_t initial) = 0;
+    /// A font that exists on this system, preselected with `initial` as far as that does.
+    virtual std::optional<FontChoice> chooseFont(const FontChoice& initial) = 0;
 };
 
 }  // namespace zev

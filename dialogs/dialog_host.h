@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+
+#include "model/menu_document.h"
+#include "platform/common_dialogs.h"
+#include "platform/message_box.h"
+
+namespace zev {
+
+/// What the property dialogs need of the window that owns them. Nothing is owned; all outlives them.
+struct DialogHost {
+    MenuDocument& document;
+    MessageBox& messages;
+    CommonDialogs& dialogs;
+    std::function<void()> Button_Update;  ///< the window brings its commands up to date
+};
+
+}  // namespace zev
