@@ -37,6 +37,20 @@ MessageBox::Answer closingAnswer(MessageRequest::Buttons buttons) {
     return MessageBox::Answer::Cancel;
 }
 
+std::string nameOf(FakeCommonDialogs::Kind kind) {
+    switch (kind) {
+        case FakeCommonDialogs::Kind::OpenFile:
+            return "open dialog";
+        case FakeCommonDialogs::Kind::SaveFile:
+            return "save dialog";
+        case FakeCommonDialogs::Kind::Color:
+            return "colour dialog";
+        case FakeCommonDialogs::Kind::Font:
+            break;
+    }
+    return "font dialog";
+}
+
 }  // namespace
 
 void abortOnFailure(const std::string& problem) {
@@ -93,40 +107,61 @@ FakeCommonDialogs::~FakeCommonDialogs() {
 }
 
 void FakeCommonDialogs::expectOpenFile(const std::string& path) {
-    m_expected.push_back({Kind::OpenFile, path});
+    m_expected.push_back({Kind::OpenFile, path, {}, {}});
 }
 
 void FakeCommonDialogs::expectSaveFile(const std::string& path) {
-    m_expected.push_back({Kind::SaveFile, path});
+    m_expected.push_back({Kind::SaveFile, path, {}, {}});
+}
+
+void FakeCommonDialogs::expectChooseColor(std::optional<std::int32_t> color) {
+    m_expected.push_back({Kind::Color, {}, color, {}});
+}
+
+void FakeCommonDialogs::expectChooseFont(std::optional<FontChoice> font) {
+    m_expected.push_back({Kind::Font, {}, {}, std::move(font)});
 }
 
 void FakeCommonDialogs::verify() {
     for (const Expectation& expected : m_expected)
-        m_onFailure("file dialog never shown, its answer was to be: '" + expected.path + "'");
+        m_onFailure(nameOf(expected.kind) + " never shown" +
+                    (expected.path.empty() ? "" : ", its answer was to be: " + expected.path));
     m_expected.clear();
 }
 
 std::string FakeCommonDialogs::openFile(const FileDialogRequest& request) {
-    return answer(Kind::OpenFile, request);
+    m_recorded.push_back({Kind::OpenFile, request});
+    return answer(Kind::OpenFile, request.title).path;
 }
 
 std::string FakeCommonDialogs::saveFile(const FileDialogRequest& request) {
-    return answer(Kind::SaveFile, request);
+    m_recorded.push_back({Kind::SaveFile, request});
+    return answer(Kind::SaveFile, request.title).path;
 }
 
-std::string FakeCommonDialogs::answer(Kind kind, const FileDialogRequest& request) {
-    m_recorded.push_back({kind, request});
+std::optional<std::int32_t> FakeCommonDialogs::chooseColor(std::int32_t initial) {
+    m_colors.push_back(initial);
+    return answer(Kind::Color, {}).color;
+}
+
+std::optional<FontChoice> FakeCommonDialogs::chooseFont(const FontChoice& initial) {
+    m_fonts.push_back(initial);
+    return answer(Kind::Font, {}).font;
+}
+
+FakeCommonDialogs::Expectation FakeCommonDialogs::answer(Kind kind, const std::string& title) {
     if (m_expected.empty()) {
-        m_onFailure("unexpected file dialog: " + request.title);
-        return {};
+        m_onFailure("unexpected " + nameOf(kind) + ": " + title);
+        return {kind, {}, {}, {}};
     }
-    const Expectation expected = std::move(m_expected.front());
+    Expectation expected = std::move(m_expected.front());
     m_expected.pop_front();
     if (expected.kind != kind) {
-        m_onFailure("file dialog of the wrong kind: " + request.title);
-        return {};
+        m_onFailure("expected the " + nameOf(expected.kind) + "\nbut was shown the " +
+                    nameOf(kind) + ": " + title);
+        return {kind, {}, {}, {}};
     }
-    return expected.path;
+    return expected;
 }
 
 FakeShell::FakeShell(FailureHandler onFailure) : m_onFailure(std::move(onFailure)) {}

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,7 +57,7 @@ class FakeMessageBox : public MessageBox {
 
 class FakeCommonDialogs : public CommonDialogs {
   public:
-    enum class Kind { OpenFile, SaveFile };
+    enum class Kind { OpenFile, SaveFile, Color, Font };
     struct Recorded {
         Kind kind;
         FileDialogRequest request;
@@ -68,25 +70,41 @@ class FakeCommonDialogs : public CommonDialogs {
     void expectOpenFile(const std::string& path);
     /// The next dialog must be a save dialog; it returns `path` (empty: cancelled).
     void expectSaveFile(const std::string& path);
+    /// The next dialog must be a colour dialog; it returns `color` (nothing: cancelled).
+    void expectChooseColor(std::optional<std::int32_t> color);
+    /// The next dialog must be a font dialog; it returns `font` (nothing: cancelled).
+    void expectChooseFont(std::optional<FontChoice> font);
     /// Reports answers that nobody asked for, and forgets them.
     void verify();
+    /// What the file dialogs were asked.
     const std::vector<Recorded>& recorded() const { return m_recorded; }
+    /// What the colour dialogs were preselected with.
+    const std::vector<std::int32_t>& recordedColors() const { return m_colors; }
+    /// What the font dialogs were preselected with.
+    const std::vector<FontChoice>& recordedFonts() const { return m_fonts; }
 
     /// An unexpected dialog is cancelled.
     std::string openFile(const FileDialogRequest& request) override;
     std::string saveFile(const FileDialogRequest& request) override;
+    std::optional<std::int32_t> chooseColor(std::int32_t initial) override;
+    std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
 
   private:
     struct Expectation {
         Kind kind;
         std::string path;
+        std::optional<std::int32_t> color;
+        std::optional<FontChoice> font;
     };
 
-    std::string answer(Kind kind, const FileDialogRequest& request);
+    /// The next answer; an empty one, and a failure, when it is not for a dialog of this kind.
+    Expectation answer(Kind kind, const std::string& title);
 
     FailureHandler m_onFailure;
     std::deque<Expectation> m_expected;
     std::vector<Recorded> m_recorded;
+    std::vector<std::int32_t> m_colors;
+    std::vector<FontChoice> m_fonts;
 };
 
 class FakeShell : public Shell {

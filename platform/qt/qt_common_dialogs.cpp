@@ -1,8 +1,11 @@
 #include "platform/qt/qt_common_dialogs.h"
 
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFont>
+#include <QFontDialog>
 #include <QMessageBox>
 #include <QRegularExpression>
 
@@ -44,6 +47,11 @@ bool MayReplace(QWidget* parent, const QString& path) {
     question.setDefaultButton(QMessageBox::No);
     question.setEscapeButton(QMessageBox::No);
     return question.exec() == QMessageBox::Yes;
+}
+
+/// Red is in the lowest byte.
+QColor ColorOfValue(std::int32_t value) {
+    return {value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF};
 }
 
 }  // namespace
@@ -95,6 +103,30 @@ std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
         }
     }
     return {};
+}
+
+std::optional<std::int32_t> QtCommonDialogs::chooseColor(std::int32_t initial) {
+    QColorDialog dialog(ColorOfValue(initial), ParentWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const QColor color = dialog.selectedColor();
+    return color.blue() << 16 | color.green() << 8 | color.red();
+}
+
+std::optional<FontChoice> QtCommonDialogs::chooseFont(const FontChoice& initial) {
+    QFont font;
+    if (!initial.name.empty())
+        font.setFamily(QString::fromStdString(initial.name));
+    if (initial.points > 0)
+        font.setPointSizeF(initial.points);
+    font.setItalic(initial.isItalic);
+    font.setBold(initial.isBold);
+    QFontDialog dialog(font, ParentWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const QFont chosen = dialog.selectedFont();
+    return FontChoice{chosen.family().toStdString(), static_cast<float>(chosen.pointSizeF()),
+                      chosen.italic(), chosen.bold()};
 }
 
 }  // namespace zev

@@ -15,12 +15,14 @@ QStringList NameFilters(const std::string& filter);
 /// empty when the filter stands for all files or several kinds.
 QString DefaultSuffix(const QString& nameFilter);
 
-/// The desktop's file dialogs. A dialog that is told no folder starts where the last file was
-/// chosen.
+/// The desktop's dialogs. A file dialog that is told no folder starts where the last file was
+/// chosen; the others remember nothing.
 class QtCommonDialogs : public CommonDialogs {
   public:
     std::string openFile(const FileDialogRequest& request) override;
     std::string saveFile(const FileDialogRequest& request) override;
+    std::optional<std::int32_t> chooseColor(std::int32_t initial) override;
+    std::optional<FontChoice> chooseFont(const FontChoice& initial) override;
 
   private:
     QString m_lastFolder;

@@ -100,6 +100,39 @@ TEST_F(FakeServicesTest, DialogsFailWhenUnexpectedOfTheWrongKindOrUnused) {
     EXPECT_EQ(problems.size(), 3U);
 }
 
+TEST_F(FakeServicesTest, ColorAndFontDialogsAnswerInOrderAndRecord) {
+    const FontChoice serif{"Serif", 10.5F, true, false};
+    FakeCommonDialogs dialogs(collect());
+    dialogs.expectChooseColor(0x0080FF);
+    dialogs.expectChooseFont(serif);
+    dialogs.expectChooseColor(std::nullopt);
+    dialogs.expectChooseFont(std::nullopt);
+    EXPECT_EQ(dialogs.chooseColor(1), 0x0080FF);
+    EXPECT_EQ(dialogs.chooseFont({"Sans", 8, false, true}), serif);
+    EXPECT_EQ(dialogs.chooseColor(2), std::nullopt);
+    EXPECT_EQ(dialogs.chooseFont({}), std::nullopt);
+    EXPECT_EQ(dialogs.recordedColors(), (std::vector<std::int32_t>{1, 2}));
+    EXPECT_EQ(dialogs.recordedFonts(),
+              (std::vector<FontChoice>{{"Sans", 8, false, true}, FontChoice{}}));
+    EXPECT_TRUE(dialogs.recorded().empty());
+    EXPECT_TRUE(problems.empty());
+}
+
+TEST_F(FakeServicesTest, ColorAndFontDialogsFailWhenUnexpectedOfTheWrongKindOrUnused) {
+    {
+        FakeCommonDialogs dialogs(collect());
+        EXPECT_EQ(dialogs.chooseColor(0), std::nullopt);
+        EXPECT_EQ(dialogs.chooseFont({}), std::nullopt);
+        dialogs.expectChooseColor(1);
+        EXPECT_EQ(dialogs.chooseFont({}), std::nullopt);
+        dialogs.expectChooseFont(FontChoice{});
+        EXPECT_EQ(dialogs.openFile({}), "");
+        dialogs.expectChooseColor(1);
+        dialogs.expectChooseFont(FontChoice{});
+    }
+    EXPECT_EQ(problems.size(), 6U);
+}
+
 TEST_F(FakeServicesTest, ShellAnswersAndRecords) {
     FakeShell shell(collect());
     shell.expectFindExecutable("browser");
