@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 
 #include "app/icons.h"
-#include "app/single_line.h"
+#include "dialogs/single_line.h"
 #include "model/text_rules.h"
 #include "script/relative_url.h"
 

@@ -6,7 +6,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
-#include "app/single_line.h"
+#include "dialogs/single_line.h"
 
 namespace zev {
 

@@ -1,20 +1,26 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace zev {
 
-// Rules between the text of a field and what it stands for. Text is UTF-8. Numbers are written as in
-// C source, whatever the system's language: an optional sign, digits, an optional point and digits,
-// an optional exponent, and nothing around them.
+// Rules between the text of a field and what it stands for. Text is UTF-8. Numbers are written as
+// in C source, whatever the system's language: an optional sign, digits, an optional point with
+// digits after it or not yet, an optional exponent ("-2", "0.25", "3.", "1e2"), and nothing around
+// them.
 
 /// The colour value of a colour text: red in bits 0 to 7, green in 8 to 15, blue in 16 to 23. The
-/// first character is skipped whatever it is; a short text is filled up with zeros on the right; what
-/// follows the seventh character is ignored. 0 (black) when a character is no hexadecimal digit, as
-/// in "transparent".
+/// first character is skipped whatever it is; a short text is filled up with zeros on the right;
+/// what follows the seventh character is ignored. 0 (black) when a character is no hexadecimal
+/// digit, as in "transparent".
 std::int32_t HexToColor(std::string_view text);
+
+/// The same, with nothing instead of black where the text names no colour: where a character is no
+/// hexadecimal digit, or no digit follows the first character.
+std::optional<std::int32_t> ColorOf(std::string_view text);
 
 /// "#RRGGBB", in the digits' own case, from a colour value written in hexadecimal digits (blue,
 /// green, red; leading zeros may be missing).

@@ -1,4 +1,4 @@
-#include "app/single_line.h"
+#include "dialogs/single_line.h"
 
 #include <QValidator>
 
