@@ -81,7 +81,7 @@ QGroupBox* frmAdvProp::makeFilterFrame() {
     m_fade = MakeField("Fade", tr("&Fade Duration (0 - 5):"),
                        tr("Menu fade effect. 0: Fast. 5: Slow. decimal values allowed, e.g. 0.2"),
                        frame);
-    m_opacity = MakeField("Opacity", tr("Opacit&y (1 - 100):"),
+    m_opacity = MakeField("Opacity", tr("&Opacity (1 - 100):"),
                           tr("Menu opacity. 1: Transparent. 100: Opaque"), frame);
     m_shadow = ColorField::make("Shadow", tr("&Shadow Color:"), tr("S&elect Color"),
                                 tr("Shadow Color"), tr("Menu shadow color"), frame);
@@ -103,14 +103,14 @@ QGroupBox* frmAdvProp::makeFilterFrame() {
 
 QLayout* frmAdvProp::makeButtonRow() {
     auto* row = new QHBoxLayout;
-    row->addWidget(makeButton("cmdCopy", tr("&Copy Menu Properties"), &frmAdvProp::cmdCopy_Click));
+    row->addWidget(makeButton("cmdCopy", tr("Cop&y Menu Properties"), &frmAdvProp::cmdCopy_Click));
     row->addWidget(
         makeButton("cmdPaste", tr("&Paste Menu Properties"), &frmAdvProp::cmdPaste_Click));
     row->addStretch();
-    QPushButton* cmdOK = makeButton("cmdOK", tr("&OK"), &frmAdvProp::cmdOK_Click);
+    QPushButton* cmdOK = makeButton("cmdOK", tr("O&K"), &frmAdvProp::cmdOK_Click);
     cmdOK->setDefault(true);
     row->addWidget(cmdOK);
-    row->addWidget(makeButton("cmdCancel", tr("Ca&ncel"), &frmAdvProp::cmdCancel_Click));
+    row->addWidget(makeButton("cmdCancel", tr("&Cancel"), &frmAdvProp::cmdCancel_Click));
     return row;
 }
 
