@@ -1,16 +1,23 @@
-// The real message boxes and file dialogs of Qt, answered with real keys.
+// The real message boxes and common dialogs of Qt, answered with real keys.
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFontDatabase>
+#include <QFontDialog>
+#include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QScreen>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_message_box.h"
@@ -52,6 +59,25 @@ FileDialogRequest saveRequest(const QString& folder, int filterIndex = 2) {
     return request;
 }
 
+/// A family that the font dialog can show in its plain, italic and bold styles.
+std::string existingFamily() {
+    for (const QString& family : QFontDatabase::families()) {
+        bool hasItalic = false;
+        bool hasBold = false;
+        bool hasBoldItalic = false;
+        for (const QString& style : QFontDatabase::styles(family)) {
+            const bool isItalic = QFontDatabase::italic(family, style);
+            const bool isBold = QFontDatabase::bold(family, style);
+            hasItalic = hasItalic || (isItalic && !isBold);
+            hasBold = hasBold || (isBold && !isItalic);
+            hasBoldItalic = hasBoldItalic || (isItalic && isBold);
+        }
+        if (hasItalic && hasBold && hasBoldItalic)
+            return family.toStdString();
+    }
+    qFatal("no font family with all styles is installed");
+}
+
 }  // namespace
 
 class test_qt_services : public QObject {
@@ -83,6 +109,16 @@ class test_qt_services : public QObject {
     void saveReplacesWhenToldSo();
     void saveReplacesUnaskedWhenNotRequested();
     void saveCancelledGivesNothing();
+    void theColorDialogStartsWithTheColorAndRoomToMixOthers();
+    void aColorIsChosenByItsNumbers();
+    void colorCancelledGivesNothing();
+    void theFontDialogStartsWithTheFont_data();
+    void theFontDialogStartsWithTheFont();
+    void theFontDialogStartsWithTheSystemsFontWhenToldNone();
+    void aFontThatIsMissingStartsWithOneThatExists();
+    void aFontIsChosenWithItsStyle();
+    void fontCancelledGivesNothing();
+    void colorAndFontDialogsBelongToTheActiveWindow();
 };
 
 void test_qt_services::initTestCase() {
@@ -367,6 +403,132 @@ void test_qt_services::saveCancelledGivesNothing() {
     QTemporaryDir folder;
     whenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     QCOMPARE(QtCommonDialogs().saveFile(saveRequest(folder.path())), std::string());
+}
+
+void test_qt_services::theColorDialogStartsWithTheColorAndRoomToMixOthers() {
+    whenShown<QColorDialog>([](QColorDialog& dialog) {
+        QCOMPARE(dialog.currentColor(), QColor(0xFF, 0x80, 0x00));
+        QVERIFY(!dialog.testOption(QColorDialog::ShowAlphaChannel));
+        const auto numbers = dialog.findChildren<QSpinBox*>();
+        QVERIFY(std::count_if(numbers.begin(), numbers.end(), [](const QSpinBox* number) {
+                    return number->isVisible() && number->isEnabled();
+                }) >= 3);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QCOMPARE(QtCommonDialogs().chooseColor(0x0080FF), std::optional<std::int32_t>(0x0080FF));
+}
+
+void test_qt_services::aColorIsChosenByItsNumbers() {
+    whenShown<QColorDialog>([](QColorDialog& dialog) {
+        auto* text = dialog.findChild<QLineEdit*>("qt_colorname_lineedit");
+        QVERIFY(text != nullptr);
+        text->selectAll();
+        QTest::keyClicks(text, "#abcdef");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QCOMPARE(QtCommonDialogs().chooseColor(0), std::optional<std::int32_t>(0xEFCDAB));
+}
+
+void test_qt_services::colorCancelledGivesNothing() {
+    whenShown<QColorDialog>([](QColorDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QCOMPARE(QtCommonDialogs().chooseColor(0x0080FF), std::optional<std::int32_t>());
+}
+
+void test_qt_services::theFontDialogStartsWithTheFont_data() {
+    QTest::addColumn<bool>("isItalic");
+    QTest::addColumn<bool>("isBold");
+    QTest::newRow("plain") << false << false;
+    QTest::newRow("italic") << true << false;
+    QTest::newRow("bold") << false << true;
+    QTest::newRow("bold italic") << true << true;
+}
+
+void test_qt_services::theFontDialogStartsWithTheFont() {
+    QFETCH(bool, isItalic);
+    QFETCH(bool, isBold);
+    const FontChoice initial{existingFamily(), 14, isItalic, isBold};
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        QCOMPARE(dialog.currentFont().family().toStdString(), initial.name);
+        QCOMPARE(dialog.currentFont().pointSize(), 14);
+        QCOMPARE(dialog.currentFont().italic(), isItalic);
+        QCOMPARE(dialog.currentFont().bold(), isBold);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QVERIFY(QtCommonDialogs().chooseFont(initial) == initial);
+}
+
+void test_qt_services::theFontDialogStartsWithTheSystemsFontWhenToldNone() {
+    const QFontInfo system{QFont()};
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        QCOMPARE(dialog.currentFont().pointSize(), system.pointSize());
+        QVERIFY(QFontDatabase::families().contains(dialog.currentFont().family()));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont({});
+    QVERIFY(chosen.has_value());
+    QVERIFY(!chosen->isItalic);
+    QVERIFY(!chosen->isBold);
+}
+
+void test_qt_services::aFontThatIsMissingStartsWithOneThatExists() {
+    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    const std::optional<FontChoice> chosen =
+        QtCommonDialogs().chooseFont({"No Such Family", 9, false, false});
+    QVERIFY(chosen.has_value());
+    QVERIFY2(QFontDatabase::families().contains(QString::fromStdString(chosen->name)),
+             chosen->name.c_str());
+    QCOMPARE(chosen->points, 9.0F);
+}
+
+void test_qt_services::aFontIsChosenWithItsStyle() {
+    FontChoice expected;
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        const auto lists = dialog.findChildren<QListView*>();
+        const auto edits = dialog.findChildren<QLineEdit*>();
+        QVERIFY(lists.size() == 3 && !edits.isEmpty());
+        // Family, style and size, each by the keyboard.
+        for (QListView* list : lists.first(2)) {
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_End);
+        }
+        lists[2]->setFocus();
+        QTest::keyClick(lists[2], Qt::Key_Home);
+        const QFont shown = dialog.currentFont();
+        expected = {shown.family().toStdString(), static_cast<float>(shown.pointSizeF()),
+                    shown.italic(), shown.bold()};
+        QCOMPARE(expected.name, lists[0]->currentIndex().data().toString().toStdString());
+        QCOMPARE(shown.pointSize(), lists[2]->currentIndex().data().toString().toInt());
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    const FontChoice initial{existingFamily(), 20, false, false};
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont(initial);
+    QVERIFY(chosen.has_value());
+    QVERIFY(*chosen == expected);
+    QVERIFY(*chosen != initial);
+}
+
+void test_qt_services::fontCancelledGivesNothing() {
+    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QVERIFY(!QtCommonDialogs().chooseFont({}).has_value());
+}
+
+void test_qt_services::colorAndFontDialogsBelongToTheActiveWindow() {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    whenShown<QColorDialog>([&](QColorDialog& dialog) {
+        QCOMPARE(dialog.parentWidget(), &window);
+        dialog.reject();
+    });
+    QtCommonDialogs().chooseColor(0);
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        QCOMPARE(dialog.parentWidget(), &window);
+        dialog.reject();
+    });
+    QtCommonDialogs().chooseFont({});
 }
 
 QTEST_MAIN(test_qt_services)
