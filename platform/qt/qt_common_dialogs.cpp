@@ -5,9 +5,14 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFont>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <cstdlib>
+#include <limits>
+#include <utility>
 
 #include "platform/qt/parent_window.h"
 
@@ -52,6 +57,43 @@ bool MayReplace(QWidget* parent, const QString& path) {
 /// Red is in the lowest byte.
 QColor ColorOfValue(std::int32_t value) {
     return {value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF};
+}
+
+/// The name that a family has for a style, such as "Book" or "Bold Oblique"; empty when it has no
+/// such style. Of several, the one of the usual weight and width.
+QString StyleName(const QString& family, const FontChoice& choice) {
+    const int usualWeight = choice.isBold ? QFont::Bold : QFont::Normal;
+    std::pair<int, qsizetype> nearest(std::numeric_limits<int>::max(), 0);
+    QString name;
+    for (const QString& style : QFontDatabase::styles(family)) {
+        // The database itself does not count oblique styles as italic ones.
+        const QFont font = QFontDatabase::font(family, style, QFont().pointSize());
+        // Names of other widths ("Condensed Bold") are longer.
+        const std::pair distance(std::abs(font.weight() - usualWeight), style.size());
+        if (font.italic() == choice.isItalic && font.bold() == choice.isBold &&
+            distance < nearest) {
+            nearest = distance;
+            name = style;
+        }
+    }
+    return name;
+}
+
+/// The installed font that is nearest to a choice.
+QFont ExistingFont(const FontChoice& choice) {
+    QFont font;
+    if (!choice.name.empty())
+        font = QFont(QString::fromStdString(choice.name));
+    if (choice.points > 0)
+        font.setPointSizeF(choice.points);
+    font.setItalic(choice.isItalic);
+    font.setBold(choice.isBold);
+    if (!QFontDatabase::families().contains(font.family(), Qt::CaseInsensitive))
+        font.setFamily(QFontInfo(font).family());
+    // Qt's dialog looks for the style by its name, and without one takes the family's first style,
+    // which may be an italic one.
+    font.setStyleName(StyleName(font.family(), choice));
+    return font;
 }
 
 }  // namespace
@@ -114,14 +156,7 @@ std::optional<std::int32_t> QtCommonDialogs::chooseColor(std::int32_t initial) {
 }
 
 std::optional<FontChoice> QtCommonDialogs::chooseFont(const FontChoice& initial) {
-    QFont font;
-    if (!initial.name.empty())
-        font.setFamily(QString::fromStdString(initial.name));
-    if (initial.points > 0)
-        font.setPointSizeF(initial.points);
-    font.setItalic(initial.isItalic);
-    font.setBold(initial.isBold);
-    QFontDialog dialog(font, ParentWindow());
+    QFontDialog dialog(ExistingFont(initial), ParentWindow());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const QFont chosen = dialog.selectedFont();

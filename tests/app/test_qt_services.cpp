@@ -59,20 +59,19 @@ FileDialogRequest saveRequest(const QString& folder, int filterIndex = 2) {
     return request;
 }
 
-/// A family that the font dialog can show in its plain, italic and bold styles.
+bool hasStyle(const QString& family, bool isItalic, bool isBold) {
+    const QStringList styles = QFontDatabase::styles(family);
+    return std::any_of(styles.begin(), styles.end(), [&](const QString& style) {
+        const QFont font = QFontDatabase::font(family, style, 10);
+        return font.italic() == isItalic && font.bold() == isBold;
+    });
+}
+
+/// A family with a plain, an italic, a bold and a bold italic style.
 std::string existingFamily() {
     for (const QString& family : QFontDatabase::families()) {
-        bool hasItalic = false;
-        bool hasBold = false;
-        bool hasBoldItalic = false;
-        for (const QString& style : QFontDatabase::styles(family)) {
-            const bool isItalic = QFontDatabase::italic(family, style);
-            const bool isBold = QFontDatabase::bold(family, style);
-            hasItalic = hasItalic || (isItalic && !isBold);
-            hasBold = hasBold || (isBold && !isItalic);
-            hasBoldItalic = hasBoldItalic || (isItalic && isBold);
-        }
-        if (hasItalic && hasBold && hasBoldItalic)
+        if (hasStyle(family, false, false) && hasStyle(family, true, false) &&
+            hasStyle(family, false, true) && hasStyle(family, true, true))
             return family.toStdString();
     }
     qFatal("no font family with all styles is installed");
@@ -115,6 +114,8 @@ class test_qt_services : public QObject {
     void theFontDialogStartsWithTheFont_data();
     void theFontDialogStartsWithTheFont();
     void theFontDialogStartsWithTheSystemsFontWhenToldNone();
+    void aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay_data();
+    void aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay();
     void aFontThatIsMissingStartsWithOneThatExists();
     void aFontIsChosenWithItsStyle();
     void fontCancelledGivesNothing();
@@ -420,10 +421,13 @@ void test_qt_services::theColorDialogStartsWithTheColorAndRoomToMixOthers() {
 
 void test_qt_services::aColorIsChosenByItsNumbers() {
     whenShown<QColorDialog>([](QColorDialog& dialog) {
-        auto* text = dialog.findChild<QLineEdit*>("qt_colorname_lineedit");
-        QVERIFY(text != nullptr);
-        text->selectAll();
-        QTest::keyClicks(text, "#abcdef");
+        const auto texts = dialog.findChildren<QLineEdit*>();
+        const auto text = std::find_if(texts.begin(), texts.end(), [](const QLineEdit* each) {
+            return each->text().startsWith('#');
+        });
+        QVERIFY(text != texts.end());
+        (*text)->selectAll();
+        QTest::keyClicks(*text, "#abcdef");
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     QCOMPARE(QtCommonDialogs().chooseColor(0), std::optional<std::int32_t>(0xEFCDAB));
@@ -468,6 +472,23 @@ void test_qt_services::theFontDialogStartsWithTheSystemsFontWhenToldNone() {
     QVERIFY(chosen.has_value());
     QVERIFY(!chosen->isItalic);
     QVERIFY(!chosen->isBold);
+}
+
+void test_qt_services::aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay_data() {
+    QTest::addColumn<QString>("family");
+    for (const QString& family : QFontDatabase::families()) {
+        if (hasStyle(family, false, false))
+            QTest::newRow(qPrintable(family)) << family;
+    }
+}
+
+void test_qt_services::aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay() {
+    QFETCH(QString, family);
+    const FontChoice initial{family.toStdString(), 12, false, false};
+    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont(initial);
+    QVERIFY(chosen.has_value());
+    QVERIFY(*chosen == initial);
 }
 
 void test_qt_services::aFontThatIsMissingStartsWithOneThatExists() {
