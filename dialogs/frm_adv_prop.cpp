@@ -18,7 +18,7 @@ namespace zev {
 namespace {
 
 /// Characters of a piece of HTML or a border that are seen at once.
-constexpr int kTextWidth = 48;
+constexpr int kTextWidth = 52;
 
 std::string TextRule(const std::string& text) {
     return EscapeApostrophes(text);
@@ -40,6 +40,13 @@ frmAdvProp::frmAdvProp(const DialogHost& host, QWidget* parent) : QDialog(parent
     layout->addWidget(makeFilterFrame());
     layout->addStretch();
     layout->addLayout(makeButtonRow());
+    // The boxes of both frames begin at one edge.
+    const auto labels = findChildren<QLabel*>();
+    int widthPx = 0;
+    for (const QLabel* label : labels)
+        widthPx = std::max(widthPx, label->sizeHint().width());
+    for (QLabel* label : labels)
+        label->setMinimumWidth(widthPx);
     connectChecks();
 }
 
