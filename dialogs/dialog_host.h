@@ -8,7 +8,8 @@
 
 namespace zev {
 
-/// What the property dialogs need of the window that owns them. Nothing is owned; all outlives them.
+/// What the property dialogs need of the window that owns them. Nothing is owned; all outlives
+/// them.
 struct DialogHost {
     MenuDocument& document;
     MessageBox& messages;

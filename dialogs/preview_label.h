@@ -7,8 +7,9 @@
 
 namespace zev {
 
-/// Shows how an item of the menu will look. It is also where a dialog keeps the font that was chosen:
-/// name and size come back exactly as they were set, whatever the system makes of them on the screen.
+/// Shows how an item of the menu will look. It is also where a dialog keeps the font that was
+/// chosen: name and size come back exactly as they were set, whatever the system makes of them on
+/// the screen. Its size does not depend on them: a large font is cut off.
 class PreviewLabel : public QLabel {
     Q_OBJECT
   public:

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "dialogs/property_dialog.h"
+
+namespace zev {
+
+/// The dialog "Default Menu Properties": the values that every menu uses unless it sets its own.
+class frmDefaultProp : public PropertyDialog {
+    Q_OBJECT
+  public:
+    /// What `host` refers to is not owned and outlives the dialog.
+    explicit frmDefaultProp(const DialogHost& host, QWidget* parent = nullptr);
+
+    /// Fills the dialog from `DefaultProp`.
+    void LoadDefaultDialog();
+
+  private:
+    QGroupBox* makeMenuFrame();
+    void txtCloseDelay_Change();
+    void txtColumns_Change();
+    void txtMenuOffset_Change();
+    void txtSpacing_Change();
+    void cmdFont_Click() override;
+    void cmdOK_Click() override;
+
+    PropertyField m_closeDelay;
+    PropertyField m_menuOffset;
+};
+
+}  // namespace zev
