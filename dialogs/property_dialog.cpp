@@ -22,6 +22,9 @@ namespace {
 constexpr const char* kImageFilter = "All Files (*.*)|*.*|GIF (*.gif)|*.gif|JPG (*.jpg)|*.jpg";
 constexpr int kGifFilter = 2;
 
+/// Characters of a background image's URL that are seen at once.
+constexpr int kUrlWidth = 32;
+
 /// Size of a preview whose property set has no usable one.
 constexpr float kUsualPoints = 10;
 /// Sizes in points are 16-bit numbers wherever they are written.
@@ -72,7 +75,7 @@ void PropertyDialog::addPosition(QGroupBox* frame, const QString& caption, const
     label->setBuddy(cboPosition);
     const int row = GridOf(frame)->rowCount();
     GridOf(frame)->addWidget(label, row, kLabelColumn);
-    GridOf(frame)->addWidget(cboPosition, row, kBoxColumn, 1, kColumns - kBoxColumn);
+    GridOf(frame)->addWidget(cboPosition, row, kBoxColumn, 1, kButtonColumn - kBoxColumn);
 }
 
 PropertyField PropertyDialog::addField(QGroupBox* frame, const QString& name,
@@ -108,6 +111,7 @@ ColorField PropertyDialog::addColor(QGroupBox* frame, const QString& name, const
 QGroupBox* PropertyDialog::makeBackgroundFrame() {
     QGroupBox* frame = makeFrame("FrameBackground", tr("Background Settings"));
     m_bgImg = addField(frame, "BgImg", tr("&Image:"), tr("Menu background image"));
+    m_bgImg.edit->setMinimumWidth(kUrlWidth * fontMetrics().averageCharWidth());
     QPushButton* cmdBrowseBgImg =
         makeButton("cmdBrowseBgImg", tr("&Browse"), frame, [this] { cmdBrowseBgImg_Click(); });
     cmdBrowseBgImg->setAccessibleName(tr("Browse for background image"));
