@@ -104,6 +104,34 @@ class Form {
         return found;
     }
 
+    /// The labels that name a control, without access keys.
+    QStringList labelsOf(const QWidget& control) {
+        QStringList labels;
+        for (const QLabel* label : m_dialog.findChildren<QLabel*>()) {
+            if (label->buddy() == &control)
+                labels.append(label->text().remove('&'));
+        }
+        return labels;
+    }
+
+    QStringList entries(const QString& name) {
+        QStringList texts;
+        for (int index = 0; index < list(name).count(); ++index)
+            texts.append(list(name).itemText(index));
+        return texts;
+    }
+
+    /// Colour values of the previews: "lblFont back", "lblFont fore", and so on.
+    using Colors = QMap<QString, std::int32_t>;
+    Colors previewColors() {
+        Colors colors;
+        for (const QString name : {"lblFont", "lblPreviewNormal"}) {
+            colors[name + " back"] = preview(name).backColor();
+            colors[name + " fore"] = preview(name).foreColor();
+        }
+        return colors;
+    }
+
     /// Names of the controls in the order of the Tab key, from the one that has the focus now.
     QStringList tabOrder() {
         QStringList order;

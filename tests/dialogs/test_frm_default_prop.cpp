@@ -122,12 +122,7 @@ class test_frm_default_prop : public QObject {
         QCOMPARE(control.parentWidget()->objectName(), frame);
         QCOMPARE(control.accessibleName(), spoken);
         QCOMPARE(control.toolTip(), tooltip);
-        QStringList labels;
-        for (const QLabel* candidate : desk.dialog.findChildren<QLabel*>()) {
-            if (candidate->buddy() == &control)
-                labels.append(QString(candidate->text()).remove('&'));
-        }
-        QCOMPARE(labels, QStringList{label});
+        QCOMPARE(desk.form.labelsOf(control), QStringList{label});
     }
 
     void theButtonsAndFramesHaveTheirCaptions_data() {
@@ -171,12 +166,9 @@ class test_frm_default_prop : public QObject {
 
     void thePositionsAreFiveWithAnEmptyOneFirst() {
         Desk desk;
-        const QComboBox& list = desk.form.list("cboPosition");
-        QStringList entries;
-        for (int index = 0; index < list.count(); ++index)
-            entries.append(list.itemText(index));
-        QCOMPARE(entries, (QStringList{"", "Right", "Bottom", "Left", "Top"}));
-        QVERIFY(!list.isEditable());
+        QCOMPARE(desk.form.entries("cboPosition"),
+                 (QStringList{"", "Right", "Bottom", "Left", "Top"}));
+        QVERIFY(!desk.form.list("cboPosition").isEditable());
     }
 
     void fillingShowsWhatIsStored() {
@@ -502,13 +494,13 @@ class test_frm_default_prop : public QObject {
         QFETCH(QString, name);
         QFETCH(QString, changed);
         Desk desk([](MenuProp& prop) { prop = FilledProp(); });
-        const QMap<QString, std::int32_t> before = previewColors(desk.form);
+        const Form::Colors before = desk.form.previewColors();
         desk.form.type(name, "#010203");
-        QCOMPARE(previewColors(desk.form), before);
+        QCOMPARE(desk.form.previewColors(), before);
         desk.form.press(Qt::Key_Tab);
-        QMap<QString, std::int32_t> expected = before;
+        Form::Colors expected = before;
         expected[changed] = 0x030201;
-        QCOMPARE(previewColors(desk.form), expected);
+        QCOMPARE(desk.form.previewColors(), expected);
         QCOMPARE(desk.form.field(name).text(), "#010203");
     }
 
@@ -586,14 +578,14 @@ class test_frm_default_prop : public QObject {
         QFETCH(QString, name);
         QFETCH(QString, changed);
         Desk desk([](MenuProp& prop) { prop = FilledProp(); });
-        QMap<QString, std::int32_t> colors = previewColors(desk.form);
+        Form::Colors colors = desk.form.previewColors();
         desk.form.type("txt" + name, "#FF8000");
         desk.dialogs.expectChooseColor(0x0a0bfc);
         desk.form.click("cmd" + name);
         QCOMPARE(desk.dialogs.recordedColors(), std::vector<std::int32_t>{0x0080FF});
         QCOMPARE(desk.form.field("txt" + name).text(), "#FC0B0A");
         colors[changed] = 0x0a0bfc;
-        QCOMPARE(previewColors(desk.form), colors);
+        QCOMPARE(desk.form.previewColors(), colors);
     }
 
     void aCancelledColourDialogLeavesTheText() {
@@ -887,16 +879,6 @@ class test_frm_default_prop : public QObject {
         const PreviewLabel& preview = desk.form.preview("lblFont");
         QCOMPARE(preview.font().families(), (QStringList{"No Such Font", "DejaVu Serif"}));
         QCOMPARE(preview.fontChoice().name, "No Such Font, \\'DejaVu Serif\\'");
-    }
-
-  private:
-    static QMap<QString, std::int32_t> previewColors(Form& form) {
-        QMap<QString, std::int32_t> colors;
-        for (const QString name : {"lblFont", "lblPreviewNormal"}) {
-            colors[name + " back"] = form.preview(name).backColor();
-            colors[name + " fore"] = form.preview(name).foreColor();
-        }
-        return colors;
     }
 };
 
