@@ -87,14 +87,15 @@ function openLevel(depth, level) {
     const { box, opener } = level;
     closeFrom(depth);
     levels.push(level);
+    // Measured first and marked then, so that styles are calculated once.
+    follow(level);
+    placeLevel(level);
+    box.style.pointerEvents = '';
     if (opener) mark(opener, { 'aria-expanded': true });
     if (!depth) {
         mark(layer, { role: 'navigation', 'aria-label': box.getAttribute('aria-label') || '' });
         watch(true);
     }
-    follow(level);
-    box.style.pointerEvents = '';
-    placeLevel(level);
     fade(level, 'reverse', () => {});
     buildAhead(box);
 }
@@ -288,8 +289,8 @@ function placeLevel(level) {
 
 function fade(level, direction, onEnd) {
     const duration = setting(level.menu, 'ffade') * 1000;
-    level.box.getAnimations().forEach(fading => fading.cancel());
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
+    level.box.getAnimations().forEach(fading => fading.cancel());
     level.box.animate([{}, { opacity: 0 }], { duration, direction }).onfinish = onEnd;
 }
 
