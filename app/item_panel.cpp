@@ -12,7 +12,6 @@
 #include <QVBoxLayout>
 
 #include "app/icons.h"
-#include "dialogs/single_line.h"
 #include "model/text_rules.h"
 #include "script/relative_url.h"
 
@@ -26,9 +25,6 @@ constexpr const char* kPageFilter =
     "All Files (*.*)|*.*|Web Pages (*.htm;*.html;*.shtml;*.stm)|*.htm;*.html;*.shtml;*.stm"
     "|Preprocessed HTML (*.asp;*.aspx;*.cfm;*.php)|*.asp;*.aspx;*.cfm;*.php"
     "|Image Files (*.gif;*.jpg)|*.gif;*.jpg";
-
-/// Characters a field can show; far beyond any caption, and still laid out at once.
-constexpr int kMaxFieldLength = 100'000;
 
 std::string CaptionRule(const std::string& text) {
     return EscapeApostrophes(text);
@@ -80,18 +76,19 @@ QWidget* ItemPanel::makeTypeFrame() {
 QWidget* ItemPanel::makeAttributeFrame() {
     auto* frame = new QGroupBox(tr("Item Attributes"), this);
     frame->setObjectName("FrameAttribute");
-    makeField(m_caption, "Caption", tr("Menu &Description (HTML syntax)"),
-              tr("Menu item text/image displayed on the menu"));
+    m_caption = makeField("Caption", tr("Menu &Description (HTML syntax)"),
+                          tr("Menu item text/image displayed on the menu"));
     m_caption.label->setToolTip(tr("Menu text/image displayed on the menu"));
-    makeField(m_url, "URL", tr("&URL/JavaScript function"),
-              tr("Menu item link. Usage similar to HREF attribute. JavaScript functions can be "
-                 "called using javascript:"));
-    makeField(m_target, "Target", tr("Tar&get Frame"),
-              tr("Target frame or window of menu item link"));
-    makeField(m_imgOut, "ImgOut", tr("Mouse&Out Image"),
-              tr("Menu item image displayed when the mouse is outside the menu item"));
-    makeField(m_imgOver, "ImgOver", tr("MouseO&ver Image"),
-              tr("Menu item image displayed when the mouse is over the menu item"));
+    m_url =
+        makeField("URL", tr("&URL/JavaScript function"),
+                  tr("Menu item link. Usage similar to HREF attribute. JavaScript functions can be "
+                     "called using javascript:"));
+    m_target =
+        makeField("Target", tr("Tar&get Frame"), tr("Target frame or window of menu item link"));
+    m_imgOut = makeField("ImgOut", tr("Mouse&Out Image"),
+                         tr("Menu item image displayed when the mouse is outside the menu item"));
+    m_imgOver = makeField("ImgOver", tr("MouseO&ver Image"),
+                          tr("Menu item image displayed when the mouse is over the menu item"));
     cmdCaptionImg = makeButton("cmdCaptionImg", tr("Add <img> tag to menu description"),
                                "insert_image", tr("Add image tag to menu description"));
     cmdURL = makeButton("cmdURL", tr("Browse"), "browse", tr("Browse for link"));
@@ -120,19 +117,12 @@ QWidget* ItemPanel::makeAttributeFrame() {
     return frame;
 }
 
-void ItemPanel::makeField(Field& field, const QString& name, const QString& caption,
-                          const QString& tooltip) {
-    field.label = new QLabel(caption, this);
-    field.label->setObjectName("lbl" + name);
-    field.label->setTextFormat(Qt::PlainText);
-    field.edit = new QLineEdit(this);
-    field.edit->setObjectName("txt" + name);
-    field.edit->setAccessibleName(QString(caption).remove(u'&'));
-    field.edit->setToolTip(tooltip);
-    field.edit->setMaxLength(kMaxFieldLength);
-    keepSingleLine(*field.edit);
+PropertyField ItemPanel::makeField(const QString& name, const QString& caption,
+                                   const QString& tooltip) {
+    const PropertyField field =
+        PropertyField::make(name, caption, QString(caption).remove(u'&'), tooltip, this);
     field.edit->installEventFilter(this);
-    field.label->setBuddy(field.edit);
+    return field;
 }
 
 QToolButton* ItemPanel::makeButton(const QString& name, const QString& tooltip, const QString& icon,
@@ -149,11 +139,11 @@ QToolButton* ItemPanel::makeButton(const QString& name, const QString& tooltip, 
 void ItemPanel::connectHandlers() {
     connect(optNormal, &QRadioButton::clicked, this, &ItemPanel::optNormal_Click);
     connect(optRollover, &QRadioButton::clicked, this, &ItemPanel::optRollover_Click);
-    connect(m_caption.edit, &QLineEdit::textChanged, this, &ItemPanel::txtCaption_Change);
-    connect(m_url.edit, &QLineEdit::textChanged, this, &ItemPanel::txtURL_Change);
-    connect(m_target.edit, &QLineEdit::textChanged, this, &ItemPanel::txtTarget_Change);
-    connect(m_imgOut.edit, &QLineEdit::textChanged, this, &ItemPanel::txtImgOut_Change);
-    connect(m_imgOver.edit, &QLineEdit::textChanged, this, &ItemPanel::txtImgOver_Change);
+    connect(m_caption.edit, &PropertyEdit::edited, this, &ItemPanel::txtCaption_Change);
+    connect(m_url.edit, &PropertyEdit::edited, this, &ItemPanel::txtURL_Change);
+    connect(m_target.edit, &PropertyEdit::edited, this, &ItemPanel::txtTarget_Change);
+    connect(m_imgOut.edit, &PropertyEdit::edited, this, &ItemPanel::txtImgOut_Change);
+    connect(m_imgOver.edit, &PropertyEdit::edited, this, &ItemPanel::txtImgOver_Change);
     connect(cmdCaptionImg, &QToolButton::clicked, this, &ItemPanel::cmdCaptionImg_Click);
     connect(cmdURL, &QToolButton::clicked, this, &ItemPanel::cmdURL_Click);
     connect(cmdImgOut, &QToolButton::clicked, this, &ItemPanel::cmdImgOut_Click);
@@ -169,11 +159,11 @@ void ItemPanel::StoreItem(MenuNode* node) {
         optNormal_Click();
     ItemProp& item = node->item;
     item.IsRollover = optRollover->isChecked();
-    item.Caption = valueOf(m_caption);
-    item.Target = valueOf(m_target);
-    item.ImageOut = valueOf(m_imgOut);
-    item.ImageOver = valueOf(m_imgOver);
-    item.URL = valueOf(m_url);
+    item.Caption = m_caption.edit->value();
+    item.Target = m_target.edit->value();
+    item.ImageOut = m_imgOut.edit->value();
+    item.ImageOver = m_imgOver.edit->value();
+    item.URL = m_url.edit->value();
 }
 
 void ItemPanel::ShowItem(const MenuNode* node) {
@@ -184,11 +174,11 @@ void ItemPanel::ShowItem(const MenuNode* node) {
         optNormal->setChecked(!item.IsRollover);
         setRolloverMode(item.IsRollover);
     }
-    show(m_caption, item.Caption);
-    show(m_target, item.Target);
-    show(m_imgOut, item.ImageOut);
-    show(m_imgOver, item.ImageOver);
-    show(m_url, item.URL);
+    m_caption.edit->showValue(item.Caption);
+    m_target.edit->showValue(item.Target);
+    m_imgOut.edit->showValue(item.ImageOut);
+    m_imgOver.edit->showValue(item.ImageOver);
+    m_url.edit->showValue(item.URL);
     m_isShowing = false;
     if (node != nullptr)
         setSelectedLabel(item.IsRollover ? m_imgOut : m_caption);
@@ -266,7 +256,7 @@ void ItemPanel::showFaceColour() {
     QPalette fieldPalette;
     fieldPalette.setBrush(QPalette::Disabled, QPalette::Base,
                           palette().brush(QPalette::Active, QPalette::Button));
-    for (const Field* field : {&m_caption, &m_url, &m_target, &m_imgOut, &m_imgOver}) {
+    for (const PropertyField* field : {&m_caption, &m_url, &m_target, &m_imgOut, &m_imgOver}) {
         if (field->edit != nullptr)
             field->edit->setPalette(fieldPalette);
     }
@@ -286,9 +276,9 @@ void ItemPanel::setRolloverMode(bool isRollover) {
     m_imgOver.edit->setEnabled(isRollover);
 }
 
-void ItemPanel::setSelectedLabel(const Field& source) {
+void ItemPanel::setSelectedLabel(const PropertyField& source) {
     if (m_document.selectedNode != nullptr)
-        m_document.tree.setText(*m_document.selectedNode, valueOf(source));
+        m_document.tree.setText(*m_document.selectedNode, source.edit->value());
 }
 
 void ItemPanel::setModified() {
@@ -338,26 +328,15 @@ void ItemPanel::txtImgOver_Change() {
 }
 
 void ItemPanel::txtCaption_Validate() {
-    replaceText(*m_caption.edit, CaptionRule);
+    m_caption.edit->applyRule(CaptionRule);
 }
 
 void ItemPanel::txtURL_Validate() {
-    replaceText(*m_url.edit, UrlRule);
+    m_url.edit->applyRule(UrlRule);
 }
 
 void ItemPanel::txtTarget_Validate() {
-    replaceText(*m_target.edit, TargetRule);
-}
-
-// The caret stays between the same characters.
-void ItemPanel::replaceText(QLineEdit& edit, std::string (*rule)(const std::string&)) {
-    const QString cleaned = QString::fromStdString(rule(edit.text().toStdString()));
-    if (cleaned == edit.text())
-        return;
-    const QString before = edit.text().left(edit.cursorPosition());
-    edit.setText(cleaned);
-    edit.setCursorPosition(
-        static_cast<int>(QString::fromStdString(rule(before.toStdString())).size()));
+    m_target.edit->applyRule(TargetRule);
 }
 
 void ItemPanel::cmdCaptionImg_Click() {
@@ -394,18 +373,6 @@ bool ItemPanel::browse(QLineEdit& edit, const std::string& filter) {
         return false;
     edit.setText(QString::fromStdString(ToRelativeURL(m_document.SavePath, path)));
     return true;
-}
-
-void ItemPanel::show(Field& field, const std::string& value) {
-    field.edit->setText(QString::fromStdString(value));
-    field.edit->setCursorPosition(0);
-    field.shownText = field.edit->text();
-    field.shownValue = value;
-}
-
-std::string ItemPanel::valueOf(const Field& field) {
-    const QString text = field.edit->text();
-    return text == field.shownText ? field.shownValue : text.toStdString();
 }
 
 }  // namespace zev

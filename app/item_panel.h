@@ -4,10 +4,10 @@
 #include <string>
 
 #include "app/editor_services.h"
+#include "dialogs/property_edit.h"
 #include "model/menu_document.h"
 
 class QGroupBox;
-class QLabel;
 class QLineEdit;
 class QRadioButton;
 class QToolButton;
@@ -48,28 +48,17 @@ class ItemPanel : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    struct Field {
-        QLabel* label = nullptr;
-        QLineEdit* edit = nullptr;
-        QString shownText;       ///< what the widget made of `shownValue`
-        std::string shownValue;  ///< member of the item as `ShowItem` found it
-    };
-
     QWidget* makeTypeFrame();
     QWidget* makeAttributeFrame();
-    void makeField(Field& field, const QString& name, const QString& caption,
-                   const QString& tooltip);
+    PropertyField makeField(const QString& name, const QString& caption, const QString& tooltip);
     QToolButton* makeButton(const QString& name, const QString& tooltip, const QString& icon,
                             const QString& accessibleName);
     void connectHandlers();
     void showFaceColour();
     void setRolloverMode(bool isRollover);
-    void setSelectedLabel(const Field& source);
+    void setSelectedLabel(const PropertyField& source);
     void setModified();
-    void replaceText(QLineEdit& edit, std::string (*rule)(const std::string&));
     bool browse(QLineEdit& edit, const std::string& filter);
-    void show(Field& field, const std::string& value);
-    static std::string valueOf(const Field& field);
 
     void optNormal_Click();
     void optRollover_Click();
@@ -88,15 +77,16 @@ class ItemPanel : public QWidget {
 
     MenuDocument& m_document;
     EditorServices m_services;
+    /// `ShowItem` is at work. A box that it disables is left, and cleaned, which is no change.
     bool m_isShowing = false;
 
     QRadioButton* optRollover = nullptr;
     QRadioButton* optNormal = nullptr;
-    Field m_caption;
-    Field m_url;
-    Field m_target;
-    Field m_imgOut;
-    Field m_imgOver;
+    PropertyField m_caption;
+    PropertyField m_url;
+    PropertyField m_target;
+    PropertyField m_imgOut;
+    PropertyField m_imgOver;
     QToolButton* cmdCaptionImg = nullptr;
     QToolButton* cmdURL = nullptr;
     QToolButton* cmdImgOut = nullptr;
