@@ -169,6 +169,9 @@ class test_frm_default_prop : public QObject {
         QCOMPARE(desk.form.entries("cboPosition"),
                  (QStringList{"", "Right", "Bottom", "Left", "Top"}));
         QVERIFY(!desk.form.list("cboPosition").isEditable());
+        // A screen reader has something to say.
+        QCOMPARE(desk.form.list("cboPosition").itemData(0, Qt::AccessibleTextRole).toString(),
+                 "Not set");
     }
 
     void fillingShowsWhatIsStored() {
@@ -720,6 +723,15 @@ class test_frm_default_prop : public QObject {
         QCOMPARE(desk.prop().FontSize, "");
     }
 
+    void aFontChosenWhereThereWasNoneIsStored() {
+        Desk desk([](MenuProp& prop) { prop.FontFamily = ""; });
+        desk.dialogs.expectChooseFont(FontChoice{"DejaVu Sans", 9, false, false});
+        desk.form.click("cmdFont");
+        desk.form.click("cmdOK");
+        QCOMPARE(desk.prop().FontFamily, "DejaVu Sans");
+        QCOMPARE(desk.prop().FontSize, "9");
+    }
+
     void aSizeThatNoFontHasIsShownAsTenPoints_data() {
         QTest::addColumn<QString>("stored");
         QTest::addColumn<float>("points");
@@ -848,12 +860,9 @@ class test_frm_default_prop : public QObject {
     }
 
     void aHugeFontLeavesTheDialogsSizeAsItIs() {
-        Desk desk;
-        const QSize before = desk.dialog.sizeHint();
-        desk.prop().FontSize = "500";
-        desk.dialog.LoadDefaultDialog();
-        QCoreApplication::processEvents();
-        QCOMPARE(desk.dialog.sizeHint(), before);
+        const QSize usual = Desk().dialog.size();
+        Desk desk([](MenuProp& prop) { prop.FontSize = "500"; });
+        QCOMPARE(desk.dialog.size(), usual);
         QCOMPARE(desk.form.cutOff(), QStringList());
     }
 

@@ -542,6 +542,11 @@ class test_frm_menu_prop : public QObject {
         desk.dialogs.expectChooseFont(first);
         desk.form.click("cmdFont");
         QVERIFY(desk.dialogs.recordedFonts().back() == FontChoice());
+        // Without one, the font dialog opens with what it last held.
+        desk.form.click("cmdFontClear");
+        desk.dialogs.expectChooseFont(std::nullopt);
+        desk.form.click("cmdFont");
+        QVERIFY(desk.dialogs.recordedFonts().back() == first);
         desk.form.click("cmdCancel");
         // A menu with a font of its own.
         GiveOwnFont(desk.submenuOfA());
@@ -549,7 +554,6 @@ class test_frm_menu_prop : public QObject {
         desk.dialogs.expectChooseFont(std::nullopt);
         desk.form.click("cmdFont");
         QVERIFY(desk.dialogs.recordedFonts().back() == kOwnFont);
-        // Without one, the font dialog opens with what it last held.
         desk.form.click("cmdFontClear");
         desk.dialogs.expectChooseFont(std::nullopt);
         desk.form.click("cmdFont");
