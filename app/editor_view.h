@@ -20,6 +20,8 @@ class EditorView {
     virtual void ShowScript(const std::string& script) = 0;
     /// Window caption: the program's name, and the definition file once there is one.
     virtual void ShowCaption() = 0;
+    /// Fills the Default Menu Properties dialog from `DefaultProp`.
+    virtual void LoadDefaultDialog() = 0;
     /// Derives the enabled commands from `bModified` and `CurNode`.
     virtual void Button_Update() = 0;
 };

@@ -43,6 +43,7 @@ FileCommands::FileCommands(MenuDocument& document, EditorView& view, const Edito
 
 void FileCommands::Reset() {
     m_document.NewDocument();
+    m_view.LoadDefaultDialog();
     m_view.ShowScript("");
     m_view.ShowItem();
     m_view.ShowCaption();
@@ -130,6 +131,7 @@ bool FileCommands::openDefinition(const std::string& path) {
     m_view.ShowCaption();
     m_view.ShowItem();
     m_view.ShowScript(GenerateScript(m_document));
+    m_view.LoadDefaultDialog();
     m_view.Button_Update();
     if (result.errorCount > 0) {
         showNotice(std::to_string(result.errorCount) + " errors encountered during parsing");

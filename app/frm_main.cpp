@@ -22,6 +22,9 @@
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
 #include "app/open_url.h"
+#include "dialogs/frm_adv_prop.h"
+#include "dialogs/frm_default_prop.h"
+#include "dialogs/frm_menu_prop.h"
 #include "script/relative_url.h"
 #include "script/script_writer.h"
 
@@ -97,6 +100,7 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     buildMenus();
     buildToolBar();
     buildTabs(webBrowser);
+    buildDialogs();
     auto* sbStatusBar = new QStatusBar(this);
     sbStatusBar->setObjectName("sbStatusBar");
     setStatusBar(sbStatusBar);
@@ -111,6 +115,9 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
 // The widgets look at the document until they are gone.
 frmMain::~frmMain() {
     QCoreApplication::instance()->removeEventFilter(this);
+    delete m_menuForm;
+    delete m_advForm;
+    delete m_defaultForm;
     delete takeCentralWidget();
 }
 
@@ -257,6 +264,14 @@ QWidget* frmMain::buildMenuTab() {
     return page;
 }
 
+void frmMain::buildDialogs() {
+    const DialogHost host{m_document, m_services.messages, m_services.dialogs,
+                          [this] { Button_Update(); }};
+    m_defaultForm = new frmDefaultProp(host, this);
+    m_advForm = new frmAdvProp(host, this);
+    m_menuForm = new frmMenuProp(host, *m_defaultForm, *m_advForm, this);
+}
+
 void frmMain::openDefinition(const std::string& path) {
     leaveField();
     guard([this, &path] { m_fileCommands.openDefinition(path); });
@@ -287,6 +302,10 @@ void frmMain::ShowCaption() {
     if (!m_document.SaveFile.empty())
         caption += " (" + QString::fromStdString(m_document.SaveFile) + ")";
     setWindowTitle(caption);
+}
+
+void frmMain::LoadDefaultDialog() {
+    m_defaultForm->LoadDefaultDialog();
 }
 
 void frmMain::Button_Update() {
@@ -344,11 +363,13 @@ void frmMain::mnuFileExit_Click() {
 }
 
 void frmMain::mnuEditDefault_Click() {
-    showNotBuiltYet("Default Menu Properties");
+    LoadDefaultDialog();
+    editProperties(*m_defaultForm);
 }
 
 void frmMain::mnuEditMenuProperties_Click() {
-    showNotBuiltYet("Menu Properties");
+    if (m_menuForm->fill())
+        editProperties(*m_menuForm);
 }
 
 void frmMain::mnuEditAddMenuItem_Click() {
@@ -475,6 +496,15 @@ EditResult frmMain::edit(EditResult (*command)(MenuDocument&)) {
     if (MenuTab->currentWidget() == txtJavaScript)
         ShowScript(GenerateScript(m_document));
     return result;
+}
+
+/// Shows a filled property dialog until it is closed. The JavaScript or Preview tab follows what it
+/// changed; a cancelled dialog may have changed something too, by its advanced settings.
+void frmMain::editProperties(QDialog& form) {
+    const std::string before = GenerateScript(m_document);
+    form.exec();
+    if (GenerateScript(m_document) != before)
+        MenuTab_Click();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

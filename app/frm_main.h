@@ -13,6 +13,7 @@
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
+class QDialog;
 class QKeyEvent;
 class QPlainTextEdit;
 class QTabWidget;
@@ -21,6 +22,9 @@ namespace zev {
 
 class ItemPanel;
 class MenuTreeView;
+class frmAdvProp;
+class frmDefaultProp;
+class frmMenuProp;
 
 /// The editor's main window. It builds and connects; what the commands do is decided elsewhere.
 ///
@@ -48,6 +52,7 @@ class frmMain : public QMainWindow, public EditorView {
     void ShowItem() override;
     void ShowScript(const std::string& script) override;
     void ShowCaption() override;
+    void LoadDefaultDialog() override;
     void Button_Update() override;
 
     void mnuFileNew_Click();
@@ -90,12 +95,14 @@ class frmMain : public QMainWindow, public EditorView {
     void buildToolBar();
     void buildTabs(QWidget* webBrowser);
     QWidget* buildMenuTab();
+    void buildDialogs();
     QAction* addEntry(QMenu* menu, const QString& name, const QString& caption, Handler click,
                       const QKeySequence& shortcut = {});
     void run(Handler click);
     void guard(const std::function<void()>& work);
     void leaveField();
     EditResult edit(EditResult (*command)(MenuDocument&));
+    void editProperties(QDialog& form);
     bool keepsKey(const QWidget& widget, const QKeyEvent& key) const;
     QAction* entryFor(const QKeyEvent& key) const;
     void openAddress(const std::string& address);
@@ -123,6 +130,11 @@ class frmMain : public QMainWindow, public EditorView {
     ItemPanel* m_panel = nullptr;
     MenuTreeView* TreeView = nullptr;
     QPlainTextEdit* txtJavaScript = nullptr;
+
+    // Made once: they keep what was copied and which font was chosen from one use to the next.
+    frmDefaultProp* m_defaultForm = nullptr;
+    frmMenuProp* m_menuForm = nullptr;
+    frmAdvProp* m_advForm = nullptr;
 };
 
 }  // namespace zev

@@ -27,6 +27,7 @@ class PlainView : public EditorView {
     std::string panelCaption;
     std::string panelURL;
     std::string script;
+    MenuProp shownDefaults;  ///< what the Default Menu Properties dialog was filled with
     std::string shownFile;  ///< the file named in the window's caption
     bool isSaveEnabled = false;
     std::vector<std::string> calls;
@@ -49,6 +50,7 @@ class PlainView : public EditorView {
     }
     void ShowScript(const std::string& text) override { script = text; }
     void ShowCaption() override { shownFile = m_document.SaveFile; }
+    void LoadDefaultDialog() override { shownDefaults = m_document.DefaultProp; }
     void Button_Update() override { isSaveEnabled = m_document.bModified; }
 
   private:

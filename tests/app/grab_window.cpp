@@ -1,11 +1,14 @@
-// Takes a picture of each tab of the editor's window, to be looked at by a person:
+// Takes a picture of each tab of the editor's window and of each property dialog, to be looked at
+// by a person:
 //
 //     grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT]
 //
 // QT_SCALE_FACTOR=2 gives the pictures of a 200 % display; a virtual display (Xvfb) does. The
 // definition's folder receives the preview's files.
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QScreen>
@@ -21,8 +24,22 @@
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
 #include "theme_palettes.h"
+#include "when_shown.h"
 
 using namespace zev;
+
+namespace {
+
+/// From the screen, so that the browser's picture is the real one.
+void grab(QWidget& window, const QString& name, const QString& folder, bool isDark) {
+    const QString file = QString("%1_%2_%3.png")
+                             .arg(name, isDark ? "dark" : "light")
+                             .arg(qRound(window.devicePixelRatio() * 100));
+    if (!window.screen()->grabWindow(window.winId()).save(QDir(folder).filePath(file)))
+        qFatal("The picture could not be written.");
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -54,12 +71,31 @@ int main(int argc, char** argv) {
     for (int tab = 0; tab < tabs->count(); ++tab) {
         tabs->setCurrentIndex(tab);
         QTest::qWait(tabs->tabText(tab) == "Preview" ? 4000 : 300);
-        const QString name = QString("%1_%2_%3.png")
-                                 .arg(tabs->tabText(tab).toLower(), isDark ? "dark" : "light")
-                                 .arg(qRound(window.devicePixelRatio() * 100));
-        // From the screen, so that the browser's picture is the real one.
-        if (!window.screen()->grabWindow(window.winId()).save(QDir(arguments.at(2)).filePath(name)))
-            qFatal("The picture could not be written.");
+        grab(window, tabs->tabText(tab).toLower(), arguments.at(2), isDark);
     }
+
+    const auto grabDialog = [&](QDialog& dialog) {
+        dialog.move(0, 0);
+        QTest::qWait(300);
+        grab(dialog, dialog.objectName(), arguments.at(2), isDark);
+    };
+    tabs->setCurrentIndex(0);
+    whenShown<QDialog>([&](QDialog& defaults) {
+        grabDialog(defaults);
+        defaults.reject();
+    });
+    window.mnuEditDefault_Click();
+    whenShown<QDialog>([&](QDialog& menu) {
+        grabDialog(menu);
+        whenShown<QDialog>([&](QDialog& advanced) {
+            if (&advanced == &menu)
+                qFatal("The advanced properties are not shown.");
+            grabDialog(advanced);
+            advanced.reject();
+        });
+        menu.findChild<QAbstractButton*>("cmdAdvanced")->click();
+        menu.reject();
+    });
+    window.mnuEditMenuProperties_Click();
     return 0;
 }

@@ -43,6 +43,7 @@ class test_file_commands : public QObject {
     void openAsksNothingAboutChanges();
     void cancelledOpenClearsTheChangesMark();
     void openCountsLinesThatCouldNotBeApplied();
+    void resetAndOpenShowTheDefaultProperties();
     void openGivesBackWhatWasSaved();
     void saveWritesToTheFileOfTheDocument();
     void saveLeavesTheButtonsAlone();
@@ -224,6 +225,17 @@ void test_file_commands::openCountsLinesThatCouldNotBeApplied() {
     QCOMPARE(desk.messages.recorded().front().buttons, MessageRequest::Buttons::Ok);
     QCOMPARE(desk.document.tree.size(), std::size_t{1});
     QVERIFY(!desk.document.bModified);
+}
+
+void test_file_commands::resetAndOpenShowTheDefaultProperties() {
+    Desk desk;
+    QCOMPARE(desk.view.shownDefaults.HBgColor, std::string("#888888"));
+    desk.disk.addFile("/site/menu.js", "zev_state.hbgcolor = '#123456';\r\n");
+    desk.dialogs.expectOpenFile("/site/menu.js");
+    desk.commands.mnuFileOpen_Click();
+    QCOMPARE(desk.view.shownDefaults.HBgColor, std::string("#123456"));
+    desk.commands.mnuFileNew_Click();
+    QCOMPARE(desk.view.shownDefaults.HBgColor, std::string("#888888"));
 }
 
 void test_file_commands::openGivesBackWhatWasSaved() {

@@ -394,10 +394,6 @@ class test_frm_main_commands : public QObject {
     void whatIsNotBuiltYetSaysSo_data() {
         QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("what");
-        QTest::newRow("F8") << "mnuEditDefault"
-                            << "Default Menu Properties";
-        QTest::newRow("F2") << "mnuEditMenuProperties"
-                            << "Menu Properties";
         QTest::newRow("wizard") << "mnuToolsIntegrate"
                                 << "Menu Integrator";
         QTest::newRow("Quillmenu") << "mnuFileImportQuillmenu"

@@ -65,6 +65,7 @@ class NoView : public EditorView {
     void ShowItem() override {}
     void ShowScript(const std::string&) override {}
     void ShowCaption() override {}
+    void LoadDefaultDialog() override {}
     void Button_Update() override {}
 };
 
