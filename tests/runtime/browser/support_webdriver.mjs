@@ -107,6 +107,12 @@ class WebDriverPage {
         await this.#until(async () => await size() == wanted, `a page of ${wanted} pixels`);
     }
 
+    // A picture (PNG) of a part of the window; the driver's own pictures of elements are black.
+    async screenshot({ clip }) {
+        const url = await this.evaluate(cutOut, await this.send('GET', '/screenshot'), clip);
+        return Buffer.from(url.split(',')[1], 'base64');
+    }
+
     // ---- Elements and scripts ----
 
     // `code` is a function, or a text that is run as it stands and gives nothing.
