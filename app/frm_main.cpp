@@ -116,7 +116,6 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
 frmMain::~frmMain() {
     QCoreApplication::instance()->removeEventFilter(this);
     delete m_menuForm;
-    delete m_advForm;
     delete m_defaultForm;
     delete takeCentralWidget();
 }
@@ -268,8 +267,10 @@ void frmMain::buildDialogs() {
     const DialogHost host{m_document, m_services.messages, m_services.dialogs,
                           [this] { Button_Update(); }};
     m_defaultForm = new frmDefaultProp(host, this);
-    m_advForm = new frmAdvProp(host, this);
-    m_menuForm = new frmMenuProp(host, *m_defaultForm, *m_advForm, this);
+    auto* advanced = new frmAdvProp(host, nullptr);
+    m_menuForm = new frmMenuProp(host, *m_defaultForm, *advanced, this);
+    // Window managers keep it in front of the dialog that it is opened from, whatever is clicked.
+    advanced->setParent(m_menuForm, advanced->windowFlags());
 }
 
 void frmMain::openDefinition(const std::string& path) {

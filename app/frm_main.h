@@ -22,7 +22,6 @@ namespace zev {
 
 class ItemPanel;
 class MenuTreeView;
-class frmAdvProp;
 class frmDefaultProp;
 class frmMenuProp;
 
@@ -134,7 +133,6 @@ class frmMain : public QMainWindow, public EditorView {
     // Made once: they keep what was copied and which font was chosen from one use to the next.
     frmDefaultProp* m_defaultForm = nullptr;
     frmMenuProp* m_menuForm = nullptr;
-    frmAdvProp* m_advForm = nullptr;
 };
 
 }  // namespace zev

@@ -3,6 +3,8 @@
 
 #include <QComboBox>
 #include <QMenu>
+#include <QWindow>
+#include <set>
 
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
@@ -191,6 +193,26 @@ class test_property_dialogs : public QObject {
             press(form, "cmdCancel");
         });
         QCOMPARE(desk.shownTree(), "*a\n");
+    }
+
+    // Otherwise a click on the dialog behind it could cover the one that waits for an answer.
+    void eachDialogStaysInFrontOfTheWindowItWasOpenedFrom() {
+        WindowDesk desk;
+        desk.add("a");
+        inDefaults(desk, [&](frmDefaultProp& form) {
+            QCOMPARE(form.windowHandle()->transientParent(), desk.window.windowHandle());
+            press(form, "cmdCancel");
+        });
+        inMenuProperties(desk, [&](frmMenuProp& form) {
+            QCOMPARE(form.windowHandle()->transientParent(), desk.window.windowHandle());
+            during<frmAdvProp>([&] { press(form, "cmdAdvanced"); },
+                               [&](frmAdvProp& advanced) {
+                                   QCOMPARE(advanced.windowHandle()->transientParent(),
+                                            form.windowHandle());
+                                   press(advanced, "cmdCancel");
+                               });
+            press(form, "cmdCancel");
+        });
     }
 
     void theFormsAreMadeOnce() {
