@@ -105,9 +105,15 @@ function sizeOnce(page) {
     let current = '';
     page.setViewport = async viewport => {
         const wanted = JSON.stringify(viewport);
-        if (wanted != current) await original(viewport);
+        if (wanted != current) await original(viewport).catch(error => awaitSize(page, viewport, error));
         current = wanted;
     };
+}
+
+// Firefox before 153 has no way to turn a screen, which puppeteer asks for with the size.
+async function awaitSize(page, { width }, error) {
+    if (!error.message.includes('setScreenOrientationOverride')) throw error;
+    await until(() => page.evaluate(width => innerWidth == width, width), `a page of ${width} pixels`);
 }
 
 // Firefox takes keys by what they type, which for the space bar is not the name of the key.
@@ -272,10 +278,11 @@ export async function until(question, what, timeout = 5000) {
 }
 
 // Waits until a link has led to that address and the page there is complete, so that its arrival does not
-// disturb what the test does next.
+// disturb what the test does next. The page itself is asked: the browser's driver knows of a new address before
+// the old page is gone. A page that goes while it is asked has not arrived.
 export async function waitAt(page, url) {
-    await until(async () => await page.url() == url &&
-        await page.evaluate(() => document.readyState == 'complete'), url);
+    await until(() => page.evaluate(url => location.href == url && document.readyState == 'complete', url)
+        .catch(() => false), url);
 }
 
 export function pause(ms) {
