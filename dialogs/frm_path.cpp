@@ -1,0 +1,190 @@
+#include "dialogs/frm_path.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStorageInfo>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "dialogs/dialog_button.h"
+#include "dialogs/single_line.h"
+#include "platform/file_system.h"
+#include "platform/library_files.h"
+#include "platform/message_box.h"
+#include "script/relative_url.h"
+
+namespace zev {
+
+namespace {
+
+/// Of an entry of `listDrv` the folder where its drive was left, of one of `listDir` its folder.
+constexpr int kFolderRole = Qt::UserRole;
+
+/// Characters of a path that are seen at once.
+constexpr int kPathWidth = 52;
+
+/// Enter opens the current folder, and is not handed on to the OK button as other lists do.
+class FolderList : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QListWidget::keyPressEvent(event);
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            event->accept();
+    }
+};
+
+bool IsOnDrive(const QString& folder, const QString& drive) {
+    return folder == drive || folder.startsWith(drive.endsWith(u'/') ? drive : drive + u'/');
+}
+
+/// Index of the drive a folder lies on; 0 when it lies on none of them.
+int DriveOf(const QString& folder, const QStringList& drives) {
+    int found = 0;
+    qsizetype length = -1;
+    for (int index = 0; index < drives.size(); ++index) {
+        if (IsOnDrive(folder, drives[index]) && drives[index].size() > length) {
+            found = index;
+            length = drives[index].size();
+        }
+    }
+    return found;
+}
+
+QLabel* MakeLabel(const QString& name, const QString& caption, QWidget* buddy) {
+    auto* label = new QLabel(caption, buddy->parentWidget());
+    label->setObjectName(name);
+    label->setBuddy(buddy);
+    buddy->setAccessibleName(QString(caption).remove(u'&'));
+    return label;
+}
+
+}  // namespace
+
+QStringList MountedDrives() {
+    QStringList drives{QDir::rootPath()};
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+        // Single files can be mounted too.
+        if (volume.isValid() && volume.isReady() && QFileInfo(volume.rootPath()).isDir())
+            drives.append(volume.rootPath());
+    }
+    drives.sort();
+    drives.removeDuplicates();
+    return drives;
+}
+
+frmPath::frmPath(FileSystem& files, MessageBox& messages, const QStringList& drives,
+                 QWidget* parent)
+    : QDialog(parent), m_files(files), m_messages(messages) {
+    setObjectName("frmPath");
+    setWindowTitle(tr("Select Path"));
+    txtPath = new QLineEdit(this);
+    txtPath->setObjectName("txtPath");
+    txtPath->setMinimumWidth(kPathWidth * fontMetrics().averageCharWidth());
+    keepSingleLine(*txtPath);
+    listDrv = new QComboBox(this);
+    listDrv->setObjectName("listDrv");
+    const QIcon driveIcon = style()->standardIcon(QStyle::SP_DriveHDIcon);
+    for (const QString& drive : drives)
+        listDrv->addItem(driveIcon, QDir::toNativeSeparators(drive), drive);
+    listDir = new FolderList(this);
+    listDir->setObjectName("listDir");
+    listDir->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    arrange();
+
+    const QString current = QDir::currentPath();
+    listDrv->setCurrentIndex(DriveOf(current, drives));
+    showFolder(current);
+    connect(listDrv, &QComboBox::currentIndexChanged, this, &frmPath::listDrv_Change);
+    connect(listDir, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
+        listDir_Change(item->data(kFolderRole).toString());
+    });
+}
+
+void frmPath::arrange() {
+    auto* lbl1 = new QLabel(tr("Enter or select a directory"), this);
+    lbl1->setObjectName("lbl1");
+    QPushButton* btnOK = makeDialogButton("btnOK", tr("&OK"), this);
+    btnOK->setDefault(true);
+    connect(btnOK, &QPushButton::clicked, this, &frmPath::btnOK_Click);
+    QPushButton* btnCancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
+    connect(btnCancel, &QPushButton::clicked, this, &frmPath::btnCancel_Click);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lbl1);
+    layout->addWidget(MakeLabel("lblPath", tr("&Path"), txtPath));
+    layout->addWidget(txtPath);
+    layout->addWidget(MakeLabel("lblDrv", tr("D&rives"), listDrv));
+    layout->addWidget(listDrv);
+    layout->addWidget(MakeLabel("lblDir", tr("&Directories"), listDir));
+    layout->addWidget(listDir, 1);
+    auto* closing = new QHBoxLayout;
+    closing->addStretch();
+    closing->addWidget(btnOK);
+    closing->addWidget(btnCancel);
+    layout->addLayout(closing);
+}
+
+std::string frmPath::path() const {
+    return txtPath->text().toStdString();
+}
+
+/// Lists what a folder holds, and makes it the current one of its drive.
+void frmPath::showFolder(const QString& folder) {
+    const QDir dir(folder);
+    const QIcon folderIcon = style()->standardIcon(QStyle::SP_DirIcon);
+    const auto add = [&](const QString& text, const QString& target) {
+        auto* item = new QListWidgetItem(folderIcon, text, listDir);
+        item->setData(kFolderRole, target);
+    };
+    listDir->clear();
+    if (folder != QDir::fromNativeSeparators(listDrv->currentText()))
+        add("..", QDir::cleanPath(dir.filePath("..")));
+    for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::LocaleAware))
+        add(name, dir.filePath(name));
+    listDir->setCurrentRow(0);
+    listDrv->setItemData(listDrv->currentIndex(), folder, kFolderRole);
+    txtPath->setText(QDir::toNativeSeparators(folder));
+}
+
+void frmPath::listDrv_Change() {
+    showFolder(listDrv->currentData(kFolderRole).toString());
+}
+
+void frmPath::listDir_Change(const QString& folder) {
+    if (!QDir(folder).isReadable()) {
+        MessageRequest notice;
+        notice.text = "Cannot open " + QDir::toNativeSeparators(folder).toStdString();
+        m_messages.show(notice);
+        return;
+    }
+    showFolder(folder);
+}
+
+void frmPath::btnOK_Click() {
+    for (const std::string_view name : kLibraryFiles) {
+        if (m_files.FileExists(JoinPath(path(), name)))
+            continue;
+        MessageRequest question;
+        question.text = std::string(name) + " not found in " + path() + ". Do you want to proceed?";
+        question.buttons = MessageRequest::Buttons::OkCancel;
+        question.title = "Warning";
+        if (m_messages.show(question) == MessageBox::Answer::Cancel)
+            return;
+    }
+    accept();
+}
+
+void frmPath::btnCancel_Click() {
+    reject();
+}
+
+}  // namespace zev
