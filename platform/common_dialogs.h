@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zev {
 
@@ -14,6 +15,13 @@ struct FileDialogRequest {
     int filterIndex = 1;               ///< preselected pair, counted from 1
     std::string folder;                ///< where the dialog starts when `fileName` names no folder
     bool asksBeforeReplacing = false;  ///< save dialogs: prompt before an existing file is chosen
+};
+
+/// Files of one folder. No names: the person cancelled.
+struct ChosenFiles {
+    std::string folder;              ///< full path; without its last separator unless it is a root
+    std::vector<std::string> names;  ///< bare file names in the order the dialog gave them
+    bool operator==(const ChosenFiles&) const = default;
 };
 
 /// A font as a person chooses it.
@@ -31,6 +39,8 @@ class CommonDialogs {
     virtual ~CommonDialogs() = default;
     /// Full path of an existing file.
     virtual std::string openFile(const FileDialogRequest& request) = 0;
+    /// One or more existing files of one folder.
+    virtual ChosenFiles openFiles(const FileDialogRequest& request) = 0;
     /// Full path of the file to write.
     virtual std::string saveFile(const FileDialogRequest& request) = 0;
     /// A colour value (red in bits 0 to 7, green in 8 to 15, blue in 16 to 23), preselected with

@@ -41,6 +41,8 @@ std::string nameOf(FakeCommonDialogs::Kind kind) {
     switch (kind) {
         case FakeCommonDialogs::Kind::OpenFile:
             return "open dialog";
+        case FakeCommonDialogs::Kind::OpenFiles:
+            return "open dialog for several files";
         case FakeCommonDialogs::Kind::SaveFile:
             return "save dialog";
         case FakeCommonDialogs::Kind::Color:
@@ -107,19 +109,23 @@ FakeCommonDialogs::~FakeCommonDialogs() {
 }
 
 void FakeCommonDialogs::expectOpenFile(const std::string& path) {
-    m_expected.push_back({Kind::OpenFile, path, {}, {}});
+    m_expected.push_back({Kind::OpenFile, path, {}, {}, {}});
+}
+
+void FakeCommonDialogs::expectOpenFiles(ChosenFiles files) {
+    m_expected.push_back({Kind::OpenFiles, {}, {}, {}, std::move(files)});
 }
 
 void FakeCommonDialogs::expectSaveFile(const std::string& path) {
-    m_expected.push_back({Kind::SaveFile, path, {}, {}});
+    m_expected.push_back({Kind::SaveFile, path, {}, {}, {}});
 }
 
 void FakeCommonDialogs::expectChooseColor(std::optional<std::int32_t> color) {
-    m_expected.push_back({Kind::Color, {}, color, {}});
+    m_expected.push_back({Kind::Color, {}, color, {}, {}});
 }
 
 void FakeCommonDialogs::expectChooseFont(std::optional<FontChoice> font) {
-    m_expected.push_back({Kind::Font, {}, {}, std::move(font)});
+    m_expected.push_back({Kind::Font, {}, {}, std::move(font), {}});
 }
 
 void FakeCommonDialogs::verify() {
@@ -132,6 +138,11 @@ void FakeCommonDialogs::verify() {
 std::string FakeCommonDialogs::openFile(const FileDialogRequest& request) {
     m_recorded.push_back({Kind::OpenFile, request});
     return answer(Kind::OpenFile, request.title).path;
+}
+
+ChosenFiles FakeCommonDialogs::openFiles(const FileDialogRequest& request) {
+    m_recorded.push_back({Kind::OpenFiles, request});
+    return answer(Kind::OpenFiles, request.title).files;
 }
 
 std::string FakeCommonDialogs::saveFile(const FileDialogRequest& request) {
@@ -152,14 +163,14 @@ std::optional<FontChoice> FakeCommonDialogs::chooseFont(const FontChoice& initia
 FakeCommonDialogs::Expectation FakeCommonDialogs::answer(Kind kind, const std::string& title) {
     if (m_expected.empty()) {
         m_onFailure("unexpected " + nameOf(kind) + ": " + title);
-        return {kind, {}, {}, {}};
+        return {kind, {}, {}, {}, {}};
     }
     Expectation expected = std::move(m_expected.front());
     m_expected.pop_front();
     if (expected.kind != kind) {
         m_onFailure("expected the " + nameOf(expected.kind) + "\nbut was shown the " +
                     nameOf(kind) + ": " + title);
-        return {kind, {}, {}, {}};
+        return {kind, {}, {}, {}, {}};
     }
     return expected;
 }

@@ -43,6 +43,27 @@ std::string ChosenFile(const QFileDialog& dialog, QString& lastFolder) {
     return QDir::toNativeSeparators(path).toStdString();
 }
 
+/// Files chosen in an open dialog; no names when they lie in several folders, which is possible
+/// where full paths are typed.
+ChosenFiles FilesOfOneFolder(const QStringList& paths) {
+    const QString folder = QFileInfo(paths.value(0)).absolutePath();
+    ChosenFiles files{QDir::toNativeSeparators(folder).toStdString(), {}};
+    for (const QString& path : paths) {
+        const QFileInfo info(path);
+        if (info.absolutePath() != folder)
+            return {};
+        files.names.push_back(info.fileName().toStdString());
+    }
+    return files;
+}
+
+void ShowSeveralFolders(QWidget* parent) {
+    QMessageBox notice(parent);
+    notice.setIcon(QMessageBox::Warning);
+    notice.setText("Please choose files of one folder only.");
+    notice.exec();
+}
+
 bool MayReplace(QWidget* parent, const QString& path) {
     QMessageBox question(parent);
     question.setIcon(QMessageBox::Warning);
@@ -123,6 +144,22 @@ std::string QtCommonDialogs::openFile(const FileDialogRequest& request) {
     dialog.setFileMode(QFileDialog::ExistingFile);
     Prepare(dialog, request, m_lastFolder);
     return dialog.exec() == QDialog::Accepted ? ChosenFile(dialog, m_lastFolder) : std::string();
+}
+
+ChosenFiles QtCommonDialogs::openFiles(const FileDialogRequest& request) {
+    QFileDialog dialog(ParentWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    Prepare(dialog, request, m_lastFolder);
+    while (dialog.exec() == QDialog::Accepted) {
+        ChosenFiles files = FilesOfOneFolder(dialog.selectedFiles());
+        if (!files.names.empty()) {
+            m_lastFolder = QString::fromStdString(files.folder);
+            return files;
+        }
+        ShowSeveralFolders(ParentWindow());
+    }
+    return {};
 }
 
 std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {

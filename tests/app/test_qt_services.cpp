@@ -40,6 +40,12 @@ void typeName(QFileDialog& dialog, const QString& name) {
     QTest::keyClick(field, Qt::Key_Return);
 }
 
+/// Puts names in quotes into the box as choosing several files does, and opens them.
+void openNames(QFileDialog& dialog, const QStringList& names) {
+    dialog.findChild<QLineEdit*>("fileNameEdit")->setText('"' + names.join("\" \"") + '"');
+    QMetaObject::invokeMethod(&dialog, "accept");
+}
+
 void makeFile(const QString& path) {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -101,6 +107,10 @@ class test_qt_services : public QObject {
     void openShowsTheRequest();
     void openCancelledGivesNothing();
     void openStartsWhereTheLastFileWasChosen();
+    void severalFilesAreGivenAsFolderAndNames_data();
+    void severalFilesAreGivenAsFolderAndNames();
+    void filesOfSeveralFoldersAreRefused();
+    void severalFilesCancelledGivesNothing();
     void saveAddsTheExtensionOfTheFilter_data();
     void saveAddsTheExtensionOfTheFilter();
     void savePresetsNameAndFolder();
@@ -319,6 +329,63 @@ void test_qt_services::openStartsWhereTheLastFileWasChosen() {
         dialog.reject();
     });
     dialogs.openFile(saveRequest(QString()));
+}
+
+void test_qt_services::severalFilesAreGivenAsFolderAndNames_data() {
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("one") << QStringList{"a.js"};
+    QTest::newRow("not in the order of the alphabet") << QStringList{"c.js", "a.js", "b.js"};
+    QTest::newRow("unusual characters")
+        << QStringList{"a b.js", QString::fromUtf8("\xc3\xbc;|'.js"), "#%.js"};
+}
+
+void test_qt_services::severalFilesAreGivenAsFolderAndNames() {
+    QFETCH(QStringList, names);
+    QTemporaryDir folder;
+    for (const QString& name : names)
+        makeFile(folder.filePath(name));
+    QtCommonDialogs dialogs;
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.windowTitle(), QString("Save As"));
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        openNames(dialog, names);
+    });
+    const ChosenFiles files = dialogs.openFiles(saveRequest(folder.path()));
+    QStringList given;
+    for (const std::string& name : files.names)
+        given.append(QString::fromStdString(name));
+    QCOMPARE(given, names);
+    QCOMPARE(QString::fromStdString(files.folder), folder.path());
+    // The next dialog starts in that folder.
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.directory().absolutePath(), folder.path());
+        dialog.reject();
+    });
+    dialogs.openFile(saveRequest(QString()));
+}
+
+void test_qt_services::filesOfSeveralFoldersAreRefused() {
+    QTemporaryDir folder;
+    QDir(folder.path()).mkdir("sub");
+    makeFile(folder.filePath("a.js"));
+    makeFile(folder.filePath("sub/b.js"));
+    QString notice;
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        whenShown<QMessageBox>([&](QMessageBox& box) {
+            notice = textOf(box);
+            whenShown<QFileDialog>([&](QFileDialog& again) { again.reject(); });
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        openNames(dialog, {folder.filePath("a.js"), folder.filePath("sub/b.js")});
+    });
+    QCOMPARE(QtCommonDialogs().openFiles(saveRequest(folder.path())), ChosenFiles());
+    QCOMPARE(notice, QString("Please choose files of one folder only."));
+}
+
+void test_qt_services::severalFilesCancelledGivesNothing() {
+    QTemporaryDir folder;
+    whenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QCOMPARE(QtCommonDialogs().openFiles(saveRequest(folder.path())), ChosenFiles());
 }
 
 void test_qt_services::saveAddsTheExtensionOfTheFilter_data() {

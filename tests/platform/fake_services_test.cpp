@@ -89,6 +89,23 @@ TEST_F(FakeServicesTest, DialogsAnswerInOrderAndRecord) {
     EXPECT_TRUE(problems.empty());
 }
 
+TEST_F(FakeServicesTest, DialogsForSeveralFilesAnswerInOrderAndRecord) {
+    const ChosenFiles files{"/site", {"b.htm", "a.htm"}};
+    FakeCommonDialogs dialogs(collect());
+    dialogs.expectOpenFiles(files);
+    dialogs.expectOpenFiles({});
+    dialogs.expectOpenFile("/a.js");
+    FileDialogRequest request;
+    request.filter = "Web Pages|*.htm";
+    EXPECT_EQ(dialogs.openFiles(request), files);
+    EXPECT_EQ(dialogs.openFiles({}), ChosenFiles());
+    EXPECT_TRUE(problems.empty());
+    EXPECT_EQ(dialogs.openFiles({}), ChosenFiles());
+    EXPECT_EQ(problems.size(), 1U) << "the answer was for another dialog";
+    EXPECT_EQ(dialogs.recorded()[0].kind, FakeCommonDialogs::Kind::OpenFiles);
+    EXPECT_EQ(dialogs.recorded()[0].request.filter, "Web Pages|*.htm");
+}
+
 TEST_F(FakeServicesTest, DialogsFailWhenUnexpectedOfTheWrongKindOrUnused) {
     {
         FakeCommonDialogs dialogs(collect());
