@@ -22,12 +22,13 @@ ALLOWED = {
     "importers": {"model", "script"},
     "integrator": {"model", "script", "platform"},
     "platform": set(),
+    "platform/html": {"platform"},
     "platform/posix": {"platform"},
     "platform/fake": {"platform"},
     "platform/qt": {"platform"} | QT,
     "dialogs": {"model", "script", "platform"} | QT,
-    "app": CORE | {"platform", "platform/posix", "platform/qt", "dialogs"} | QT,
-    "cli": CORE | {"platform", "platform/posix"},
+    "app": CORE | {"platform", "platform/html", "platform/posix", "platform/qt", "dialogs"} | QT,
+    "cli": CORE | {"platform", "platform/html", "platform/posix"},
 }
 
 # The integrator's wizard is a window in the folder of its engine.
