@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <random>
 #include <string>
 #include <vector>
@@ -89,6 +90,10 @@ struct HostileCase {
     std::string end;
 };
 
+void PrintTo(const HostileCase& hostile, std::ostream* out) {
+    *out << hostile.name;
+}
+
 class HtmlHostileTest : public testing::TestWithParam<HostileCase> {};
 
 /// Whoever takes more than linear time here is stopped by ctest's time limit.
@@ -125,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, HtmlHostileTest,
                              {"CommentsAlmostClosed", "<!--", "--!", ""},
                              {"CommentsWithThreeDashes", "", "<!--- ", ""},
                              {"CommentsWithThreeDashesAndTwo", "", "<!--- -->", ""},
-                             {"NestedServerComments", std::string(), "<!---a", "--->"},
+                             {"NestedServerComments", "", "<!---a", "--->"},
                              {"ServerCommentsInATag", "<p ", "<!---a--->", ">"},
                              {"UnclosedServerCommentsInATag", "<p ", "<!---a", ">"},
                              {"UnclosedDeclarations", "", "<!x", ""},
