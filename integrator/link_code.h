@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zev {
+
+// The code that the author pastes into an integrated page by hand. Lines end in CR LF, the last one
+// in nothing.
+
+/// Arguments of the calls that open and close a submenu, from an entry of the submenu list such as
+/// "Products (1i2)": "'zev1i1', '2'". What counts is the text between the last "(" and the last
+/// ")"; an entry without that pair counts as empty.
+std::string MenuList_GetString(std::string_view entry);
+
+/// Where a popup menu opens.
+struct PopupPlacement {
+    bool isAtMouse = true;
+    std::string x;  ///< with `y` the position on the page in pixels, when not at the mouse;
+    std::string y;  ///< both go into the code as they are
+};
+
+/// Reference to the definition file. `definitionURL` goes into the code as it is.
+std::string DefinitionReference(std::string_view definitionURL);
+
+/// Code of a horizontal or vertical menu: the reference and the call that draws the menu in place.
+std::string MenuCode(std::string_view definitionURL);
+
+/// Hyperlink that opens, and beside the mouse also closes, the submenu of a list entry.
+std::string PopupLinkCode(std::string_view entry, const PopupPlacement& placement);
+
+}  // namespace zev

@@ -1,0 +1,62 @@
+#include "integrator/link_code.h"
+
+#include <gtest/gtest.h>
+
+namespace zev {
+namespace {
+
+TEST(LinkCodeTest, EntryBecomesTheArgumentsOfTheCalls) {
+    struct Case {
+        const char* entry;
+        const char* arguments;
+    };
+    const Case cases[] = {
+        {"Menu (1)", "'zev1', '1'"},
+        {"Products (1i2)", "'zev1i1', '2'"},
+        {"Deep (1i2i3)", "'zev1i1', '2i3'"},
+        {"Wide (12i34i56)", "'zev1i12', '34i56'"},
+        {"Prices (in EUR) (1i2)", "'zev1i1', '2'"},
+        {"Odd ) and ( (2)", "'zev1', '2'"},
+        {"(3)", "'zev1', '3'"},
+        {"Capital (1I2)", "'zev1', '1I2'"},
+        {"Empty ()", "'zev1', ''"},
+        {"Letter first (i2)", "'zev1i', '2'"},
+        {"Letter last (1i)", "'zev1i1', ''"},
+        {"\xC3\x84pfel (2i1)", "'zev1i2', '1'"},
+        {"After the pair (2) x", "'zev1', '2'"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(MenuList_GetString(c.entry), c.arguments) << c.entry;
+}
+
+TEST(LinkCodeTest, EntryWithoutAPairOfParenthesesCountsAsEmpty) {
+    for (const char* const entry : {"", "Menu", "Menu (1", "Menu 1)", ")1(", ")("})
+        EXPECT_EQ(MenuList_GetString(entry), "'zev1', ''") << entry;
+}
+
+TEST(LinkCodeTest, MenuInPlaceIsReferenceAndCallOnTwoLines) {
+    EXPECT_EQ(MenuCode("js/menu_def.js"),
+              "<script language=\"JavaScript1.2\" src=\"js/menu_def.js\"></script>\r\n"
+              "<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>");
+}
+
+TEST(LinkCodeTest, ReferenceTakesTheURLAsItIs) {
+    EXPECT_EQ(DefinitionReference("My Menu.js"),
+              "<script language=\"JavaScript1.2\" src=\"My Menu.js\"></script>");
+}
+
+TEST(LinkCodeTest, PopupAtTheMouseOpensAndCloses) {
+    EXPECT_EQ(PopupLinkCode("Products (1i2)", {}),
+              "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1i1', '2', event)\" "
+              "onmouseout=\"ZEVMenuClose('zev1i1', '2', false)\">Menu</a>");
+}
+
+TEST(LinkCodeTest, PopupAtAPositionOnlyOpensAndTakesTheCoordinatesAsTyped) {
+    EXPECT_EQ(PopupLinkCode("Products (1i2)", {false, "100", "50"}),
+              "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1i1', '2', 100, 50)\">Menu</a>");
+    EXPECT_EQ(PopupLinkCode("Menu (1)", {false, "-07", ""}),
+              "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1', '1', -07, )\">Menu</a>");
+}
+
+}  // namespace
+}  // namespace zev
