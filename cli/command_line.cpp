@@ -1,12 +1,14 @@
 #include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <charconv>
 #include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
 
 #include "cli/commands.h"
+#include "cli/integrator_commands.h"
 #include "platform/posix/posix_process.h"
 
 namespace zev {
@@ -114,6 +116,125 @@ void addPublish(CLI::App& program, FileSystem& files, Command& chosen) {
     });
 }
 
+bool isInteger(std::string_view text) {
+    int value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [rest, problem] = std::from_chars(text.data(), end, value);
+    return problem == std::errc() && rest == end;
+}
+
+std::string refuseNoPosition(const std::string& text) {
+    const std::size_t comma = text.find(',');
+    const bool isPosition = comma != std::string::npos && isInteger(text.substr(0, comma)) &&
+                            isInteger(text.substr(comma + 1));
+    return isPosition ? "" : "must be two whole numbers, for example 100,50";
+}
+
+std::string refuseNoEntry(const std::string& text) {
+    const std::size_t open = text.rfind('(');
+    const std::size_t close = text.rfind(')');
+    const bool isEntry =
+        open != std::string::npos && close != std::string::npos && open + 1 < close;
+    return isEntry ? "" : "must be an entry as \"zevmenu submenus\" prints it";
+}
+
+/// What the options of a popup menu were given as.
+struct PopupArguments {
+    std::string entry;
+    bool isAtMouse = false;
+    std::string position;
+    CLI::Option* entryOption = nullptr;
+
+    /// Once the arguments are taken apart. Throws CLI::ParseError when they do not go together.
+    std::optional<PopupOptions> options() const {
+        if (entryOption->empty())
+            return {};
+        if (isAtMouse)
+            return PopupOptions{entry, {}};
+        if (position.empty())
+            throw CLI::ValidationError("--popup", "requires --mouse or --at");
+        const std::size_t comma = position.find(',');
+        return PopupOptions{entry, {false, position.substr(0, comma), position.substr(comma + 1)}};
+    }
+};
+
+void addPopup(CLI::App& command, PopupArguments& popup) {
+    popup.entryOption =
+        command.add_option("--popup", popup.entry, "Popup menu: this submenu opens at a link")
+            ->type_name("ENTRY")
+            ->check(refuseNoEntry);
+    CLI::Option* const mouse =
+        command.add_flag("--mouse", popup.isAtMouse, "It opens beside the mouse")
+            ->needs(popup.entryOption);
+    command.add_option("--at", popup.position, "It opens at this position, in pixels")
+        ->type_name("X,Y")
+        ->check(refuseNoPosition)
+        ->needs(popup.entryOption)
+        ->excludes(mouse);
+}
+
+void addLinkcode(CLI::App& program, Command& chosen) {
+    struct Options {
+        std::string definition;
+        PopupArguments popup;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command =
+        addCommand(program, "linkcode", "Print the code that shows a menu on a web page");
+    command.footer("Exit status: 0 done, 2 wrong use, 3 the output could not be written.");
+    command.add_option("--definition", options->definition, "URL of the menu definition")
+        ->required()
+        ->type_name("URL")
+        ->check(refuseEmpty);
+    addPopup(command, options->popup);
+    command.callback([&chosen, options] {
+        const std::optional<PopupOptions> popup = options->popup.options();
+        chosen = [options, popup] { return linkcodeCommand(options->definition, popup); };
+    });
+}
+
+void addIntegrate(CLI::App& program, FileSystem& files, Command& chosen) {
+    struct Options {
+        IntegrateOptions integrate;
+        PopupArguments popup;
+        bool hasNoBackups = false;
+    };
+    const auto options = std::make_shared<Options>();
+    IntegrateOptions& integrate = options->integrate;
+    CLI::App& command =
+        addCommand(program, "integrate", "Make web pages load a menu and print what to paste");
+    command.footer(
+        "Definition and library need not exist. Relative paths count from the current folder; an\n"
+        "address such as \"http://example.org/menu/\" is taken as it is.\n"
+        "Exit status: 0 done, 1 a page failed (the others are done), 2 wrong use,\n"
+        "3 the report could not be written.");
+    command.add_option("--definition", integrate.definition, "Menu definition")
+        ->required()
+        ->type_name("FILE")
+        ->check(refuseEmpty);
+    command.add_option("--library", integrate.library, "Folder of the run-time scripts")
+        ->required()
+        ->type_name("DIR")
+        ->check(refuseEmpty);
+    command.add_flag("--no-backup", options->hasNoBackups, "Do not keep a copy PAGE.bak");
+    command.add_flag("--keep-scripts", integrate.keepsOtherScripts,
+                     "Keep scripts that do not name JavaScript in a language attribute");
+    command.add_flag("--dry-run", integrate.isDryRun, "Report, but leave every page as it is");
+    command.add_option("--report", integrate.report, "File for the report")
+        ->type_name("FILE")
+        ->check(refuseEmpty);
+    addPopup(command, options->popup);
+    command.add_option("PAGE", integrate.pages, "Web pages")
+        ->required()
+        ->type_name("")
+        ->check(refuseEmpty);
+    command.callback([&files, &chosen, options] {
+        options->integrate.hasBackups = !options->hasNoBackups;
+        options->integrate.popup = options->popup.options();
+        chosen = [&files, options] { return integrateCommand(files, options->integrate); };
+    });
+}
+
 /// Prints help, version or what was wrong with the arguments.
 ExitStatus report(const CLI::App& program, const CLI::ParseError& outcome) {
     std::ostringstream output;
@@ -138,6 +259,8 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     addRebase(program, files, chosen);
     addSubmenus(program, files, chosen);
     addPublish(program, files, chosen);
+    addLinkcode(program, chosen);
+    addIntegrate(program, files, chosen);
     try {
         program.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& outcome) {

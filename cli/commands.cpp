@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <system_error>
 
+#include "cli/command_paths.h"
 #include "platform/library_files.h"
 #include "platform/program_folder.h"
 #include "script/relative_url.h"
@@ -15,29 +15,6 @@ namespace {
 
 std::string joinPath(const std::string& folder, std::string_view name) {
     return (std::filesystem::path(folder) / name).string();
-}
-
-bool isDrivePath(std::string_view path) {
-    const bool isLetter =
-        !path.empty() && ((path[0] >= 'A' && path[0] <= 'Z') || (path[0] >= 'a' && path[0] <= 'z'));
-    return isLetter && path.substr(1).starts_with(":\\");
-}
-
-/// A folder as the URL rules take it: full path, no separator at its end but the root's own.
-/// Nothing, with the problem printed, when a relative one has no current folder to count from.
-std::optional<std::string> fullFolder(const std::string& folder) {
-    if (isDrivePath(folder))
-        return folder.substr(0, folder.find_last_not_of('\\') + 1);
-    std::error_code error;
-    const std::filesystem::path path = std::filesystem::absolute(folder, error);
-    if (error) {
-        printProblem(folder + ": " + error.message());
-        return {};
-    }
-    std::string full = path.lexically_normal().string();
-    if (full.size() > 1 && full.ends_with('/'))
-        full.pop_back();
-    return full;
 }
 
 ExitStatus publishLibrary(FileSystem& files, const std::string& executable,

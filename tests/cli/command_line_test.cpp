@@ -32,6 +32,25 @@ TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
         {"submenus", "in.js", "-o", "a.js"},
         {"publish", "in.js"},
         {"publish", "-", "."},
+        {"linkcode"},
+        {"linkcode", "--definition", ""},
+        {"linkcode", "--definition", "m.js", "in.js"},
+        {"linkcode", "--definition", "m.js", "--popup", "A (1)"},
+        {"linkcode", "--definition", "m.js", "--popup", "A", "--mouse"},
+        {"linkcode", "--definition", "m.js", "--popup", "A ()", "--mouse"},
+        {"linkcode", "--definition", "m.js", "--mouse"},
+        {"linkcode", "--definition", "m.js", "--at", "1,2"},
+        {"linkcode", "--definition", "m.js", "--popup", "A (1)", "--mouse", "--at", "1,2"},
+        {"linkcode", "--definition", "m.js", "--popup", "A (1)", "--at", "1"},
+        {"linkcode", "--definition", "m.js", "--popup", "A (1)", "--at", "1,2,3"},
+        {"linkcode", "--definition", "m.js", "--popup", "A (1)", "--at", "1,x"},
+        {"linkcode", "--definition", "m.js", "--popup", "A (1)", "--at", "1.5,2"},
+        {"integrate", "--definition", "m.js", "--library", "lib"},
+        {"integrate", "--definition", "m.js", "in.js"},
+        {"integrate", "--library", "lib", "in.js"},
+        {"integrate", "--definition", "m.js", "--library", "", "in.js"},
+        {"integrate", "--definition", "m.js", "--library", "lib", "in.js", ""},
+        {"integrate", "--definition", "m.js", "--library", "lib", "--popup", "A (1)", "in.js"},
         {"-o", "a.js", "format", "in.js"},
     };
     for (const Arguments& arguments : cases) {
@@ -45,7 +64,8 @@ TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
 
 TEST(CommandLineTest, HelpAndVersionAreEverywhereAndGoToStandardOutput) {
     const TempFolder folder;
-    for (const char* const command : {"", "format", "rebase", "submenus", "publish"}) {
+    for (const char* const command :
+         {"", "format", "rebase", "submenus", "publish", "linkcode", "integrate"}) {
         Arguments arguments;
         if (*command != '\0')
             arguments.push_back(command);
@@ -111,11 +131,10 @@ TEST(CommandLineTest, OutputThatCannotBeWrittenHasStatusThree) {
         {OutputTo::ClosedPipe, "zevmenu: standard output: Broken pipe\n"},
         {OutputTo::Nothing, "zevmenu: standard output: Bad file descriptor\n"},
     };
-    const Arguments commands[] = {{"format", "in.js"},
-                                  {"rebase", "--from", "/a", "--to", "/b", "in.js"},
-                                  {"submenus", "in.js"},
-                                  {"--version"},
-                                  {"format", "--help"}};
+    const Arguments commands[] = {
+        {"format", "in.js"},   {"rebase", "--from", "/a", "--to", "/b", "in.js"},
+        {"submenus", "in.js"}, {"linkcode", "--definition", "m.js"},
+        {"--version"},         {"format", "--help"}};
     for (const Case& c : cases) {
         for (const Arguments& arguments : commands) {
             const ProgramResult result = runZevmenu(arguments, folder.path(), "", c.outputTo);

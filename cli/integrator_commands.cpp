@@ -1,0 +1,109 @@
+#include "cli/integrator_commands.h"
+
+#include <map>
+#include <set>
+
+#include "cli/command_paths.h"
+#include "integrator/page_integration.h"
+#include "model/text_rules.h"
+#include "platform/html/html_page.h"
+#include "script/relative_url.h"
+
+namespace zev {
+
+namespace {
+
+std::string withUnixLineEnds(std::string_view text) {
+    return ReplaceAll(text, "\r\n", "\n");
+}
+
+std::string codeToPaste(const std::string& definitionURL,
+                        const std::optional<PopupOptions>& popup) {
+    const std::string code = popup ? DefinitionReference(definitionURL) + "\r\n" +
+                                         PopupLinkCode(popup->entry, popup->placement)
+                                   : MenuCode(definitionURL);
+    return withUnixLineEnds(code) + "\n";
+}
+
+/// "http://..." and the like name no file of this machine.
+std::optional<std::string> fullPathOrAddress(const std::string& path) {
+    return path.find("://") != std::string::npos ? path : fullPath(path);
+}
+
+/// Neighbouring pages of one folder.
+struct PageGroup {
+    std::vector<std::string> inputFiles;  ///< the folder, then the names
+    IntegrationURLs urls;
+};
+
+/// Nothing, with the problem printed, when a relative path has no current folder to count from.
+std::optional<std::vector<PageGroup>> groupPages(const IntegrateOptions& options) {
+    const std::optional<std::string> definition = fullPathOrAddress(options.definition);
+    const std::optional<std::string> library = fullPathOrAddress(options.library);
+    if (!definition || !library)
+        return {};
+    std::vector<PageGroup> groups;
+    for (const std::string& page : options.pages) {
+        const std::optional<std::string> path = fullPath(page);
+        if (!path)
+            return {};
+        const PathParts parts = SplitPath(*path);
+        if (groups.empty() || groups.back().inputFiles[0] != parts.folder)
+            groups.push_back({{parts.folder}, CalculateURL(parts.folder, *definition, *library)});
+        groups.back().inputFiles.push_back(parts.name);
+    }
+    return groups;
+}
+
+/// The code, once for each URL that the definition has seen from the pages' folders.
+std::string codeOfAll(const std::vector<PageGroup>& groups, const IntegrateOptions& options) {
+    std::map<std::string, std::set<std::string>> foldersOfURLs;
+    for (const PageGroup& group : groups)
+        foldersOfURLs[group.urls.definition].insert(group.inputFiles[0]);
+    std::string text;
+    for (const auto& [url, folders] : foldersOfURLs) {
+        for (const std::string& folder : folders)
+            text += "Code for the pages in " + folder + "\n";
+        text += "\n" + codeToPaste(url, options.popup) + "\n";
+    }
+    return text;
+}
+
+}  // namespace
+
+ExitStatus linkcodeCommand(const std::string& definitionURL,
+                           const std::optional<PopupOptions>& popup) {
+    return writeStandardOutput(codeToPaste(std::string(TrimSpaces(definitionURL)), popup))
+               ? ExitStatus::Done
+               : ExitStatus::FileProblem;
+}
+
+ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) {
+    const std::optional<std::vector<PageGroup>> groups = groupPages(options);
+    if (!groups)
+        return ExitStatus::FileProblem;
+    HtmlPage parser(files);
+    std::string report;
+    bool hasFailed = false;
+    for (const PageGroup& group : *groups) {
+        PageIntegrator integrator(files, parser,
+                                  {{group.urls.library, options.keepsOtherScripts},
+                                   options.hasBackups,
+                                   options.isDryRun});
+        integrator.IntegratePages(group.inputFiles);
+        report += integrator.report();
+        hasFailed = hasFailed || integrator.hasFailed();
+    }
+    std::string output = codeOfAll(*groups, options);
+    if (options.report.empty()) {
+        output = withUnixLineEnds(report) + output;
+    } else if (const FileOutcome error = files.writeFile(options.report, report + "\r\n")) {
+        printProblem(*error);
+        return ExitStatus::FileProblem;
+    }
+    if (!writeStandardOutput(output))
+        return ExitStatus::FileProblem;
+    return hasFailed ? ExitStatus::Counted : ExitStatus::Done;
+}
+
+}  // namespace zev

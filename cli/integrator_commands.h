@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/command_files.h"
+#include "integrator/link_code.h"
+#include "platform/file_system.h"
+
+namespace zev {
+
+// The commands that bring a menu into web pages. Lines on standard output end in LF.
+
+/// A popup menu instead of a horizontal or vertical one.
+struct PopupOptions {
+    std::string entry;  ///< as `submenus` prints it
+    PopupPlacement placement;
+};
+
+/// Prints the code that shows the menu of the definition at `definitionURL`.
+ExitStatus linkcodeCommand(const std::string& definitionURL,
+                           const std::optional<PopupOptions>& popup);
+
+struct IntegrateOptions {
+    std::string definition;  ///< file, or address ("http://...") taken as it is
+    std::string library;     ///< folder of the run-time files, or address
+    bool hasBackups = true;
+    bool keepsOtherScripts = false;
+    bool isDryRun = false;
+    std::string report;  ///< file for the report; empty: standard output
+    std::optional<PopupOptions> popup;
+    std::vector<std::string> pages;
+};
+
+/// Integrates the pages, writes the report and prints the code to paste, which differs between
+/// pages of different folders. Counted when any page failed.
+ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options);
+
+}  // namespace zev
