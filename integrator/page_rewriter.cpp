@@ -1,6 +1,7 @@
 #include "integrator/page_rewriter.h"
 
 #include <deque>
+#include <utility>
 #include <vector>
 
 #include "model/text_rules.h"
@@ -15,8 +16,9 @@ constexpr std::string_view kScriptStart = "<script language=\"JavaScript1.2\">";
 constexpr std::string_view kLoaderStart = "<script language=\"JavaScript1.2\" src=\"";
 constexpr std::string_view kHandlerCall = "ZEVLoadMenu();";
 
-/// The new page as pieces: runs of the old page, which must stay in memory, and inserted texts.
-/// Neighbouring unchanged tokens become one run, so that the bytes are moved once, by `joined`.
+/// The new page as pieces: runs of the old page and inserted texts, all views of bytes that must
+/// stay in memory. Neighbouring unchanged tokens become one run, so that the bytes are moved once,
+/// by `joined`.
 class PageOutput {
   public:
     void keep(std::string_view source) {
@@ -28,10 +30,13 @@ class PageOutput {
         m_run = source;
     }
 
-    void insert(std::string text) {
+    void insert(std::string_view text) {
         endRun();
-        m_pieces.push_back(m_inserted.emplace_back(std::move(text)));
+        m_pieces.push_back(text);
     }
+
+    /// Inserts a text and keeps it in memory.
+    void insertOwned(std::string text) { insert(m_owned.emplace_back(std::move(text))); }
 
     std::string joined() {
         endRun();
@@ -54,7 +59,7 @@ class PageOutput {
 
     std::string_view m_run;
     std::vector<std::string_view> m_pieces;
-    std::deque<std::string> m_inserted;  // its strings stay where they are when it grows
+    std::deque<std::string> m_owned;  // its strings stay where they are when it grows
 };
 
 bool NamesJavaScript(const HtmlParse& parser) {
@@ -104,7 +109,10 @@ bool AddHandler(HtmlParse& parser, std::string_view event) {
 class PageRewriter {
   public:
     PageRewriter(HtmlParse& parser, const RewriteOptions& options, IntegrationStatus& status)
-        : m_parser(parser), m_options(options), m_status(status) {}
+        : m_parser(parser),
+          m_keepsOtherScripts(options.keepsOtherScripts),
+          m_references(LibraryReferences(options.libraryURL)),
+          m_status(status) {}
 
     std::string rewrite() {
         for (; !m_parser.IsLast(); m_parser.Next())
@@ -140,7 +148,7 @@ class PageRewriter {
 
     void handleHead() {
         keep();
-        m_output.insert(LibraryReferences(m_options.libraryURL));
+        m_output.insert(m_references);
         m_status.bHeadDone = true;
     }
 
@@ -148,21 +156,21 @@ class PageRewriter {
         const bool isLoadNew = AddHandler(m_parser, "onload");
         const bool isResizeNew = AddHandler(m_parser, "onresize");
         if (isLoadNew || isResizeNew)
-            m_output.insert("<" + std::string(m_parser.TagText()) + ">");
+            m_output.insertOwned("<" + std::string(m_parser.TagText()) + ">");
         else
             keep();
         m_status.bBodyDone = true;
     }
 
     void handleBodyEnd() {
-        m_output.insert(MenuCreation());
+        m_output.insert(m_creation);
         keep();
         m_status.bEndBodyDone = true;
     }
 
     void handleScript() {
         // Without its start tag a script's end tag means nothing to a browser; it stays.
-        if (!m_options.keepsOtherScripts && !NamesJavaScript(m_parser))
+        if (!m_keepsOtherScripts && !NamesJavaScript(m_parser))
             return;
         if (LoadsLibrary(m_parser)) {
             SkipToScriptEnd(m_parser);
@@ -175,7 +183,9 @@ class PageRewriter {
     }
 
     HtmlParse& m_parser;
-    const RewriteOptions& m_options;
+    const bool m_keepsOtherScripts;
+    const std::string m_references;
+    const std::string m_creation = MenuCreation();
     IntegrationStatus& m_status;
     PageOutput m_output;
 };

@@ -67,6 +67,9 @@ class State:
 class Sweep:
     """One command on one folder of files."""
 
+    # The status that tells of a file that was not written.
+    failed_status = 3
+
     def __init__(self, name, template, command, definition, work):
         self.name = name
         self.template = Path(template)
@@ -234,7 +237,8 @@ class Sweep:
         after = State(self.folder)
         self.check_files(fault, after, may_be_kept=True)
         is_written = after.bytes_of(self.definition) == self.new.bytes_of(self.definition)
-        if result.returncode not in (0, 3) or (result.returncode == 0 and not is_written):
+        allowed = (0, self.failed_status, 3)  # standard output is gone with the drive
+        if result.returncode not in allowed or (result.returncode == 0 and not is_written):
             self.fail(fault, f"status {result.returncode}")
         self.check_next_run(fault)
 
@@ -255,10 +259,13 @@ class Sweep:
     def check_next_run(self, fault):
         result = self.run()
         after = State(self.folder)
-        if result.returncode != 0 or after.entries != self.new.entries:
+        if result.returncode != 0 or not self.is_put_right(after):
             names = sorted(set(after.entries) ^ set(self.new.entries))
             self.fail(fault, f"the next run did not put all right: status {result.returncode}, "
                              f"{names} {result.stderr}")
+
+    def is_put_right(self, after):
+        return after.entries == self.new.entries
 
     def check_files(self, fault, after, may_be_kept):
         for name in sorted(set(self.old.entries) | set(self.new.entries)):
@@ -285,12 +292,43 @@ class Sweep:
 
     def check_status(self, fault, result, after):
         is_written = after.bytes_of(self.definition) == self.new.bytes_of(self.definition)
-        if result.returncode not in (0, 3):
+        if result.returncode not in (0, self.failed_status):
             self.fail(fault, f"status {result.returncode}: {result.stderr}")
         elif result.returncode == 0 and not is_written:
             self.fail(fault, "status 0, but the definition was not written")
-        elif result.returncode == 3 and not result.stderr.strip():
+        elif result.returncode != 0 and not self.words_of(result):
             self.fail(fault, "failed without a word")
+
+    def words_of(self, result):
+        return result.stderr.strip()
+
+
+class PageSweep(Sweep):
+    """`integrate`, whose report tells of failures. The "definition" is the page."""
+
+    failed_status = 1
+
+    def words_of(self, result):
+        return re.search("^ERROR: .* (not saved|not deleted): .+$", result.stdout, re.MULTILINE)
+
+    def backup(self):
+        name = self.definition + ".bak"
+        return name if name in self.new.entries else None
+
+    def check_files(self, fault, after, may_be_kept):
+        super().check_files(fault, after, may_be_kept)
+        page = after.bytes_of(self.definition)
+        if (self.backup() and page != self.old.bytes_of(self.definition)
+                and after.bytes_of(self.backup()) != self.old.bytes_of(self.definition)):
+            self.fail(fault, "the page was touched before its backup was whole")
+
+    def is_put_right(self, after):
+        # A run that was killed late leaves the new page, which the next one backs up.
+        entries = dict(after.entries)
+        backup = self.backup()
+        if backup and after.bytes_of(backup) == self.new.bytes_of(self.definition):
+            entries[backup] = self.new.entries[backup]
+        return entries == self.new.entries
 
 
 def make_definition(items):
@@ -372,6 +410,25 @@ def scenarios(program, work):
            "site/in.js")
 
 
+def page_scenarios(program, work):
+    """The same for pages."""
+    command = [program, "integrate", "--definition", "{folder}/site/menu.js",
+               "--library", "{folder}/site", "{folder}/site/page.htm"]
+    page = b"<html><head></head><body>" + b"<p>text</p>" * 500 + b"</body></html>\n"
+
+    template = new_template(work, "page")
+    (template / "site/page.htm").write_bytes(page)
+    (template / "site/page.htm").chmod(0o640)
+    (template / "site/page.htm.bak").write_bytes(b"older backup")
+    yield "integrate", template, command, "site/page.htm"
+
+    template = new_template(work, "page-hard-link")
+    (template / "site/page.htm").write_bytes(page)
+    os.link(template / "site/page.htm", template / "site/other.htm")
+    yield ("integrate, hard links, no backup", template, [*command, "--no-backup"],
+           "site/page.htm")
+
+
 def run_sweeps(sweeps):
     failed = 0
     # The work is done by other processes, so that threads run side by side.
@@ -415,6 +472,9 @@ def sweep_zevmenu(options):
         for name, template, command, definition in scenarios(program, work):
             give_to_nobody(template)
             sweeps.append(Sweep(name, template, command, definition, work))
+        for name, template, command, page in page_scenarios(program, work):
+            give_to_nobody(template)
+            sweeps.append(PageSweep(name, template, command, page, work))
         return run_sweeps(sweeps)
 
 
