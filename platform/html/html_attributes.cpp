@@ -1,5 +1,7 @@
 #include "platform/html/html_attributes.h"
 
+#include <algorithm>
+
 #include "platform/html/html_characters.h"
 
 namespace zev {
@@ -47,10 +49,12 @@ bool HtmlAttributeReader::beforeAttributeNameState() {
 
 void HtmlAttributeReader::attributeNameState() {
     // An equals sign that comes first is part of the name.
-    do {
-        skipCharacterOrBlock();
-    } while (!isAtEnd() && m_page[m_position] != '=' && m_page[m_position] != '>' &&
-             m_page[m_position] != '/' && !isHtmlSpace(m_page[m_position]));
+    if (m_page[m_position] == '=') {
+        ++m_position;
+    }
+    passUntil([](char character) {
+        return character == '=' || character == '>' || character == '/' || isHtmlSpace(character);
+    });
 }
 
 /// True when an equals sign follows; it is passed then.
@@ -76,9 +80,7 @@ void HtmlAttributeReader::beforeAttributeValueState(HtmlAttribute& attribute) {
 
 void HtmlAttributeReader::attributeValueQuotedState(HtmlAttribute& attribute) {
     attribute.valueBegin = m_position;
-    while (!isAtEnd() && m_page[m_position] != attribute.quote) {
-        skipCharacterOrBlock();
-    }
+    passUntil([quote = attribute.quote](char character) { return character == quote; });
     attribute.valueEnd = m_position;
     if (!isAtEnd()) {
         ++m_position;
@@ -87,9 +89,7 @@ void HtmlAttributeReader::attributeValueQuotedState(HtmlAttribute& attribute) {
 
 void HtmlAttributeReader::attributeValueUnquotedState(HtmlAttribute& attribute) {
     attribute.valueBegin = m_position;
-    while (!isAtEnd() && m_page[m_position] != '>' && !isHtmlSpace(m_page[m_position])) {
-        skipCharacterOrBlock();
-    }
+    passUntil([](char character) { return character == '>' || isHtmlSpace(character); });
     attribute.valueEnd = m_position;
 }
 
@@ -99,9 +99,15 @@ void HtmlAttributeReader::skipSpace() {
     }
 }
 
-void HtmlAttributeReader::skipCharacterOrBlock() {
-    const std::size_t end = m_page[m_position] == '<' ? m_blocks.endOf(m_position) : m_position;
-    m_position = end == m_position ? m_position + 1 : end;
+/// Goes to the next character outside of blocks for which `isEnd` is true, or to the page's end.
+template <typename IsEnd>
+void HtmlAttributeReader::passUntil(IsEnd isEnd) {
+    std::size_t position = m_position;  // a local one stays in a register
+    while (position < m_page.size() && !isEnd(m_page[position])) {
+        const std::size_t blockEnd = m_page[position] == '<' ? m_blocks.endOf(position) : position;
+        position = std::max(position + 1, blockEnd);
+    }
+    m_position = position;
 }
 
 bool findHtmlAttribute(std::string_view tag, std::size_t position, std::string_view name,

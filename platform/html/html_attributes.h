@@ -48,7 +48,8 @@ class HtmlAttributeReader {
     void attributeValueUnquotedState(HtmlAttribute& attribute);
     bool isAtEnd() const { return m_position >= m_page.size(); }
     void skipSpace();
-    void skipCharacterOrBlock();
+    template <typename IsEnd>
+    void passUntil(IsEnd isEnd);
 
     std::string_view m_page;
     ServerBlocks& m_blocks;

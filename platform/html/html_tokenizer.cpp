@@ -1,7 +1,7 @@
 #include "platform/html/html_tokenizer.h"
 
 #include <algorithm>
-#include <cstring>
+#include <array>
 
 #include "platform/html/html_attributes.h"
 #include "platform/html/html_characters.h"
@@ -14,16 +14,13 @@ constexpr std::string_view kScript = "script";
 constexpr std::string_view kPlaintext = "plaintext";
 
 /// Elements whose content is text up to their end tag; the script apart.
+constexpr std::array<std::string_view, 8> kRawElements = {
+    "style", "title", "textarea", "xmp", "iframe", "noembed", "noframes", kPlaintext};
+
 bool isRawElement(std::string_view name) {
-    for (const std::string_view element :
-         {std::string_view("style"), std::string_view("title"), std::string_view("textarea"),
-          std::string_view("xmp"), std::string_view("iframe"), std::string_view("noembed"),
-          std::string_view("noframes"), kPlaintext}) {
-        if (equalsIgnoringCase(name, element)) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(kRawElements.begin(), kRawElements.end(), [name](std::string_view element) {
+        return equalsIgnoringCase(name, element);
+    });
 }
 
 bool hasUtf16Mark(std::string_view page) {
@@ -52,15 +49,15 @@ bool HtmlTokenizer::next(HtmlToken& token) {
 }
 
 void HtmlTokenizer::dataState(HtmlToken& token) {
-    std::size_t lessThan = find('<', m_position);
+    if (m_page[m_position] == '<' && isMarkup(m_position)) {
+        tagOpenState(token);
+        return;
+    }
+    std::size_t lessThan = find('<', m_position + 1);
     while (lessThan < m_page.size() && !isMarkup(lessThan)) {
         lessThan = find('<', lessThan + 1);
     }
-    if (lessThan == m_position) {
-        tagOpenState(token);
-    } else {
-        takeText(token, lessThan);
-    }
+    takeText(token, lessThan);
 }
 
 void HtmlTokenizer::tagOpenState(HtmlToken& token) {
@@ -243,17 +240,14 @@ bool HtmlTokenizer::isMarkup(std::size_t lessThan) {
     if (next >= m_page.size()) {
         return false;
     }
-    switch (m_page[next]) {
-        case '!':
-        case '?':
-            return true;
-        case '/':
-            return next + 1 < m_page.size();
-        case '%':
-            return m_blocks.endOf(lessThan) != lessThan;
-        default:
-            return isAsciiLetter(m_page[next]);
+    const char character = m_page[next];
+    if (isAsciiLetter(character) || character == '!' || character == '?') {
+        return true;
     }
+    if (character == '/') {
+        return next + 1 < m_page.size();
+    }
+    return character == '%' && m_blocks.endOf(lessThan) != lessThan;
 }
 
 /// Whether the element's name stands here, and whole.
@@ -307,8 +301,9 @@ std::string_view HtmlTokenizer::slice(std::size_t begin, std::size_t end) const 
 }
 
 void HtmlTokenizer::takeText(HtmlToken& token, std::size_t end) {
-    token.source = slice(m_position, end);
-    token.text = token.source;
+    const std::string_view text = slice(m_position, end);
+    token.source = text;
+    token.text = text;
     m_position = end;
 }
 
