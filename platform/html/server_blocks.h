@@ -54,6 +54,7 @@ class ServerBlocks {
     std::size_t endOfQuestion(std::size_t lessThan);
     std::size_t endOfPercent(std::size_t lessThan);
     std::size_t endOfComment(std::size_t lessThan);
+    std::size_t endOfPaired(std::size_t begin);
     std::size_t after(EndMark& mark, std::size_t from) const;
     void pairComments(std::size_t first);
 
@@ -63,6 +64,7 @@ class ServerBlocks {
     EndMark m_percentCommentEnd{"--%>"};
     bool m_arePaired = false;
     std::vector<Comment> m_comments;  // in the order of the page, once paired
+    std::size_t m_nextComment = 0;    // where the next look-up begins
 };
 
 }  // namespace zev

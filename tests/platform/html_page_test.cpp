@@ -154,7 +154,7 @@ TEST(HtmlAttributeTest, IsReadAsSpelledInEveryQuoting) {
              {"<body <? if ($a > 1) { ?>onload=\"a\"<? } ?>>", "a"},
              {"<body class='x'<? b ?>onload=a>", "a"},
              {"<body<? b ?> onload=a>", "a"},
-             {"<body <?= 'name' ?>=\"onload=b\" onload=a>", "a"},
+             {"<body <?= 'name' ?>=\"x onload=b\" onload=a>", "a"},
              {"</body onload=a>", "a"},
          }) {
         LoadedPage loaded(test.tag);

@@ -44,7 +44,7 @@ TEST(HtmlServerBlockTest, IsOpaqueInEveryPlaceWithinATag) {
     for (const std::string& block : kBlocks) {
         for (const std::string& tag :
              {"<p " + block + ">", "<p a" + block + ">", "<p " + block + "a>",
-              "<p " + block + "=a>", "<p a=" + block + ">", "<p a=b" + block + "c>",
+              "<p " + block + "=\"a>\">", "<p a=" + block + ">", "<p a=b" + block + "c>",
               "<p a=\"" + block + "\">", "<p a='b" + block + "c' d>", "<p a='b'" + block + ">",
               "<p a = " + block + " b>", "<p/" + block + "/>", "<p" + block + ">",
               "<p a='" + block + block + "'>"}) {
