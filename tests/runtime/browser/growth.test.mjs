@@ -55,6 +55,8 @@ async function steadyCounts() {
     let now, last;
     for (let tries = 0; tries < 20; tries++) {
         last = now;
+        // A busy browser may be idle for the first time long after the page was shown.
+        await page.evaluate(() => new Promise(resolve => (window.requestIdleCallback || setTimeout)(resolve)));
         now = await counts();
         if (String(now) == String(last)) return now;
         await pause(500);
