@@ -1,0 +1,62 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "integrator/page_rewriter.h"
+#include "platform/fake/fake_file_system.h"
+#include "platform/html/html_page.h"
+
+namespace zev {
+
+inline std::string integratedPage(const std::string& page) {
+    FakeFileSystem files;
+    files.addFile("/page.htm", page);
+    HtmlPage parser(files);
+    parser.LoadFile("/page.htm");
+    IntegrationStatus status;
+    return RewritePage(parser, {"lib/", true}, status);
+}
+
+inline std::string without(std::string text, std::string_view part) {
+    std::string rest;
+    std::size_t from = 0;
+    for (std::size_t at; (at = text.find(part, from)) != std::string::npos; from = at + part.size())
+        rest.append(text, from, at - from);
+    return rest.append(text, from);
+}
+
+/// The page without what integration can insert, quotes and spaces included, so that an integrated
+/// page compares equal to the original.
+inline std::string withoutInsertions(std::string page) {
+    const std::string marker = "<!-- Added by ZEVMenu Creator, zevmenu.example -->";
+    page = without(page, marker +
+                             "<script language=\"JavaScript1.2\">var zev_path = 'lib/';</script>"
+                             "<script language=\"JavaScript1.2\" src=\"lib/zevmenu_loader.js\">"
+                             "</script>");
+    page = without(page, marker + "<script language=\"JavaScript1.2\">ZEVCreateMenu()</script>");
+    page = without(page, "ZEVLoadMenu();");
+    for (const std::string_view reference : {"&quot;", "&#39;"})
+        page = without(page, reference);
+    page.erase(std::remove_if(page.begin(), page.end(),
+                              [](char c) { return c == '"' || c == '\'' || c == ' ' || c == '='; }),
+               page.end());
+    return without(without(page, "onload"), "onresize");
+}
+
+/// What is wrong with the engine's work on a page: "" when nothing is. A page with code of an
+/// earlier run loses it, and what stood around it may then become another tag; of such a page only
+/// survival is asked.
+inline std::string problemOfIntegration(const std::string& page) {
+    const std::string once = integratedPage(page);
+    if (page.find("ZEV") != std::string::npos || page.find("zev") != std::string::npos)
+        return "";
+    if (withoutInsertions(once) != withoutInsertions(page))
+        return "more than the insertions changed";
+    if (integratedPage(once) != once)
+        return "the second run changed the page";
+    return "";
+}
+
+}  // namespace zev
