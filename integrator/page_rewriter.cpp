@@ -75,12 +75,6 @@ bool IsOldScript(const HtmlParse& parser) {
     return MatchesPattern(script, "*ZEVCreateMenu()*") || MatchesPattern(script, "*var zev_path*");
 }
 
-void SkipToScriptEnd(HtmlParse& parser) {
-    do
-        parser.Next();
-    while (!parser.IsLast() && !(parser.IsTag() && parser.TagName() == "/script"));
-}
-
 std::string LibraryReferences(const std::string& libraryURL) {
     std::string code(kMarker);
     code += kScriptStart;
@@ -172,14 +166,15 @@ class PageRewriter {
         // Without its start tag a script's end tag means nothing to a browser; it stays.
         if (!m_keepsOtherScripts && !NamesJavaScript(m_parser))
             return;
-        if (LoadsLibrary(m_parser)) {
-            SkipToScriptEnd(m_parser);
-            m_status.bPrevious = true;
-        } else if (IsOldScript(m_parser)) {
-            SkipToScriptEnd(m_parser);
-        } else {
+        const bool isPrevious = LoadsLibrary(m_parser);
+        if (!isPrevious && !IsOldScript(m_parser)) {
             keep();
+            return;
         }
+        if (isPrevious)
+            m_status.bPrevious = true;
+        // Now on the end tag, which goes too.
+        m_parser.Next();
     }
 
     HtmlParse& m_parser;

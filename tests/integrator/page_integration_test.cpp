@@ -324,14 +324,26 @@ TEST(PageIntegratorTest, ATemporaryFileThatCannotBeDeletedIsReportedBesideTheSuc
     EXPECT_TRUE(desk.integrator.hasFailed());
 }
 
-TEST(PageIntegratorTest, StatusOfAPageThatCouldNotBeSavedIsAllFalse) {
+TEST(PageIntegratorTest, StatusOfAPageThatCouldNotBeReadOrSavedIsAllFalse) {
+    for (const bool isFolder : {true, false}) {
+        Desk desk;
+        desk.addPage("a.htm", rewritten(kPage).page);
+        desk.integrate({"a.htm"});
+        ASSERT_TRUE(desk.integrator.status().bSuccess);
+        desk.files.addFolder("/web/b.htm");
+        desk.files.setWritable("/web", false);
+        desk.integrate({isFolder ? "b.htm" : "a.htm"});
+        const IntegrationStatus& status = desk.integrator.status();
+        EXPECT_FALSE(status.bPrevious || status.bHeadDone || status.bBodyDone ||
+                     status.bEndBodyDone || status.bSuccess);
+    }
+}
+
+TEST(PageIntegratorTest, APageThatIsNotThereLeavesTheStatusOfTheOneBefore) {
     Desk desk;
-    desk.addPage("a.htm", rewritten(kPage).page);
-    desk.files.setWritable("/web", false);
-    desk.integrate({"a.htm"});
-    const IntegrationStatus& status = desk.integrator.status();
-    EXPECT_FALSE(status.bPrevious || status.bHeadDone || status.bBodyDone || status.bEndBodyDone ||
-                 status.bSuccess);
+    desk.addPage("a.htm");
+    desk.integrate({"a.htm", "b.htm"});
+    EXPECT_TRUE(desk.integrator.status().bSuccess);
 }
 
 TEST(CountDroppedScriptsTest, CountsInAFileOrTellsWhyNot) {
