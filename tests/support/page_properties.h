@@ -54,9 +54,9 @@ inline std::string problemOfIntegration(const std::string& page) {
         return "";
     if (withoutInsertions(once) != withoutInsertions(page))
         return "more than the insertions changed";
-    // In a tag, "<!--->" is no server-side comment, but "<!---" is one once a handler was put in
-    // between, and hides the handler from the next run.
-    if (page.find("<!--->") == std::string::npos && integratedPage(once) != once)
+    // "<!---" in a tag may begin a server-side comment or be a stray. A handler put in after it can
+    // turn one into the other, and is then hidden from the next run.
+    if (page.find("<!---") == std::string::npos && integratedPage(once) != once)
         return "the second run changed the page";
     return "";
 }
