@@ -92,7 +92,7 @@ FileOutcome HtmlPage::LoadFile(const std::string& path) {
 }
 
 bool HtmlPage::IsLast() const {
-    return !m_tokenizer || m_token.offset + m_token.source.size() == m_file->value().size();
+    return !m_tokenizer || m_tokenizer->isAtEnd();
 }
 
 bool HtmlPage::IsTag() const {

@@ -33,7 +33,7 @@ HtmlTokenizer::HtmlTokenizer(std::string_view page)
     : m_page(page), m_blocks(page), m_rawElement(hasUtf16Mark(page) ? kPlaintext : "") {}
 
 bool HtmlTokenizer::next(HtmlToken& token) {
-    if (m_position == m_page.size()) {
+    if (isAtEnd()) {
         return false;
     }
     token = {};

@@ -41,6 +41,7 @@ class HtmlTokenizer {
 
     /// Reads the next token; false at the end of the page.
     bool next(HtmlToken& token);
+    bool isAtEnd() const { return m_position == m_page.size(); }
 
   private:
     // Each state reads the token that begins at m_position and leaves m_position after it.
