@@ -25,8 +25,12 @@
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
+#include "dialogs/frm_path.h"
+#include "integrator/frm_integrator.h"
+#include "platform/html/html_page.h"
 #include "script/relative_url.h"
 #include "script/script_writer.h"
+#include "script/submenu_list.h"
 
 namespace zev {
 
@@ -419,7 +423,14 @@ void frmMain::mnuEditMoveDown_Click() {
 }
 
 void frmMain::mnuToolsIntegrate_Click() {
-    showNotBuiltYet("Menu Integrator");
+    HtmlPage parser(m_services.files);
+    frmIntegrator wizard({m_services.files, parser, m_services.messages, m_services.dialogs},
+                         MountedDrives(), this);
+    if (!m_document.SaveFile.empty())
+        wizard.setDefinition(m_document.SaveFile);
+    if (m_document.CurNode != nullptr)
+        wizard.showSubmenus(ListSubmenus(m_document));
+    wizard.exec();
 }
 
 void frmMain::mnuHelpContents_Click() {

@@ -66,14 +66,25 @@ PropertyField PropertyField::make(const QString& name, const QString& caption,
     return field;
 }
 
-void CheckRange(PropertyEdit& edit, double lower, double upper, MessageBox& messages) {
-    const CheckedText checked = CheckRange(edit.text().toStdString(), lower, upper);
+namespace {
+
+void Apply(const CheckedText& checked, PropertyEdit& edit, MessageBox& messages) {
     if (checked.message.empty())
         return;
     MessageRequest request;
     request.text = checked.message;
     messages.show(request);
     edit.setText(QString::fromStdString(checked.text));
+}
+
+}  // namespace
+
+void CheckRange(PropertyEdit& edit, double lower, double upper, MessageBox& messages) {
+    Apply(CheckRange(edit.text().toStdString(), lower, upper), edit, messages);
+}
+
+void CheckInteger(PropertyEdit& edit, MessageBox& messages) {
+    Apply(CheckInteger(edit.text().toStdString()), edit, messages);
 }
 
 void leaveFocusedEdit(QWidget& window) {

@@ -55,6 +55,9 @@ struct PropertyField {
 /// Shows the message of `CheckRange` when there is one, and then clears the box.
 void CheckRange(PropertyEdit& edit, double lower, double upper, MessageBox& messages);
 
+/// The same with `CheckInteger`.
+void CheckInteger(PropertyEdit& edit, MessageBox& messages);
+
 /// Emits `left` for the box of `window` that has the focus, if one has. For the handlers of
 /// buttons: Enter, an access key and a click leave the focus where it was, but the person is done
 /// with the box.

@@ -1,13 +1,16 @@
 // The main window: which keys reach its commands, and what the commands of its menus do.
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTimer>
 #include <stdexcept>
 
+#include "integrator/frm_integrator.h"
 #include "script/script_writer.h"
+#include "when_shown.h"
 #include "window_desk.h"
 
 using namespace zev;
@@ -391,11 +394,41 @@ class test_frm_main_commands : public QObject {
 
     // Other entries
 
+    void theWizardKnowsTheDefinitionAndTheSubmenus() {
+        WindowDesk desk;
+        desk.add("Tea");
+        desk.addChild("Green");
+        desk.document().SaveFile = "/site/menu_def.js";
+        QStringList entries;
+        QString definition;
+        whenShown<frmIntegrator>([&](frmIntegrator& wizard) {
+            definition = wizard.findChild<QLineEdit*>("txtMenuDef")->text();
+            auto* list = wizard.findChild<QComboBox*>("cboMenuList");
+            for (int index = 0; index < list->count(); ++index)
+                entries.append(list->itemText(index));
+            QCOMPARE(list->currentIndex(), -1);
+            wizard.reject();
+        });
+        desk.choose("mnuToolsIntegrate");
+        QCOMPARE(definition, QString("/site/menu_def.js"));
+        QCOMPARE(entries, QStringList{"Tea (1)"});
+    }
+
+    void theWizardOfANewDocumentKnowsNothing() {
+        WindowDesk desk;
+        bool isEmpty = false;
+        whenShown<frmIntegrator>([&](frmIntegrator& wizard) {
+            isEmpty = wizard.findChild<QLineEdit*>("txtMenuDef")->text().isEmpty() &&
+                      wizard.findChild<QComboBox*>("cboMenuList")->count() == 0;
+            wizard.reject();
+        });
+        desk.choose("mnuToolsIntegrate");
+        QVERIFY(isEmpty);
+    }
+
     void whatIsNotBuiltYetSaysSo_data() {
         QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("what");
-        QTest::newRow("wizard") << "mnuToolsIntegrate"
-                                << "Menu Integrator";
         QTest::newRow("Quillmenu") << "mnuFileImportQuillmenu"
                                    << "Import from Quillmenu";
         QTest::newRow("OrletBar") << "mnuFileImportOrletBar"
