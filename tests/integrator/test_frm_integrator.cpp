@@ -265,6 +265,23 @@ class test_frm_integrator : public QObject {
         QVERIFY(!desk.wizard.isVisible());
     }
 
+    void enterGoesOnFromEachStep() {
+        WizardDesk desk;
+        const auto pressEnter = [&] { QTest::keyClick(desk.wizard.focusWidget(), Qt::Key_Return); };
+        pressEnter();
+        QCOMPARE(desk.shownFrames(), QList<int>{1});
+        desk.choosePages({"a.htm", "b.htm"});
+        pressEnter();
+        QCOMPARE(desk.shownFrames(), QList<int>{2});
+        desk.type("txtMenuDef", "/site/menu_def.js");
+        for (const int step : {3, 4, 5}) {
+            pressEnter();
+            QCOMPARE(desk.shownFrames(), QList<int>{step});
+        }
+        pressEnter();
+        QVERIFY(!desk.wizard.isVisible());
+    }
+
     void withoutPagesStep1Stays() {
         WizardDesk desk;
         desk.next();
