@@ -29,8 +29,10 @@ const counter = `<script>
         if (index >= 0) listening.splice(index, 1);
         remove.apply(this, arguments);
     };</script>`;
-const counting = engine == 'chromium' ? {}
-    : { loader: counter + '<script src="/runtime/zevmenu_loader.js"></script>' };
+// A busy browser may be idle for the first time long after the page was shown, or never; here the library
+// builds ahead after a moment instead.
+const counting = { loader: (engine == 'chromium' ? '' : counter) +
+    '<script>window.requestIdleCallback = undefined;</script><script src="/runtime/zevmenu_loader.js"></script>' };
 
 // [nodes, listeners] alive in the page.
 async function counts() {
@@ -55,8 +57,6 @@ async function steadyCounts() {
     let now, last;
     for (let tries = 0; tries < 20; tries++) {
         last = now;
-        // A busy browser may be idle for the first time long after the page was shown.
-        await page.evaluate(() => new Promise(resolve => (window.requestIdleCallback || setTimeout)(resolve)));
         now = await counts();
         if (String(now) == String(last)) return now;
         await pause(500);
