@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "model/text_rules.h"
-#include "script/text_encoding.h"
+#include "script/definition_lines.h"
 
 namespace zev {
 
@@ -95,29 +95,17 @@ class ScriptReader {
     std::size_t m_errorCount = 0;
 };
 
-/// Cuts the next line off `text`.
-std::string_view TakeLine(std::string_view& text) {
-    const std::size_t end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    if (line.ends_with('\r'))
-        line.remove_suffix(1);
-    return line;
-}
-
 }  // namespace
 
 ReadResult ReadScript(std::string_view bytes, MenuDocument& document) {
-    std::string converted;
-    const std::string_view text = DecodeDefinition(bytes, converted);
+    DefinitionLines lines(bytes);
     // Nearly every line of a definition is an item; of another file no more is taken than a menu
     // can hold.
-    const auto lineCount = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-    document.tree.reserve(std::min<std::size_t>(lineCount, kMaxItemCounter));
+    document.tree.reserve(std::min<std::size_t>(lines.lineEndCount(), kMaxItemCounter));
     ScriptReader reader(document);
-    std::string_view rest = text;
-    while (!rest.empty())
-        reader.readLine(TrimSpaces(TakeLine(rest)));
+    std::string_view line;
+    while (lines.next(line))
+        reader.readLine(line);
 
     document.CurNode = document.tree.firstNode();
     document.selectedNode = document.CurNode;

@@ -1,0 +1,27 @@
+#include "script/definition_lines.h"
+
+#include <algorithm>
+
+#include "model/text_rules.h"
+#include "script/text_encoding.h"
+
+namespace zev {
+
+DefinitionLines::DefinitionLines(std::string_view bytes)
+    : m_rest(DecodeDefinition(bytes, m_converted)),
+      m_lineEndCount(static_cast<std::size_t>(std::count(m_rest.begin(), m_rest.end(), '\n'))) {}
+
+bool DefinitionLines::next(std::string_view& line) {
+    if (m_rest.empty())
+        return false;
+    ++m_number;
+    const std::size_t end = m_rest.find('\n');
+    line = m_rest.substr(0, end);
+    m_rest.remove_prefix(end == std::string_view::npos ? m_rest.size() : end + 1);
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    line = TrimSpaces(line);
+    return true;
+}
+
+}  // namespace zev
