@@ -1,0 +1,58 @@
+#include "importers/import_menu.h"
+
+#include <algorithm>
+
+#include "importers/orlet_reader.h"
+#include "importers/quillmenu_reader.h"
+#include "script/definition_lines.h"
+
+namespace zev {
+
+namespace {
+
+std::vector<ImportWarning> ReadLines(ImportFormat format, DefinitionLines& lines,
+                                     MenuDocument& document) {
+    switch (format) {
+        case ImportFormat::Quillmenu:
+            return ReadQuillmenu(lines, document);
+        case ImportFormat::OrletBar:
+            return ReadOrlet(lines, OrletTopLevel::LinkItems, document);
+        case ImportFormat::OrletMenu:
+            document.RootMenuProp.Columns = "1";  // a vertical list
+            return ReadOrlet(lines, OrletTopLevel::LinkItems, document);
+        case ImportFormat::OrletButton:
+            return ReadOrlet(lines, OrletTopLevel::ImageItems, document);
+    }
+    return {};
+}
+
+}  // namespace
+
+ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuDocument& document) {
+    DefinitionLines lines(bytes);
+    // Nearly every line is an item; of another file no more is taken than a menu can hold.
+    document.tree.reserve(std::min<std::size_t>(lines.lineEndCount(), kMaxItemCounter));
+    ImportResult result{ReadLines(format, lines, document)};
+    document.CurNode = document.tree.firstNode();
+    document.selectedNode = document.CurNode;
+    document.bModified = false;
+    return result;
+}
+
+std::string_view ReasonText(ImportWarning::Reason reason) {
+    switch (reason) {
+        case ImportWarning::Reason::UnknownMenu:
+            return "no item opens the menu it belongs to";
+        case ImportWarning::Reason::DuplicateKey:
+            return "an earlier item has its place";
+        case ImportWarning::Reason::AboveTop:
+            return "the item goes up past the top level";
+        case ImportWarning::Reason::StartsDeep:
+            return "the first item is deeper than the top level; it was put there";
+        case ImportWarning::Reason::TooManyItems:
+            return "the menu holds as many items as it can";
+    }
+    return {};
+}
+
+}  // namespace zev

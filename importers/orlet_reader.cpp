@@ -1,0 +1,126 @@
+#include "importers/orlet_reader.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "importers/piece_cutter.h"
+#include "model/text_rules.h"
+
+namespace zev {
+
+namespace {
+
+using Reason = ImportWarning::Reason;
+
+bool IsLeftOut(std::string_view field) {
+    return field == "~";
+}
+
+void ReadLink(PieceCutter& fields, std::string& member) {
+    std::string_view field;
+    if (fields.next(field) && !IsLeftOut(field))
+        member = StripQuotes(EscapeApostrophes(field), 0);
+}
+
+void ReadImage(PieceCutter& fields, std::string& caption) {
+    std::string_view image;
+    if (fields.next(image) && !IsLeftOut(image))
+        caption += " <img src=\"" + EscapeApostrophes(image) + "\" border=\"0\">";
+}
+
+ItemProp ReadItem(PieceCutter fields, bool hasImage) {
+    ItemProp item;
+    item.MenuProperty = NewItemMenuProp();
+    std::string_view caption;
+    fields.next(caption);
+    item.Caption = EscapeApostrophes(caption);
+    if (hasImage)
+        ReadImage(fields, item.Caption);
+    ReadLink(fields, item.URL);
+    ReadLink(fields, item.Target);
+    return item;
+}
+
+/// Places the items of one file in a new document, each relative to the one placed before it.
+class OrletReader {
+  public:
+    OrletReader(OrletTopLevel topLevel, MenuDocument& document)
+        : m_topLevel(topLevel), m_document(document) {}
+
+    void readLine(std::string_view line, std::size_t number) {
+        const std::size_t level = std::min(line.find_first_not_of(':'), line.size());
+        if (level == 0)
+            return;
+        m_lineNumber = number;
+        // A climb past the top is refused before it is made: it would take time for every such
+        // line.
+        const std::size_t climb = m_level > level ? m_level - level : 0;
+        if (climb > m_depth)
+            warn(Reason::AboveTop);
+        else if (m_document.ItemCounter == kMaxItemCounter)
+            warn(Reason::TooManyItems);
+        else
+            addItem(parentOf(level, climb), level, line.substr(level));
+    }
+
+    std::vector<ImportWarning> takeWarnings() { return std::move(m_warnings); }
+
+  private:
+    /// The parent of the item of the current line, and its depth into `m_depth`. However much
+    /// deeper than the item before it a line is, its item is placed one level deeper.
+    MenuNode* parentOf(std::size_t level, std::size_t climb) {
+        if (!m_previous) {
+            if (level > 1)
+                warn(Reason::StartsDeep);
+            return nullptr;
+        }
+        if (level > m_level) {
+            ++m_depth;
+            return m_previous;
+        }
+        m_depth -= climb;
+        MenuNode* sibling = m_previous;
+        for (; climb > 0; --climb)
+            sibling = sibling->parent();
+        return sibling->parent();
+    }
+
+    /// The item placed before it has no later sibling and no child yet, nor has any item it lies in
+    /// a later sibling: every place is the last of its parent.
+    void addItem(MenuNode* parent, std::size_t level, std::string_view fields) {
+        const bool hasImage = level == 1 && m_topLevel == OrletTopLevel::ImageItems;
+        ItemProp item = ReadItem(PieceCutter(fields, '|'), hasImage);
+        // The number is new at every item, so the key is never taken.
+        ++m_document.ItemCounter;
+        std::string key = "KeyLoad " + std::to_string(m_document.ItemCounter);
+        std::string text = item.Caption;
+        m_previous =
+            m_document.tree.append(parent, std::move(key), std::move(text), std::move(item));
+        m_level = level;
+    }
+
+    void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }
+
+    OrletTopLevel m_topLevel;
+    MenuDocument& m_document;
+    std::vector<ImportWarning> m_warnings;
+    std::size_t m_lineNumber = 0;
+    MenuNode* m_previous = nullptr;  ///< the item placed last; null before the first
+    std::size_t m_level = 1;         ///< colons of that item's line; may be more than its depth
+    std::size_t m_depth = 0;         ///< levels above that item in the tree
+};
+
+}  // namespace
+
+std::vector<ImportWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
+                                     MenuDocument& document) {
+    OrletReader reader(topLevel, document);
+    std::string_view line;
+    while (lines.next(line))
+        reader.readLine(line, lines.number());
+    return reader.takeWarnings();
+}
+
+}  // namespace zev

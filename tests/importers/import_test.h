@@ -1,0 +1,49 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "importers/import_menu.h"
+#include "tests/script/document_text.h"
+
+namespace zev {
+
+inline void PrintTo(const ImportWarning& warning, std::ostream* out) {
+    *out << "line " << warning.line << ": " << ReasonText(warning.reason);
+}
+
+namespace test {
+
+using Reason = ImportWarning::Reason;
+using Warnings = std::vector<ImportWarning>;
+
+/// Imports into a document that is new at each call.
+class ImportTest : public testing::Test {
+  protected:
+    Warnings import(ImportFormat format, std::string_view bytes) {
+        document.NewDocument();
+        const Warnings warnings = ImportMenu(format, bytes, document).warnings;
+        ExpectSoundTree(document.tree);
+        return warnings;
+    }
+    const ItemProp& itemAt(const std::string& key) {
+        const MenuNode* const node = document.tree.find(key);
+        EXPECT_NE(node, nullptr) << key;
+        static const ItemProp noItem;
+        return node ? node->item : noItem;
+    }
+    std::string tree() const { return TreeText(document.tree); }
+    std::string keys() const { return TreeTextWithKeys(document.tree); }
+
+    MenuDocument document{"/program"};
+    const MenuDocument newDocument{"/program"};
+    const Warnings none;
+};
+
+}  // namespace test
+}  // namespace zev
