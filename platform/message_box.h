@@ -12,6 +12,9 @@ struct MessageRequest {
     Buttons buttons = Buttons::Ok;
     std::string title;  ///< empty: the program's name
     Icon icon = Icon::None;
+    /// Plain text, UTF-8, in lines: what the person can have shown below the text. Empty: the box
+    /// offers nothing more.
+    std::string details;
 };
 
 /// Modal message boxes.

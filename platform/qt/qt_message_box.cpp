@@ -1,6 +1,8 @@
 #include "platform/qt/qt_message_box.h"
 
+#include <QFontMetrics>
 #include <QMessageBox>
+#include <QTextEdit>
 
 #include "platform/qt/parent_window.h"
 
@@ -9,6 +11,8 @@ namespace zev {
 namespace {
 
 constexpr int kLongestWord = 50;
+constexpr int kDetailsLines = 12;
+constexpr int kDetailsCharacters = 70;
 constexpr QChar kZeroWidthSpace(0x200B);
 
 /// Lets long paths wrap: a label breaks lines between words only and would cut them off. The places
@@ -62,6 +66,19 @@ QMessageBox::StandardButton EscapeButtonOf(MessageRequest::Buttons buttons) {
     return QMessageBox::Cancel;
 }
 
+/// Qt shows details a few lines high and as narrow as the message, and keeps the keyboard out.
+void ShowDetails(QMessageBox& box, const std::string& details) {
+    box.setDetailedText(QString::fromStdString(details));
+    auto* text = box.findChild<QTextEdit*>();
+    const QFontMetrics metrics(text->font());
+    text->setFixedHeight(kDetailsLines * metrics.lineSpacing());
+    text->setMinimumWidth(kDetailsCharacters * metrics.averageCharWidth());
+    text->setFocusPolicy(Qt::StrongFocus);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setTabChangesFocus(true);
+    text->setAccessibleName("Details");
+}
+
 }  // namespace
 
 MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
@@ -74,6 +91,8 @@ MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
                                                                   : QMessageBox::NoIcon);
     box.setStandardButtons(ButtonsOf(request.buttons));
     box.setEscapeButton(EscapeButtonOf(request.buttons));
+    if (!request.details.empty())
+        ShowDetails(box, request.details);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

@@ -14,9 +14,14 @@
 #include <QListView>
 #include <QMessageBox>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextEdit>
+#include <QTextLayout>
 #include <algorithm>
 
 #include "platform/qt/qt_common_dialogs.h"
@@ -49,6 +54,24 @@ void openNames(QFileDialog& dialog, const QStringList& names) {
 void makeFile(const QString& path) {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+/// The button that shows and hides the details; null when there is none.
+QAbstractButton* detailsButton(const QMessageBox& box) {
+    for (QAbstractButton* button : box.buttons()) {
+        if (box.buttonRole(button) == QMessageBox::ActionRole)
+            return button;
+    }
+    return nullptr;
+}
+
+MessageRequest requestWithDetails(int lines) {
+    MessageRequest request;
+    request.text = "Finished importing /old/menu.txt. 3 warnings encountered.";
+    for (int line = 1; line <= lines; ++line)
+        request.details += (line > 1 ? "\nline " : "line ") + std::to_string(line) +
+                           ": <b>the item goes up past the top level & so on</b>";
+    return request;
 }
 
 QString textOf(const QMessageBox& box) {
@@ -99,6 +122,12 @@ class test_qt_services : public QObject {
     void longPathsWrapInsideTheScreen_data();
     void longPathsWrapInsideTheScreen();
     void aBoxBelongsToTheActiveWindow();
+    void aMessageWithoutDetailsHasOnlyItsButtons();
+    void detailsAreShownWhenAskedFor();
+    void detailsAreReadWithTheKeyboard();
+    void detailsOfManyLinesFitTheScreen();
+    void aBoxWithDetailsIsAnsweredAsOneWithout_data();
+    void aBoxWithDetailsIsAnsweredAsOneWithout();
     void filtersAreTranslated_data();
     void filtersAreTranslated();
     void aFilterOfOneKindGivesTheExtension_data();
@@ -254,6 +283,106 @@ void test_qt_services::aBoxBelongsToTheActiveWindow() {
         box.close();
     });
     QtMessageBox().show(request);
+}
+
+void test_qt_services::aMessageWithoutDetailsHasOnlyItsButtons() {
+    MessageRequest request;
+    request.text = "Text";
+    whenShown<QMessageBox>([](QMessageBox& box) {
+        QCOMPARE(box.buttons().size(), 1);
+        QCOMPARE(box.findChild<QTextEdit*>(), nullptr);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_services::detailsAreShownWhenAskedFor() {
+    const MessageRequest request = requestWithDetails(3);
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        auto* details = box.findChild<QTextEdit*>();
+        QVERIFY(details != nullptr && !details->isVisible());
+        QCOMPARE(details->accessibleName(), QString("Details"));
+        QAbstractButton* button = detailsButton(box);
+        QVERIFY(button != nullptr);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(details->isVisible());
+        QCOMPARE(details->toPlainText(), QString::fromStdString(request.details));
+        QVERIFY(details->isReadOnly());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(!details->isVisible());
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_services::detailsAreReadWithTheKeyboard() {
+    const MessageRequest request = requestWithDetails(100);
+    const auto pressTabUntilOn = [](const QWidget* target) {
+        for (int presses = 0; QApplication::focusWidget() != target; ++presses) {
+            QVERIFY2(presses < 5, "the Tab key does not come there");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+    };
+    bool isClosed = false;
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        QAbstractButton* button = detailsButton(box);
+        pressTabUntilOn(button);
+        QTest::keyClick(button, Qt::Key_Space);
+        auto* details = box.findChild<QTextEdit*>();
+        pressTabUntilOn(details);
+        QTest::keyClick(details, Qt::Key_PageDown);
+        QVERIFY(details->verticalScrollBar()->value() > 0);
+        QTest::keyClick(details, Qt::Key_A, Qt::ControlModifier);
+        QVERIFY(details->textCursor().hasSelection());
+        QTest::keyClick(details, Qt::Key_X);
+        QTest::keyClick(details, Qt::Key_Delete);
+        QCOMPARE(details->toPlainText(), QString::fromStdString(request.details));
+        pressTabUntilOn(box.button(QMessageBox::Ok));
+        pressTabUntilOn(details);
+        QTest::keyClick(details, Qt::Key_Escape);
+        isClosed = !box.isVisible();
+    });
+    QCOMPARE(QtMessageBox().show(request), Answer::Ok);
+    QVERIFY(isClosed);
+}
+
+void test_qt_services::detailsOfManyLinesFitTheScreen() {
+    const MessageRequest request = requestWithDetails(5000);
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QTest::mouseClick(detailsButton(box), Qt::LeftButton);
+        auto* details = box.findChild<QTextEdit*>();
+        QVERIFY(box.frameGeometry().height() <= box.screen()->availableGeometry().height());
+        QVERIFY(box.frameGeometry().width() <= box.screen()->availableGeometry().width());
+        const QFontMetrics metrics(details->font());
+        QVERIFY(details->viewport()->height() >= 8 * metrics.lineSpacing());
+        // No line of a usual length is broken. The layout follows from the event loop.
+        const QTextBlock last = details->document()->lastBlock();
+        QCOMPARE(last.blockNumber(), 4999);
+        QTRY_COMPARE(last.layout()->lineCount(), 1);
+        QTest::keyClick(details, Qt::Key_End, Qt::ControlModifier);
+        QTRY_VERIFY(details->viewport()->rect().contains(details->cursorRect(QTextCursor(last))));
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_services::aBoxWithDetailsIsAnsweredAsOneWithout_data() {
+    eachKeyIsAnAnswer_data();
+}
+
+void test_qt_services::aBoxWithDetailsIsAnsweredAsOneWithout() {
+    QFETCH(int, buttons);
+    QFETCH(int, key);
+    MessageRequest request = requestWithDetails(3);
+    request.buttons = Buttons(buttons);
+    whenShown<QMessageBox>([key](QMessageBox& box) {
+        QVERIFY(detailsButton(box) != nullptr);
+        const bool isLetter = key == Qt::Key_Y || key == Qt::Key_N;
+        QTest::keyClick(&box, Qt::Key(key), isLetter ? Qt::AltModifier : Qt::NoModifier);
+    });
+    QTEST(int(QtMessageBox().show(request)), "answer");
 }
 
 void test_qt_services::filtersAreTranslated_data() {
