@@ -11,12 +11,8 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kDefinitionFilter = "All Files (*.*)|*.*|JavaScript (*.js)|*.js";
-constexpr int kJavaScriptFilter = 2;
-
-std::string CouldNotOpenText(const std::string& path, const std::string& reason) {
-    return "Could not open " + path + ": " + reason;
-}
+/// Behind "All Files", each filter has the kind of file that is usually wanted.
+constexpr int kUsualKind = 2;
 
 /// Copies of all items in tree order.
 std::vector<ItemProp> ItemsOf(const MenuTree& tree) {
@@ -50,19 +46,16 @@ void FileCommands::Reset() {
     m_view.Button_Update();
 }
 
-void FileCommands::mnuFileNew_Click() {
-    if (mayDiscardDocument()) {
-        Reset();
+bool FileCommands::mnuFileNew_Click() {
+    if (!mayDiscardDocument()) {
+        return false;
     }
+    Reset();
+    return true;
 }
 
 void FileCommands::mnuFileOpen_Click() {
-    FileDialogRequest request;
-    request.title = "Open";
-    request.filter = kDefinitionFilter;
-    request.filterIndex = kJavaScriptFilter;
-    request.folder = m_document.SaveFile.empty() ? "" : m_document.SavePath;
-    const std::string path = m_services.dialogs.openFile(request);
+    const std::string path = chooseFile(kDefinitionFilter, definitionFolder());
     if (!path.empty() && !openDefinition(path)) {
         return;  // the menu in memory is still the one being edited, with its changes
     }
@@ -110,15 +103,42 @@ bool FileCommands::mayDiscardDocument() {
     }
 }
 
-bool FileCommands::openDefinition(const std::string& path) {
-    const FileResult<std::string> content =
-        m_services.files.readFile(path, kMaxDefinitionFileBytes);
-    if (!content.isOk()) {
-        showNotice(CouldNotOpenText(path, content.error().reason));
-        return false;
+std::string FileCommands::chooseFile(const char* filter, const std::string& folder) {
+    FileDialogRequest request;
+    request.title = "Open";
+    request.filter = filter;
+    request.filterIndex = kUsualKind;
+    request.folder = folder;
+    return m_services.dialogs.openFile(request);
+}
+
+std::string FileCommands::definitionFolder() const {
+    return m_document.SaveFile.empty() ? "" : m_document.SavePath;
+}
+
+FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
+    FileResult<std::string> content = m_services.files.readFile(path, kMaxDefinitionFileBytes);
+    if (content.isOk() && IsBinary(content.value())) {
+        content = FileError{FileError::Code::Other, path, "Not a text file"};
     }
-    if (IsBinary(content.value())) {
-        showNotice(CouldNotOpenText(path, "Not a text file"));
+    if (!content.isOk()) {
+        showNotice("Could not open " + path + ": " + content.error().reason);
+    }
+    return content;
+}
+
+void FileCommands::replaceDocument(MenuDocument& other) {
+    m_document.takeFrom(other);
+    m_view.ShowCaption();
+    m_view.ShowItem();
+    m_view.ShowScript(GenerateScript(m_document));
+    m_view.LoadDefaultDialog();
+    m_view.Button_Update();
+}
+
+bool FileCommands::openDefinition(const std::string& path) {
+    const FileResult<std::string> content = readTextFile(path);
+    if (!content.isOk()) {
         return false;
     }
     MenuDocument opened(m_document.programFolder());
@@ -126,13 +146,7 @@ bool FileCommands::openDefinition(const std::string& path) {
     opened.SaveFile = path;
     opened.SavePath = SplitPath(path).folder;
     const ReadResult result = ReadScript(content.value(), opened);
-    m_document.takeFrom(opened);
-
-    m_view.ShowCaption();
-    m_view.ShowItem();
-    m_view.ShowScript(GenerateScript(m_document));
-    m_view.LoadDefaultDialog();
-    m_view.Button_Update();
+    replaceDocument(opened);
     if (result.errorCount > 0) {
         showNotice(std::to_string(result.errorCount) + " errors encountered during parsing");
     }
@@ -144,7 +158,7 @@ FileCommands::SaveOutcome FileCommands::saveAs() {
     request.title = "Save As";
     request.fileName = m_document.SaveFile;
     request.filter = kDefinitionFilter;
-    request.filterIndex = kJavaScriptFilter;
+    request.filterIndex = kUsualKind;
     request.asksBeforeReplacing = true;
     const std::string path = m_services.dialogs.saveFile(request);
     if (path.empty()) {

@@ -9,6 +9,9 @@
 
 namespace zev {
 
+/// What file dialogs for definition files offer.
+inline constexpr const char* kDefinitionFilter = "All Files (*.*)|*.*|JavaScript (*.js)|*.js";
+
 /// The procedures of the File menu and of the preview: New, Open, Save, Save As, Exit. Without
 /// widgets; document, view and services are handed in, not owned, and outlive it.
 class FileCommands {
@@ -17,12 +20,28 @@ class FileCommands {
 
     /// Resets document and view to a new, empty menu, as at start-up. Asks nothing.
     void Reset();
-    void mnuFileNew_Click();
+    /// True when the document is a new one now; false when the person, or a save that failed, kept
+    /// the old one.
+    bool mnuFileNew_Click();
     void mnuFileOpen_Click();
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
     /// True when the program is to end now.
     bool mnuFileExit_Click();
+
+    /// Asks for a file to open: the second kind of `filter` is preselected, the dialog starts in
+    /// `folder` (empty: where the last file was chosen). Empty when the person cancelled.
+    std::string chooseFile(const char* filter, const std::string& folder);
+
+    /// The folder of the definition file; empty for a document never saved.
+    std::string definitionFolder() const;
+
+    /// The whole content of the text file at `path`. The person is told the path and the reason
+    /// when it cannot be read, is too large for a definition, or is no text.
+    FileResult<std::string> readTextFile(const std::string& path);
+
+    /// Puts `other` in place of the document, which is then shown. `other` is empty afterwards.
+    void replaceDocument(MenuDocument& other);
 
     /// Opens the definition file at `path` (full path). On failure the person is told the path and
     /// the reason, and the document in memory stays as it was. True when it was opened.

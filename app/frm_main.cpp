@@ -97,7 +97,10 @@ QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption) {
 
 frmMain::frmMain(const EditorServices& services, const std::string& programFolder,
                  QWidget* webBrowser)
-    : m_document(programFolder), m_services(services), m_fileCommands(m_document, *this, services) {
+    : m_document(programFolder),
+      m_services(services),
+      m_fileCommands(m_document, *this, services),
+      m_importCommands(m_document, m_fileCommands, services.messages) {
     setObjectName("frmMain");
     // The usual menu of a main window would hide the toolbar.
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -344,19 +347,19 @@ void frmMain::mnuFileSaveAs_Click() {
 }
 
 void frmMain::mnuFileImportQuillmenu_Click() {
-    showNotBuiltYet("Import from Quillmenu");
+    m_importCommands.mnuFileImportQuillmenu_Click();
 }
 
 void frmMain::mnuFileImportOrletBar_Click() {
-    showNotBuiltYet("Import from OrletBar");
+    m_importCommands.mnuFileImportOrletBar_Click();
 }
 
 void frmMain::mnuFileImportOrletMenu_Click() {
-    showNotBuiltYet("Import from OrletMenu");
+    m_importCommands.mnuFileImportOrletMenu_Click();
 }
 
 void frmMain::mnuFileImportOrletButton_Click() {
-    showNotBuiltYet("Import from OrletButton");
+    m_importCommands.mnuFileImportOrletButton_Click();
 }
 
 void frmMain::mnuFileExit_Click() {
@@ -572,10 +575,6 @@ void frmMain::showNotice(const std::string& text) {
     MessageRequest notice;
     notice.text = text;
     m_services.messages.show(notice);
-}
-
-void frmMain::showNotBuiltYet(const std::string& what) {
-    showNotice(what + " is not part of this build yet.");
 }
 
 }  // namespace zev

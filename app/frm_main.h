@@ -10,6 +10,7 @@
 #include "app/editor_services.h"
 #include "app/editor_view.h"
 #include "app/file_commands.h"
+#include "app/import_commands.h"
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
@@ -106,11 +107,11 @@ class frmMain : public QMainWindow, public EditorView {
     QAction* entryFor(const QKeyEvent& key) const;
     void openAddress(const std::string& address);
     void showNotice(const std::string& text);
-    void showNotBuiltYet(const std::string& what);
 
     MenuDocument m_document;
     EditorServices m_services;
     FileCommands m_fileCommands;
+    ImportCommands m_importCommands;
     CommandState m_state;
     bool m_isEnding = false;
 

@@ -87,6 +87,14 @@ struct Desk {
         commands.mnuFileSaveAs_Click();
     }
 
+    /// True when the document is as at start-up.
+    bool isNewDocument() const {
+        const MenuDocument untouched("/program");
+        return document.tree.isEmpty() && document.DefaultProp == untouched.DefaultProp &&
+               document.RootMenuProp == untouched.RootMenuProp && document.SaveFile.empty() &&
+               document.SavePath == "/program" && document.ItemCounter == 0 &&
+               document.CurNode == nullptr && !document.bModified;
+    }
     bool isOnDisk(const std::string& path) const { return disk.allFiles().contains(path); }
     std::string bytesOf(const std::string& path) const {
         const auto file = disk.allFiles().find(path);

@@ -16,15 +16,6 @@ using Answer = MessageBox::Answer;
 const std::vector<std::string> kSavedBeside = {"zevmenu_loader.js", "zevmenu_ns4.js",
                                                "zevmenu_dom.js", "orlet_temp.html"};
 
-bool isNewDocument(const Desk& desk) {
-    const MenuDocument untouched("/program");
-    const MenuDocument& document = desk.document;
-    return document.tree.isEmpty() && document.DefaultProp == untouched.DefaultProp &&
-           document.RootMenuProp == untouched.RootMenuProp && document.SaveFile.empty() &&
-           document.SavePath == "/program" && document.ItemCounter == 0 &&
-           document.CurNode == nullptr && !document.bModified;
-}
-
 }  // namespace
 
 class test_file_commands : public QObject {
@@ -71,7 +62,7 @@ void test_file_commands::resetShowsAnEmptyMenu() {
     desk.view.script = "old";
     desk.view.shownFile = "/old.js";
     desk.commands.Reset();
-    QVERIFY(isNewDocument(desk));
+    QVERIFY(desk.isNewDocument());
     QCOMPARE(desk.view.script, std::string());
     QCOMPARE(desk.view.shownFile, std::string());
     QCOMPARE(desk.view.panelCaption, std::string());
@@ -83,7 +74,7 @@ void test_file_commands::newWithoutChangesAsksNothing() {
     desk.addItem("Home");
     desk.saveAs("/site/menu.js");
     desk.commands.mnuFileNew_Click();
-    QVERIFY(isNewDocument(desk));
+    QVERIFY(desk.isNewDocument());
     QCOMPARE(desk.messages.recorded().size(), std::size_t{1});  // the question of Save As
 }
 
@@ -118,7 +109,7 @@ void test_file_commands::newAsksAboutChanges() {
         }
     }
     desk.commands.mnuFileNew_Click();
-    QTEST(isNewDocument(desk), "isReset");
+    QTEST(desk.isNewDocument(), "isReset");
     QTEST(desk.isOnDisk("/site/menu.js"), "isSaved");
     QCOMPARE(desk.document.bModified, Answer(answer) == Answer::Cancel);
 }

@@ -426,27 +426,6 @@ class test_frm_main_commands : public QObject {
         QVERIFY(isEmpty);
     }
 
-    void whatIsNotBuiltYetSaysSo_data() {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("what");
-        QTest::newRow("Quillmenu") << "mnuFileImportQuillmenu"
-                                   << "Import from Quillmenu";
-        QTest::newRow("OrletBar") << "mnuFileImportOrletBar"
-                                  << "Import from OrletBar";
-        QTest::newRow("OrletMenu") << "mnuFileImportOrletMenu"
-                                   << "Import from OrletMenu";
-        QTest::newRow("OrletButton") << "mnuFileImportOrletButton"
-                                     << "Import from OrletButton";
-    }
-    void whatIsNotBuiltYetSaysSo() {
-        QFETCH(QString, entry);
-        QFETCH(QString, what);
-        WindowDesk desk;
-        desk.add("a");
-        desk.messages.expect(what.toStdString() + " is not part of this build yet.");
-        desk.choose(entry);
-    }
-
     void contentsShowsTheManual() {
         WindowDesk desk;
         QTest::keyClick(&desk.tree(), Qt::Key_F1);

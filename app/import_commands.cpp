@@ -1,0 +1,82 @@
+#include "app/import_commands.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace zev {
+
+namespace {
+
+constexpr const char* kTextFilter = "All Files (*.*)|*.*|Text (*.txt)|*.txt";
+
+/// More are counted only: nobody reads on, and a text box is slow to show them.
+constexpr std::size_t kMaxListedWarnings = 1000;
+
+/// One line a warning, without a line end behind the last.
+std::string DetailsOf(const std::vector<ImportWarning>& warnings) {
+    const std::size_t listed = std::min(warnings.size(), kMaxListedWarnings);
+    std::string details;
+    for (std::size_t index = 0; index < listed; ++index) {
+        const ImportWarning& warning = warnings[index];
+        details += details.empty() ? "line " : "\nline ";
+        details += std::to_string(warning.line) + ": ";
+        details += ReasonText(warning.reason);
+    }
+    if (warnings.size() > listed) {
+        details += "\nand " + std::to_string(warnings.size() - listed) + " more";
+    }
+    return details;
+}
+
+}  // namespace
+
+ImportCommands::ImportCommands(const MenuDocument& document, FileCommands& fileCommands,
+                               MessageBox& messages)
+    : m_document(document), m_fileCommands(fileCommands), m_messages(messages) {}
+
+void ImportCommands::mnuFileImportQuillmenu_Click() {
+    run(ImportFormat::Quillmenu, kDefinitionFilter);
+}
+
+void ImportCommands::mnuFileImportOrletBar_Click() {
+    run(ImportFormat::OrletBar, kTextFilter);
+}
+
+void ImportCommands::mnuFileImportOrletMenu_Click() {
+    run(ImportFormat::OrletMenu, kTextFilter);
+}
+
+void ImportCommands::mnuFileImportOrletButton_Click() {
+    run(ImportFormat::OrletButton, kTextFilter);
+}
+
+/// A cancelled dialog leaves the new document, as a file does that cannot be read.
+void ImportCommands::run(ImportFormat format, const char* filter) {
+    // Where the person works; the new document does not know it any more.
+    const std::string folder = m_fileCommands.definitionFolder();
+    if (!m_fileCommands.mnuFileNew_Click()) {
+        return;
+    }
+    const std::string path = m_fileCommands.chooseFile(filter, folder);
+    if (!path.empty()) {
+        importFile(format, path);
+    }
+}
+
+void ImportCommands::importFile(ImportFormat format, const std::string& path) {
+    const FileResult<std::string> content = m_fileCommands.readTextFile(path);
+    if (!content.isOk()) {
+        return;
+    }
+    MenuDocument imported(m_document.programFolder());
+    const ImportResult result = ImportMenu(format, content.value(), imported);
+    m_fileCommands.replaceDocument(imported);
+
+    MessageRequest notice;
+    notice.text = "Finished importing " + path + ". " + std::to_string(result.warnings.size()) +
+                  " warnings encountered.";
+    notice.details = DetailsOf(result.warnings);
+    m_messages.show(notice);
+}
+
+}  // namespace zev

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QString>
+#include <string>
+#include <vector>
+
+#include "app/import_commands.h"
+#include "model/menu_document.h"
+
+namespace zev {
+
+/// A product whose menus the editor imports, and a file of it. All these files hold one menu:
+/// "Home", and "Products" with "Boats" below it.
+struct ImportedProduct {
+    const char* name;   ///< the entry's caption
+    const char* entry;  ///< the entry's name
+    void (ImportCommands::*click)();
+    const char* filter;
+    std::string file;
+    const char* columns;  ///< of the imported top menu
+};
+
+inline const char* const kImportedTree =
+    "Home -> home.html\nProducts -> products.html\n  Boats -> boats.html\n";
+
+inline const std::vector<ImportedProduct>& ImportedProducts() {
+    static const char* const kText = "All Files (*.*)|*.*|Text (*.txt)|*.txt";
+    static const std::string kLines =
+        ":Home|home.html|~\r\n:Products|products.html\r\n::Boats|boats.html\r\n";
+    static const std::vector<ImportedProduct> kProducts = {
+        {"Quillmenu", "mnuFileImportQuillmenu", &ImportCommands::mnuFileImportQuillmenu_Click,
+         "All Files (*.*)|*.*|JavaScript (*.js)|*.js",
+         "qlm_state.nbgcolor = '#112233';\r\n"
+         "qlmenu1 = new mainMenu('horizontal');\r\n"
+         "qlmenu1.addItems('Home','home.html','');\r\n"
+         "qlmenu1.addItems('Products','products.html','');\r\n"
+         "qlmenu1 = new subMenu('2');\r\n"
+         "qlmenu1.addItems('Boats','boats.html','');\r\n",
+         "20"},
+        {"OrletBar", "mnuFileImportOrletBar", &ImportCommands::mnuFileImportOrletBar_Click, kText,
+         kLines, "10"},
+        {"OrletMenu", "mnuFileImportOrletMenu", &ImportCommands::mnuFileImportOrletMenu_Click,
+         kText, kLines, "1"},
+        {"OrletButton", "mnuFileImportOrletButton", &ImportCommands::mnuFileImportOrletButton_Click,
+         kText, ":Home|~|home.html|~\r\n:Products|~|products.html\r\n::Boats|boats.html\r\n", "10"},
+    };
+    return kProducts;
+}
+
+/// The item tree as text: one line an item, two spaces a level.
+inline QString ImportedTree(const MenuDocument& document) {
+    QString text;
+    for (const MenuNode* node = document.tree.firstNode(); node != nullptr;
+         node = document.tree.nextInTreeOrder(*node)) {
+        for (const MenuNode* parent = node->parent(); parent != nullptr; parent = parent->parent())
+            text += "  ";
+        text += QString::fromStdString(node->item.Caption + " -> " + node->item.URL + "\n");
+    }
+    return text;
+}
+
+}  // namespace zev
