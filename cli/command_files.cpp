@@ -45,19 +45,26 @@ bool writeStandardOutput(std::string_view bytes) {
     return error == 0;
 }
 
+FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path) {
+    FileResult<std::string> bytes =
+        path == "-" ? readStandardInput() : files.readFile(path, kMaxDefinitionFileBytes);
+    if (bytes.isOk()) {
+        if (!IsBinary(bytes.value()))
+            return bytes;
+        const std::string name = path == "-" ? kStandardInput : path;
+        return FileError{FileError::Code::Other, name, "is not a text file"};
+    }
+    FileError error = bytes.error();
+    if (error.code == FileError::Code::TooLarge)
+        error.reason = "larger than 256 MiB, which no menu definition is";
+    return error;
+}
+
 std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
                                          MenuDocument& document) {
-    const FileResult<std::string> bytes =
-        path == "-" ? readStandardInput() : files.readFile(path, kMaxDefinitionFileBytes);
+    const FileResult<std::string> bytes = readMenuFile(files, path);
     if (!bytes.isOk()) {
-        FileError error = bytes.error();
-        if (error.code == FileError::Code::TooLarge)
-            error.reason = "larger than 256 MiB, which no menu definition is";
-        printProblem(error);
-        return {};
-    }
-    if (IsBinary(bytes.value())) {
-        printProblem((path == "-" ? kStandardInput : path) + ": is not a text file");
+        printProblem(bytes.error());
         return {};
     }
     const ReadResult result = ReadScript(bytes.value(), document);

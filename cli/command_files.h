@@ -12,7 +12,7 @@ namespace zev {
 /// Exit status of every command.
 enum class ExitStatus {
     Done = 0,
-    Counted = 1,  ///< done, with counted errors; the output is written all the same
+    Counted = 1,  ///< done, with counted errors or warnings; the output is written all the same
     WrongUse = 2,
     FileProblem = 3  ///< a file could not be read or written
 };
@@ -25,6 +25,10 @@ void printProblem(const FileError& error);
 
 /// Writes to standard output. False, with the problem printed, when not all of it could be written.
 bool writeStandardOutput(std::string_view bytes);
+
+/// The bytes of the text file `path` ("-": standard input). The error may also be that no menu is
+/// in it: it is not text, or too large.
+FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path);
 
 /// Reads the definition `path` ("-": standard input) into a new document and prints the number of
 /// errors in it. Nothing, with the problem printed, when it cannot be read; else Done or Counted.

@@ -17,8 +17,8 @@ namespace {
 
 constexpr const char* kFooter =
     "\"-\" is standard input or output.\n"
-    "Exit status: 0 done, 1 done with counted errors (the output is written), 2 wrong use,\n"
-    "3 a file could not be read or written.";
+    "Exit status: 0 done, 1 done with counted errors or warnings (the output is written),\n"
+    "2 wrong use, 3 a file could not be read or written.";
 
 /// The command that the arguments name, ready to run.
 using Command = std::function<ExitStatus()>;
@@ -35,11 +35,9 @@ CLI::App& addCommand(CLI::App& program, const std::string& name, const std::stri
     return command;
 }
 
-void addInput(CLI::App& command, std::string& input) {
-    command.add_option("IN", input, "Menu definition to read")
-        ->required()
-        ->type_name("")
-        ->check(refuseEmpty);
+void addInput(CLI::App& command, std::string& input,
+              const std::string& description = "Menu definition to read") {
+    command.add_option("IN", input, description)->required()->type_name("")->check(refuseEmpty);
 }
 
 void addOutput(CLI::App& command, std::string& output) {
@@ -62,6 +60,47 @@ void addFormat(CLI::App& program, FileSystem& files, Command& chosen) {
         chosen = [&files, options] {
             return formatCommand(files, options->input, options->output);
         };
+    });
+}
+
+std::optional<ImportFormat> importFormatOf(std::string_view name) {
+    constexpr std::pair<std::string_view, ImportFormat> kFormats[] = {
+        {"quillmenu", ImportFormat::Quillmenu},
+        {"orletbar", ImportFormat::OrletBar},
+        {"orletmenu", ImportFormat::OrletMenu},
+        {"orletbutton", ImportFormat::OrletButton}};
+    for (const auto& [formatName, format] : kFormats) {
+        if (formatName == name)
+            return format;
+    }
+    return {};
+}
+
+std::string refuseNoImportFormat(const std::string& name) {
+    return importFormatOf(name) ? "" : "must be quillmenu, orletbar, orletmenu or orletbutton";
+}
+
+void addImport(CLI::App& program, FileSystem& files, Command& chosen) {
+    struct Options {
+        std::string formatName;
+        ImportOptions settings;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command = addCommand(
+        program, "import", "Read the menu of an earlier product and write a menu definition");
+    command
+        .add_option("--format", options->formatName,
+                    "What made the menu: quillmenu, orletbar, orletmenu or orletbutton")
+        ->required()
+        ->type_name("FORMAT")
+        ->check(refuseNoImportFormat);
+    command.add_flag("--verbose", options->settings.isVerbose,
+                     "Print the line and the reason of each warning");
+    addInput(command, options->settings.input, "Menu to read");
+    addOutput(command, options->settings.output);
+    command.callback([&files, &chosen, options] {
+        options->settings.format = *importFormatOf(options->formatName);
+        chosen = [&files, options] { return importCommand(files, options->settings); };
     });
 }
 
@@ -256,6 +295,7 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     program.footer(kFooter);
     Command chosen;
     addFormat(program, files, chosen);
+    addImport(program, files, chosen);
     addRebase(program, files, chosen);
     addSubmenus(program, files, chosen);
     addPublish(program, files, chosen);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iostream>
 
 #include "cli/command_paths.h"
 #include "platform/library_files.h"
@@ -47,6 +48,26 @@ ExitStatus formatCommand(FileSystem& files, const std::string& input, const std:
     if (!status || !writeDefinition(files, output, document))
         return ExitStatus::FileProblem;
     return *status;
+}
+
+ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
+    const FileResult<std::string> bytes = readMenuFile(files, options.input);
+    if (!bytes.isOk()) {
+        printProblem(bytes.error());
+        return ExitStatus::FileProblem;
+    }
+    MenuDocument document("");
+    const ImportResult result = ImportMenu(options.format, bytes.value(), document);
+    if (!writeDefinition(files, options.output, document))
+        return ExitStatus::FileProblem;
+    if (options.isVerbose) {
+        for (const ImportWarning& warning : result.warnings)
+            std::cerr << "line " << warning.line << ": " << ReasonText(warning.reason) << '\n';
+    }
+    const std::size_t warningCount = result.warnings.size();
+    std::cerr << "Finished importing " << options.input << ". " << warningCount
+              << " warnings encountered.\n";
+    return warningCount == 0 ? ExitStatus::Done : ExitStatus::Counted;
 }
 
 ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options) {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cli/command_files.h"
+#include "importers/import_menu.h"
 #include "platform/file_system.h"
 
 namespace zev {
@@ -12,6 +13,16 @@ namespace zev {
 
 /// `input` and `output` may be "-"; an empty `output` is standard output.
 ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output);
+
+struct ImportOptions {
+    ImportFormat format = ImportFormat::Quillmenu;
+    std::string input;
+    std::string output;
+    bool isVerbose = false;  ///< each warning is printed, with its line
+};
+
+/// `input` and `output` as for `formatCommand`.
+ExitStatus importCommand(FileSystem& files, const ImportOptions& options);
 
 struct RebaseOptions {
     std::string from;  ///< folder the URLs are relative to now

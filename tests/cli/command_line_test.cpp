@@ -22,6 +22,15 @@ TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
         {"format", "in.js", "--unknown"},
         {"format", "in.js", "-o"},
         {"format", "in.js", "-o", "a.js", "-o", "b.js"},
+        {"import"},
+        {"import", "in.js"},
+        {"import", "--format", "orletbar"},
+        {"import", "--format", "in.js"},
+        {"import", "--format", "", "in.js"},
+        {"import", "--format", "OrletBar", "in.js"},
+        {"import", "--format", "1", "in.js"},
+        {"import", "--format", "orletbar", "--format", "orletbar", "in.js"},
+        {"import", "--format", "orletbar", "in.js", "-o", ""},
         {"rebase", "in.js"},
         {"rebase", "--from", "/a", "in.js"},
         {"rebase", "--from", "/a", "--to", "C:\\a", "in.js"},
@@ -65,7 +74,7 @@ TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
 TEST(CommandLineTest, HelpAndVersionAreEverywhereAndGoToStandardOutput) {
     const TempFolder folder;
     for (const char* const command :
-         {"", "format", "rebase", "submenus", "publish", "linkcode", "integrate"}) {
+         {"", "format", "import", "rebase", "submenus", "publish", "linkcode", "integrate"}) {
         Arguments arguments;
         if (*command != '\0')
             arguments.push_back(command);
@@ -99,6 +108,7 @@ TEST(CommandLineTest, InputThatCannotBeReadHasStatusThreeAndNamesFileAndReason) 
     };
     for (const Case& c : cases) {
         const Arguments commands[] = {{"format", c.input, "-o", "out.js"},
+                                      {"import", "--format", "orletbar", c.input, "-o", "out.js"},
                                       {"rebase", "--from", "/a", "--to", "/b", c.input},
                                       {"submenus", c.input},
                                       {"publish", c.input, "."}};
@@ -131,10 +141,13 @@ TEST(CommandLineTest, OutputThatCannotBeWrittenHasStatusThree) {
         {OutputTo::ClosedPipe, "zevmenu: standard output: Broken pipe\n"},
         {OutputTo::Nothing, "zevmenu: standard output: Bad file descriptor\n"},
     };
-    const Arguments commands[] = {
-        {"format", "in.js"},   {"rebase", "--from", "/a", "--to", "/b", "in.js"},
-        {"submenus", "in.js"}, {"linkcode", "--definition", "m.js"},
-        {"--version"},         {"format", "--help"}};
+    const Arguments commands[] = {{"format", "in.js"},
+                                  {"import", "--format", "orletbar", "in.js"},
+                                  {"rebase", "--from", "/a", "--to", "/b", "in.js"},
+                                  {"submenus", "in.js"},
+                                  {"linkcode", "--definition", "m.js"},
+                                  {"--version"},
+                                  {"format", "--help"}};
     for (const Case& c : cases) {
         for (const Arguments& arguments : commands) {
             const ProgramResult result = runZevmenu(arguments, folder.path(), "", c.outputTo);

@@ -25,7 +25,7 @@ using Warnings = std::vector<ImportWarning>;
 /// Imports into a document that is new at each call.
 class ImportTest : public testing::Test {
   protected:
-    Warnings import(ImportFormat format, std::string_view bytes) {
+    Warnings importMenu(ImportFormat format, std::string_view bytes) {
         document.NewDocument();
         const Warnings warnings = ImportMenu(format, bytes, document).warnings;
         ExpectSoundTree(document.tree);

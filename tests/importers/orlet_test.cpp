@@ -14,7 +14,7 @@ constexpr ImportFormat kFormats[] = {ImportFormat::OrletBar, ImportFormat::Orlet
 class OrletTest : public ImportTest, public testing::WithParamInterface<ImportFormat> {
   protected:
     Warnings read(std::initializer_list<std::string_view> lines) {
-        return import(GetParam(), Lines(lines));
+        return importMenu(GetParam(), Lines(lines));
     }
 };
 
@@ -31,7 +31,7 @@ INSTANTIATE_TEST_SUITE_P(Format, OrletTest, testing::ValuesIn(kFormats), [](cons
 
 TEST_P(OrletTest, AFileWithoutItemLinesGivesAnEmptyDocument) {
     for (const char* const bytes : {"", "\n", "Home|a.html\nx :Home\n\t:Home\n|:Home\n"}) {
-        EXPECT_EQ(import(GetParam(), bytes), none);
+        EXPECT_EQ(importMenu(GetParam(), bytes), none);
         EXPECT_TRUE(document.tree.isEmpty());
         EXPECT_EQ(document.CurNode, nullptr);
         EXPECT_EQ(document.selectedNode, nullptr);
@@ -55,7 +55,7 @@ TEST_P(OrletTest, OnlyFormatOrletMenuMakesTheTopLevelOneColumn) {
     if (GetParam() == ImportFormat::OrletMenu)
         expected.Columns = "1";
     for (const char* const bytes : {"", ":A\n"}) {
-        import(GetParam(), bytes);
+        importMenu(GetParam(), bytes);
         EXPECT_EQ(document.RootMenuProp, expected);
         EXPECT_EQ(document.DefaultProp, newDocument.DefaultProp);
     }
@@ -107,7 +107,7 @@ TEST_P(OrletTest, ColonsNestTheItems) {
     };
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.name);
-        EXPECT_EQ(import(GetParam(), c.bytes), c.warnings);
+        EXPECT_EQ(importMenu(GetParam(), c.bytes), c.warnings);
         EXPECT_EQ(tree(), c.tree);
     }
 }
@@ -191,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(BarAndMenu, OrletLinkItemsTest,
 TEST_P(OrletLinkItemsTest, AtTheTopLevelAnItemHasCaptionLinkAndTarget) {
     for (const FieldCase& c : kLinkItems) {
         SCOPED_TRACE(c.line);
-        EXPECT_EQ(import(GetParam(), ":" + std::string(c.line) + "\n"), none);
+        EXPECT_EQ(importMenu(GetParam(), ":" + std::string(c.line) + "\n"), none);
         EXPECT_EQ(ItemText(itemAt("KeyLoad 1")), "text [" + std::string(c.caption) + "] [" + c.url +
                                                      "] [" + c.target + "] [] []" +
                                                      PropText(*NewItemMenuProp()));
@@ -219,7 +219,7 @@ TEST_F(OrletButtonTest, AtTheTopLevelAnItemHasAnImageInItsCaptionBeforeLinkAndTa
     };
     for (const FieldCase& c : kCases) {
         SCOPED_TRACE(c.line);
-        EXPECT_EQ(import(ImportFormat::OrletButton, ":" + std::string(c.line) + "\n"), none);
+        EXPECT_EQ(importMenu(ImportFormat::OrletButton, ":" + std::string(c.line) + "\n"), none);
         EXPECT_EQ(ItemText(itemAt("KeyLoad 1")), "text [" + std::string(c.caption) + "] [" + c.url +
                                                      "] [" + c.target + "] [] []" +
                                                      PropText(*NewItemMenuProp()));
@@ -229,7 +229,7 @@ TEST_F(OrletButtonTest, AtTheTopLevelAnItemHasAnImageInItsCaptionBeforeLinkAndTa
 
 TEST_F(OrletButtonTest, TheColonsSayWhatTheFieldsAreWhereverTheItemIsPlaced) {
     // The first item is at the top level for lack of another; its line is that of a deeper one.
-    EXPECT_EQ(import(ImportFormat::OrletButton, "::A|a.html|main\n"),
+    EXPECT_EQ(importMenu(ImportFormat::OrletButton, "::A|a.html|main\n"),
               (Warnings{{1, Reason::StartsDeep}}));
     EXPECT_EQ(itemAt("KeyLoad 1").Caption, "A");
     EXPECT_EQ(itemAt("KeyLoad 1").URL, "a.html");

@@ -10,7 +10,7 @@ namespace {
 class QuillmenuTest : public ImportTest {
   protected:
     Warnings read(std::initializer_list<std::string_view> lines) {
-        return import(ImportFormat::Quillmenu, Lines(lines));
+        return importMenu(ImportFormat::Quillmenu, Lines(lines));
     }
     const MenuProp& submenu(const std::string& key) { return *itemAt(key).MenuProperty; }
 };
@@ -19,7 +19,7 @@ constexpr std::string_view kMain = "qlmenu1 = new mainMenu('vertical');";
 
 TEST_F(QuillmenuTest, AFileWithoutMenuLinesGivesAnEmptyDocument) {
     for (const char* const bytes : {"", "\n", "// a script\nvar menu = 1;\n", ":Home|a.html\n"}) {
-        EXPECT_EQ(import(ImportFormat::Quillmenu, bytes), none);
+        EXPECT_EQ(importMenu(ImportFormat::Quillmenu, bytes), none);
         EXPECT_EQ(DocumentText(document), DocumentText(newDocument));
         EXPECT_EQ(document.CurNode, nullptr);
         EXPECT_EQ(document.selectedNode, nullptr);
@@ -256,8 +256,8 @@ TEST_F(QuillmenuTest, LinesThatMatchNoPatternAreSkipped) {
 }
 
 TEST_F(QuillmenuTest, SpacesAroundALineDoNotMatter) {
-    EXPECT_EQ(import(ImportFormat::Quillmenu,
-                     "   qlmenu1 = new mainMenu('horizontal');  \r\n  qlmenu1.addItems('A');"),
+    EXPECT_EQ(importMenu(ImportFormat::Quillmenu,
+                         "   qlmenu1 = new mainMenu('horizontal');  \r\n  qlmenu1.addItems('A');"),
               none);
     EXPECT_EQ(document.RootMenuProp.Columns, "20");
     EXPECT_EQ(tree(), "A\n");
