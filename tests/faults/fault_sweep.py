@@ -404,6 +404,13 @@ def scenarios(program, work):
     (template / "site").chmod(0o555)
     yield "format, folder that forbids new files", template, form, "site/menu.js"
 
+    template = new_template(work, "import")
+    (template / "site/menu.js").write_bytes(b"old")
+    (template / "in.txt").write_bytes(b":Home|index.html\n::Seeds|seeds.html\n")
+    yield ("import", template,
+           [program, "import", "--format", "orletbar", "{folder}/in.txt", "-o", out],
+           "site/menu.js")
+
     template = new_template(work, "rebase")
     (template / "site/menu.js").write_bytes(b"old")
     yield ("rebase", template,
