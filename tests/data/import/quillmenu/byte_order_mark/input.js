@@ -1,0 +1,2 @@
+﻿qlmenu1 = new mainMenu('horizontal');
+qlmenu1.addItems('Café 日本', 'a.html', '');
