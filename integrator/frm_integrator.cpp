@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -43,6 +44,8 @@ constexpr int kPopupKind = 1;  // index in `cboIntegration`
 constexpr int kTextWidth = 72;
 /// Lines of a code text that are seen at once.
 constexpr int kCodeLines = 4;
+/// A window that stands still for less than this needs no explanation.
+constexpr int kMomentMs = 500;
 
 QLabel* MakeText(const QString& name, const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
@@ -84,9 +87,13 @@ bool HasDriveLetter(const std::string& url) {
     return url.size() >= 2 && url[1] == ':' && isLetter(url[0]);
 }
 
-void ShowHint(QLabel& label, const QString& hint) {
-    label.setText(hint);
-    label.setVisible(!hint.isEmpty());
+QString WithEscapedQuotes(QString url) {
+    return url.replace(u'\'', "%27").replace(u'"', "%22");
+}
+
+void ShowHints(QLabel& label, const QStringList& hints) {
+    label.setText(hints.join(u'\n'));
+    label.setVisible(!hints.isEmpty());
 }
 
 /// A field that cannot be used now is painted like the dialog behind it.
@@ -477,26 +484,41 @@ void frmIntegrator::BtnInputFile_Click() {
 
 /// A page that cannot be read counts as none; the report will say so.
 void frmIntegrator::countScripts() {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const int pageCount = comboFiles->count();
+    // Shows itself only when counting takes longer than a moment, and then blocks the wizard.
+    QProgressDialog progress(tr("Counting the scripts that would be removed from the pages"),
+                             tr("&Skip"), 0, pageCount, this);
+    progress.setObjectName("frmProgress");
+    progress.setWindowTitle(windowTitle());
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(kMomentMs);
+    progress.setValue(0);
     m_scriptCount = 0;
-    for (std::size_t i = 1; i < InputFiles.size(); ++i) {
-        const auto count =
-            CountDroppedScripts(m_services.parser, PagePath(InputFiles[0], InputFiles[i]));
+    m_countedPages = 0;
+    while (m_countedPages < pageCount && !progress.wasCanceled()) {
+        const std::string& name = InputFiles[static_cast<std::size_t>(m_countedPages) + 1];
+        const auto count = CountDroppedScripts(m_services.parser, PagePath(InputFiles[0], name));
         if (count.isOk())
             m_scriptCount += count.value();
+        progress.setValue(++m_countedPages);
     }
-    QGuiApplication::restoreOverrideCursor();
     showScriptCount();
 }
 
 void frmIntegrator::showScriptCount() {
-    QString text;
-    if (InputFiles.size() > 1) {
-        const std::size_t count = chkKeepScripts->isChecked() ? 0 : m_scriptCount;
-        text = count == 1 ? tr("1 script will be removed from the pages.")
-                          : tr("%1 scripts will be removed from the pages.").arg(count);
-    }
-    lblScripts->setText(text);
+    const int pageCount = comboFiles->count();
+    if (pageCount == 0)
+        return;
+    const bool isKept = chkKeepScripts->isChecked();
+    const std::size_t count = isKept ? 0 : m_scriptCount;
+    const QString what =
+        count == 1 ? tr("1 script will be removed") : tr("%1 scripts will be removed").arg(count);
+    lblScripts->setText(isKept || m_countedPages == pageCount
+                            ? tr("%1 from the pages.").arg(what)
+                            : tr("%1 from the first %2 of %3 pages; the others were not counted.")
+                                  .arg(what)
+                                  .arg(m_countedPages)
+                                  .arg(pageCount));
 }
 
 void frmIntegrator::btnPath_Click() {
@@ -516,19 +538,32 @@ void frmIntegrator::btnMenuDef_Click() {
 void frmIntegrator::showHints() {
     const IntegrationURLs urls = CalculateURL(InputFiles[0], txtMenuDef->text().toStdString(),
                                               txtPath->text().toStdString());
+    const QString library = QString::fromStdString(urls.library);
+    const QString definition = QString::fromStdString(urls.definition);
     const QString driveHint =
         tr("A page on the web cannot reach a drive of this computer: \"%1\". Choose a path on the "
            "drive of the pages, with an upper-case drive letter, or enter a URL.");
-    QString pathHint;
-    if (HasDriveLetter(urls.library))
-        pathHint = driveHint.arg(QString::fromStdString(urls.library));
-    else if (!urls.library.empty() && !urls.library.ends_with('/'))
-        pathHint = tr("The last slash is missing: the pages would load \"%1zevmenu_loader.js\".")
-                       .arg(QString::fromStdString(urls.library));
-    ShowHint(*lblPathHint, pathHint);
-    ShowHint(*lblMenuDefHint, HasDriveLetter(urls.definition)
-                                  ? driveHint.arg(QString::fromStdString(urls.definition))
-                                  : QString());
+    // The URLs stand between quotes in the pages' scripts.
+    const QString quoteHint =
+        tr("A quote in this path would break the script. Rename the folder, or enter \"%1\".");
+    QStringList pathHints;
+    QStringList definitionHints;
+    if (HasDriveLetter(urls.library)) {
+        pathHints.append(driveHint.arg(library));
+    } else {
+        if (!library.isEmpty() && !library.endsWith(u'/'))
+            pathHints.append(
+                tr("The last slash is missing: the pages would load \"%1zevmenu_loader.js\".")
+                    .arg(library));
+        if (library.contains(u'\'') || library.contains(u'"'))
+            pathHints.append(quoteHint.arg(WithEscapedQuotes(library)));
+    }
+    if (HasDriveLetter(urls.definition))
+        definitionHints.append(driveHint.arg(definition));
+    else if (definition.contains(u'"'))
+        definitionHints.append(quoteHint.arg(WithEscapedQuotes(definition)));
+    ShowHints(*lblPathHint, pathHints);
+    ShowHints(*lblMenuDefHint, definitionHints);
 }
 
 void frmIntegrator::cboIntegration_Click() {

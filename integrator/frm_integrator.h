@@ -95,7 +95,8 @@ class frmIntegrator : public QDialog {
     std::vector<std::string> InputFiles{std::string()};  ///< the pages' folder, then their names
     IntegrationStatus m_status;                          ///< of the page last processed
     std::string m_report;                                ///< as it is saved
-    std::size_t m_scriptCount = 0;  ///< scripts that integration drops from the chosen pages
+    int m_countedPages = 0;  ///< the first of the chosen pages, less when counting was skipped
+    std::size_t m_scriptCount = 0;  ///< scripts that integration drops from those
     bool m_isRunning = false;
     bool m_isCancelled = false;
 

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -30,9 +31,28 @@ constexpr const char* kReference =
 constexpr const char* kInPlaceCall =
     "<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>";
 
+/// Reading the first of 100 pages for so long tells that counting will take more than a moment.
+constexpr int kSlowReadMs = 100;
+
 void failTest(const std::string& problem) {
     QTest::qFail(problem.c_str(), __FILE__, __LINE__);
 }
+
+/// Calls back before each file is read, with the number of files read before.
+class WatchedDisk : public FakeFileSystem {
+  public:
+    std::function<void(int)> onRead;
+
+    FileResult<std::string> readFile(const std::string& path,
+                                     std::uint64_t maxBytes) const override {
+        if (onRead)
+            onRead(m_readCount++);
+        return FakeFileSystem::readFile(path, maxBytes);
+    }
+
+  private:
+    mutable int m_readCount = 0;
+};
 
 /// The wizard over the pages "/site/a.htm" and "/site/b.htm" and the library in "/site/js".
 struct WizardDesk {
@@ -97,6 +117,16 @@ struct WizardDesk {
         dialogs.expectOpenFiles({folder, names});
         click("BtnInputFile");
     }
+    /// Puts pages into the folder that integration would drop a script from; gives their names.
+    std::vector<std::string> addPagesWithAScript(int count) {
+        std::vector<std::string> names;
+        for (int number = 0; number < count; ++number) {
+            names.push_back("p" + std::to_string(number) + ".htm");
+            disk.addFile("/site/" + names.back(),
+                         "<head></head><body><script>own()</script></body>\n");
+        }
+        return names;
+    }
     /// From the welcome to step 3, with pages, library and definition given.
     void goToMenuFrame(const std::vector<std::string>& names = {"a.htm"}) {
         next();
@@ -116,7 +146,7 @@ struct WizardDesk {
         return disk.allFiles().at("/site/" + name);
     }
 
-    FakeFileSystem disk;
+    WatchedDisk disk;
     HtmlPage parser{disk};
     FakeMessageBox messages{failTest};
     FakeCommonDialogs dialogs{failTest};
@@ -391,6 +421,68 @@ class test_frm_integrator : public QObject {
         QCOMPARE(desk.label("lblScripts"), QString("0 scripts will be removed from the pages."));
     }
 
+    void countingInManyPagesShowsItsProgress() {
+        WizardDesk desk;
+        desk.next();
+        int shownCount = 0;
+        desk.disk.onRead = [&](int readCount) {
+            if (readCount == 0)
+                QTest::qSleep(kSlowReadMs);
+            auto* progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+            if (progress == nullptr)
+                return;
+            ++shownCount;
+            QCOMPARE(progress->windowTitle(), desk.wizard.windowTitle());
+            QCOMPARE(progress->maximum(), 100);
+            QCOMPARE(progress->value(), readCount);
+        };
+        desk.choosePages(desk.addPagesWithAScript(100));
+        QCOMPARE(shownCount, 99);
+        QCOMPARE(QApplication::activeModalWidget(), nullptr);
+        QCOMPARE(desk.label("lblScripts"), QString("100 scripts will be removed from the pages."));
+    }
+
+    void countingCanBeSkipped_data() {
+        QTest::addColumn<bool>("isByKey");
+        QTest::newRow("button") << false;
+        QTest::newRow("Escape") << true;
+    }
+    void countingCanBeSkipped() {
+        QFETCH(bool, isByKey);
+        WizardDesk desk;
+        desk.next();
+        desk.disk.onRead = [&](int readCount) {
+            if (readCount == 0)
+                QTest::qSleep(kSlowReadMs);
+            if (readCount != 2)
+                return;
+            QWidget* progress = QApplication::activeModalWidget();
+            QVERIFY(progress != nullptr);
+            if (isByKey)
+                QTest::keyClick(progress, Qt::Key_Escape);
+            else
+                QTest::mouseClick(progress->findChild<QPushButton*>(), Qt::LeftButton);
+        };
+        desk.choosePages(desk.addPagesWithAScript(100));
+        desk.disk.onRead = {};
+        QCOMPARE(desk.label("lblScripts"),
+                 QString("3 scripts will be removed from the first 3 of 100 pages; the others were "
+                         "not counted."));
+        desk.click("chkKeepScripts");
+        QCOMPARE(desk.label("lblScripts"), QString("0 scripts will be removed from the pages."));
+        // What was skipped is the counting, not the pages.
+        desk.next();
+        desk.type("txtMenuDef", "/site/menu_def.js");
+        desk.next(2);
+        QCOMPARE(desk.text("txtReport").count("Success: Menu integration successful"), 100);
+        desk.click("btnBack");
+        desk.click("btnBack");
+        desk.click("btnBack");
+        desk.choosePages({"a.htm"});
+        desk.click("chkKeepScripts");
+        QCOMPARE(desk.label("lblScripts"), QString("0 scripts will be removed from the pages."));
+    }
+
     void otherScriptsAreKeptOnlyWhenTicked_data() {
         QTest::addColumn<bool>("isTicked");
         QTest::newRow("as it starts") << false;
@@ -499,6 +591,23 @@ class test_frm_integrator : public QObject {
                                        << "D:\\m.js"
                                        << "D:"
                                        << "D:";
+        QTest::newRow("an apostrophe in a folder") << "/site/it's"
+                                                   << "/site/it's/m.js"
+                                                   << "enter \"it%27s/\"."
+                                                   << "";
+        QTest::newRow("a double quote in a URL") << "a\"b/"
+                                                 << "a\"b/m.js"
+                                                 << "enter \"a%22b/\"."
+                                                 << "enter \"a%22b/m.js\".";
+        QTest::newRow("no last slash, and an apostrophe")
+            << "it's"
+            << "m.js"
+            << "it'szevmenu_loader.js\".\nA quote in this path would break the script."
+            << "";
+        QTest::newRow("another drive, and an apostrophe") << "D:\\it's"
+                                                          << "m.js"
+                                                          << "\"D:\\it's\\\""
+                                                          << "";
     }
     void hintsNameWhatAPageCannotReach() {
         QFETCH(QString, library);
