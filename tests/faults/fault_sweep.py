@@ -69,6 +69,9 @@ class Sweep:
 
     # The status that tells of a file that was not written.
     failed_status = 3
+    errors = ERRORS
+    # Whether calls are interrupted by signals, too.
+    is_interrupted = True
 
     def __init__(self, name, template, command, definition, work):
         self.name = name
@@ -200,9 +203,9 @@ class Sweep:
         for position, (call, number) in enumerate(calls):
             if may_vanish:
                 self.vanish_at(calls, position)
-            for error in ERRORS:
+            for error in self.errors:
                 self.break_call(call, number, error)
-            if call in INTERRUPTIBLE:
+            if self.is_interrupted and call in INTERRUPTIBLE:
                 self.interrupt_call(call, number)
             self.kill_at(call, number)
 
@@ -309,7 +312,9 @@ class PageSweep(Sweep):
     failed_status = 1
 
     def words_of(self, result):
-        return re.search("^ERROR: .* (not saved|not deleted): .+$", result.stdout, re.MULTILINE)
+        page = re.escape(str(self.folder / self.definition))
+        return re.search(f"^ERROR: ({page} not saved|.*/~qxtmp.htm not deleted): .+$",
+                         result.stdout, re.MULTILINE)
 
     def backup(self):
         name = self.definition + ".bak"
