@@ -183,9 +183,9 @@ void frmIntegrator::makePagesFrame() {
     chkBackup = MakeNamed<QCheckBox>("chkBackup", this);
     // A check box does not wrap its caption.
     chkBackup->setText(
-        tr("Backup files (Recommended). The .bak extension will be appended to the filename.\n"
+        tr("&Backup files (Recommended). The .bak extension will be appended to the filename.\n"
            "Existing backups will be overwritten."));
-    chkBackup->setAccessibleName(QString(chkBackup->text()).replace(u'\n', u' '));
+    chkBackup->setAccessibleName(chkBackup->text().remove(u'&').replace(u'\n', u' '));
     chkBackup->setChecked(true);
     layout->addWidget(chkBackup);
     chkKeepScripts = MakeNamed<QCheckBox>("chkKeepScripts", this);
@@ -200,17 +200,18 @@ void frmIntegrator::makePagesFrame() {
 
 void frmIntegrator::makePathsFrame() {
     QVBoxLayout* layout = addFrame(2, tr("Step 2 of 3"));
+    // In the order of the Tab key.
     txtPath = MakeNamed<QLineEdit>("txtPath", this);
+    QPushButton* btnPath = makeButton("btnPath", tr("B&rowse"), &frmIntegrator::btnPath_Click);
+    btnPath->setAccessibleName(tr("Browse for the menu library"));
     txtMenuDef = MakeNamed<QLineEdit>("txtMenuDef", this);
+    QPushButton* btnMenuDef =
+        makeButton("btnMenuDef", tr("Br&owse"), &frmIntegrator::btnMenuDef_Click);
+    btnMenuDef->setAccessibleName(tr("Browse for the menu definition"));
     for (QLineEdit* field : {txtPath, txtMenuDef}) {
         keepSingleLine(*field);
         connect(field, &QLineEdit::textChanged, this, &frmIntegrator::showHints);
     }
-    QPushButton* btnPath = makeButton("btnPath", tr("B&rowse"), &frmIntegrator::btnPath_Click);
-    btnPath->setAccessibleName(tr("Browse for the menu library"));
-    QPushButton* btnMenuDef =
-        makeButton("btnMenuDef", tr("Br&owse"), &frmIntegrator::btnMenuDef_Click);
-    btnMenuDef->setAccessibleName(tr("Browse for the menu definition"));
     lblPathHint = MakeText("lblPathHint", QString(), this);
     lblMenuDefHint = MakeText("lblMenuDefHint", QString(), this);
 
@@ -229,12 +230,13 @@ void frmIntegrator::makePathsFrame() {
                              tr("Specify the JavaScript file containing the menu definition, e.g. "
                                 "menu_def.js."),
                              this),
-                    3, 0, 1, 3);
+                    4, 0, 1, 3);
     grid->addWidget(
-        MakeLabel("lblMenuDef", tr("&Filename:"), tr("Menu definition file"), txtMenuDef), 4, 0);
-    grid->addWidget(txtMenuDef, 4, 1);
-    grid->addWidget(btnMenuDef, 4, 2);
-    grid->addWidget(lblMenuDefHint, 5, 1, 1, 2);
+        MakeLabel("lblMenuDef", tr("&Filename:"), tr("Menu definition file"), txtMenuDef), 5, 0);
+    grid->addWidget(txtMenuDef, 5, 1);
+    grid->addWidget(btnMenuDef, 5, 2);
+    grid->addWidget(lblMenuDefHint, 6, 1, 1, 2);
+    grid->setRowMinimumHeight(3, grid->verticalSpacing());  // sets the two questions apart
     grid->setColumnStretch(1, 1);
     layout->addLayout(grid);
     layout->addStretch();
@@ -310,16 +312,17 @@ void frmIntegrator::makeReportFrame() {
 
 void frmIntegrator::makeCodeFrame() {
     QVBoxLayout* layout = addFrame(5, tr("Step 3 of 3"));
-    lblMsg = MakeText("lblMsg", QString(), this);
+    // In the order of the Tab key.
     txtCode = MakeTextBox("txtCode", tr("Code to paste"), this);
-    lblLinkCode = MakeText("lblLinkCode",
-                           tr("Copy the code example below to add the menu to hyperlinks:"), this);
-    txtLinkCode = MakeTextBox("txtLinkCode", tr("Code example for hyperlinks"), this);
-    lblLinkCode->setBuddy(txtLinkCode);
     btnCopyCode = makeDialogButton("btnCopyCode", tr("&Copy"), this);
     btnCopyCode->setAccessibleName(tr("Copy the code"));
+    txtLinkCode = MakeTextBox("txtLinkCode", tr("Code example for hyperlinks"), this);
     btnCopyLinkCode = makeDialogButton("btnCopyLinkCode", tr("Co&py"), this);
     btnCopyLinkCode->setAccessibleName(tr("Copy the code example"));
+    lblMsg = MakeText("lblMsg", QString(), this);
+    lblLinkCode = MakeText("lblLinkCode",
+                           tr("Copy the code example below to add the menu to hyperlinks:"), this);
+    lblLinkCode->setBuddy(txtLinkCode);
     layout->addWidget(lblMsg);
     const auto addCode = [&](QPlainTextEdit* box, QPushButton* copy) {
         box->setMaximumHeight((kCodeLines + 2) * box->fontMetrics().lineSpacing());

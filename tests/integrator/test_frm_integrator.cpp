@@ -260,6 +260,38 @@ class test_frm_integrator : public QObject {
         }
     }
 
+    void theTabKeyGoesThroughAFrameAsItIsRead_data() {
+        QTest::addColumn<int>("step");
+        QTest::addColumn<QString>("controls");
+        QTest::newRow("welcome") << 0 << "";
+        QTest::newRow("pages") << 1
+                               << "comboFiles BtnInputFile txtPathname chkBackup chkKeepScripts ";
+        QTest::newRow("paths") << 2 << "txtPath btnPath txtMenuDef btnMenuDef ";
+        QTest::newRow("menu") << 3 << "cboIntegration cboMenuList optXY txtX txtY ";
+        QTest::newRow("report") << 4 << "txtReport btnSaveReport ";
+        QTest::newRow("code") << 5 << "txtCode btnCopyCode txtLinkCode btnCopyLinkCode ";
+    }
+    void theTabKeyGoesThroughAFrameAsItIsRead() {
+        QFETCH(int, step);
+        QFETCH(QString, controls);
+        WizardDesk desk;
+        desk.goToMenuFrame();
+        desk.choosePopup();
+        desk.click("optXY");
+        desk.type("txtX", "1");
+        desk.type("txtY", "1");
+        desk.next(2);
+        for (int back = 5; back > step; --back)
+            desk.click("btnBack");
+        desk.button("btnExit").setFocus();
+        QStringList order;
+        do {
+            QTest::keyClick(desk.wizard.focusWidget(), Qt::Key_Tab);
+            order.append(desk.wizard.focusWidget()->objectName());
+        } while (order.last() != "btnExit" && order.size() < 20);
+        QCOMPARE(order.join(' '), controls + "btnBack btnNext btnExit");
+    }
+
     // Steps
 
     void itStartsAtTheWelcome() {
