@@ -236,7 +236,7 @@ void frmIntegrator::makePathsFrame() {
     grid->addWidget(txtMenuDef, 5, 1);
     grid->addWidget(btnMenuDef, 5, 2);
     grid->addWidget(lblMenuDefHint, 6, 1, 1, 2);
-    grid->setRowMinimumHeight(3, grid->verticalSpacing());  // sets the two questions apart
+    grid->setRowMinimumHeight(3, fontMetrics().height() / 2);  // sets the two questions apart
     grid->setColumnStretch(1, 1);
     layout->addLayout(grid);
     layout->addStretch();
