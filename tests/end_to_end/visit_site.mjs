@@ -63,8 +63,16 @@ await withVisitor(async page => {
     await hover(page, 'Boats', 'Canoes');
     await clickAndArrive('Canoes', 'products/list.htm');
 
-    // At a position.
+    // At a position: there, and gone when the mouse has been in it and has left, or at a click elsewhere.
     await open('products/position.htm', 'Position, loaded');
+    await page.hover('a[onmouseover]');
+    await waitShown(page, 'Canoes');
+    await page.mouse.click(600, 400);
+    await waitGone(page, 'Canoes');
+    await page.hover('a[onmouseover]');
+    await hover(page, 'Canoes');
+    await moveAway(page);
+    await waitGone(page, 'Canoes');
     await page.hover('a[onmouseover]');
     await waitShown(page, 'Canoes');
     assert.equal(await shown(page, ...everything), 'Canoes');
