@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QString>
 #include <string>
 #include <vector>
 
 #include "app/import_commands.h"
-#include "model/menu_document.h"
 
 namespace zev {
 
@@ -20,6 +18,7 @@ struct ImportedProduct {
     const char* columns;  ///< of the imported top menu
 };
 
+/// What `linkTree` makes of the imported menus.
 inline const char* const kImportedTree =
     "Home -> home.html\nProducts -> products.html\n  Boats -> boats.html\n";
 
@@ -45,18 +44,6 @@ inline const std::vector<ImportedProduct>& ImportedProducts() {
          kText, ":Home|~|home.html|~\r\n:Products|~|products.html\r\n::Boats|boats.html\r\n", "10"},
     };
     return kProducts;
-}
-
-/// The item tree as text: one line an item, two spaces a level.
-inline QString ImportedTree(const MenuDocument& document) {
-    QString text;
-    for (const MenuNode* node = document.tree.firstNode(); node != nullptr;
-         node = document.tree.nextInTreeOrder(*node)) {
-        for (const MenuNode* parent = node->parent(); parent != nullptr; parent = parent->parent())
-            text += "  ";
-        text += QString::fromStdString(node->item.Caption + " -> " + node->item.URL + "\n");
-    }
-    return text;
 }
 
 }  // namespace zev

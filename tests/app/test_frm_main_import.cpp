@@ -4,6 +4,7 @@
 #include <QMenuBar>
 
 #include "imported_products.h"
+#include "link_tree.h"
 #include "script/script_writer.h"
 #include "window_desk.h"
 
@@ -90,7 +91,7 @@ class test_frm_main_import : public QObject {
         choose(desk, imported, byKeys);
         QCOMPARE(desk.dialogs.recorded().size(), std::size_t{1});
         QCOMPARE(desk.dialogs.recorded().front().request.filter, std::string(imported.filter));
-        QCOMPARE(ImportedTree(desk.document()), QString(kImportedTree));
+        QCOMPARE(linkTree(desk.document()), QString(kImportedTree));
         QCOMPARE(desk.document().RootMenuProp.Columns, std::string(imported.columns));
         QCOMPARE(desk.shownTree(), "*Home\nProducts\n  Boats\n");
         QCOMPARE(desk.shownPanel(), "normal|Home|home.html|||");

@@ -5,6 +5,7 @@
 
 #include "file_commands_desk.h"
 #include "imported_products.h"
+#include "link_tree.h"
 #include "script/script_writer.h"
 
 using namespace zev;
@@ -172,7 +173,7 @@ void test_import_commands::aChangedMenuIsAskedAbout() {
         QVERIFY(desk.isNewDocument());
         QCOMPARE(desk.view.panelCaption, std::string());
     } else {
-        QCOMPARE(ImportedTree(desk.document), QString(kImportedTree));
+        QCOMPARE(linkTree(desk.document), QString(kImportedTree));
     }
 }
 
@@ -185,7 +186,7 @@ void test_import_commands::anUnchangedMenuIsReplacedUnasked() {
     const std::string saved = desk.bytesOf("/site/menu.js");
     desk.messages.expect(closingText("/old/menu", 0));
     desk.import(ImportedProducts()[product], "/old/menu");
-    QCOMPARE(ImportedTree(desk.document), QString(kImportedTree));
+    QCOMPARE(linkTree(desk.document), QString(kImportedTree));
     QCOMPARE(desk.bytesOf("/site/menu.js"), saved);
 }
 
@@ -228,7 +229,7 @@ void test_import_commands::anImportedMenuIsShown() {
         [&desk](const MessageRequest&) { return desk.view.panelCaption == "Home"; }, Answer::Ok);
     desk.import(ImportedProducts()[product], "/old/menu");
     const MenuDocument& document = desk.document;
-    QCOMPARE(ImportedTree(document), QString(kImportedTree));
+    QCOMPARE(linkTree(document), QString(kImportedTree));
     QCOMPARE(document.CurNode, document.tree.firstNode());
     QCOMPARE(document.selectedNode, document.tree.firstNode());
     QCOMPARE(document.RootMenuProp.Columns, std::string(ImportedProducts()[product].columns));
@@ -259,7 +260,7 @@ void test_import_commands::whatWasTypedBeforeIsNotCarriedOver() {
     desk.messages.expect(closingText("/old/menu.txt", 0));
     desk.import(ImportedProducts()[1], "/old/menu.txt");
     desk.view.StoreItem();
-    QCOMPARE(ImportedTree(desk.document), QString(kImportedTree));
+    QCOMPARE(linkTree(desk.document), QString(kImportedTree));
 }
 
 void test_import_commands::theClosingMessage() {

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTabBar>
 #include <QTabWidget>
@@ -107,6 +109,16 @@ class EditorOnDisk {
             }
         }
         QFAIL("no such tab");
+    }
+
+    /// Opens a menu by mouse and chooses the entry with this access key.
+    void chooseEntry(const char* menu, Qt::Key entry) {
+        auto* popup = find<QMenu>(menu);
+        QMenuBar* bar = m_window->menuBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {},
+                          bar->actionGeometry(popup->menuAction()).center());
+        QTRY_VERIFY(popup->isVisible());
+        QTest::keyClick(popup, entry);
     }
 
     /// Presses `key` where the focus is.

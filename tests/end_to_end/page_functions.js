@@ -1,7 +1,10 @@
-// Functions that test_properties.cpp puts into the preview page. They name an item by its accessible
-// name, and give what a visitor sees as text.
-item = name => [...document.querySelectorAll('[data-zev]')]
-    .map(host => host.shadowRoot.querySelector(`a[aria-label="${name}"]`)).find(Boolean);
+// Functions that the tests put into the preview page. They name an item by its accessible name, and
+// give what a visitor sees as text.
+items = () => [...document.querySelectorAll('[data-zev]')]
+    .flatMap(host => [...host.shadowRoot.querySelectorAll('li > a')]);
+nameOf = link => (link.getAttribute('aria-label') ?? link.querySelector('img').alt).trim();
+item = name => items().find(link => nameOf(link) == name);
+shownNames = () => items().filter(link => link.getClientRects().length).map(nameOf).join('|');
 box = name => item(name).closest('ul');
 rect = name => item(name).getBoundingClientRect();
 point = name => item(name).dispatchEvent(new PointerEvent('pointermove', {

@@ -2,11 +2,10 @@
 // display, with the real disk, browser engine and message boxes. Only the file dialogs are answered
 // from a script.
 
-#include <QMenu>
-#include <QMenuBar>
 #include <QProcess>
 
 #include "editor_on_disk.h"
+#include "link_tree.h"
 #include "page_probe.h"
 #include "script/script_writer.h"
 
@@ -24,18 +23,6 @@ constexpr const char* kShownItems =
     ".filter(link => link.getClientRects().length > 0)"
     ".map(link => link.getAttribute('aria-label')).join('|')";
 
-/// The item tree as text: one line an item, two spaces a level.
-std::string treeText(const MenuDocument& document) {
-    std::string text;
-    for (const MenuNode* node = document.tree.firstNode(); node != nullptr;
-         node = document.tree.nextInTreeOrder(*node)) {
-        for (const MenuNode* parent = node->parent(); parent != nullptr; parent = parent->parent())
-            text += "  ";
-        text += node->item.Caption + " -> " + node->item.URL + "\n";
-    }
-    return text;
-}
-
 }  // namespace
 
 class test_editor : public QObject, private EditorOnDisk {
@@ -52,23 +39,13 @@ class test_editor : public QObject, private EditorOnDisk {
 
   private:
     void fillIn(const QString& caption, const QString& link);
-    void chooseEntry(const char* menu, Qt::Key entry);
 
-    std::string m_madeTree;
+    QString m_madeTree;
 };
 
 void test_editor::fillIn(const QString& caption, const QString& link) {
     type("txtCaption", caption);
     type("txtURL", link);
-}
-
-/// Opens a menu by mouse and chooses the entry with this access key.
-void test_editor::chooseEntry(const char* menu, Qt::Key entry) {
-    auto* popup = find<QMenu>(menu);
-    QMenuBar* bar = m_window->menuBar();
-    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(popup->menuAction()).center());
-    QTRY_VERIFY(popup->isVisible());
-    QTest::keyClick(popup, entry);
 }
 
 void test_editor::initTestCase() {
@@ -99,12 +76,12 @@ void test_editor::aMenuIsMadeWithKeysAndMouse() {
 void test_editor::saveAsPutsAllFilesIntoTheFolder() {
     saveAs([this] { chooseEntry("mnuFile", Qt::Key_A); });
 
-    m_madeTree = treeText(m_window->document());
-    QCOMPARE(m_madeTree, std::string("Home -> home.html\n"
-                                     "Products -> products.html\n"
-                                     "  Boats -> boats.html\n"
-                                     "  Oars -> oars.html\n"
-                                     "It\\'s us -> about.html\n"));
+    m_madeTree = linkTree(m_window->document());
+    QCOMPARE(m_madeTree, QString("Home -> home.html\n"
+                                 "Products -> products.html\n"
+                                 "  Boats -> boats.html\n"
+                                 "  Oars -> oars.html\n"
+                                 "It\\'s us -> about.html\n"));
     QCOMPARE(bytesOf(m_menuFile).toStdString(),
              DefinitionFileBytes(GenerateScript(m_window->document())));
     QCOMPARE(QDir(m_folder.filePath("site")).entryList(QDir::Files),
@@ -121,7 +98,7 @@ void test_editor::openGivesTheSameMenuBack() {
     m_dialogs.expectOpenFile(m_menuFile.toStdString());
     pressShortcut(Qt::Key_O);
     m_dialogs.verify();
-    QCOMPARE(treeText(m_window->document()), m_madeTree);
+    QCOMPARE(linkTree(m_window->document()), m_madeTree);
     QCOMPARE(find<QLineEdit>("txtCaption")->text(), QString("Home"));
 
     // Changed and changed back, so that Save has something to do.
