@@ -1,6 +1,7 @@
 #include "integrator/page_rewriter.h"
 
-#include <deque>
+#include <forward_list>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
@@ -11,35 +12,37 @@ namespace zev {
 namespace {
 
 constexpr std::string_view kMarker = "<!-- Added by ZEVMenu Creator, zevmenu.example -->";
-constexpr std::string_view kMarkerPattern = "*Added by ZEVMenu Creator*";
+constexpr std::string_view kMarkerText = "Added by ZEVMenu Creator";
 constexpr std::string_view kScriptStart = "<script language=\"JavaScript1.2\">";
 constexpr std::string_view kLoaderStart = "<script language=\"JavaScript1.2\" src=\"";
 constexpr std::string_view kHandlerCall = "ZEVLoadMenu();";
 
 /// The new page as pieces: runs of the old page and inserted texts, all views of bytes that must
-/// stay in memory. Neighbouring unchanged tokens become one run, so that the bytes are moved once,
-/// by `joined`.
+/// stay in memory. What stays as it is costs nothing: it is in the run up to the next change.
 class PageOutput {
   public:
-    void keep(std::string_view source) {
-        if (m_run.data() + m_run.size() == source.data()) {
-            m_run = {m_run.data(), m_run.size() + source.size()};
-            return;
-        }
-        endRun();
-        m_run = source;
-    }
+    /// `page` is where the old page begins. Changes follow in its order.
+    explicit PageOutput(const char* page) : m_keptUntil(page) { m_pieces.reserve(32); }
 
-    void insert(std::string_view text) {
-        endRun();
+    /// Inserts a text before this place of the old page.
+    void insert(const char* place, std::string_view text) {
+        keepUntil(place);
         m_pieces.push_back(text);
     }
 
-    /// Inserts a text and keeps it in memory.
-    void insertOwned(std::string text) { insert(m_owned.emplace_back(std::move(text))); }
+    void drop(std::string_view part) {
+        keepUntil(part.data());
+        m_keptUntil = part.data() + part.size();
+    }
 
-    std::string joined() {
-        endRun();
+    /// Puts a text in place of a part of the old page, and keeps it in memory.
+    void replace(std::string_view part, std::string text) {
+        drop(part);
+        m_pieces.push_back(m_owned.emplace_front(std::move(text)));
+    }
+
+    std::string joined(const char* pageEnd) {
+        keepUntil(pageEnd);
         std::size_t size = 0;
         for (const std::string_view piece : m_pieces)
             size += piece.size();
@@ -51,48 +54,38 @@ class PageOutput {
     }
 
   private:
-    void endRun() {
-        if (!m_run.empty())
-            m_pieces.push_back(m_run);
-        m_run = {};
+    void keepUntil(const char* place) {
+        if (place != m_keptUntil)
+            m_pieces.emplace_back(m_keptUntil, static_cast<std::size_t>(place - m_keptUntil));
+        m_keptUntil = place;
     }
 
-    std::string_view m_run;
+    const char* m_keptUntil;
     std::vector<std::string_view> m_pieces;
-    std::deque<std::string> m_owned;  // its strings stay where they are when it grows
+    std::forward_list<std::string> m_owned;  // its strings stay where they are when it grows
 };
 
+bool Contains(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
 bool NamesJavaScript(const HtmlParse& parser) {
-    return MatchesPattern(parser.Attribute("language"), "*JavaScript*");
+    return Contains(parser.Attribute("language"), "JavaScript");
 }
 
 bool LoadsLibrary(const HtmlParse& parser) {
-    return MatchesPattern(TrimSpaces(parser.Attribute("src")), "*zevmenu_loader.js");
+    return TrimSpaces(parser.Attribute("src")).ends_with("zevmenu_loader.js");
 }
 
 bool IsOldScript(const HtmlParse& parser) {
-    const std::string_view script = TrimSpaces(parser.Text());
-    return MatchesPattern(script, "*ZEVCreateMenu()*") || MatchesPattern(script, "*var zev_path*");
-}
-
-std::string LibraryReferences(const std::string& libraryURL) {
-    std::string code(kMarker);
-    code += kScriptStart;
-    code += "var zev_path = '" + libraryURL + "';</script>";
-    code += kLoaderStart;
-    return code + libraryURL + "zevmenu_loader.js\"></script>";
-}
-
-std::string MenuCreation() {
-    std::string code(kMarker);
-    code += kScriptStart;
-    return code + "ZEVCreateMenu()</script>";
+    const std::string_view script = parser.Text();
+    return Contains(script, "ZEVCreateMenu()") || Contains(script, "var zev_path");
 }
 
 /// The call goes before what the page does at the event. True when it was not there yet.
 bool AddHandler(HtmlParse& parser, std::string_view event) {
     const std::string_view old = parser.Attribute(event);
-    if (MatchesPattern(old, "*ZEVLoadMenu()*"))
+    if (Contains(old, "ZEVLoadMenu()"))
         return false;
     std::string handler(kHandlerCall);
     handler += old;
@@ -103,46 +96,55 @@ bool AddHandler(HtmlParse& parser, std::string_view event) {
 class PageRewriter {
   public:
     PageRewriter(HtmlParse& parser, const RewriteOptions& options, IntegrationStatus& status)
-        : m_parser(parser),
-          m_keepsOtherScripts(options.keepsOtherScripts),
-          m_references(LibraryReferences(options.libraryURL)),
-          m_status(status) {}
+        : m_parser(parser), m_options(options), m_status(status), m_output(tokenBegin()) {}
 
     std::string rewrite() {
         for (; !m_parser.IsLast(); m_parser.Next())
             handleToken();
         // The last token stays as it is, even if it is the body's end tag.
-        keep();
-        return m_output.joined();
+        return m_output.joined(tokenEnd());
     }
 
   private:
-    void keep() { m_output.keep(m_parser.Source()); }
+    const char* tokenBegin() const { return m_parser.Source().data(); }
+    const char* tokenEnd() const { return tokenBegin() + m_parser.Source().size(); }
 
+    /// Looks at the name's length first: that rules most tokens out.
     void handleToken() {
-        const std::string_view name = m_parser.IsTag() ? m_parser.TagName() : std::string_view();
-        if (name == "!")
-            handleComment();
-        else if (name == "head")
-            handleHead();
-        else if (name == "body")
-            handleBody();
-        else if (name == "/body")
-            handleBodyEnd();
-        else if (name == "script")
-            handleScript();
-        else
-            keep();
+        const std::string_view name = m_parser.TagName();
+        switch (name.size()) {
+            case 1:
+                if (name == "!")
+                    handleComment();
+                break;
+            case 4:
+                if (name == "head")
+                    handleHead();
+                else if (name == "body")
+                    handleBody();
+                break;
+            case 5:
+                if (name == "/body")
+                    handleBodyEnd();
+                break;
+            case 6:
+                if (name == "script")
+                    handleScript();
+                break;
+            default:
+                break;
+        }
     }
 
     void handleComment() {
-        if (!MatchesPattern(m_parser.Text(), kMarkerPattern))
-            keep();
+        if (Contains(m_parser.Text(), kMarkerText))
+            m_output.drop(m_parser.Source());
     }
 
     void handleHead() {
-        keep();
-        m_output.insert(m_references);
+        insert(tokenEnd(),
+               {kMarker, kScriptStart, "var zev_path = '", m_options.libraryURL, "';</script>",
+                kLoaderStart, m_options.libraryURL, "zevmenu_loader.js\"></script>"});
         m_status.bHeadDone = true;
     }
 
@@ -150,37 +152,40 @@ class PageRewriter {
         const bool isLoadNew = AddHandler(m_parser, "onload");
         const bool isResizeNew = AddHandler(m_parser, "onresize");
         if (isLoadNew || isResizeNew)
-            m_output.insertOwned("<" + std::string(m_parser.TagText()) + ">");
-        else
-            keep();
+            m_output.replace(m_parser.Source(), "<" + std::string(m_parser.TagText()) + ">");
         m_status.bBodyDone = true;
     }
 
     void handleBodyEnd() {
-        m_output.insert(m_creation);
-        keep();
+        insert(tokenBegin(), {kMarker, kScriptStart, "ZEVCreateMenu()</script>"});
         m_status.bEndBodyDone = true;
     }
 
     void handleScript() {
-        // Without its start tag a script's end tag means nothing to a browser; it stays.
-        if (!m_keepsOtherScripts && !NamesJavaScript(m_parser))
-            return;
-        const bool isPrevious = LoadsLibrary(m_parser);
-        if (!isPrevious && !IsOldScript(m_parser)) {
-            keep();
+        if (!m_options.keepsOtherScripts && !NamesJavaScript(m_parser)) {
+            // Without its start tag a script's end tag means nothing to a browser; it stays.
+            m_output.drop(m_parser.Source());
             return;
         }
+        const bool isPrevious = LoadsLibrary(m_parser);
+        if (!isPrevious && !IsOldScript(m_parser))
+            return;
         if (isPrevious)
             m_status.bPrevious = true;
-        // Now on the end tag, which goes too.
+        m_output.drop(m_parser.Source());
         m_parser.Next();
+        // Now on the end tag, which goes too, unless it is the page's last token.
+        if (!m_parser.IsLast())
+            m_output.drop(m_parser.Source());
+    }
+
+    void insert(const char* place, std::initializer_list<std::string_view> texts) {
+        for (const std::string_view text : texts)
+            m_output.insert(place, text);
     }
 
     HtmlParse& m_parser;
-    const bool m_keepsOtherScripts;
-    const std::string m_references;
-    const std::string m_creation = MenuCreation();
+    const RewriteOptions& m_options;
     IntegrationStatus& m_status;
     PageOutput m_output;
 };

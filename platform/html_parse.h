@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/file_system.h"
+#include "platform/html_token.h"
 
 namespace zev {
 
@@ -20,11 +21,14 @@ class HtmlParse {
     /// Reads the page and makes its first token current. After a failure there is no page.
     virtual FileOutcome LoadFile(const std::string& path) = 0;
     /// True when the current token is the last one of the page, or there is none.
-    virtual bool IsLast() const = 0;
-    virtual bool IsTag() const = 0;
+    bool IsLast() const { return m_current == m_last; }
+    bool IsTag() const { return m_current->kind != HtmlToken::Kind::Text; }
     /// Element name in ASCII lower case, an end tag's with a leading "/". "!" for a comment, a
-    /// declaration, a processing instruction or a block of server-side code. Valid until `Next`.
-    virtual std::string_view TagName() const = 0;
+    /// declaration, a processing instruction or a block of server-side code; empty for text. Valid
+    /// until `Next`.
+    std::string_view TagName() const {
+        return m_current->hasUpperCase ? lowerCaseName() : m_current->name;
+    }
     /// What stands between the angle brackets of a tag, as it is spelled; after `SetAttribute` the
     /// changed spelling. Valid until `Next` or `SetAttribute`.
     virtual std::string_view TagText() const = 0;
@@ -38,15 +42,36 @@ class HtmlParse {
     virtual void SetAttribute(std::string_view name, std::string_view value) = 0;
     /// Of a text token its source; of a comment what stands between its marks; of a script start
     /// tag the script. Empty for the rest, for declarations and server-side code too.
-    virtual std::string_view Text() const = 0;
+    std::string_view Text() const { return m_current->text; }
     /// The source of the current token with all that belongs to it, unchanged: of a tag with its
     /// angle brackets (where the page ends before the closing one, without it), of a script start
     /// tag with the script.
-    virtual std::string_view Source() const = 0;
+    std::string_view Source() const { return m_current->source; }
     /// Makes the following token current; nothing on the last one.
-    virtual void Next() = 0;
+    void Next() {
+        if (IsLast()) {
+            return;
+        }
+        ++m_current;
+        if (m_current == m_batchEnd) {
+            readBatch();
+        }
+    }
     /// Lets go of the page.
     virtual void Close() = 0;
+
+  protected:
+    // Tokens are read in batches, and what a reader asks every one of them is answered here: both
+    // cost a call a batch then, not several a token.
+
+    /// Reads the tokens after those read before, at least one, and makes the first one current.
+    virtual void readBatch() = 0;
+    /// Of the current token, whose name has upper case.
+    virtual std::string_view lowerCaseName() const = 0;
+
+    const HtmlToken* m_current = nullptr;   ///< never null once constructed
+    const HtmlToken* m_batchEnd = nullptr;  ///< after the last one read
+    const HtmlToken* m_last = nullptr;      ///< the page's last one; null while it is not read yet
 };
 
 }  // namespace zev

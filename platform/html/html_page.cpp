@@ -19,20 +19,20 @@ namespace {
 std::string quoted(std::string_view value, char quote) {
     std::string text(1, quote);
     ServerBlocks blocks(value);
-    for (std::size_t i = 0; i < value.size();) {
-        const std::size_t blockEnd = value[i] == '<' ? blocks.endOf(i) : i;
-        if (blockEnd != i) {
-            text += value.substr(i, blockEnd - i);
-            i = blockEnd;
-            continue;
-        }
-        if (value[i] == quote) {
-            text += quote == '"' ? "&quot;" : "&#39;";
+    const unsigned kinds = htmlCharacter(quote) | html_character::kLessThan;
+    std::size_t begin = 0;
+    std::size_t end = findHtmlCharacter(value, 0, kinds);
+    while (end < value.size()) {
+        if (value[end] == '<') {
+            end = std::max(end + 1, blocks.endOf(end));
         } else {
-            text += value[i];
+            text += value.substr(begin, end - begin);
+            text += quote == '"' ? "&quot;" : "&#39;";
+            begin = ++end;
         }
-        ++i;
+        end = findHtmlCharacter(value, end, kinds);
     }
+    text += value.substr(begin);
     return text += quote;
 }
 
@@ -78,6 +78,10 @@ std::string withAddedAttribute(std::string_view tagText, std::size_t nameEnd, st
 
 }  // namespace
 
+HtmlPage::HtmlPage(const FileSystem& files) : m_files(files) {
+    m_current = m_last = m_batch.data();
+}
+
 FileOutcome HtmlPage::LoadFile(const std::string& path) {
     Close();
     m_file.emplace(m_files.readFile(path, std::numeric_limits<std::uint64_t>::max()));
@@ -87,78 +91,66 @@ FileOutcome HtmlPage::LoadFile(const std::string& path) {
         return error;
     }
     m_tokenizer.emplace(m_file->value());
-    Next();
+    if (!m_tokenizer->isAtEnd()) {
+        readBatch();
+    }
     return {};
 }
 
-bool HtmlPage::IsLast() const {
-    return !m_tokenizer || m_tokenizer->isAtEnd();
-}
-
-bool HtmlPage::IsTag() const {
-    return !m_name.empty();
-}
-
 std::string_view HtmlPage::TagText() const {
-    return m_changedText ? *m_changedText : m_token.inside;
+    return m_changed == m_current ? std::string_view(m_changedText) : m_current->inside;
 }
 
 std::string_view HtmlPage::Attribute(std::string_view name) const {
     HtmlAttribute attribute;
-    if (m_token.name.empty() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute)) {
+    if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute)) {
         return {};
     }
     return TagText().substr(attribute.valueBegin, attribute.valueEnd - attribute.valueBegin);
 }
 
 void HtmlPage::SetAttribute(std::string_view name, std::string_view value) {
-    if (m_token.name.empty()) {
+    if (!hasAttributes()) {
         return;
     }
     HtmlAttribute attribute;
     m_changedText = findHtmlAttribute(TagText(), nameEnd(), name, attribute)
                         ? withChangedValue(TagText(), attribute, value)
                         : withAddedAttribute(TagText(), nameEnd(), name, value);
+    m_changed = m_current;
 }
 
-void HtmlPage::Next() {
-    if (IsLast()) {
-        return;
+void HtmlPage::readBatch() {
+    std::size_t count = 0;
+    while (count < m_batch.size() && m_tokenizer->next(m_batch[count])) {
+        ++count;
     }
-    m_tokenizer->next(m_token);
-    m_changedText.reset();
-    setName();
+    m_current = m_batch.data();
+    m_batchEnd = m_current + count;
+    m_last = m_tokenizer->isAtEnd() ? m_batchEnd - 1 : nullptr;
+    m_changed = nullptr;
+}
+
+/// Comments and text have none.
+bool HtmlPage::hasAttributes() const {
+    return m_current->kind == HtmlToken::Kind::StartTag ||
+           m_current->kind == HtmlToken::Kind::EndTag;
+}
+
+std::string_view HtmlPage::lowerCaseName() const {
+    m_lowerCaseName.clear();
+    for (const char character : m_current->name) {
+        m_lowerCaseName += asciiLower(character);
+    }
+    return m_lowerCaseName;
 }
 
 void HtmlPage::Close() {
     m_tokenizer.reset();
     m_file.reset();
-    m_token = {};
-    m_name = {};
-    m_changedText.reset();
-}
-
-void HtmlPage::setName() {
-    if (m_token.kind == HtmlToken::Kind::Text) {
-        m_name = {};
-        return;
-    }
-    if (m_token.kind == HtmlToken::Kind::Comment) {
-        m_name = "!";
-        return;
-    }
-    m_name = m_token.inside.substr(0, nameEnd());
-    if (std::any_of(m_name.begin(), m_name.end(), isAsciiUpper)) {
-        m_lowerCaseName.resize(m_name.size());
-        std::transform(m_name.begin(), m_name.end(), m_lowerCaseName.begin(), asciiLower);
-        m_name = m_lowerCaseName;
-    }
-}
-
-/// Of a tag: where its attributes begin in its text.
-std::size_t HtmlPage::nameEnd() const {
-    const std::size_t slash = m_token.kind == HtmlToken::Kind::EndTag ? 1 : 0;
-    return slash + m_token.name.size();
+    m_batch[0] = {};
+    m_current = m_last = m_batch.data();
+    m_changed = nullptr;
 }
 
 }  // namespace zev

@@ -13,15 +13,10 @@ namespace {
 constexpr std::string_view kScript = "script";
 constexpr std::string_view kPlaintext = "plaintext";
 
-/// Elements whose content is text up to their end tag; the script apart.
+/// Elements whose content is text up to their end tag; the script apart. `mayHaveRawContent` has to
+/// let each of them pass.
 constexpr std::array<std::string_view, 8> kRawElements = {
     "style", "title", "textarea", "xmp", "iframe", "noembed", "noframes", kPlaintext};
-
-bool isRawElement(std::string_view name) {
-    return std::any_of(kRawElements.begin(), kRawElements.end(), [name](std::string_view element) {
-        return equalsIgnoringCase(name, element);
-    });
-}
 
 bool hasUtf16Mark(std::string_view page) {
     return page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF");
@@ -32,41 +27,26 @@ bool hasUtf16Mark(std::string_view page) {
 HtmlTokenizer::HtmlTokenizer(std::string_view page)
     : m_page(page), m_blocks(page), m_rawElement(hasUtf16Mark(page) ? kPlaintext : "") {}
 
-bool HtmlTokenizer::next(HtmlToken& token) {
-    if (isAtEnd()) {
-        return false;
-    }
-    token = {};
-    token.offset = m_position;
-    const std::size_t contentEnd = m_rawElement.empty() ? m_position : rawTextState(m_position);
+/// The content of an element that holds no markup, or what comes after it when there is none.
+void HtmlTokenizer::rawTextState(HtmlToken& token) {
+    const std::size_t end = endOfRawText(m_position);
     m_rawElement = {};
-    if (contentEnd > m_position) {
-        takeText(token, contentEnd);
+    if (end > m_position) {
+        takeText(token, end);
     } else {
         dataState(token);
     }
-    return true;
 }
 
-void HtmlTokenizer::dataState(HtmlToken& token) {
-    if (m_page[m_position] == '<' && isMarkup(m_position)) {
-        tagOpenState(token);
-        return;
-    }
-    std::size_t lessThan = find('<', m_position + 1);
-    while (lessThan < m_page.size() && !isMarkup(lessThan)) {
-        lessThan = find('<', lessThan + 1);
-    }
-    takeText(token, lessThan);
-}
-
-void HtmlTokenizer::tagOpenState(HtmlToken& token) {
+/// What "<" begins when it is neither a tag nor text.
+void HtmlTokenizer::noTagState(HtmlToken& token) {
+    token.kind = HtmlToken::Kind::Comment;
+    token.name = "!";
+    token.hasUpperCase = false;
+    token.text = {};
     switch (m_page[m_position + 1]) {
         case '!':
             markupDeclarationOpenState(token);
-            break;
-        case '/':
-            endTagOpenState(token);
             break;
         case '?':
             processingInstructionState(token);
@@ -74,34 +54,9 @@ void HtmlTokenizer::tagOpenState(HtmlToken& token) {
         case '%':
             serverBlockState(token, m_blocks.endOf(m_position) - 1);
             break;
-        default:
-            token.kind = HtmlToken::Kind::StartTag;
-            tagNameState(token, m_position + 1);
-            afterStartTagState(token);
+        default:  // "</" before something else than a name
+            bogusCommentState(token, m_position + 2);
     }
-}
-
-void HtmlTokenizer::endTagOpenState(HtmlToken& token) {
-    if (isAsciiLetter(m_page[m_position + 2])) {
-        token.kind = HtmlToken::Kind::EndTag;
-        tagNameState(token, m_position + 2);
-    } else {
-        bogusCommentState(token, m_position + 2);
-    }
-}
-
-void HtmlTokenizer::tagNameState(HtmlToken& token, std::size_t nameBegin) {
-    std::size_t end = nameBegin;
-    while (end < m_page.size() && m_page[end] != '>' && m_page[end] != '/' &&
-           !isHtmlSpace(m_page[end]) && (m_page[end] != '<' || m_blocks.endOf(end) == end)) {
-        ++end;
-    }
-    token.name = slice(nameBegin, end);
-    HtmlAttributeReader attributes(m_page, m_blocks, end);
-    HtmlAttribute attribute;
-    while (attributes.next(attribute)) {
-    }
-    takeMarkup(token, attributes.position());
 }
 
 /// The content of an element that holds no markup: a script's goes with its start tag.
@@ -111,8 +66,13 @@ void HtmlTokenizer::afterStartTagState(HtmlToken& token) {
         token.text = slice(m_position, scriptEnd);
         token.source = slice(token.offset, scriptEnd);
         m_position = scriptEnd;
-    } else if (isRawElement(token.name)) {
-        m_rawElement = token.name;
+        return;
+    }
+    const auto* const element =
+        std::find_if(kRawElements.begin(), kRawElements.end(),
+                     [&](std::string_view name) { return equalsIgnoringCase(token.name, name); });
+    if (element != kRawElements.end()) {
+        m_rawElement = *element;
     }
 }
 
@@ -121,7 +81,7 @@ void HtmlTokenizer::markupDeclarationOpenState(HtmlToken& token) {
     const std::size_t content = m_position + 2;
     if (blockEnd != m_position) {
         serverBlockState(token, blockEnd - 1);
-    } else if (m_page.substr(content, 2) == "--") {
+    } else if (m_page.substr(content).starts_with("--")) {
         commentStartState(token);
     } else {
         bogusCommentState(token, content);
@@ -132,7 +92,6 @@ void HtmlTokenizer::markupDeclarationOpenState(HtmlToken& token) {
 }
 
 void HtmlTokenizer::commentStartState(HtmlToken& token) {
-    token.kind = HtmlToken::Kind::Comment;
     const std::size_t content = m_position + 4;
     const std::string_view start = m_page.substr(content, 2);
     if (start.starts_with(">") || start == "->") {
@@ -164,7 +123,6 @@ void HtmlTokenizer::processingInstructionState(HtmlToken& token) {
 }
 
 void HtmlTokenizer::bogusCommentState(HtmlToken& token, std::size_t textBegin) {
-    token.kind = HtmlToken::Kind::Comment;
     const std::size_t end =
         findOutsideBlocks(textBegin, [this](std::size_t from) { return find('>', from); });
     token.text = slice(textBegin, end);
@@ -173,12 +131,11 @@ void HtmlTokenizer::bogusCommentState(HtmlToken& token, std::size_t textBegin) {
 
 /// Its text stays empty: nobody is to look into it.
 void HtmlTokenizer::serverBlockState(HtmlToken& token, std::size_t insideEnd) {
-    token.kind = HtmlToken::Kind::Comment;
     takeMarkup(token, insideEnd);
 }
 
-std::size_t HtmlTokenizer::rawTextState(std::size_t position) {
-    if (equalsIgnoringCase(m_rawElement, kPlaintext)) {
+std::size_t HtmlTokenizer::endOfRawText(std::size_t position) {
+    if (m_rawElement == kPlaintext) {
         return m_page.size();
     }
     std::size_t lessThan = find('<', position);
@@ -234,22 +191,6 @@ std::size_t HtmlTokenizer::scriptDataEscapedState(std::size_t position) {
     }
 }
 
-/// Whether a "<" in text begins something else.
-bool HtmlTokenizer::isMarkup(std::size_t lessThan) {
-    const std::size_t next = lessThan + 1;
-    if (next >= m_page.size()) {
-        return false;
-    }
-    const char character = m_page[next];
-    if (isAsciiLetter(character) || character == '!' || character == '?') {
-        return true;
-    }
-    if (character == '/') {
-        return next + 1 < m_page.size();
-    }
-    return character == '%' && m_blocks.endOf(lessThan) != lessThan;
-}
-
 /// Whether the element's name stands here, and whole.
 bool HtmlTokenizer::isTagOf(std::size_t nameBegin, std::string_view element) const {
     const std::size_t nameEnd = nameBegin + element.size();
@@ -260,11 +201,6 @@ bool HtmlTokenizer::isTagOf(std::size_t nameBegin, std::string_view element) con
 bool HtmlTokenizer::isEndTagOf(std::size_t lessThan, std::string_view element) const {
     return lessThan + 1 < m_page.size() && m_page[lessThan + 1] == '/' &&
            isTagOf(lessThan + 2, element);
-}
-
-/// The offset of the next such character; the page's size without one.
-std::size_t HtmlTokenizer::find(char character, std::size_t from) const {
-    return std::min(m_page.find(character, from), m_page.size());
 }
 
 /// The offset of the next "-->" or "--!>"; the page's size without one.
@@ -294,25 +230,6 @@ std::size_t HtmlTokenizer::findOutsideBlocks(std::size_t from, FindEnd findEnd) 
             end = findEnd(from);
         }
     }
-}
-
-std::string_view HtmlTokenizer::slice(std::size_t begin, std::size_t end) const {
-    return m_page.substr(begin, end - begin);
-}
-
-void HtmlTokenizer::takeText(HtmlToken& token, std::size_t end) {
-    const std::string_view text = slice(m_position, end);
-    token.source = text;
-    token.text = text;
-    m_position = end;
-}
-
-/// `insideEnd` is the offset of the ">" or, where it is missing, the page's size.
-void HtmlTokenizer::takeMarkup(HtmlToken& token, std::size_t insideEnd) {
-    const std::size_t end = std::min(insideEnd + 1, m_page.size());
-    token.inside = slice(m_position + 1, insideEnd);
-    token.source = slice(m_position, end);
-    m_position = end;
 }
 
 }  // namespace zev

@@ -52,9 +52,6 @@ std::size_t ServerBlocks::endOfPercent(std::size_t lessThan) {
 }
 
 std::size_t ServerBlocks::endOfComment(std::size_t lessThan) {
-    if (m_page.substr(lessThan, 5) != "<!---") {
-        return lessThan;
-    }
     if (!m_arePaired) {
         pairComments(lessThan);
         m_arePaired = true;

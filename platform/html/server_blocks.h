@@ -32,7 +32,7 @@ class ServerBlocks {
             case '%':
                 return endOfPercent(lessThan);
             case '!':
-                return endOfComment(lessThan);
+                return m_page.substr(next).starts_with("!---") ? endOfComment(lessThan) : lessThan;
             default:
                 return lessThan;
         }

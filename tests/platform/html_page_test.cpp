@@ -68,6 +68,27 @@ TEST(HtmlPageTest, StepsThroughThePage) {
     EXPECT_EQ(loaded.page.Source(), "</html>") << "Next does nothing on the last token";
 }
 
+/// However many tokens are read ahead, each is asked when it is the current one.
+TEST(HtmlPageTest, ALongPageIsSteppedThroughTokenByToken) {
+    constexpr int kTags = 500;
+    std::string bytes;
+    for (int i = 0; i < kTags; ++i) {
+        bytes += "<Tag" + std::to_string(i) + " a=" + std::to_string(i) + ">";
+    }
+    LoadedPage loaded(bytes);
+    for (int i = 0; i < kTags; ++i) {
+        const std::string number = std::to_string(i);
+        ASSERT_EQ(loaded.page.TagName(), "tag" + number);
+        EXPECT_EQ(loaded.page.TagText(), "Tag" + number + " a=" + number);
+        EXPECT_EQ(loaded.page.Attribute("a"), number);
+        loaded.page.SetAttribute("a", "x" + number);
+        EXPECT_EQ(loaded.page.Attribute("a"), "x" + number);
+        EXPECT_EQ(loaded.page.Source(), "<Tag" + number + " a=" + number + ">");
+        ASSERT_EQ(loaded.page.IsLast(), i + 1 == kTags);
+        loaded.page.Next();
+    }
+}
+
 TEST(HtmlPageTest, AnEmptyPageHasNoToken) {
     LoadedPage loaded("");
     EXPECT_TRUE(loaded.page.IsLast());

@@ -68,7 +68,7 @@ TEST(HtmlTokenizerTest, ATagsNameEndsAtSpaceSlashOrBracket) {
         {"<a\"b>", "a\"b"},
         {"<a=b>", "a=b"},
         {"<a<b>", "a<b"},
-        {"</Body >", "Body"},
+        {"</Body >", "/Body"},
         {"<x", "x"},
         {"<bo\0dy>"sv, "bo\0dy"sv},
         {"<body\vx>", "body\vx"},

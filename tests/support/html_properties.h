@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/fake/fake_file_system.h"
+#include "platform/html/html_characters.h"
 #include "platform/html/html_page.h"
 #include "platform/html/html_tokenizer.h"
 
@@ -27,12 +28,15 @@ inline std::string problemOfToken(const HtmlToken& token, bool isLast) {
         return "the inside of a tag is wrong";
     }
     if (token.kind == HtmlToken::Kind::Comment) {
-        return token.name.empty() && inside.find(token.text) != std::string::npos
+        return token.name == "!" && inside.find(token.text) != std::string::npos
                    ? ""
                    : "the parts of a comment are wrong";
     }
-    const std::string slash = token.kind == HtmlToken::Kind::EndTag ? "/" : "";
-    return !token.name.empty() && inside.starts_with(slash + std::string(token.name))
+    const std::size_t slash = token.kind == HtmlToken::Kind::EndTag ? 1 : 0;
+    return token.name.size() > slash && inside.starts_with(token.name) &&
+                   token.name.starts_with('/') == (slash == 1) &&
+                   token.hasUpperCase ==
+                       std::any_of(token.name.begin(), token.name.end(), isAsciiUpper)
                ? ""
                : "the name of a tag is wrong";
 }
@@ -91,6 +95,10 @@ inline std::string problemOfPage(const std::string& bytes) {
         }
         if (page.Source() != token.source || page.IsTag() == isText || page.IsLast() != isLast) {
             return "parser and tokenizer differ" + at;
+        }
+        if (!equalsIgnoringCase(page.TagName(), token.name) ||
+            std::any_of(page.TagName().begin(), page.TagName().end(), isAsciiUpper)) {
+            return "the parser's name of a tag is wrong" + at;
         }
         if (!isText && !isLast) {
             const std::string alone = "<" + std::string(token.inside) + ">";
