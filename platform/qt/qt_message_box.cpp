@@ -75,7 +75,6 @@ void ShowDetails(QMessageBox& box, const std::string& details) {
     text->setMinimumWidth(kDetailsCharacters * metrics.averageCharWidth());
     text->setFocusPolicy(Qt::StrongFocus);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->setTabChangesFocus(true);
     text->setAccessibleName("Details");
 }
 
