@@ -148,6 +148,7 @@ class test_frm_integrator : public QObject {
     // Steps
 
     void itStartsAtTheWelcome() {
+        const OddDisabledFields odd;
         WizardDesk desk;
         QCOMPARE(desk.shownFrames(), QList<int>{0});
         QVERIFY(!desk.button("btnBack").isEnabled());

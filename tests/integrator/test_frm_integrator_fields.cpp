@@ -321,6 +321,7 @@ class test_frm_integrator_fields : public QObject {
     }
 
     void theKindOfMenuEnablesWhatBelongsToIt() {
+        const OddDisabledFields odd;
         WizardDesk desk;
         const auto enabled = [&] {
             QStringList names;

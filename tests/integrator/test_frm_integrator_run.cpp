@@ -237,6 +237,19 @@ class test_frm_integrator_run : public QObject {
              {"txtCode", "btnCopyCode", "lblLinkCode", "txtLinkCode", "btnCopyLinkCode"})
             QCOMPARE(desk.isShown(name), isSuccess);
     }
+
+    void theLastMessageIsAboutTheLastRun() {
+        WizardDesk desk;
+        desk.disk.addFile("/site/bad.htm", "no page at all");
+        desk.goToMenuFrame();
+        desk.next(2);
+        QVERIFY(desk.label("lblMsg").startsWith("Menu integration successful."));
+        for (int back = 5; back > 1; --back)
+            desk.click("btnBack");
+        desk.choosePages({"bad.htm"});
+        desk.next(4);
+        QVERIFY(desk.label("lblMsg").startsWith("Menu integration failure."));
+    }
 };
 
 QTEST_MAIN(test_frm_integrator_run)

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -37,6 +39,22 @@ class WatchedDisk : public FakeFileSystem {
 
   private:
     mutable int m_readCount = 0;
+};
+
+/// While it lives, disabled fields have a back that is neither the window's nor a button's.
+class OddDisabledFields {
+  public:
+    OddDisabledFields() {
+        QPalette palette = m_usual;
+        palette.setColor(QPalette::Disabled, QPalette::Base, Qt::red);
+        QApplication::setPalette(palette);
+    }
+    ~OddDisabledFields() { QApplication::setPalette(m_usual); }
+    OddDisabledFields(const OddDisabledFields&) = delete;
+    OddDisabledFields& operator=(const OddDisabledFields&) = delete;
+
+  private:
+    const QPalette m_usual = QApplication::palette();
 };
 
 /// The wizard over the pages "/site/a.htm" and "/site/b.htm" and the library in "/site/js".
