@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -17,6 +18,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "dialogs/dialog_button.h"
 #include "dialogs/frm_path.h"
@@ -457,6 +459,14 @@ void frmIntegrator::btnBack_Click() {
 
 void frmIntegrator::btnExit_Click() {
     reject();
+}
+
+bool frmIntegrator::event(QEvent* event) {
+    const bool isHandled = QDialog::event(event);
+    // A window does not grow by itself for a text that has more lines now.
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+    return isHandled;
 }
 
 void frmIntegrator::reject() {

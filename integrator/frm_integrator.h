@@ -55,6 +55,9 @@ class frmIntegrator : public QDialog {
 
     void reject() override;
 
+  protected:
+    bool event(QEvent* event) override;
+
   private:
     void Initialize();
     void btnBack_Click();

@@ -92,6 +92,36 @@ class test_frm_integrator : public QObject {
         QCOMPARE(desk.list("cboMenuList").toolTip(), QString("Select submenu"));
     }
 
+    void noTextIsCutOffByALargeFont() {
+        WizardDesk desk;
+        QFont font = desk.wizard.font();
+        font.setPointSize(3 * font.pointSize());
+        desk.wizard.setFont(font);
+        const auto cutOff = [&] {
+            QStringList names;
+            for (const QLabel* label : desk.wizard.findChildren<QLabel*>()) {
+                if (label->isVisible() && label->height() < label->heightForWidth(label->width()))
+                    names.append(label->objectName());
+            }
+            return names.join(' ');
+        };
+        desk.next();
+        const int startHeight = desk.wizard.height();
+        desk.choosePages({"a.htm"});
+        QTRY_COMPARE(cutOff(), QString());
+        desk.next();
+        desk.type("txtPath", "it's");
+        desk.type("txtMenuDef", "D:\\m.js");
+        QTRY_COMPARE(cutOff(), QString());
+        QVERIFY(desk.wizard.height() > startHeight);
+        desk.choosePopup();
+        for (int step = 3; step < 6; ++step) {
+            desk.next();
+            QCOMPARE(desk.shownFrames(), QList<int>{step});
+            QTRY_COMPARE(cutOff(), QString());
+        }
+    }
+
     void everyFieldHasALabelAndEveryControlANameOfItsOwn() {
         WizardDesk desk;
         QSet<QWidget*> labelled;
