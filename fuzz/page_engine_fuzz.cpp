@@ -6,11 +6,14 @@
 #include "tests/support/page_properties.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    const std::string problem =
-        zev::problemOfIntegration(std::string(reinterpret_cast<const char*>(bytes), size));
-    if (!problem.empty()) {
-        std::fprintf(stderr, "%s\n", problem.c_str());
-        std::abort();
+    const std::string page(reinterpret_cast<const char*>(bytes), size);
+    for (const bool keepsOtherScripts : {true, false}) {
+        const std::string problem = zev::problemOfIntegration(page, keepsOtherScripts);
+        if (!problem.empty()) {
+            std::fprintf(stderr, "%s, other scripts %s\n", problem.c_str(),
+                         keepsOtherScripts ? "kept" : "dropped");
+            std::abort();
+        }
     }
     return 0;
 }

@@ -10,13 +10,30 @@
 
 namespace zev {
 
-inline std::string integratedPage(const std::string& page) {
+inline std::string integratedPage(const std::string& page, bool keepsOtherScripts) {
     FakeFileSystem files;
     files.addFile("/page.htm", page);
     HtmlPage parser(files);
     parser.LoadFile("/page.htm");
     IntegrationStatus status;
-    return RewritePage(parser, {"lib/", true}, status);
+    return RewritePage(parser, {"lib/", keepsOtherScripts}, status);
+}
+
+/// The page without the scripts that go unless other scripts are kept.
+inline std::string withoutOtherScripts(const std::string& page) {
+    FakeFileSystem files;
+    files.addFile("/page.htm", page);
+    HtmlPage parser(files);
+    parser.LoadFile("/page.htm");
+    std::string kept;
+    for (; !parser.IsLast(); parser.Next()) {
+        const bool isDropped =
+            parser.TagName() == "script" &&
+            parser.Attribute("language").find("JavaScript") == std::string_view::npos;
+        if (!isDropped)
+            kept += parser.Source();
+    }
+    return kept += parser.Source();
 }
 
 inline std::string without(std::string text, std::string_view part) {
@@ -48,15 +65,16 @@ inline std::string withoutInsertions(std::string page) {
 /// What is wrong with the engine's work on a page: "" when nothing is. A page with code of an
 /// earlier run loses it, and what stood around it may then become another tag; of such a page only
 /// survival is asked.
-inline std::string problemOfIntegration(const std::string& page) {
-    const std::string once = integratedPage(page);
+inline std::string problemOfIntegration(const std::string& page, bool keepsOtherScripts) {
+    const std::string once = integratedPage(page, keepsOtherScripts);
     if (page.find("ZEV") != std::string::npos || page.find("zev") != std::string::npos)
         return "";
-    if (withoutInsertions(once) != withoutInsertions(page))
+    const std::string kept = keepsOtherScripts ? page : withoutOtherScripts(page);
+    if (withoutInsertions(once) != withoutInsertions(kept))
         return "more than the insertions changed";
     // "<!---" in a tag may begin a server-side comment or be a stray. A handler put in after it can
     // turn one into the other, and is then hidden from the next run.
-    if (page.find("<!---") == std::string::npos && integratedPage(once) != once)
+    if (page.find("<!---") == std::string::npos && integratedPage(once, keepsOtherScripts) != once)
         return "the second run changed the page";
     return "";
 }
