@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "platform/html/html_tokenizer.h"
+#include "tests/support/hostile_pages.h"
 #include "tests/support/html_properties.h"
 
 namespace zev {
@@ -83,27 +83,12 @@ TEST(HtmlPropertyTest, RandomBytesComeBackTokenByToken) {
     }
 }
 
-struct HostileCase {
-    std::string name;
-    std::string begin;
-    std::string repeated;
-    std::string end;
-};
-
-void PrintTo(const HostileCase& hostile, std::ostream* out) {
-    *out << hostile.name;
-}
-
-class HtmlHostileTest : public testing::TestWithParam<HostileCase> {};
+class HtmlHostileTest : public testing::TestWithParam<HostilePage> {};
 
 /// Whoever takes more than linear time here is stopped by ctest's time limit.
 TEST_P(HtmlHostileTest, FourMegabytesAreReadInLinearTime) {
-    const HostileCase& test = GetParam();
-    std::string page = test.begin;
-    while (page.size() < 4'000'000) {
-        page += test.repeated;
-    }
-    page += test.end;
+    const HostilePage& test = GetParam();
+    const std::string page = hostilePage(test, 4'000'000);
     HtmlTokenizer tokenizer(page);
     HtmlToken token;
     std::size_t size = 0;
@@ -114,47 +99,8 @@ TEST_P(HtmlHostileTest, FourMegabytesAreReadInLinearTime) {
     EXPECT_EQ(size, page.size());
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, HtmlHostileTest,
-                         testing::ValuesIn(std::vector<HostileCase>{
-                             {"LessThanSigns", "", "<", ""},
-                             {"Slashes", "", "</", ""},
-                             {"Zeros", "", std::string(1, '\0'), ""},
-                             {"OneText", "", "text ", ""},
-                             {"OneAttribute", "<p a=\"", "value>", "\">"},
-                             {"Attributes", "<p ", "a=b ", ">"},
-                             {"AttributesOfOneLetter", "<p ", "a ", ">"},
-                             {"UnclosedQuotes", "", "<p a=\"", ""},
-                             {"QuotesInTurn", "", "<p a=\"' b='\"", ""},
-                             {"UnclosedComments", "", "<!--", ""},
-                             {"CommentsOfDashes", "<!--", "-", ""},
-                             {"CommentsAlmostClosed", "<!--", "--!", ""},
-                             {"CommentsWithThreeDashes", "", "<!--- ", ""},
-                             {"CommentsWithThreeDashesAndTwo", "", "<!--- -->", ""},
-                             {"NestedServerComments", "", "<!---a", "--->"},
-                             {"ServerCommentsInATag", "<p ", "<!---a--->", ">"},
-                             {"UnclosedServerCommentsInATag", "<p ", "<!---a", ">"},
-                             {"UnclosedDeclarations", "", "<!x", ""},
-                             {"UnclosedQuestions", "", "<?x", ""},
-                             {"UnclosedQuestionsInATag", "<p ", "<?", ">"},
-                             {"UnclosedXml", "", "<?xml", ""},
-                             {"UnclosedXmlInATag", "<p ", "<?xml ", ">"},
-                             {"UnclosedPercents", "", "<%", ""},
-                             {"UnclosedPercentComments", "", "<%--", ""},
-                             {"PercentCommentsWithoutTheirEnd", "", "<%--%>", ""},
-                             {"UnclosedBlocksInAComment", "<!--", "<? <% <!--- ", "-->"},
-                             {"BlocksInAComment", "<!--", "<?-->?>", "-->"},
-                             {"UnclosedScripts", "", "<script>", ""},
-                             {"EscapedScripts", "<script>", "<!--<script>", ""},
-                             {"EscapesOpenedAndClosed", "<script>", "<!-- -->", ""},
-                             {"EscapedWithoutEnd", "<script>", "<!--<", ""},
-                             {"ScriptsNeverQuiteEnded", "<script>", "</script", ""},
-                             {"BlocksInAScript", "<script><!--", "<?-->?>", ""},
-                             {"UnclosedTitles", "", "<title>", ""},
-                             {"TitlesNeverQuiteEnded", "<title>", "</titl", ""},
-                             {"Plaintext", "<plaintext>", "<p>", ""},
-                             {"DeepElements", "", "<div>", ""},
-                         }),
-                         [](const testing::TestParamInfo<HostileCase>& hostile) {
+INSTANTIATE_TEST_SUITE_P(Pages, HtmlHostileTest, testing::ValuesIn(kHostilePages),
+                         [](const testing::TestParamInfo<HostilePage>& hostile) {
                              return hostile.param.name;
                          });
 

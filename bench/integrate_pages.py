@@ -1,0 +1,102 @@
+"""`zevmenu integrate` over many pages and over a very large one.
+
+integrate_pages.py ZEVMENU COPY_PAGES SAMPLE_PAGES_FOLDER WORK_FOLDER [PAGES_A_FOLDER]
+
+Prints processor time (user and system) over 5,000 pages, as ratios of medians to programs that do
+the same with files and never look into a page; and the peak memory for one page of 100 MB above that
+for a tiny page, as a ratio to the page's size.
+"""
+
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+
+PAGES = 5000
+ROUNDS = 3
+SMALLEST_BYTES, LARGEST_BYTES = 2_000, 60_000
+LARGE_PAGE_BYTES = 100_000_000
+
+
+def grown(page, size):
+    """The page with what is in its body repeated; not a byte is changed where there is no body."""
+    begin = page.lower().find(b"<body")
+    begin = page.find(b">", begin) + 1 if begin >= 0 else 0
+    end = page.lower().rfind(b"</body")
+    if not 0 < begin < end:
+        return page
+    body = page[begin:end]
+    return page[:begin] + body * max(1, (size - begin) // len(body)) + page[end:]
+
+
+def make_site(samples, folder, pages_a_folder):
+    """Page sizes as on real sites: most small, a few large, in no order. Gives the pages' paths."""
+    paths = []
+    for number in range(PAGES):
+        share = number * 7919 % PAGES / PAGES
+        size = int(SMALLEST_BYTES * (LARGEST_BYTES / SMALLEST_BYTES) ** share)
+        path = os.path.join(folder, f"part{number // pages_a_folder}", f"page{number}.htm")
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as file:
+            file.write(grown(samples[number % len(samples)], size))
+        paths.append(path)
+    return paths
+
+
+def run(command):
+    """Resources that the command used. Status 1 says that a page has no place for the menu."""
+    child = subprocess.Popen(command, stdout=subprocess.DEVNULL)
+    _, status, usage = os.wait4(child.pid, 0)
+    child.returncode = os.waitstatus_to_exitcode(status)
+    if child.returncode not in (0, 1):
+        sys.exit(f"{command[0]} failed with status {child.returncode}")
+    return usage
+
+
+def site_seconds(command, samples, work, pages_a_folder):
+    """Processor time of one run over a site of its own, all of it on the disk."""
+    folder = os.path.join(work, "site")
+    paths = make_site(samples, folder, pages_a_folder)
+    os.sync()
+    usage = run(command + paths)
+    shutil.rmtree(folder)
+    return usage.ru_utime + usage.ru_stime
+
+
+def main():
+    zevmenu, copy_pages, sample_folder, work = sys.argv[1:5]
+    pages_a_folder = int(sys.argv[5]) if len(sys.argv) > 5 else 100
+    samples = []
+    for case in sorted(os.listdir(sample_folder)):
+        with open(os.path.join(sample_folder, case, "before.htm"), "rb") as file:
+            samples.append(file.read())
+
+    integrate = [zevmenu, "integrate", "--definition", os.path.join(work, "menu.js"),
+                 "--library", os.path.join(work, "library")]
+    contenders = {
+        "integrate": integrate + ["--no-backup"],
+        "flush": [copy_pages, "flush"],
+        "leave": [copy_pages, "leave"],
+    }
+    seconds = {name: [] for name in contenders}
+    for _ in range(ROUNDS):
+        for name, command in contenders.items():
+            seconds[name].append(site_seconds(command, samples, work, pages_a_folder))
+    median = {name: statistics.median(values) for name, values in seconds.items()}
+    print(f"integrate {PAGES} pages, {pages_a_folder} a folder: {median['integrate']:.2f} s of "
+          f"processor time, {median['integrate'] / median['flush']:.2f} times copying that flushes "
+          f"as well, {median['integrate'] / median['leave']:.2f} times copying without")
+
+    memory = {}
+    for name, size in ("tiny", 0), ("large", LARGE_PAGE_BYTES):
+        path = os.path.join(work, f"{name}.htm")
+        with open(path, "wb") as file:
+            file.write(grown(samples[-1], size))
+        size_on_disk = os.path.getsize(path)
+        memory[name] = run(integrate + [path]).ru_maxrss * 1024
+    print(f"integrate one page of {size_on_disk / 1e6:.0f} MB: peak memory "
+          f"{(memory['large'] - memory['tiny']) / size_on_disk:.2f} times its size")
+
+
+main()
