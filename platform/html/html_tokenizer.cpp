@@ -205,12 +205,14 @@ bool HtmlTokenizer::isEndTagOf(std::size_t lessThan, std::string_view element) c
 
 /// The offset of the next "-->" or "--!>"; the page's size without one.
 std::size_t HtmlTokenizer::findCommentEnd(std::size_t from) const {
-    for (std::size_t dashes = m_page.find("--", from); dashes != std::string_view::npos;
-         dashes = m_page.find("--", dashes + 1)) {
-        const std::string_view rest = m_page.substr(dashes + 2, 2);
+    for (std::size_t dashes = m_page.find("--", from); dashes != std::string_view::npos;) {
+        // A run of dashes can only end a comment with its last two.
+        const std::size_t end = std::min(m_page.find_first_not_of('-', dashes), m_page.size());
+        const std::string_view rest = m_page.substr(end, 2);
         if (rest.starts_with('>') || rest == "!>") {
-            return dashes;
+            return end - 2;
         }
+        dashes = m_page.find("--", end);
     }
     return m_page.size();
 }
