@@ -192,7 +192,8 @@ FileOutcome replaceRegularFile(const WriteTarget& target, std::string_view bytes
 
 }  // namespace
 
-FileOutcome replaceFile(const std::string& path, std::string_view bytes) {
+FileOutcome replaceFile(const std::string& path, std::string_view bytes,
+                        FolderLeftovers& leftovers) {
     WriteTarget target;
     FileOutcome outcome;
     if (int error = resolveWriteTarget(path, target)) {
@@ -202,7 +203,7 @@ FileOutcome replaceFile(const std::string& path, std::string_view bytes) {
         if (error != 0)
             outcome = fileErrorOf(error, path);
     } else {
-        const std::vector<std::string> oldCopies = clearLeftovers(target);
+        const std::vector<std::string> oldCopies = clearLeftovers(target, leftovers);
         outcome = replaceRegularFile(target, bytes);
         if (!outcome) {
             for (const std::string& copy : oldCopies)
@@ -212,6 +213,11 @@ FileOutcome replaceFile(const std::string& path, std::string_view bytes) {
     if (outcome)
         outcome->path = path;  // the name the caller knows, not where its links lead
     return outcome;
+}
+
+FileOutcome replaceFile(const std::string& path, std::string_view bytes) {
+    FolderLeftovers leftovers;
+    return replaceFile(path, bytes, leftovers);
 }
 
 }  // namespace zev

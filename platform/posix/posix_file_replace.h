@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/file_system.h"
+#include "platform/posix/posix_side_file.h"
 
 namespace zev {
 
@@ -17,7 +18,12 @@ namespace zev {
 /// files, until the new content is safe; a failure half-way puts the old content back. Devices and
 /// pipes are written straight. A file without write permission is refused.
 ///
-/// What a killed run left beside the target is removed by the next call for the same target.
+/// What a killed run left beside the target is removed by the next call for the same target, as far
+/// as it is among `leftovers`.
+FileOutcome replaceFile(const std::string& path, std::string_view bytes,
+                        FolderLeftovers& leftovers);
+
+/// The same for one file alone: looks for leftovers now.
 FileOutcome replaceFile(const std::string& path, std::string_view bytes);
 
 }  // namespace zev

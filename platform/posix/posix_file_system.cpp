@@ -41,7 +41,7 @@ FileResult<std::string> PosixFileSystem::readFile(const std::string& path,
 }
 
 FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view bytes) {
-    return replaceFile(path, bytes);
+    return replaceFile(path, bytes, m_leftovers);
 }
 
 FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::string& destination) {
@@ -51,7 +51,7 @@ FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::stri
     const FileResult<std::string> bytes = readFile(source, kMaxCopyBytes);
     if (!bytes.isOk())
         return bytes.error();
-    return replaceFile(destination, bytes.value());
+    return replaceFile(destination, bytes.value(), m_leftovers);
 }
 
 FileOutcome PosixFileSystem::DeleteFile(const std::string& path) {

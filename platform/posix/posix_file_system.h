@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/file_system.h"
+#include "platform/posix/posix_side_file.h"
 
 namespace zev {
 
@@ -17,6 +18,9 @@ class PosixFileSystem : public FileSystem {
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
+
+  private:
+    FolderLeftovers m_leftovers;
 };
 
 }  // namespace zev

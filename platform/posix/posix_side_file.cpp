@@ -75,12 +75,27 @@ std::string randomName(const std::string& prefix) {
     return name + "~";
 }
 
-bool isSideFileName(std::string_view name, std::string_view prefix) {
-    if (name.size() != prefix.size() + kRandomLength + 1 || !name.starts_with(prefix) ||
-        !name.ends_with('~'))
-        return false;
-    const std::string_view random = name.substr(prefix.size(), kRandomLength);
-    return random.find_first_not_of(kRandomCharacters) == std::string_view::npos;
+/// Where the mark is in the name of a side file; npos in any other name.
+std::size_t markIn(std::string_view name) {
+    constexpr std::size_t kEnding = kMark.size() + kRandomLength + 1;
+    if (name.size() <= kEnding || !name.ends_with('~'))
+        return std::string_view::npos;
+    const std::size_t mark = name.size() - kEnding;
+    const std::string_view random = name.substr(mark + kMark.size(), kRandomLength);
+    const bool isOne = name.substr(mark, kMark.size()) == kMark &&
+                       random.find_first_not_of(kRandomCharacters) == std::string_view::npos;
+    return isOne ? mark : std::string_view::npos;
+}
+
+/// Of side files by the names given: the paths of those whose names begin like this.
+std::vector<std::string> pathsOf(const std::string& folder, const std::vector<std::string>& names,
+                                 std::string_view prefix) {
+    std::vector<std::string> paths;
+    for (const std::string& name : names) {
+        if (std::string_view(name).substr(0, markIn(name) + kMark.size()) == prefix)
+            paths.push_back(folder + "/" + name);
+    }
+    return paths;
 }
 
 bool isStillAt(int descriptor, const std::string& path) {
@@ -88,18 +103,6 @@ bool isStillAt(int descriptor, const std::string& path) {
     struct stat named {};
     return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 &&
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
-}
-
-std::vector<std::string> findSideFiles(const std::string& folder, std::string_view prefix) {
-    std::vector<std::string> found;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string name = entry->path().filename().string();
-        if (isSideFileName(name, prefix))
-            found.push_back(entry->path().string());
-    }
-    return found;
 }
 
 }  // namespace
@@ -151,16 +154,35 @@ int SideFile::closeFile() {
     return m_file.close();
 }
 
-std::vector<std::string> clearLeftovers(const WriteTarget& target) {
+const std::vector<std::string>& FolderLeftovers::namesIn(const std::string& folder) {
+    if (m_folder == folder)
+        return m_names;
+    m_folder = folder;
+    m_names.clear();
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::string name = entry->path().filename().string();
+        if (markIn(name) != std::string::npos)
+            m_names.push_back(std::move(name));
+    }
+    return m_names;
+}
+
+std::vector<std::string> clearLeftovers(const WriteTarget& target, FolderLeftovers& beside) {
+    const std::vector<std::string>& names = beside.namesIn(target.folder);
     const std::string newContent = prefixBeside(target, SideFile::Kind::NewContent);
-    const std::string oldContent = prefixBeside(target, SideFile::Kind::OldContent);
-    for (const std::string& path : findSideFiles(target.folder, newContent))
+    for (const std::string& path : pathsOf(target.folder, names, newContent))
         removeLeftover(path);
-    std::vector<std::string> kept = findSideFiles(target.folder, oldContent);
+    std::vector<std::string> kept =
+        pathsOf(target.folder, names, prefixBeside(target, SideFile::Kind::OldContent));
     // The folder for temporary files, which may be large, holds something of the target's only when
     // nothing could be put beside it.
     if (::faccessat(AT_FDCWD, target.folder.c_str(), W_OK, AT_EACCESS) != 0) {
-        for (std::string& path : findSideFiles(temporaryFolder(), prefixInTemporaryFolder(target)))
+        const std::string folder = temporaryFolder();
+        FolderLeftovers leftovers;
+        for (std::string& path :
+             pathsOf(folder, leftovers.namesIn(folder), prefixInTemporaryFolder(target)))
             kept.push_back(std::move(path));
     }
     return kept;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,9 +48,22 @@ class SideFile {
     PosixDescriptor m_lock;  // a duplicate of m_file: both share one lock
 };
 
+/// The side files that lay in a folder when it was first asked for. It is not listed again until
+/// another folder is asked for: whoever writes every file of a large folder would list it each
+/// time. What is left there meanwhile waits for the next run.
+class FolderLeftovers {
+  public:
+    /// File names, valid until the next call. None in a folder that cannot be listed.
+    const std::vector<std::string>& namesIn(const std::string& folder);
+
+  private:
+    std::optional<std::string> m_folder;
+    std::vector<std::string> m_names;
+};
+
 /// Removes what killed runs left of new content for the target. Returns the paths of what they left
 /// of old content, which must stay until the target is whole again.
-std::vector<std::string> clearLeftovers(const WriteTarget& target);
+std::vector<std::string> clearLeftovers(const WriteTarget& target, FolderLeftovers& beside);
 
 /// Removes a leftover unless a live process still holds it.
 void removeLeftover(const std::string& path);

@@ -265,6 +265,29 @@ TEST_F(PosixFileReplaceTest, LeavesTheFilesOfALiveRunAlone) {
     EXPECT_FALSE(std::filesystem::exists(live));
 }
 
+TEST_F(PosixFileReplaceTest, WhatIsLeftDuringARunWaitsUntilItsFolderIsListedAgain) {
+    std::filesystem::create_directory(folder / "other");
+    FolderLeftovers leftovers;
+    ASSERT_FALSE(replaceFile(folder / "first.htm", "new", leftovers));
+    const std::string left = folder / ".second.htm.zev-abcdef~";
+    makeFile(left, "half");
+    ASSERT_FALSE(replaceFile(folder / "second.htm", "new", leftovers));
+    EXPECT_TRUE(std::filesystem::exists(left));
+    ASSERT_FALSE(replaceFile(folder / "other/page.htm", "new", leftovers));
+    ASSERT_FALSE(replaceFile(folder / "second.htm", "new", leftovers));
+    EXPECT_FALSE(std::filesystem::exists(left));
+}
+
+TEST_F(PosixFileReplaceTest, OneListOfAFolderServesAllItsFiles) {
+    const Names pages{"first.htm", "second.htm"};
+    for (const std::string& page : pages)
+        makeFile(folder / ("." + page + ".zev-abcdef~"), "half");
+    FolderLeftovers leftovers;
+    for (const std::string& page : pages)
+        ASSERT_FALSE(replaceFile(folder / page, "new", leftovers));
+    EXPECT_EQ(namesIn(folder.path()), pages);
+}
+
 TEST_F(PosixFileReplaceTest, RemovesNoLinkOfALeftoversName) {
     makeFile(folder / "precious", "mine");
     std::filesystem::create_symlink("precious", folder / ".menu.js.zev-abcdef~");
