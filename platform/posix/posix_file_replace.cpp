@@ -210,8 +210,10 @@ FileOutcome replaceFile(const std::string& path, std::string_view bytes,
                 removeLeftover(copy);
         }
     }
-    if (outcome)
+    if (outcome) {
         outcome->path = path;  // the name the caller knows, not where its links lead
+        leftovers = {};        // there may be one more now
+    }
     return outcome;
 }
 

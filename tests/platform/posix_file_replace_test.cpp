@@ -278,6 +278,17 @@ TEST_F(PosixFileReplaceTest, WhatIsLeftDuringARunWaitsUntilItsFolderIsListedAgai
     EXPECT_FALSE(std::filesystem::exists(left));
 }
 
+TEST_F(PosixFileReplaceTest, AfterAFailureTheFolderIsListedAgain) {
+    std::filesystem::create_directory(folder / "sub");
+    FolderLeftovers leftovers;
+    ASSERT_FALSE(replaceFile(folder / "menu.js", "new", leftovers));
+    const std::string left = folder / "menu.js.zev-abcdef~";
+    makeFile(left, "old");
+    ASSERT_TRUE(replaceFile(folder / "sub", "a folder is no file", leftovers));
+    ASSERT_FALSE(replaceFile(folder / "menu.js", "new", leftovers));
+    EXPECT_FALSE(std::filesystem::exists(left));
+}
+
 TEST_F(PosixFileReplaceTest, OneListOfAFolderServesAllItsFiles) {
     const Names pages{"first.htm", "second.htm"};
     for (const std::string& page : pages)
