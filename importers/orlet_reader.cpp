@@ -7,6 +7,7 @@
 
 #include "importers/piece_cutter.h"
 #include "model/text_rules.h"
+#include "script/loaded_keys.h"
 
 namespace zev {
 
@@ -94,7 +95,8 @@ class OrletReader {
         ItemProp item = ReadItem(PieceCutter(fields, '|'), hasImage);
         // The number is new at every item, so the key is never taken.
         ++m_document.ItemCounter;
-        std::string key = "KeyLoad " + std::to_string(m_document.ItemCounter);
+        std::string key =
+            LoadedItemKey(kTopLevelMenuId, static_cast<std::size_t>(m_document.ItemCounter));
         std::string text = item.Caption;
         m_previous =
             m_document.tree.append(parent, std::move(key), std::move(text), std::move(item));

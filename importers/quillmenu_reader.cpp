@@ -6,6 +6,7 @@
 
 #include "importers/piece_cutter.h"
 #include "model/text_rules.h"
+#include "script/loaded_keys.h"
 
 namespace zev {
 
@@ -61,16 +62,16 @@ class QuillmenuReader {
     std::vector<ImportWarning> takeWarnings() { return std::move(m_warnings); }
 
   private:
-    bool isTopLevel() const { return m_menuId == "0"; }
+    bool isTopLevel() const { return m_menuId == kTopLevelMenuId; }
 
     void openMenu(std::string_view id) {
         m_menuId = id;
         m_itemNumber = 0;
-        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find("KeyLoad " + m_menuId);
+        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find(LoadedMenuKey(m_menuId));
     }
 
     void openMainMenu(std::string_view line) {
-        openMenu("0");
+        openMenu(kTopLevelMenuId);
         PieceCutter pieces(line, '\'');
         std::string_view orientation;
         NextArgument(pieces, orientation);
@@ -124,19 +125,9 @@ class QuillmenuReader {
         else
             item.Set_ItemProperty(line);
         std::string text = isRollover ? item.ImageOut : item.Caption;
-        if (!m_document.tree.append(m_menuNode, nextKey(), std::move(text), std::move(item)))
+        if (!m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
+                                    std::move(text), std::move(item)))
             warn(Reason::DuplicateKey);
-    }
-
-    /// The key spells the id of the item's own submenu, so that the submenu's creation line leads
-    /// back to the item.
-    std::string nextKey() const {
-        std::string key = "KeyLoad ";
-        if (!isTopLevel()) {
-            key += m_menuId;
-            key += 'i';
-        }
-        return key += std::to_string(m_itemNumber);
     }
 
     void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }

@@ -6,6 +6,7 @@
 
 #include "model/text_rules.h"
 #include "script/definition_lines.h"
+#include "script/loaded_keys.h"
 
 namespace zev {
 
@@ -36,12 +37,12 @@ class ScriptReader {
     std::size_t errorCount() const { return m_errorCount; }
 
   private:
-    bool isTopLevel() const { return m_menuId == "0"; }
+    bool isTopLevel() const { return m_menuId == kTopLevelMenuId; }
 
     void openMenu(std::string id) {
         m_menuId = std::move(id);
         m_itemNumber = 0;
-        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find("KeyLoad " + m_menuId);
+        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find(LoadedMenuKey(m_menuId));
     }
 
     void readProperty(std::string_view line) {
@@ -62,7 +63,8 @@ class ScriptReader {
             ++m_errorCount;
             return;
         }
-        MenuNode* const node = m_document.tree.append(m_menuNode, nextKey(), "");
+        MenuNode* const node =
+            m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber), "");
         if (!node) {
             ++m_errorCount;
             return;
@@ -75,17 +77,6 @@ class ScriptReader {
         else
             item.Set_ItemProperty(line);
         m_document.tree.setText(*node, isRollover ? item.ImageOut : item.Caption);
-    }
-
-    /// The key spells the id of the item's own submenu, so that the submenu's creation line leads
-    /// back to the item.
-    std::string nextKey() const {
-        std::string key = "KeyLoad ";
-        if (!isTopLevel()) {
-            key += m_menuId;
-            key += 'i';
-        }
-        return key += std::to_string(m_itemNumber);
     }
 
     MenuDocument& m_document;
