@@ -10,14 +10,14 @@
 
 namespace zev {
 
-/// Runs `step` as soon as a modal window of type T is shown; for calls that do not come back before
-/// somebody has answered them.
+/// Runs `step` as soon as a modal window of type T is shown and active, so that its fields gain and
+/// lose the focus; for calls that do not come back before somebody has answered them.
 template <typename T>
 void whenShown(std::function<void(T&)> step) {
     auto* timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, [timer, step = std::move(step)] {
         auto* widget = qobject_cast<T*>(QApplication::activeModalWidget());
-        if (widget == nullptr || !widget->isVisible())
+        if (widget == nullptr || !widget->isVisible() || !widget->isActiveWindow())
             return;
         timer->stop();
         timer->deleteLater();
