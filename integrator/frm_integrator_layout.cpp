@@ -1,5 +1,7 @@
 // What the wizard's frames look like. What its controls do is in frm_integrator.cpp.
 
+#include "integrator/frm_integrator.h"
+
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -20,7 +22,6 @@
 #include "dialogs/dialog_button.h"
 #include "dialogs/property_edit.h"
 #include "dialogs/single_line.h"
-#include "integrator/frm_integrator.h"
 
 namespace zev {
 

@@ -19,7 +19,7 @@ namespace zev {
 /// pipes are written straight. A file without write permission is refused.
 ///
 /// What a killed run left beside the target is removed by the next call for the same target, as far
-/// as it is among `leftovers`.
+/// as it is among `leftovers`, which a failure empties: it may leave something itself.
 FileOutcome replaceFile(const std::string& path, std::string_view bytes,
                         FolderLeftovers& leftovers);
 

@@ -5,7 +5,8 @@
 
 namespace zev {
 
-/// The real disk. Files are replaced by `replaceFile`.
+/// The real disk. Files are replaced by `replaceFile`; what killed runs left is looked for once
+/// while the same folder is written in. One object is for one thread.
 class PosixFileSystem : public FileSystem {
   public:
     bool FileExists(const std::string& path) const override;

@@ -42,16 +42,12 @@ def main():
     if len(sys.argv) != 2:
         print(__doc__, file=sys.stderr)
         return 2
-    if not fault_sweep.may_trace():
-        return fault_sweep.SKIPPED
-    with fault_sweep.Work() as work:
-        program = fault_sweep.install(sys.argv[1], work)
-        return fault_sweep.run_sweeps([
-            new_sweep(program, work, "save", "in.js", is_replacing=True),
-            new_sweep(program, work, "saveas", "site/menu.js", is_replacing=False),
-            new_sweep(program, work, "saveas", "site/menu.js", is_replacing=True),
-            new_sweep(program, work, "preview", "orlet_temp.js", is_replacing=False),
-        ])
+    return fault_sweep.sweep_program(sys.argv[1], lambda program, work: [
+        new_sweep(program, work, "save", "in.js", is_replacing=True),
+        new_sweep(program, work, "saveas", "site/menu.js", is_replacing=False),
+        new_sweep(program, work, "saveas", "site/menu.js", is_replacing=True),
+        new_sweep(program, work, "preview", "orlet_temp.js", is_replacing=False),
+    ])
 
 
 if __name__ == "__main__":

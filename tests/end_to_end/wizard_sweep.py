@@ -36,17 +36,13 @@ def main():
     if len(sys.argv) != 2:
         print(__doc__, file=sys.stderr)
         return 2
-    if not fault_sweep.may_trace():
-        return fault_sweep.SKIPPED
-    with fault_sweep.Work() as work:
-        program = fault_sweep.install(sys.argv[1], work)
-        return fault_sweep.run_sweeps([
-            new_sweep(fault_sweep.PageSweep, program, work, "integrate", "site/page.htm",
-                      {"page.htm": PAGE, "page.htm.bak": b"older backup"}),
-            # Without a page the report is all that is written.
-            new_sweep(fault_sweep.Sweep, program, work, "report", "site/report.txt",
-                      {"report.txt": b"old " * 1000}),
-        ])
+    return fault_sweep.sweep_program(sys.argv[1], lambda program, work: [
+        new_sweep(fault_sweep.PageSweep, program, work, "integrate", "site/page.htm",
+                  {"page.htm": PAGE, "page.htm.bak": b"older backup"}),
+        # Without a page the report is all that is written.
+        new_sweep(fault_sweep.Sweep, program, work, "report", "site/report.txt",
+                  {"report.txt": b"old " * 1000}),
+    ])
 
 
 if __name__ == "__main__":

@@ -482,19 +482,27 @@ class Work:
         shutil.rmtree(self.path)
 
 
-def sweep_zevmenu(options):
+def sweep_program(path, new_sweeps):
+    """Sweeps a program; new_sweeps(program, work) gives the sweeps of the copy that is run."""
     if not may_trace():
         return SKIPPED
     with Work() as work:
-        program = install(options.program, work)
-        sweeps = []
-        for name, template, command, definition in scenarios(program, work):
-            give_to_nobody(template)
-            sweeps.append(Sweep(name, template, command, definition, work))
-        for name, template, command, page in page_scenarios(program, work):
-            give_to_nobody(template)
-            sweeps.append(PageSweep(name, template, command, page, work))
-        return run_sweeps(sweeps)
+        return run_sweeps(new_sweeps(install(path, work), work))
+
+
+def zevmenu_sweeps(program, work):
+    sweeps = []
+    for name, template, command, definition in scenarios(program, work):
+        give_to_nobody(template)
+        sweeps.append(Sweep(name, template, command, definition, work))
+    for name, template, command, page in page_scenarios(program, work):
+        give_to_nobody(template)
+        sweeps.append(PageSweep(name, template, command, page, work))
+    return sweeps
+
+
+def sweep_zevmenu(options):
+    return sweep_program(options.program, zevmenu_sweeps)
 
 
 def sweep_command(options):
