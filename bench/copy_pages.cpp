@@ -3,7 +3,7 @@
 // deletes it.
 //
 // usage: zev_copy_pages flush|leave PAGE...
-//   flush: as durable as the program: both files are flushed when written, and their folder then
+//   flush: as durable as the program: the page is flushed when written, and its folder then
 //   leave: nothing is flushed
 
 #include <fcntl.h>
@@ -54,7 +54,7 @@ void writePage(const std::string& path, std::string_view bytes, bool isFlushed) 
 
 void replacePage(const std::string& path, bool isFlushed) {
     const std::string temporary = path.substr(0, path.rfind('/')) + "/~qxtmp.htm";
-    writePage(temporary, readPage(path), isFlushed);
+    writePage(temporary, readPage(path), false);
     writePage(path, readPage(temporary), isFlushed);
     checked(::unlink(temporary.c_str()), temporary);
 }

@@ -119,7 +119,7 @@ FileOutcome PageIntegrator::IntegrateFile(const std::string& path) {
 
 FileOutcome PageIntegrator::replacePage(const std::string& path, std::string bytes) {
     const std::string temporary = TemporaryPath(path);
-    FileOutcome error = m_files.writeFile(temporary, bytes);
+    FileOutcome error = m_files.writeTemporaryFile(temporary, bytes);
     // Copying reads a whole file; two texts of a page's size in memory would be one too many.
     std::string().swap(bytes);
     if (!error && m_options.hasBackups) {

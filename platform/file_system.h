@@ -37,8 +37,8 @@ class FileResult {
 /// Outcome of an operation that yields nothing: empty on success.
 using FileOutcome = std::optional<FileError>;
 
-/// The file operations the program needs. Whatever it writes is whole or not there at all: after a
-/// failure the target holds its old content and nothing is left beside it.
+/// The file operations the program needs. Whatever it writes for the user is whole or not there at
+/// all: after a failure the target holds its old content and nothing is left beside it.
 class FileSystem {
   public:
     virtual ~FileSystem() = default;
@@ -53,6 +53,10 @@ class FileSystem {
                                              std::uint64_t maxBytes) const = 0;
     /// Replaces the content of `path`, or makes the file.
     virtual FileOutcome writeFile(const std::string& path, std::string_view bytes) = 0;
+    /// The same for a file that the caller reads and deletes itself before it ends: nobody else can
+    /// read it, nothing of an old file is kept, and the power may fail on it. That saves the waits
+    /// for the disk, which are most of what `writeFile` costs. A failure leaves no file.
+    virtual FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) = 0;
     /// Makes `destination` a copy of `source`'s bytes, replacing it. The error names the file at
     /// fault.
     virtual FileOutcome CopyFile(const std::string& source, const std::string& destination) = 0;

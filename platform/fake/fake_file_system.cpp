@@ -87,6 +87,10 @@ FileOutcome FakeFileSystem::writeFile(const std::string& path, std::string_view 
     return {};
 }
 
+FileOutcome FakeFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
+    return writeFile(path, bytes);
+}
+
 FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::string& destination) {
     const FileResult<std::string> bytes = readFile(source, UINT64_MAX);
     if (!bytes.isOk())
@@ -168,6 +172,11 @@ FileResult<std::string> FailingFileSystem::readFile(const std::string& path,
 FileOutcome FailingFileSystem::writeFile(const std::string& path, std::string_view bytes) {
     const FileOutcome error = nextOperation(path);
     return error ? error : m_inner.writeFile(path, bytes);
+}
+
+FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
+    const FileOutcome error = nextOperation(path);
+    return error ? error : m_inner.writeTemporaryFile(path, bytes);
 }
 
 FileOutcome FailingFileSystem::CopyFile(const std::string& source, const std::string& destination) {

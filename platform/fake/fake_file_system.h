@@ -32,6 +32,7 @@ class FakeFileSystem : public FileSystem {
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
     FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
@@ -64,6 +65,7 @@ class FailingFileSystem : public FileSystem {
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
     FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;

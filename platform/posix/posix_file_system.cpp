@@ -44,6 +44,23 @@ FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view
     return replaceFile(path, bytes, m_leftovers);
 }
 
+FileOutcome PosixFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
+    // A link by that name is replaced, not followed.
+    if (::unlink(path.c_str()) != 0 && errno != ENOENT)
+        return fileErrorOf(errno, path);
+    PosixDescriptor file;
+    if (const int error =
+            openDescriptor(path, O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR, file))
+        return fileErrorOf(error, path);
+    int error = writeAll(file.get(), bytes);
+    if (error == 0)
+        error = file.close();
+    if (error == 0)
+        return {};
+    ::unlink(path.c_str());
+    return fileErrorOf(error, path);
+}
+
 FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::string& destination) {
     // What the program copies are scripts and web pages. The limit is there for a source without
     // an end, such as a device.

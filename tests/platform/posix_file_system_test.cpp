@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "tests/support/file_size_limit.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_files.h"
 
@@ -17,6 +18,7 @@ namespace zev {
 namespace {
 
 using test::contentOf;
+using test::FileSizeLimit;
 using test::makeFile;
 using test::TempFolder;
 using Code = FileError::Code;
@@ -37,6 +39,38 @@ TEST_F(PosixFileSystemTest, ReadsBackEveryByteItWrote) {
     EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), bytes);
     ASSERT_FALSE(files.writeFile(folder / "a", ""));
     EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), "");
+}
+
+TEST_F(PosixFileSystemTest, ATemporaryFileReplacesWhatBearsItsNameAndIsNobodyElsesToRead) {
+    makeFile(folder / "page", "the page");
+    makeFile(folder / "old", "x");
+    ASSERT_EQ(chmod((folder / "old").c_str(), 0644), 0);
+    std::filesystem::create_symlink(folder / "page", folder / "link");
+    for (const char* name : {"new", "old", "link"}) {
+        const std::string path = folder / name;
+        ASSERT_FALSE(files.writeTemporaryFile(path, "bytes")) << name;
+        EXPECT_EQ(contentOf(path), "bytes") << name;
+        struct stat status {};
+        ASSERT_EQ(lstat(path.c_str(), &status), 0) << name;
+        EXPECT_EQ(status.st_mode, S_IFREG | 0600u) << name;
+    }
+    EXPECT_EQ(contentOf(folder / "page"), "the page");
+}
+
+TEST_F(PosixFileSystemTest, SaysWhyATemporaryFileCannotBeWrittenAndLeavesNone) {
+    const FileOutcome onFolder = files.writeTemporaryFile(folder.path(), "x");
+    ASSERT_TRUE(onFolder);
+    EXPECT_EQ(onFolder->code, Code::IsFolder);
+    const FileOutcome inNoFolder = files.writeTemporaryFile(folder / "missing/a", "x");
+    ASSERT_TRUE(inNoFolder);
+    EXPECT_EQ(inNoFolder->code, Code::NotFound);
+    EXPECT_EQ(inNoFolder->path, folder / "missing/a");
+
+    const FileSizeLimit diskFullHalfWay(10);
+    const FileOutcome tooLarge = files.writeTemporaryFile(folder / "a", std::string(11, 'x'));
+    ASSERT_TRUE(tooLarge);
+    EXPECT_EQ(tooLarge->reason, "File too large");
+    EXPECT_FALSE(files.FileExists(folder / "a"));
 }
 
 TEST_F(PosixFileSystemTest, SaysWhyAFileCannotBeRead) {

@@ -1,15 +1,14 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 
 #include "platform/posix/posix_file_replace.h"
+#include "tests/support/file_size_limit.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_files.h"
 
@@ -19,31 +18,11 @@ namespace zev {
 namespace {
 
 using test::contentOf;
+using test::FileSizeLimit;
 using test::makeFile;
 using test::namesIn;
 using test::TempFolder;
 using Names = std::vector<std::string>;
-
-/// While it lives no file of this process grows beyond a size: a disk that is full half-way.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit limit{bytes, m_old.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-
-  private:
-    rlimit m_old{};
-    void (*m_oldHandler)(int) = nullptr;
-};
 
 class PosixInPlaceTest : public testing::Test {
   protected:
