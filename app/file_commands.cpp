@@ -224,7 +224,20 @@ bool FileCommands::SaveDefinition(const std::string& path) {
 void FileCommands::ShowPreview() {
     m_view.validateFields();
     m_view.StoreItem();
+    loadPreview();
+}
+
+void FileCommands::UpdatePreview() {
+    if (GenerateScript(m_document) != m_previewedScript ||
+        m_document.SavePath != m_previewedFolder) {
+        loadPreview();
+    }
+}
+
+void FileCommands::loadPreview() {
     SaveDefinition(JoinPath(m_document.SavePath, kPreviewScript));
+    m_previewedScript = GenerateScript(m_document);
+    m_previewedFolder = m_document.SavePath;
     // Also after a failure: the preview shows whatever is there.
     m_services.browser.load(JoinPath(m_document.SavePath, kPreviewPage));
 }

@@ -52,8 +52,12 @@ class FileCommands {
     /// are shown; true when the definition itself was written.
     bool SaveDefinition(const std::string& path);
 
-    /// Writes the preview files into `SavePath` and loads the preview page into the browser.
+    /// Cleans and stores the panel, writes the preview files into `SavePath` and loads the preview
+    /// page into the browser.
     void ShowPreview();
+    /// Writes and loads the preview again when the document's script or folder is another than that
+    /// of the preview the browser shows.
+    void UpdatePreview();
 
   private:
     /// What became of a Save As.
@@ -61,6 +65,7 @@ class FileCommands {
     SaveOutcome saveAs();
     bool saveDocumentAs(const std::string& path, const std::string& folder, bool isRebasing);
     bool mayDiscardDocument();
+    void loadPreview();
     void copyRunTimeFiles();
     void copyRunTimeFile(std::string_view sourceName, std::string_view destinationName);
     void showNotice(const std::string& text);
@@ -68,6 +73,9 @@ class FileCommands {
     MenuDocument& m_document;
     EditorView& m_view;
     EditorServices m_services;
+    /// What the browser was last told to show.
+    std::string m_previewedScript;
+    std::string m_previewedFolder;
 };
 
 }  // namespace zev

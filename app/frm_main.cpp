@@ -3,12 +3,10 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
@@ -16,12 +14,14 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <exception>
+#include <functional>
 
 #include "app/frm_about.h"
 #include "app/icons.h"
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
 #include "app/open_url.h"
+#include "app/script_view.h"
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
@@ -65,27 +65,6 @@ constexpr std::array<ToolBarItem, kToolBarItems> kToolBar = {{
     {},
     {"Delete", "delete", &frmMain::mnuEditDelete_Click},
 }};
-
-/// Longest line, in UTF-16 units, that the JavaScript tab shows in full. Laying out megabytes of
-/// text in one line would stall the window for minutes.
-constexpr qsizetype kMaxShownLine = 10'000;
-
-/// The script for the eye: overlong lines are cut, which an ellipsis shows.
-QString ShownScript(const std::string& script) {
-    const QString whole = QString::fromStdString(script);
-    QString shown;
-    shown.reserve(whole.size());
-    for (qsizetype start = 0; start < whole.size();) {
-        const qsizetype newline = whole.indexOf(u'\n', start);
-        const qsizetype end = newline < 0 ? whole.size() : newline + 1;
-        const bool isOverlong = end - start > kMaxShownLine;
-        shown += QStringView(whole).sliced(start, isOverlong ? kMaxShownLine : end - start);
-        if (isOverlong)
-            shown += u"\u2026\n"_qs;
-        start = end;
-    }
-    return shown;
-}
 
 QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption) {
     QMenu* menu = bar->addMenu(caption);
@@ -187,7 +166,7 @@ QAction* frmMain::addEntry(QMenu* menu, const QString& name, const QString& capt
     entry->setObjectName(name);
     entry->setShortcut(shortcut);
     entry->setMenuRole(QAction::NoRole);
-    connect(entry, &QAction::triggered, this, [this, click] { run(click); });
+    connect(entry, &QAction::triggered, this, [this, click] { run(std::bind_front(click, this)); });
     m_entries.push_back(entry);
     return entry;
 }
@@ -215,16 +194,9 @@ void frmMain::buildToolBar() {
 }
 
 void frmMain::buildTabs(QWidget* webBrowser) {
-    txtJavaScript = new QPlainTextEdit(this);
+    txtJavaScript = new ScriptView(this);
     txtJavaScript->setObjectName("txtJavaScript");
     txtJavaScript->setAccessibleName(tr("JavaScript"));
-    txtJavaScript->setReadOnly(true);
-    txtJavaScript->setTextInteractionFlags(Qt::TextSelectableByMouse |
-                                           Qt::TextSelectableByKeyboard);
-    txtJavaScript->setUndoRedoEnabled(false);
-    txtJavaScript->setTabChangesFocus(true);
-    txtJavaScript->setLineWrapMode(QPlainTextEdit::NoWrap);
-    txtJavaScript->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     webBrowser->setObjectName("WebBrowser");
     webBrowser->setAccessibleName(tr("Preview"));
 
@@ -281,8 +253,7 @@ void frmMain::buildDialogs() {
 }
 
 void frmMain::openDefinition(const std::string& path) {
-    leaveField();
-    guard([this, &path] { m_fileCommands.openDefinition(path); });
+    run([this, &path] { m_fileCommands.openDefinition(path); });
 }
 
 void frmMain::validateFields() {
@@ -302,7 +273,7 @@ void frmMain::ShowItem() {
 }
 
 void frmMain::ShowScript(const std::string& script) {
-    txtJavaScript->setPlainText(ShownScript(script));
+    txtJavaScript->showScript(script);
 }
 
 void frmMain::ShowCaption() {
@@ -372,12 +343,12 @@ void frmMain::mnuFileExit_Click() {
 
 void frmMain::mnuEditDefault_Click() {
     LoadDefaultDialog();
-    editProperties(*m_defaultForm);
+    m_defaultForm->exec();
 }
 
 void frmMain::mnuEditMenuProperties_Click() {
     if (m_menuForm->fill())
-        editProperties(*m_menuForm);
+        m_menuForm->exec();
 }
 
 void frmMain::mnuEditAddMenuItem_Click() {
@@ -452,7 +423,7 @@ void frmMain::mnuHelpSupport_Click() {
 void frmMain::tbToolBar_ButtonClick(const QString& key) {
     for (const ToolBarItem& item : kToolBar) {
         if (item.key != nullptr && key == tr(item.key)) {
-            run(item.click);
+            run(std::bind_front(item.click, this));
             return;
         }
     }
@@ -460,10 +431,9 @@ void frmMain::tbToolBar_ButtonClick(const QString& key) {
 
 void frmMain::MenuTab_Click() {
     TreeView->commitEditor();
-    const QString caption = MenuTab->tabText(MenuTab->currentIndex());
-    if (caption == tr("Preview")) {
+    if (shownTab() == tr("Preview")) {
         m_fileCommands.ShowPreview();
-    } else if (caption == tr("JavaScript")) {
+    } else if (shownTab() == tr("JavaScript")) {
         StoreItem();
         ShowScript(GenerateScript(m_document));
     }
@@ -480,9 +450,27 @@ void frmMain::TreeView_NodeClick(MenuNode* node) {
 }
 
 /// Runs a command as the person does who leaves the field being edited for it.
-void frmMain::run(Handler click) {
+void frmMain::run(const std::function<void()>& command) {
     leaveField();
-    guard([this, click] { (this->*click)(); });
+    guard([this, &command] {
+        command();
+        followDocument();
+    });
+}
+
+/// The JavaScript or Preview tab, when it is the one shown, follows what a command did. Nothing was
+/// typed meanwhile, so unlike a switch to the tab this stores and cleans nothing.
+void frmMain::followDocument() {
+    if (m_isEnding)
+        return;
+    if (shownTab() == tr("Preview"))
+        m_fileCommands.UpdatePreview();
+    else if (shownTab() == tr("JavaScript"))
+        ShowScript(GenerateScript(m_document));
+}
+
+QString frmMain::shownTab() const {
+    return MenuTab->tabText(MenuTab->currentIndex());
 }
 
 /// No exception may reach Qt's event loop; what is still possible is a lack of memory.
@@ -508,23 +496,12 @@ EditResult frmMain::edit(EditResult (*command)(MenuDocument&)) {
     if (result != EditResult::Done)
         return result;
     TreeView->showSelection();
-    if (MenuTab->currentWidget() == txtJavaScript)
-        ShowScript(GenerateScript(m_document));
     return result;
-}
-
-/// Shows a filled property dialog until it is closed. The JavaScript or Preview tab follows what it
-/// changed; a cancelled dialog may have changed something too, by its advanced settings.
-void frmMain::editProperties(QDialog& form) {
-    const std::string before = GenerateScript(m_document);
-    form.exec();
-    if (GenerateScript(m_document) != before)
-        MenuTab_Click();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!m_isEnding)
-        run(&frmMain::mnuFileExit_Click);
+        run([this] { mnuFileExit_Click(); });
     event->setAccepted(m_isEnding);
 }
 

@@ -14,22 +14,22 @@
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
-class QDialog;
 class QKeyEvent;
-class QPlainTextEdit;
 class QTabWidget;
 
 namespace zev {
 
 class ItemPanel;
 class MenuTreeView;
+class ScriptView;
 class frmDefaultProp;
 class frmMenuProp;
 
 /// The editor's main window. It builds and connects; what the commands do is decided elsewhere.
 ///
 /// Every menu entry, toolbar button and shortcut runs through `run`, which first leaves the field
-/// that is being edited. The handlers themselves can be called at any time.
+/// that is being edited, and at the end brings the tab that is shown up to date. The handlers
+/// themselves can be called at any time.
 class frmMain : public QMainWindow, public EditorView {
     Q_OBJECT
   public:
@@ -98,11 +98,12 @@ class frmMain : public QMainWindow, public EditorView {
     void buildDialogs();
     QAction* addEntry(QMenu* menu, const QString& name, const QString& caption, Handler click,
                       const QKeySequence& shortcut = {});
-    void run(Handler click);
+    void run(const std::function<void()>& command);
+    void followDocument();
+    QString shownTab() const;
     void guard(const std::function<void()>& work);
     void leaveField();
     EditResult edit(EditResult (*command)(MenuDocument&));
-    void editProperties(QDialog& form);
     bool keepsKey(const QWidget& widget, const QKeyEvent& key) const;
     QAction* entryFor(const QKeyEvent& key) const;
     void openAddress(const std::string& address);
@@ -129,7 +130,7 @@ class frmMain : public QMainWindow, public EditorView {
     QTabWidget* MenuTab = nullptr;
     ItemPanel* m_panel = nullptr;
     MenuTreeView* TreeView = nullptr;
-    QPlainTextEdit* txtJavaScript = nullptr;
+    ScriptView* txtJavaScript = nullptr;
 
     // Made once: they keep what was copied and which font was chosen from one use to the next.
     frmDefaultProp* m_defaultForm = nullptr;

@@ -1,5 +1,4 @@
-// The main window: what it is made of, its start, its toolbar, its tabs and what happens in the
-// tree. Keys and the commands of the menus are in test_frm_main_commands.cpp.
+// The main window: what it is made of, its start and its toolbar.
 
 #include <QGroupBox>
 #include <QLabel>
@@ -11,18 +10,11 @@
 #include <QScrollBar>
 #include <QStatusBar>
 
-#include "dialogs/frm_menu_prop.h"
-#include "script/script_writer.h"
-#include "when_shown.h"
 #include "window_desk.h"
 
 using namespace zev;
 
 namespace {
-
-using Answer = MessageBox::Answer;
-
-const char* const kRecalculate = "Recalculate relative URLs for hyperlinks and images?";
 
 /// A menu as text: one line an entry with name, caption and shortcut; submenus indented.
 QString menuText(const QMenu& menu, const QString& indent = {}) {
@@ -363,7 +355,7 @@ class test_frm_main : public QObject {
         desk.clickToolBar(16);
         QCOMPARE(desk.shownTree(), "*Item 0\n");
         desk.dialogs.expectSaveFile("/site/menu.js");
-        desk.messages.expect(kRecalculate, Answer::No);
+        desk.messages.expect(WindowDesk::recalculate, MessageBox::Answer::No);
         desk.clickToolBar(3);
         QCOMPARE(desk.document().SaveFile, "/site/menu.js");
         desk.dialogs.expectOpenFile("");
@@ -385,199 +377,6 @@ class test_frm_main : public QObject {
         QCOMPARE(desk.shownTree(), "");
         desk.window.tbToolBar_ButtonClick("Add Menu Item");
         QCOMPARE(desk.shownTree(), "*Item 0\n");
-    }
-
-    // Tabs
-
-    void theJavaScriptTabShowsWhatWasTypedAMomentAgo() {
-        WindowDesk desk;
-        desk.add("It's");
-        desk.clickTab("JavaScript");
-        QCOMPARE(desk.document().CurNode->item.Caption, "It\\'s");
-        QCOMPARE(desk.script().toPlainText(),
-                 QString::fromStdString(GenerateScript(desk.document())).replace("\r\n", "\n"));
-        QVERIFY(desk.script().toPlainText().contains("It\\'s"));
-    }
-
-    void theJavaScriptTabCannotBeEdited() {
-        WindowDesk desk;
-        desk.clickTab("JavaScript");
-        const QString before = desk.script().toPlainText();
-        QTest::keyClicks(&desk.script(), "x");
-        QTest::keyClick(&desk.script(), Qt::Key_Delete);
-        QCOMPARE(desk.script().toPlainText(), before);
-    }
-
-    void switchingToJavaScriptDoesNotMarkTheMenuAsChanged() {
-        WindowDesk desk;
-        desk.add("a");
-        desk.forgetChanges();
-        desk.clickTab("JavaScript");
-        desk.clickTab("Menu");
-        QVERIFY(!desk.document().bModified);
-    }
-
-    void thePreviewTabWritesItsFilesAndLoadsThePage() {
-        WindowDesk desk;
-        desk.add("It's");
-        desk.document().SavePath = "/site";
-        desk.clickTab("Preview");
-        QCOMPARE(desk.document().CurNode->item.Caption, "It\\'s");
-        QCOMPARE(desk.browser.recorded().size(), std::size_t(1));
-        QCOMPARE(desk.browser.recorded().front(), "/site/orlet_temp.html");
-        QVERIFY(desk.disk.FileExists("/site/orlet_temp.js"));
-        QVERIFY(desk.disk.FileExists("/site/zevmenu_loader.js"));
-        QVERIFY(desk.document().bModified);
-    }
-
-    void thePreviewOfAMenuNeverSavedCopiesNoLibraryFile() {
-        WindowDesk desk;
-        const std::size_t filesBefore = desk.disk.allFiles().size();
-        desk.clickTab("Preview");
-        QVERIFY(desk.disk.FileExists("/program/orlet_temp.js"));
-        // The preview's script and page are all that is new.
-        QCOMPARE(desk.disk.allFiles().size(), filesBefore + 2);
-    }
-
-    void theMenuTabLoadsAndWritesNothing() {
-        WindowDesk desk;
-        desk.clickTab("JavaScript");
-        desk.clickTab("Menu");
-        QVERIFY(desk.browser.recorded().empty());
-        QVERIFY(!desk.disk.FileExists("/program/orlet_temp.js"));
-    }
-
-    // Tree events
-
-    void clickingANodeStoresThePanelAndShowsTheNode() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
-        desk.type("txtURL", "b.html");
-        desk.click(a);
-        QCOMPARE(b->item.URL, "b.html");
-        QCOMPARE(desk.document().CurNode, a);
-        QCOMPARE(desk.document().selectedNode, a);
-        QCOMPARE(desk.shownPanel(), "normal|a||||");
-        QVERIFY(desk.action("mnuEditMoveDown").isEnabled());
-    }
-
-    void theArrowKeysChooseNodesLikeClicks() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
-        desk.type("txtURL", "b.html");
-        desk.tree().setFocus();
-        QTest::keyClick(&desk.tree(), Qt::Key_Up);
-        QCOMPARE(desk.document().CurNode, a);
-        QCOMPARE(desk.document().selectedNode, a);
-        QCOMPARE(desk.shownPanel(), "normal|a||||");
-        QCOMPARE(b->item.URL, "b.html");
-    }
-
-    void clickingNodesNeverMarksTheMenuAsChanged() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.click(desk.button("optRollover"));
-        desk.type("txtImgOut", "out.gif");
-        MenuNode* b = desk.add("b");
-        desk.click(a);
-        desk.forgetChanges();
-        for (MenuNode* node : {b, a, b, b, a})
-            desk.click(node);
-        QVERIFY(!desk.document().bModified);
-        QVERIFY(!desk.action("mnuFileSave").isEnabled());
-        QCOMPARE(desk.shownTree(), "*out.gif\nb\n");
-    }
-
-    void clickingANodeKeepsTheChangesMark() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.add("b");
-        desk.click(a);
-        QVERIFY(desk.document().bModified);
-    }
-
-    void aLabelEditedInPlaceBecomesTheCaption() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.forgetChanges();
-        desk.editLabel(a, "Home & <b>more</b>", Qt::Key_Return);
-        QCOMPARE(desk.shownTree(), "*Home & <b>more</b>\n");
-        QCOMPARE(desk.field("txtCaption").text(), "Home & <b>more</b>");
-        QVERIFY(desk.document().bModified);
-        QVERIFY(desk.action("mnuFileSave").isEnabled());
-    }
-
-    void aLabelEditedInPlaceIsCleanedLikeTheCaption() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.editLabel(a, "It's", Qt::Key_Return);
-        QCOMPARE(desk.field("txtCaption").text(), "It\\'s");
-        QCOMPARE(desk.shownTree(), "*It\\'s\n");
-    }
-
-    void aLabelOfARolloverItemBecomesItsOutImage() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.click(desk.button("optRollover"));
-        desk.type("txtImgOut", "out.gif");
-        desk.editLabel(a, "other.gif", Qt::Key_Return);
-        QCOMPARE(desk.shownTree(), "*other.gif\n");
-        QCOMPARE(desk.shownPanel(), "rollover|a|||other.gif|");
-    }
-
-    void escapeLeavesTheLabelAsItWas() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.forgetChanges();
-        desk.editLabel(a, "b", Qt::Key_Escape);
-        QCOMPARE(desk.shownTree(), "*a\n");
-        QVERIFY(!desk.document().bModified);
-    }
-
-    void aClickOnTheSelectedLabelEditsIt() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.click(a);
-        desk.click(a);
-        QTRY_VERIFY(desk.labelEditor() != nullptr);
-    }
-
-    void aCommandTakesTheLabelBeingEdited() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.doubleClick(a);
-        desk.labelEditor()->selectAll();
-        WindowDesk::pressKeys(*desk.labelEditor(), "Edited");
-        QTest::keyClick(desk.labelEditor(), Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(desk.shownTree(), "Edited\n*Item 1\n");
-        QCOMPARE(a->item.Caption, "Edited");
-    }
-
-    void aTabSwitchTakesTheLabelBeingEdited() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.doubleClick(a);
-        desk.labelEditor()->selectAll();
-        WindowDesk::pressKeys(*desk.labelEditor(), "Edited");
-        desk.clickTab("JavaScript");
-        QCOMPARE(a->item.Caption, "Edited");
-        QVERIFY(desk.script().toPlainText().contains("Edited"));
-    }
-
-    void f2IsMenuPropertiesAndNotLabelEditing() {
-        WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        desk.click(a);
-        bool isShown = false;
-        whenShown<frmMenuProp>([&](frmMenuProp& form) {
-            isShown = true;
-            form.reject();
-        });
-        QTest::keyClick(&desk.tree(), Qt::Key_F2);
-        QVERIFY(isShown);
-        QVERIFY(desk.labelEditor() == nullptr);
     }
 };
 

@@ -19,9 +19,6 @@ namespace {
 
 using Answer = MessageBox::Answer;
 
-const char* const kSaveChanges = "Save changes to project?";
-const char* const kRecalculate = "Recalculate relative URLs for hyperlinks and images?";
-
 }  // namespace
 
 class test_frm_main_commands : public QObject {
@@ -153,7 +150,7 @@ class test_frm_main_commands : public QObject {
     void theCaptionNamesTheFile() {
         WindowDesk desk;
         desk.add("a");
-        saveAs(desk, "/site/menu.js");
+        desk.saveAs("/site/menu.js");
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator (/site/menu.js)");
         desk.choose("mnuFileNew");
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator");
@@ -166,7 +163,7 @@ class test_frm_main_commands : public QObject {
         desk.addChild("child");
         desk.click(desk.document().tree.firstNode());
         desk.add("second");
-        saveAs(desk, "/site/menu.js");
+        desk.saveAs("/site/menu.js");
         desk.choose("mnuFileNew");
         QCOMPARE(desk.shownTree(), "");
         desk.dialogs.expectOpenFile("/site/menu.js");
@@ -200,7 +197,7 @@ class test_frm_main_commands : public QObject {
     void openingWhileAnotherMenuIsShownCarriesNothingOver() {
         WindowDesk desk;
         desk.add("saved");
-        saveAs(desk, "/site/menu.js");
+        desk.saveAs("/site/menu.js");
         desk.choose("mnuFileNew");
         desk.add("other");
         desk.type("txtURL", "other.html");
@@ -233,7 +230,7 @@ class test_frm_main_commands : public QObject {
         desk.type("txtURL", "page.html");
         desk.disk.addFolder("/site/sub");
         desk.dialogs.expectSaveFile("/site/sub/menu.js");
-        desk.messages.expect(kRecalculate, Answer::Yes);
+        desk.messages.expect(WindowDesk::recalculate, Answer::Yes);
         desk.choose("mnuFileSaveAs");
         QCOMPARE(desk.shownPanel(), "normal|a|../page.html|||");
     }
@@ -241,7 +238,7 @@ class test_frm_main_commands : public QObject {
     void saveLeavesTheSaveCommandEnabledUntilTheNextCommand() {
         WindowDesk desk;
         desk.add("a");
-        saveAs(desk, "/site/menu.js");
+        desk.saveAs("/site/menu.js");
         desk.type("txtURL", "x");
         desk.choose("mnuFileSave");
         QVERIFY(!desk.document().bModified);
@@ -355,7 +352,7 @@ class test_frm_main_commands : public QObject {
         WindowDesk desk;
         QSignalSpy ended(&desk.window, &frmMain::ended);
         desk.add("It's");
-        desk.messages.expect(kSaveChanges, static_cast<Answer>(answer));
+        desk.messages.expect(WindowDesk::saveChanges, static_cast<Answer>(answer));
         if (static_cast<Answer>(answer) == Answer::Yes)
             desk.dialogs.expectSaveFile("");
         if (byClosing)
@@ -373,9 +370,9 @@ class test_frm_main_commands : public QObject {
         WindowDesk desk;
         QSignalSpy ended(&desk.window, &frmMain::ended);
         desk.add("a");
-        desk.messages.expect(kSaveChanges, Answer::Yes);
+        desk.messages.expect(WindowDesk::saveChanges, Answer::Yes);
         desk.dialogs.expectSaveFile("/site/menu.js");
-        desk.messages.expect(kRecalculate, Answer::No);
+        desk.messages.expect(WindowDesk::recalculate, Answer::No);
         desk.window.close();
         QCOMPARE(ended.size(), 1);
         QVERIFY(desk.disk.FileExists("/site/menu.js"));
@@ -458,18 +455,11 @@ class test_frm_main_commands : public QObject {
         WindowDesk desk;
         desk.add("a");
         desk.messages.expect(
-            kSaveChanges, [](const MessageRequest&) -> bool { throw std::runtime_error("broken"); },
-            Answer::No);
+            WindowDesk::saveChanges,
+            [](const MessageRequest&) -> bool { throw std::runtime_error("broken"); }, Answer::No);
         desk.messages.expect("The command could not be finished: broken");
         desk.choose("mnuFileNew");
         QCOMPARE(desk.shownTree(), "*a\n");
-    }
-
-  private:
-    static void saveAs(WindowDesk& desk, const std::string& path) {
-        desk.dialogs.expectSaveFile(path);
-        desk.messages.expect(kRecalculate, Answer::No);
-        desk.choose("mnuFileSaveAs");
     }
 };
 

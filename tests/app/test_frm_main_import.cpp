@@ -14,9 +14,6 @@ namespace {
 
 using Answer = MessageBox::Answer;
 
-const char* const kSaveChanges = "Save changes to project?";
-const char* const kRecalculate = "Recalculate relative URLs for hyperlinks and images?";
-
 QMenu& menuNamed(WindowDesk& desk, const char* name) {
     auto* menu = desk.window.findChild<QMenu*>(name);
     if (menu == nullptr)
@@ -96,8 +93,7 @@ class test_frm_main_import : public QObject {
         QCOMPARE(desk.shownTree(), "*Home\nProducts\n  Boats\n");
         QCOMPARE(desk.shownPanel(), "normal|Home|home.html|||");
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator");
-        QCOMPARE(desk.script().toPlainText(),
-                 QString::fromStdString(GenerateScript(desk.document())).replace("\r\n", "\n"));
+        QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
         QVERIFY(desk.script().toPlainText().contains("Boats"));
         QVERIFY(!desk.document().bModified);
     }
@@ -123,7 +119,7 @@ class test_frm_main_import : public QObject {
             WindowDesk desk;
             desk.add("mine");
             desk.type("txtURL", "mine.html");
-            desk.messages.expect(kSaveChanges, Answer::Cancel);
+            desk.messages.expect(WindowDesk::saveChanges, Answer::Cancel);
             chooseByMouse(desk, product);
             QCOMPARE(desk.shownTree(), "*mine\n");
             QCOMPARE(desk.shownPanel(), "normal|mine|mine.html|||");
@@ -139,9 +135,9 @@ class test_frm_main_import : public QObject {
         desk.disk.addFile("/old/menu.txt", ImportedProducts()[1].file);
         desk.add("mine");
         desk.type("txtURL", "typed.html");
-        desk.messages.expect(kSaveChanges, Answer::Yes);
+        desk.messages.expect(WindowDesk::saveChanges, Answer::Yes);
         desk.dialogs.expectSaveFile("/site/mine.js");
-        desk.messages.expect(kRecalculate, Answer::No);
+        desk.messages.expect(WindowDesk::recalculate, Answer::No);
         desk.dialogs.expectOpenFile("/old/menu.txt");
         desk.messages.expect("Finished importing /old/menu.txt. 0 warnings encountered.");
         chooseByMouse(desk, ImportedProducts()[1]);
@@ -154,7 +150,7 @@ class test_frm_main_import : public QObject {
     void aCancelledDialogLeavesANewMenu() {
         WindowDesk desk;
         desk.add("mine");
-        desk.messages.expect(kSaveChanges, Answer::No);
+        desk.messages.expect(WindowDesk::saveChanges, Answer::No);
         desk.dialogs.expectOpenFile("");
         chooseByMouse(desk, ImportedProducts()[2]);
         QCOMPARE(desk.shownTree(), "");
@@ -169,7 +165,7 @@ class test_frm_main_import : public QObject {
         desk.type("txtCaption", "Goods");
         desk.choose("mnuEditMoveUp");
         desk.dialogs.expectSaveFile("/site/menu.js");
-        desk.messages.expect(kRecalculate, Answer::No);
+        desk.messages.expect(WindowDesk::recalculate, Answer::No);
         desk.clickToolBar(3);
         QCOMPARE(desk.dialogs.recorded().back().request.fileName, std::string());
         QCOMPARE(desk.shownTree(), "*Goods\n  Boats\nHome\n");

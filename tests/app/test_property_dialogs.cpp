@@ -88,11 +88,6 @@ void inAdvanced(WindowDesk& desk, const char* closing,
     });
 }
 
-/// The script as the JavaScript tab shows it.
-QString scriptOf(WindowDesk& desk) {
-    return QString::fromStdString(GenerateScript(desk.document())).replace("\r\n", "\n");
-}
-
 enum class Way { Key, KeyInField, Menu, ToolBar };
 
 }  // namespace
@@ -485,7 +480,7 @@ class test_property_dialogs : public QObject {
             typeInto(form, "txtHBgColor", "#ABCDEF");
             press(form, "cmdOK");
         });
-        QCOMPARE(desk.script().toPlainText(), scriptOf(desk));
+        QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
         QVERIFY(desk.script().toPlainText().contains("zev_state.hbgcolor = '#ABCDEF';\n"));
         inMenuProperties(desk, [](frmMenuProp& form) {
             typeInto(form, "txtColumns", "3");

@@ -14,6 +14,7 @@
 #include "app/frm_main.h"
 #include "app/menu_tree_view.h"
 #include "file_commands_desk.h"
+#include "script/script_writer.h"
 
 namespace zev {
 
@@ -41,6 +42,12 @@ struct WindowDesk {
 
     /// Chooses a menu entry, as the menu does.
     void choose(const QString& name) { action(name).trigger(); }
+    /// Saves the menu as `path`, without recalculating its URLs.
+    void saveAs(const std::string& path) {
+        dialogs.expectSaveFile(path);
+        messages.expect(recalculate, MessageBox::Answer::No);
+        choose("mnuFileSaveAs");
+    }
     /// Adds an item with the keyboard and gives it a caption.
     MenuNode* add(const QString& caption) { return addBy("mnuEditAddMenuItem", caption); }
     /// Adds a child to the selected item, goes to it and gives it a caption.
@@ -113,6 +120,10 @@ struct WindowDesk {
 
     /// What the tree shows: one line a node, two spaces a level, "*" before the selected one.
     QString shownTree() { return shownBranch(QModelIndex(), QString()); }
+    /// The menu's script as the JavaScript tab is to show it.
+    QString expectedScript() {
+        return QString::fromStdString(GenerateScript(document())).replace("\r\n", "\n");
+    }
     /// What the panel's fields show.
     QString shownPanel() {
         return QString("%1|%2|%3|%4|%5|%6")
@@ -125,6 +136,9 @@ struct WindowDesk {
         document().bModified = false;
         window.Button_Update();
     }
+
+    static constexpr const char* recalculate = Desk::recalculate;
+    static constexpr const char* saveChanges = Desk::saveChanges;
 
     FakeFileSystem disk;
     FakeMessageBox messages{failQtTest};
