@@ -15,6 +15,10 @@ namespace {
 /// Space between the lines of the tree, so that a row is easy to hit.
 constexpr int kRowPaddingPx = 6;
 
+/// Properties of the in-place editor: its text, and what that was when it was opened.
+constexpr const char* kText = "text";
+constexpr const char* kShownText = "shownText";
+
 class LabelDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -27,6 +31,18 @@ class LabelDelegate : public QStyledItemDelegate {
             keepSingleLine(*line);
         }
         return editor;
+    }
+
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        QStyledItemDelegate::setEditorData(editor, index);
+        editor->setProperty(kShownText, editor->property(kText));
+    }
+
+    // A label that is only looked at stays as it is, also when the editor cannot show all of it.
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override {
+        if (editor->property(kText) != editor->property(kShownText))
+            QStyledItemDelegate::setModelData(editor, model, index);
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
@@ -99,6 +115,13 @@ void MenuTreeView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     const int right =
         std::min(indentOf(*node) + sizeHintForIndex(index).width(), left + viewport()->width());
     bar.setValue(std::clamp(before, right - viewport()->width(), left));
+}
+
+// A click on the selected label edits it after the time of a double click. By then the person may
+// be typing elsewhere; the editor would take the focus from there.
+bool MenuTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    const bool isDelayed = trigger == AllEditTriggers;
+    return (isDelayed && !hasFocus()) || QTreeView::edit(index, trigger, event);
 }
 
 void MenuTreeView::selectionChanged(const QItemSelection& selected,

@@ -9,16 +9,8 @@
 
 namespace zev {
 
-namespace {
-
-/// Characters a box can show; far beyond any property, and still laid out at once.
-constexpr int kMaxLength = 100'000;
-
-}  // namespace
-
 PropertyEdit::PropertyEdit(const QString& name, QWidget* parent) : QLineEdit(parent) {
     setObjectName("txt" + name);
-    setMaxLength(kMaxLength);
     keepSingleLine(*this);
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (!m_isShowing)

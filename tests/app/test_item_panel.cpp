@@ -404,19 +404,36 @@ class test_item_panel : public QObject {
 
     void pastedLineBreaksBecomeSpaces_data() {
         QTest::addColumn<QString>("name");
-        for (const char* name : {"txtCaption", "txtURL", "txtTarget"})
-            QTest::newRow(name) << name;
+        for (const QString& name : kFields)
+            QTest::addRow("%s", qPrintable(name)) << name;
     }
     void pastedLineBreaksBecomeSpaces() {
         QFETCH(QString, name);
         WindowDesk desk;
         desk.add("a");
+        if (name.startsWith("txtImg"))
+            desk.click(desk.button("optRollover"));
         desk.type(name, "<>");
         desk.field(name).setCursorPosition(1);
         QGuiApplication::clipboard()->setText("one\r\ntwo\nthree\rfour");
         QTest::keyClick(&desk.field(name), Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(desk.field(name).text(), "<one two three four>");
         QCOMPARE(desk.field(name).cursorPosition(), 19);
+    }
+
+    void pastedCharactersThatBreakAScriptBecomeSpaces_data() {
+        QTest::addColumn<QChar>("character");
+        QTest::newRow("NUL") << QChar(u'\0');
+        QTest::newRow("line separator") << QChar(QChar::LineSeparator);
+        QTest::newRow("paragraph separator") << QChar(QChar::ParagraphSeparator);
+    }
+    void pastedCharactersThatBreakAScriptBecomeSpaces() {
+        QFETCH(QChar, character);
+        WindowDesk desk;
+        desk.add("");
+        QGuiApplication::clipboard()->setText(QString("a") + character + "b");
+        QTest::keyClick(&desk.field("txtCaption"), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(desk.field("txtCaption").text(), "a b");
     }
 
     void pastedLineBreaksDoNotReachALabelBeingEdited() {

@@ -111,9 +111,7 @@ class test_tree_events : public QObject {
     void aCommandTakesTheLabelBeingEdited() {
         WindowDesk desk;
         MenuNode* a = desk.add("a");
-        desk.doubleClick(a);
-        desk.labelEditor()->selectAll();
-        WindowDesk::pressKeys(*desk.labelEditor(), "Edited");
+        desk.startLabel(a, "Edited");
         QTest::keyClick(desk.labelEditor(), Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(desk.shownTree(), "Edited\n*Item 1\n");
         QCOMPARE(a->item.Caption, "Edited");
@@ -122,9 +120,7 @@ class test_tree_events : public QObject {
     void aTabSwitchTakesTheLabelBeingEdited() {
         WindowDesk desk;
         MenuNode* a = desk.add("a");
-        desk.doubleClick(a);
-        desk.labelEditor()->selectAll();
-        WindowDesk::pressKeys(*desk.labelEditor(), "Edited");
+        desk.startLabel(a, "Edited");
         desk.clickTab("JavaScript");
         QCOMPARE(a->item.Caption, "Edited");
         QVERIFY(desk.script().toPlainText().contains("Edited"));
@@ -142,6 +138,182 @@ class test_tree_events : public QObject {
         QTest::keyClick(&desk.tree(), Qt::Key_F2);
         QVERIFY(isShown);
         QVERIFY(desk.labelEditor() == nullptr);
+    }
+    void clickingAnotherNodeTakesTheLabelBeingEdited() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        MenuNode* b = desk.add("b");
+        desk.startLabel(a, "It's");
+        desk.click(b);
+        QCoreApplication::processEvents();
+        QVERIFY(desk.labelEditor() == nullptr);
+        QCOMPARE(desk.shownTree(), "It\\'s\n*b\n");
+        QCOMPARE(a->item.Caption, "It\\'s");
+        QCOMPARE(b->item.Caption, "b");
+        QCOMPARE(desk.shownPanel(), "normal|b||||");
+    }
+
+    void theTabKeyTakesTheLabelAndEditsTheNextOne() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        MenuNode* b = desk.add("b");
+        desk.startLabel(a, "first");
+        QTest::keyClick(desk.labelEditor(), Qt::Key_Tab);
+        QTRY_VERIFY(desk.labelEditor() != nullptr && desk.labelEditor()->text() == "b");
+        QCOMPARE(desk.document().CurNode, b);
+        WindowDesk::pressKeys(*desk.labelEditor(), "second");
+        QTest::keyClick(desk.labelEditor(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.shownTree(), "first\n*second\n");
+        QCOMPARE(a->item.Caption, "first");
+        QCOMPARE(desk.shownPanel(), "normal|second||||");
+    }
+
+    void aLabelThatIsOnlyLookedAtStays_data() {
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("unclean") << "It's";
+        QTest::newRow("line breaks") << "a\r\nb";
+        QTest::newRow("very long") << QString(200'000, 'x');
+    }
+    void aLabelThatIsOnlyLookedAtStays() {
+        QFETCH(QString, caption);
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        desk.tree().setFocus();
+        a->item.Caption = caption.toStdString();
+        desk.window.ShowItem();
+        desk.forgetChanges();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            desk.doubleClick(a);
+            QVERIFY(desk.labelEditor() != nullptr);
+            QTest::keyClick(desk.labelEditor(), key);
+            QCoreApplication::processEvents();
+        }
+        desk.doubleClick(a);
+        desk.choose("mnuHelpContents");
+        QVERIFY(desk.labelEditor() == nullptr);
+        desk.clickTab("JavaScript");
+        QCOMPARE(QString::fromStdString(a->item.Caption), caption);
+        QVERIFY(!desk.document().bModified);
+    }
+
+    void aLongLabelIsEditedInFull() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        const QString caption(50'000, 'x');
+        a->item.Caption = caption.toStdString();
+        desk.window.ShowItem();
+        desk.doubleClick(a);
+        QTest::keyClick(desk.labelEditor(), Qt::Key_End);
+        WindowDesk::pressKeys(*desk.labelEditor(), "y");
+        QTest::keyClick(desk.labelEditor(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.field("txtCaption").text(), caption + "y");
+    }
+
+    // The second click waits for a double click; by then the person has gone on.
+    void aClickOnTheSelectedLabelEditsNothingOnceThePersonWentOn_data() {
+        QTest::addColumn<QString>("next");
+        QTest::newRow("into a field") << "txtURL";
+        QTest::newRow("to another item by a command") << "mnuEditAddMenuItem";
+        QTest::newRow("to another item by key") << "Up";
+        QTest::newRow("to another tab") << "JavaScript";
+    }
+    void aClickOnTheSelectedLabelEditsNothingOnceThePersonWentOn() {
+        QFETCH(QString, next);
+        WindowDesk desk;
+        desk.add("a");
+        MenuNode* b = desk.add("b");
+        desk.click(b);
+        desk.click(b);
+        if (next == "txtURL")
+            desk.type(next, "typed");
+        else if (next == "Up")
+            QTest::keyClick(&desk.tree(), Qt::Key_Up);
+        else if (next == "JavaScript")
+            desk.clickTab(next);
+        else
+            desk.choose(next);
+        QTest::qWait(2 * QApplication::doubleClickInterval());
+        QVERIFY(desk.labelEditor() == nullptr);
+        if (next == "txtURL") {
+            WindowDesk::pressKeys(*QApplication::focusWidget(), " on");
+            QCOMPARE(desk.field(next).text(), "typed on");
+        }
+    }
+
+    // Choosing by other means than a click
+
+    void draggingTheMouseOverTheTreeChoosesWhereItEnds() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        MenuNode* b = desk.add("b");
+        MenuNode* c = desk.add("c");
+        desk.click(a);
+        desk.type("txtURL", "it's");
+        QWidget* viewport = desk.tree().viewport();
+        QTest::mousePress(viewport, Qt::LeftButton, {}, desk.placeOf(a));
+        for (const MenuNode* node : {b, c, b})
+            QTest::mouseMove(viewport, desk.placeOf(node));
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, desk.placeOf(b));
+        QCOMPARE(desk.document().CurNode, b);
+        QCOMPARE(desk.shownTree(), "a\n*b\nc\n");
+        QCOMPARE(desk.shownPanel(), "normal|b||||");
+        QCOMPARE(a->item.URL, "it\\'s");
+        QCOMPARE(c->item.URL, "");
+    }
+
+    void everyButtonOfTheMouseChooses_data() {
+        QTest::addColumn<Qt::MouseButton>("button");
+        QTest::newRow("right") << Qt::RightButton;
+        QTest::newRow("middle") << Qt::MiddleButton;
+    }
+    void everyButtonOfTheMouseChooses() {
+        QFETCH(Qt::MouseButton, button);
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        desk.add("b");
+        QTest::mouseClick(desk.tree().viewport(), button, {}, desk.placeOf(a));
+        QCOMPARE(desk.document().CurNode, a);
+        QCOMPARE(desk.document().selectedNode, a);
+        QCOMPARE(desk.shownPanel(), "normal|a||||");
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void typedLettersSearchTheTree() {
+        WindowDesk desk;
+        desk.add("Home");
+        MenuNode* tea = desk.add("Tea");
+        desk.add("Boats");
+        desk.tree().setFocus();
+        QTest::keyClicks(&desk.tree(), "te");
+        QCOMPARE(desk.document().CurNode, tea);
+        QCOMPARE(desk.shownPanel(), "normal|Tea||||");
+    }
+
+    void theItemStaysCurrentWhenItsBranchIsCollapsed() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        MenuNode* child = desk.addChild("child");
+        desk.document().tree.setExpanded(*a, false);
+        QCOMPARE(desk.document().CurNode, child);
+        QCOMPARE(desk.document().selectedNode, child);
+        QCOMPARE(desk.shownPanel(), "normal|child||||");
+        desk.choose("mnuEditAddMenuItem");
+        QCOMPARE(desk.shownTree(), "a\n  child\n  *Item 2\n");
+        QVERIFY(a->isExpanded);
+    }
+
+    void aThousandLevelsUnfoldByOneKey() {
+        WindowDesk desk;
+        MenuNode* node = nullptr;
+        for (int level = 0; level < 1000; ++level)
+            node = desk.document().tree.append(node, std::to_string(level), "x");
+        desk.click(desk.document().tree.firstNode());
+        QTest::keyClick(&desk.tree(), Qt::Key_Asterisk);
+        QVERIFY(node->parent()->isExpanded);
+        QTest::keyClick(&desk.tree(), Qt::Key_End);
+        QCOMPARE(desk.document().CurNode, node);
     }
 };
 

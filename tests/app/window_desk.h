@@ -69,6 +69,12 @@ struct WindowDesk {
         click(node);
         QTest::mouseDClick(tree().viewport(), Qt::LeftButton, {}, placeOf(node));
     }
+    /// A point on the label of a node, in the tree's viewport, which is scrolled to it.
+    QPoint placeOf(const MenuNode* node) {
+        const QModelIndex index = indexOf(node);
+        tree().scrollTo(index);
+        return tree().visualRect(index).topLeft() + QPoint(6, 6);
+    }
     /// Clicks the toolbar's button with this index.
     void clickToolBar(int index) {
         auto& bar = named<QToolBar>("tbToolBar");
@@ -102,18 +108,25 @@ struct WindowDesk {
         }
     }
     /// The in-place editor of the tree; null when none is open.
-    QLineEdit* labelEditor() { return tree().viewport()->findChild<QLineEdit*>(); }
+    QLineEdit* labelEditor() {
+        for (auto* editor : tree().viewport()->findChildren<QLineEdit*>()) {
+            if (!editor->isHidden())
+                return editor;
+        }
+        return nullptr;
+    }
+    /// Opens the in-place editor of a node and types `text` over the label. It stays open.
+    void startLabel(const MenuNode* node, const QString& text) {
+        doubleClick(node);
+        if (labelEditor() == nullptr)
+            qFatal("no in-place editor");
+        labelEditor()->selectAll();
+        pressKeys(*labelEditor(), text);
+    }
     /// Edits the label of a node in place; `closingKey` ends it.
     void editLabel(const MenuNode* node, const QString& text, Qt::Key closingKey) {
-        doubleClick(node);
-        QLineEdit* editor = labelEditor();
-        if (editor == nullptr) {
-            failQtTest("no in-place editor");
-            return;
-        }
-        editor->selectAll();
-        pressKeys(*editor, text);
-        QTest::keyClick(editor, closingKey);
+        startLabel(node, text);
+        QTest::keyClick(labelEditor(), closingKey);
         // The delegate closes its editor from the event loop.
         QCoreApplication::processEvents();
     }
@@ -164,11 +177,6 @@ struct WindowDesk {
     }
     QModelIndex indexOf(const MenuNode* node) {
         return static_cast<TreeViewModel*>(tree().model())->indexOf(node);
-    }
-    QPoint placeOf(const MenuNode* node) {
-        const QModelIndex index = indexOf(node);
-        tree().scrollTo(index);
-        return tree().visualRect(index).topLeft() + QPoint(6, 6);
     }
     QString shownBranch(const QModelIndex& parent, const QString& indent) {
         QString text;
