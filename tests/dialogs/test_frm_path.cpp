@@ -240,8 +240,10 @@ class test_frm_path : public QObject {
         const QStringList drives = MountedDrives();
         QVERIFY(drives.contains("/"));
         QCOMPARE(QSet<QString>(drives.begin(), drives.end()).size(), drives.size());
-        const QString ofHere = QStorageInfo(QDir::currentPath()).rootPath();
-        QVERIFY2(drives.contains(ofHere), qPrintable(ofHere));
+        // Below a changed root the table of volumes may not name the one that this folder lies on.
+        const QStorageInfo ofHere(QDir::currentPath());
+        if (ofHere.isValid())
+            QVERIFY2(drives.contains(ofHere.rootPath()), qPrintable(ofHere.rootPath()));
         for (const QString& drive : drives)
             QVERIFY2(QFileInfo(drive).isDir(), qPrintable(drive));
     }
