@@ -2,9 +2,6 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QCoreApplication>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
@@ -91,8 +88,6 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     sbStatusBar->setObjectName("sbStatusBar");
     setStatusBar(sbStatusBar);
     resize(920, 660);
-    // Sees the keys before the widgets do: text fields would take some of the shortcuts.
-    QCoreApplication::instance()->installEventFilter(this);
 
     m_fileCommands.Reset();
     TreeView->setFocus();
@@ -100,7 +95,6 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
 
 // The widgets look at the document until they are gone.
 frmMain::~frmMain() {
-    QCoreApplication::instance()->removeEventFilter(this);
     delete m_menuForm;
     delete m_defaultForm;
     delete takeCentralWidget();
@@ -167,7 +161,7 @@ QAction* frmMain::addEntry(QMenu* menu, const QString& name, const QString& capt
     entry->setShortcut(shortcut);
     entry->setMenuRole(QAction::NoRole);
     connect(entry, &QAction::triggered, this, [this, click] { run(std::bind_front(click, this)); });
-    m_entries.push_back(entry);
+    m_shortcuts.add(*entry);
     return entry;
 }
 
@@ -503,45 +497,6 @@ void frmMain::closeEvent(QCloseEvent* event) {
     if (!m_isEnding)
         run([this] { mnuFileExit_Click(); });
     event->setAccepted(m_isEnding);
-}
-
-// Shortcuts win over the text fields, some of which would take Ctrl+A or Ctrl+U for themselves, and
-// do nothing there while their command is disabled. Only Del edits text where there is text.
-bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    const bool isOverride = event->type() == QEvent::ShortcutOverride;
-    if (!isOverride && event->type() != QEvent::KeyPress)
-        return false;
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget == nullptr || widget->window() != this)
-        return false;
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (entryFor(key) == nullptr)
-        return false;
-    if (keepsKey(*widget, key)) {
-        if (isOverride)
-            event->accept();
-        return isOverride;
-    }
-    event->setAccepted(!isOverride);
-    return true;
-}
-
-/// True when `widget` holds text and `key` is Del.
-bool frmMain::keepsKey(const QWidget& widget, const QKeyEvent& key) const {
-    const bool holdsText = qobject_cast<const QLineEdit*>(&widget) != nullptr ||
-                           qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
-    return holdsText && entryFor(key) == mnuEditDelete;
-}
-
-/// The menu entry with this key as its shortcut; null when there is none.
-QAction* frmMain::entryFor(const QKeyEvent& key) const {
-    const QKeySequence sequence(
-        QKeyCombination(key.modifiers() & ~Qt::KeypadModifier, Qt::Key(key.key())));
-    for (QAction* entry : m_entries) {
-        if (!entry->shortcut().isEmpty() && entry->shortcut() == sequence)
-            return entry;
-    }
-    return nullptr;
 }
 
 void frmMain::openAddress(const std::string& address) {

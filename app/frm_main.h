@@ -4,17 +4,16 @@
 #include <array>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "app/command_state.h"
 #include "app/editor_services.h"
 #include "app/editor_view.h"
 #include "app/file_commands.h"
 #include "app/import_commands.h"
+#include "app/shortcut_keys.h"
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
-class QKeyEvent;
 class QTabWidget;
 
 namespace zev {
@@ -88,7 +87,6 @@ class frmMain : public QMainWindow, public EditorView {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void buildMenus();
@@ -104,8 +102,6 @@ class frmMain : public QMainWindow, public EditorView {
     void guard(const std::function<void()>& work);
     void leaveField();
     EditResult edit(EditResult (*command)(MenuDocument&));
-    bool keepsKey(const QWidget& widget, const QKeyEvent& key) const;
-    QAction* entryFor(const QKeyEvent& key) const;
     void openAddress(const std::string& address);
     void showNotice(const std::string& text);
 
@@ -114,6 +110,7 @@ class frmMain : public QMainWindow, public EditorView {
     FileCommands m_fileCommands;
     ImportCommands m_importCommands;
     CommandState m_state;
+    ShortcutKeys m_shortcuts{*this};
     bool m_isEnding = false;
 
     QAction* mnuFileSave = nullptr;
@@ -124,7 +121,6 @@ class frmMain : public QMainWindow, public EditorView {
     QAction* mnuEditMoveUp = nullptr;
     QAction* mnuEditMoveDown = nullptr;
     QAction* mnuEditDelete = nullptr;
-    std::vector<QAction*> m_entries;
     std::array<QAction*, kToolBarItems + 1> m_buttons{};
 
     QTabWidget* MenuTab = nullptr;
