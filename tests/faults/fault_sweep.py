@@ -470,9 +470,11 @@ def may_trace():
 
 
 class Work:
-    """A temporary folder that everybody can reach, removed with all it holds."""
+    """A temporary folder that everybody can reach, and what is made in it from then on; removed with
+    all it holds."""
 
     def __enter__(self):
+        os.umask(0o022)
         self.path = tempfile.mkdtemp(prefix="zev-faults-")
         os.chmod(self.path, 0o755)
         if IS_ROOT:
