@@ -90,7 +90,7 @@ void frmIntegrator::Initialize() {
     cboIntegration_Click();
     setRunning(false);
     updateFrames();
-    btnNext->setText(tr("Next >>"));
+    btnNext->setText(tr("&Next >>"));
     btnBack->setEnabled(false);
 }
 
@@ -148,7 +148,7 @@ void frmIntegrator::NextStep() {
         case 4:
             ++CurStep;
             ShowResultMessage();
-            btnNext->setText(tr("Finish"));
+            btnNext->setText(tr("&Finish"));
             break;
         default:
             btnExit_Click();
@@ -180,7 +180,7 @@ void frmIntegrator::btnBack_Click() {
     if (CurStep > 0)
         --CurStep;
     if (CurStep < kLastStep)
-        btnNext->setText(tr("Next >>"));
+        btnNext->setText(tr("&Next >>"));
     updateFrames();
 }
 

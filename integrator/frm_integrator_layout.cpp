@@ -234,7 +234,7 @@ void frmIntegrator::makeMenuFrame() {
 void frmIntegrator::makeReportFrame() {
     QVBoxLayout* layout = addFrame(4, tr("Step 2 of 3"));
     txtReport = MakeTextBox("txtReport", tr("Menu Integration Report"), this);
-    layout->addWidget(MakeLabel("Label1", tr("Menu Integration Report"),
+    layout->addWidget(MakeLabel("Label1", tr("Menu Integration &Report"),
                                 tr("Menu Integration Report"), txtReport));
     layout->addWidget(txtReport, 1);
     pbProgress = MakeNamed<QProgressBar>("pbProgress", this);
@@ -263,7 +263,7 @@ void frmIntegrator::makeCodeFrame() {
     btnCopyLinkCode->setAccessibleName(tr("Copy the code example"));
     lblMsg = MakeText("lblMsg", QString(), this);
     lblLinkCode = MakeText("lblLinkCode",
-                           tr("Copy the code example below to add the menu to hyperlinks:"), this);
+                           tr("Copy the code e&xample below to add the menu to hyperlinks:"), this);
     lblLinkCode->setBuddy(txtLinkCode);
     layout->addWidget(lblMsg);
     const auto addCode = [&](QPlainTextEdit* box, QPushButton* copy) {
@@ -283,10 +283,10 @@ void frmIntegrator::makeCodeFrame() {
 
 QWidget* frmIntegrator::makeButtonRow() {
     auto* buttons = new QWidget(this);
-    btnBack = makeButton("btnBack", tr("<< Back"), &frmIntegrator::btnBack_Click);
-    btnNext = makeButton("btnNext", tr("Next >>"), &frmIntegrator::NextStep);
+    btnBack = makeButton("btnBack", tr("<< B&ack"), &frmIntegrator::btnBack_Click);
+    btnNext = makeButton("btnNext", tr("&Next >>"), &frmIntegrator::NextStep);
     btnNext->setDefault(true);
-    btnExit = makeButton("btnExit", tr("E&xit"), &frmIntegrator::btnExit_Click);
+    btnExit = makeButton("btnExit", tr("&Exit"), &frmIntegrator::btnExit_Click);
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();

@@ -80,6 +80,21 @@ struct WizardDesk {
     QLineEdit& field(const QString& name) { return named<QLineEdit>(name); }
     QComboBox& list(const QString& name) { return named<QComboBox>(name); }
     QPushButton& button(const QString& name) { return named<QPushButton>(name); }
+    /// A button's text without its access key.
+    QString caption(const QString& name) { return button(name).text().remove('&'); }
+    /// The access keys of what is shown of a kind of control, all of which must have one.
+    template <typename Widget>
+    QStringList accessKeys() {
+        QStringList keys;
+        for (const Widget* widget : wizard.findChildren<Widget*>()) {
+            const auto* label = qobject_cast<const QLabel*>(static_cast<const QWidget*>(widget));
+            if (!widget->isVisible() || (label != nullptr && label->buddy() == nullptr))
+                continue;
+            const QKeySequence key = QKeySequence::mnemonic(widget->text());
+            keys.append(key.isEmpty() ? widget->objectName() + " has none" : key.toString());
+        }
+        return keys;
+    }
     QString label(const QString& name) { return named<QLabel>(name).text(); }
     QString text(const QString& name) { return named<QPlainTextEdit>(name).toPlainText(); }
     QColor backOf(const QString& name) { return field(name).palette().color(QPalette::Base); }
