@@ -10,6 +10,7 @@
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_shell.h"
 #include "platform/program_folder.h"
+#include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_browser_view.h"
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_help_viewer.h"
@@ -90,6 +91,7 @@ int main(int argc, char** argv) {
         parser.process(application);
     }
     QApplication application(argc, argv);
+    QApplication::setStyle(new PlainButtonStyle);
     QApplication::setWindowIcon(ProgramIcon());
     return RunEditor(application, parser);
 }

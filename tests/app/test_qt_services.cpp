@@ -16,6 +16,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
@@ -24,6 +25,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_message_box.h"
 #include "when_shown.h"
@@ -106,6 +108,17 @@ std::string existingFamily() {
     qFatal("no font family with all styles is installed");
 }
 
+/// As desktops have it that show pictures on buttons.
+class PicturedButtonStyle : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
 }  // namespace
 
 class test_qt_services : public QObject {
@@ -122,6 +135,7 @@ class test_qt_services : public QObject {
     void longPathsWrapInsideTheScreen_data();
     void longPathsWrapInsideTheScreen();
     void aBoxBelongsToTheActiveWindow();
+    void buttonsHaveNoPicturesInTheProgramsStyle();
     void aMessageWithoutDetailsHasOnlyItsButtons();
     void detailsAreShownWhenAskedFor();
     void detailsAreReadWithTheKeyboard();
@@ -283,6 +297,26 @@ void test_qt_services::aBoxBelongsToTheActiveWindow() {
         box.close();
     });
     QtMessageBox().show(request);
+}
+
+void test_qt_services::buttonsHaveNoPicturesInTheProgramsStyle() {
+    MessageRequest request;
+    request.text = "Save changes to project?";
+    request.buttons = Buttons::YesNoCancel;
+    const auto picturesIn = [&](QStyle* style) {
+        QApplication::setStyle(style);
+        qsizetype count = 0;
+        whenShown<QMessageBox>([&](QMessageBox& box) {
+            for (const QAbstractButton* button : box.buttons())
+                count += button->icon().isNull() ? 0 : 1;
+            box.reject();
+        });
+        QtMessageBox().show(request);
+        return count;
+    };
+    QCOMPARE(picturesIn(new PicturedButtonStyle), 3);
+    QCOMPARE(picturesIn(new PlainButtonStyle(new PicturedButtonStyle)), 0);
+    QApplication::setStyle("Fusion");
 }
 
 void test_qt_services::aMessageWithoutDetailsHasOnlyItsButtons() {
