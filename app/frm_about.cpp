@@ -75,7 +75,7 @@ frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget*
 }
 
 /// A button that looks like a link: a label with a link in it takes a second press of Tab before
-/// Enter follows it.
+/// Enter follows it. In the colour of text, as many dark palettes keep a dark blue for links.
 QPushButton* frmAbout::makeLink(const QString& name, const QString& address,
                                 const QString& shownText) {
     auto* link = new QPushButton(shownText);
@@ -85,9 +85,6 @@ QPushButton* frmAbout::makeLink(const QString& name, const QString& address,
     QFont font = link->font();
     font.setUnderline(true);
     link->setFont(font);
-    QPalette colours = link->palette();
-    colours.setColor(QPalette::ButtonText, colours.color(QPalette::Link));
-    link->setPalette(colours);
     connect(link, &QPushButton::clicked, this,
             [this, address] { m_openAddress(address.toStdString()); });
     return link;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/frm_about.h"
+#include "theme_palettes.h"
 
 using namespace zev;
 
@@ -18,6 +19,8 @@ class test_frm_about : public QObject {
     void linksOpenByMouse();
     void linksOpenByKeyboard_data() { addLinks(); }
     void linksOpenByKeyboard();
+    void linksAreReadable_data();
+    void linksAreReadable();
     void everythingIsReachedByTab();
     void closes_data();
     void closes();
@@ -73,6 +76,26 @@ void test_frm_about::linksOpenByKeyboard() {
     QTest::keyClick(&link, Qt::Key_Return);
     QCOMPARE(m_opened, std::vector<std::string>{address.toStdString()});
     QVERIFY(m_about->isVisible());
+}
+
+void test_frm_about::linksAreReadable_data() {
+    QTest::addColumn<bool>("isDark");
+    QTest::newRow("light") << false;
+    QTest::newRow("dark") << true;
+}
+
+void test_frm_about::linksAreReadable() {
+    QFETCH(bool, isDark);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(isDark ? darkPalette() : lightPalette());
+    init();
+    for (const char* name : {"cmdWebSite", "cmdEMail"}) {
+        const QPalette colours = m_about->findChild<QPushButton*>(name)->palette();
+        const double ratio =
+            contrast(colours.color(QPalette::ButtonText), colours.color(QPalette::Window));
+        QVERIFY2(ratio >= 4.5, qPrintable(QString("%1: %2").arg(name).arg(ratio)));
+    }
+    QApplication::setPalette(before);
 }
 
 void test_frm_about::everythingIsReachedByTab() {
