@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -18,6 +19,9 @@ constexpr int kRowPaddingPx = 6;
 /// Properties of the in-place editor: its text, and what that was when it was opened.
 constexpr const char* kText = "text";
 constexpr const char* kShownText = "shownText";
+
+/// Fainter than an item's label, and still easy to read on light and dark backgrounds.
+constexpr qreal kHintOpacity = 0.7;
 
 class LabelDelegate : public QStyledItemDelegate {
   public:
@@ -148,6 +152,17 @@ QItemSelectionModel::SelectionFlags MenuTreeView::selectionCommand(const QModelI
 
 int MenuTreeView::sizeHintForColumn(int column) const {
     return std::max(QTreeView::sizeHintForColumn(column), viewport()->width());
+}
+
+void MenuTreeView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (m_document.tree.firstNode() != nullptr)
+        return;
+    QPainter painter(viewport());
+    painter.setOpacity(kHintOpacity);
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                     tr("The menu has no items yet.\nAdd Menu Item (Ctrl+A) makes the first one."));
 }
 
 void MenuTreeView::setNodeExpanded(const QModelIndex& index, bool isExpanded) {

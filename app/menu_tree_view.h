@@ -35,6 +35,8 @@ class MenuTreeView : public QTreeView {
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
     int sizeHintForColumn(int column) const override;
+    /// A tree without items says how to begin.
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     void setNodeExpanded(const QModelIndex& index, bool isExpanded);

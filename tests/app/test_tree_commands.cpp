@@ -48,6 +48,26 @@ class test_tree_commands : public QObject {
         QCOMPARE(desk.document().ItemCounter, 1);
     }
 
+    void anEmptyTreeSaysHowToBegin() {
+        WindowDesk desk;
+        const auto hasHint = [&] {
+            const QImage picture = desk.tree().viewport()->grab().toImage();
+            const QRgb back = picture.pixel(0, picture.height() - 1);
+            for (int y = picture.height() / 3; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    if (picture.pixel(x, y) != back)
+                        return true;
+                }
+            }
+            return false;
+        };
+        QVERIFY(hasHint());
+        desk.choose("mnuEditAddMenuItem");
+        QVERIFY(!hasHint());
+        desk.choose("mnuEditDelete");
+        QVERIFY(hasHint());
+    }
+
     void addMenuItemGoesAfterAllSiblings() {
         WindowDesk desk;
         desk.add("a");
