@@ -47,13 +47,14 @@ bool IsOnDrive(const QString& folder, const QString& drive) {
 }
 
 /// Index of the drive a folder lies on; 0 when it lies on none of them.
-int DriveOf(const QString& folder, const QStringList& drives) {
+int DriveOf(const QString& folder, const QComboBox& drives) {
     int found = 0;
     qsizetype length = -1;
-    for (int index = 0; index < drives.size(); ++index) {
-        if (IsOnDrive(folder, drives[index]) && drives[index].size() > length) {
+    for (int index = 0; index < drives.count(); ++index) {
+        const QString drive = QDir::fromNativeSeparators(drives.itemText(index));
+        if (IsOnDrive(folder, drive) && drive.size() > length) {
             found = index;
-            length = drives[index].size();
+            length = drive.size();
         }
     }
     return found;
@@ -100,9 +101,7 @@ frmPath::frmPath(FileSystem& files, MessageBox& messages, const QStringList& dri
     listDir->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     arrange();
 
-    const QString current = QDir::currentPath();
-    listDrv->setCurrentIndex(DriveOf(current, drives));
-    showFolder(current);
+    openFolder(QDir::currentPath());
     connect(listDrv, &QComboBox::currentIndexChanged, this, &frmPath::listDrv_Change);
     connect(listDir, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         listDir_Change(item->data(kFolderRole).toString());
@@ -131,6 +130,13 @@ void frmPath::arrange() {
     closing->addWidget(btnOK);
     closing->addWidget(btnCancel);
     layout->addLayout(closing);
+}
+
+void frmPath::openFolder(const QString& folder) {
+    if (!QDir(folder).exists())
+        return;
+    listDrv->setCurrentIndex(DriveOf(folder, *listDrv));
+    showFolder(folder);
 }
 
 std::string frmPath::path() const {

@@ -25,6 +25,8 @@ class frmPath : public QDialog {
     /// the form.
     frmPath(FileSystem& files, MessageBox& messages, const QStringList& drives, QWidget* parent);
 
+    /// Goes to a folder, so that the person finds it listed. Does nothing when there is none.
+    void openFolder(const QString& folder);
     /// After OK: the folder, as it was typed.
     std::string path() const;
 

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -95,7 +96,11 @@ void frmIntegrator::Initialize() {
 }
 
 void frmIntegrator::setDefinition(const std::string& path) {
-    txtMenuDef->setText(QString::fromStdString(path));
+    const QString file = QString::fromStdString(path);
+    txtMenuDef->setText(file);
+    // The library lies beside the menu, unless the person has moved it.
+    if (txtPath->text().isEmpty())
+        m_pathForm->openFolder(QFileInfo(file).path());
 }
 
 void frmIntegrator::showSubmenus(const std::vector<std::string>& entries) {

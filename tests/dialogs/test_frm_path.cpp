@@ -98,6 +98,16 @@ class test_frm_path : public QObject {
         QCOMPARE(desk.shownFolders(), (QStringList{"..", "b1"}));
     }
 
+    void itGoesToAFolderOfAnyDrive() {
+        PathDesk desk;
+        desk.dialog->openFolder(desk.drive("second/c"));
+        QCOMPARE(desk.shownPath(), desk.drive("second/c"));
+        QCOMPARE(desk.form->list("listDrv").currentText(), desk.drive("second"));
+        QCOMPARE(desk.shownFolders(), QStringList{".."});
+        desk.dialog->openFolder(desk.drive("second/missing"));
+        QCOMPARE(desk.shownPath(), desk.drive("second/c"));
+    }
+
     void aFolderThatIsOpenedIsThePath() {
         PathDesk desk;
         desk.open("b1");

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QProgressDialog>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "dialogs/frm_path.h"
@@ -220,6 +221,27 @@ class test_frm_integrator_fields : public QObject {
         auto& frame = desk.named<QGroupBox>("frm_2");
         QCOMPARE(frame.findChild<QLineEdit*>("txtPath")->text(),
                  QString(isAccepted ? "/site/js" : "old/"));
+    }
+
+    void theDirectoryChooserBeginsBesideTheMenu() {
+        const QTemporaryDir site;
+        WizardDesk desk;
+        auto* path = desk.named<frmPath>("frmPath").findChild<QLineEdit*>("txtPath");
+        desk.wizard.setDefinition(site.filePath("menu.js").toStdString());
+        QCOMPARE(path->text(), site.path());
+    }
+
+    void aPathGivenBeforeKeepsTheDirectoryChooserWhereItIs() {
+        const QTemporaryDir site;
+        WizardDesk desk;
+        auto* path = desk.named<frmPath>("frmPath").findChild<QLineEdit*>("txtPath");
+        const QString before = path->text();
+        desk.next();
+        desk.choosePages({"a.htm"});
+        desk.next();
+        desk.type("txtPath", "/site/js");
+        desk.wizard.setDefinition(site.filePath("menu.js").toStdString());
+        QCOMPARE(path->text(), before);
     }
 
     void theDirectoryChooserStandsWhereItWasLeft() {
