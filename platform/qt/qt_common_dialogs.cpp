@@ -8,8 +8,10 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QTreeView>
 #include <cstdlib>
 #include <limits>
 #include <utility>
@@ -19,6 +21,21 @@
 namespace zev {
 
 namespace {
+
+/// In characters: names of 25 beside all that is told of a file.
+constexpr int kFileDialogWidth = 110;
+
+/// Qt's own file dialog cuts off kind and date of the files. A desktop's has no such list.
+void ShowWholeColumns(QFileDialog& dialog) {
+    const auto* list = dialog.findChild<QTreeView*>("treeView");
+    if (list == nullptr)
+        return;
+    QHeaderView& columns = *list->header();
+    columns.setStretchLastSection(false);
+    columns.setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns.setSectionResizeMode(0, QHeaderView::Stretch);
+    dialog.resize(kFileDialogWidth * dialog.fontMetrics().averageCharWidth(), dialog.height());
+}
 
 void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QString& lastFolder) {
     dialog.setWindowTitle(QString::fromStdString(request.title));
@@ -35,6 +52,7 @@ void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QStrin
         dialog.setDirectory(lastFolder);
     }
     dialog.selectFile(preset.fileName());
+    ShowWholeColumns(dialog);
 }
 
 std::string ChosenFile(const QFileDialog& dialog, QString& lastFolder) {
