@@ -10,6 +10,7 @@
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_shell.h"
 #include "platform/program_folder.h"
+#include "platform/qt/fit_screen.h"
 #include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_browser_view.h"
 #include "platform/qt/qt_common_dialogs.h"
@@ -65,6 +66,7 @@ int RunEditor(QApplication& application, const QCommandLineParser& arguments) {
     frmMain window(services, ProgramFolder(fileSystem, messages), browser);
     // Ends the program also while the manual's window is open.
     QObject::connect(&window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); });
+    FitScreen(window);
     window.show();
     const QStringList files = arguments.positionalArguments();
     const QString picture = arguments.value("screenshot");

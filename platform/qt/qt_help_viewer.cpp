@@ -7,6 +7,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "platform/qt/fit_screen.h"
+
 namespace zev {
 
 QtHelpViewer::~QtHelpViewer() {
@@ -36,6 +38,7 @@ void QtHelpViewer::makeWindow() {
     // The program ends with its main window, not with the last page of the manual.
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_window->resize(860, 640);
+    FitScreen(*m_window);
     auto* layout = new QVBoxLayout(m_window);
     layout->setContentsMargins(0, 0, 0, 0);
 

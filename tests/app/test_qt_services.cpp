@@ -25,6 +25,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "platform/qt/fit_screen.h"
 #include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_message_box.h"
@@ -136,6 +137,7 @@ class test_qt_services : public QObject {
     void longPathsWrapInsideTheScreen();
     void aBoxBelongsToTheActiveWindow();
     void buttonsHaveNoPicturesInTheProgramsStyle();
+    void aWindowIsNotLargerThanItsScreen();
     void aMessageWithoutDetailsHasOnlyItsButtons();
     void detailsAreShownWhenAskedFor();
     void detailsAreReadWithTheKeyboard();
@@ -317,6 +319,18 @@ void test_qt_services::buttonsHaveNoPicturesInTheProgramsStyle() {
     QCOMPARE(picturesIn(new PicturedButtonStyle), 3);
     QCOMPARE(picturesIn(new PlainButtonStyle(new PicturedButtonStyle)), 0);
     QApplication::setStyle("Fusion");
+}
+
+void test_qt_services::aWindowIsNotLargerThanItsScreen() {
+    QWidget window;
+    const QSize screen = window.screen()->availableSize();
+    window.resize(screen.width() + 100, screen.height() + 100);
+    FitScreen(window);
+    QVERIFY(window.width() < screen.width() && window.height() < screen.height());
+    const QSize fitting = screen / 2;
+    window.resize(fitting);
+    FitScreen(window);
+    QCOMPARE(window.size(), fitting);
 }
 
 void test_qt_services::aMessageWithoutDetailsHasOnlyItsButtons() {
