@@ -1,10 +1,9 @@
 // The three tabs: what switching to one does, and that the one shown follows the menu.
 
 #include <QAction>
+#include <QFontDatabase>
 
-#include "dialogs/frm_default_prop.h"
 #include "imported_products.h"
-#include "when_shown.h"
 #include "window_desk.h"
 
 using namespace zev;
@@ -55,6 +54,14 @@ class test_tabs : public QObject {
         QTest::keyClicks(&desk.script(), "x");
         QTest::keyClick(&desk.script(), Qt::Key_Delete);
         QCOMPARE(desk.script().toPlainText(), before);
+    }
+
+    void theScriptIsShownInTheSystemsFontForPrograms() {
+        WindowDesk desk;
+        QCOMPARE(desk.script().font().family(),
+                 QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+        QVERIFY(desk.script().font().family() != desk.window.font().family());
+        QCOMPARE(desk.script().lineWrapMode(), QPlainTextEdit::NoWrap);
     }
 
     void switchingToJavaScriptDoesNotMarkTheMenuAsChanged() {

@@ -380,6 +380,28 @@ class test_tree_commands : public QObject {
         QCOMPARE(desk.document().CurNode->text, "out.gif");
     }
 
+    void everyChangeOfTheTreeCanBeSaved_data() {
+        QTest::addColumn<QString>("entry");
+        for (const char* entry :
+             {"mnuEditAddMenuItem", "mnuEditAddSubmenuItem", "mnuEditDelete", "mnuEditMoveLeft",
+              "mnuEditMoveRight", "mnuEditMoveUp", "mnuEditMoveDown"})
+            QTest::newRow(entry) << entry;
+    }
+    void everyChangeOfTheTreeCanBeSaved() {
+        QFETCH(QString, entry);
+        WindowDesk desk;
+        desk.add("top");
+        desk.addChild("a");
+        MenuNode* b = desk.add("b");
+        desk.add("c");
+        desk.click(b);
+        desk.forgetChanges();
+        desk.choose(entry);
+        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.action("mnuFileSave").isEnabled());
+        QVERIFY(desk.action("tbToolBar_3").isEnabled());
+    }
+
     void aUsedUpCounterIsSaidAndChangesNothing_data() {
         QTest::addColumn<QString>("entry");
         for (const char* entry :

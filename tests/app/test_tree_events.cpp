@@ -304,6 +304,54 @@ class test_tree_events : public QObject {
         QVERIFY(a->isExpanded);
     }
 
+    void theArrowKeysChooseAfterEveryCommand_data() {
+        QTest::addColumn<QString>("entry");
+        for (const char* entry :
+             {"mnuEditAddMenuItem", "mnuEditAddSubmenuItem", "mnuEditDelete", "mnuEditMoveLeft",
+              "mnuEditMoveRight", "mnuEditMoveUp", "mnuEditMoveDown", "mnuFileOpen", "mnuFileNew"})
+            QTest::newRow(entry) << entry;
+    }
+    void theArrowKeysChooseAfterEveryCommand() {
+        QFETCH(QString, entry);
+        WindowDesk desk;
+        desk.add("top");
+        desk.addChild("a");
+        MenuNode* b = desk.add("b");
+        desk.add("c");
+        desk.click(b);
+        desk.forgetChanges();
+        desk.disk.addFile("/site/menu.js",
+                          "zevmenu = new ZEVMenu('0');\r\nzevmenu.AddItem('1', '', '');\r\n"
+                          "zevmenu.AddItem('2', '', '');\r\n");
+        if (entry == "mnuFileOpen")
+            desk.dialogs.expectOpenFile("/site/menu.js");
+        desk.choose(entry);
+        if (entry == "mnuFileNew") {
+            desk.choose("mnuEditAddMenuItem");
+            desk.choose("mnuEditAddMenuItem");
+        }
+        const MenuNode* before = desk.document().CurNode;
+        desk.tree().setFocus();
+        const bool isFirst = desk.document().tree.firstNode() == before;
+        QTest::keyClick(&desk.tree(), isFirst ? Qt::Key_Down : Qt::Key_Up);
+        QVERIFY(desk.document().CurNode != before);
+        QCOMPARE(desk.document().selectedNode, desk.document().CurNode);
+        QVERIFY(
+            desk.shownTree().contains("*" + QString::fromStdString(desk.document().CurNode->text)));
+        QCOMPARE(desk.field("txtCaption").text(),
+                 QString::fromStdString(desk.document().CurNode->item.Caption));
+    }
+
+    void aDoubleClickLeavesTheBranchAsItIs() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        desk.addChild("child");
+        QVERIFY(a->isExpanded);
+        desk.doubleClick(a);
+        QCOMPARE(desk.labelEditor()->accessibleName(), "Item label");
+        QVERIFY(a->isExpanded);
+    }
+
     void aThousandLevelsUnfoldByOneKey() {
         WindowDesk desk;
         MenuNode* node = nullptr;

@@ -1,0 +1,210 @@
+// The real colour and font dialogs of Qt, answered with real keys.
+
+#include <QColorDialog>
+#include <QFontDatabase>
+#include <QFontDialog>
+#include <QFontInfo>
+#include <QLineEdit>
+#include <QListView>
+#include <QSpinBox>
+#include <QTest>
+#include <algorithm>
+
+#include "platform/qt/qt_common_dialogs.h"
+#include "when_shown.h"
+
+using namespace zev;
+
+namespace {
+
+bool hasStyle(const QString& family, bool isItalic, bool isBold) {
+    const QStringList styles = QFontDatabase::styles(family);
+    return std::any_of(styles.begin(), styles.end(), [&](const QString& style) {
+        const QFont font = QFontDatabase::font(family, style, 10);
+        return font.italic() == isItalic && font.bold() == isBold;
+    });
+}
+
+/// A family with a plain, an italic, a bold and a bold italic style.
+std::string existingFamily() {
+    for (const QString& family : QFontDatabase::families()) {
+        if (hasStyle(family, false, false) && hasStyle(family, true, false) &&
+            hasStyle(family, false, true) && hasStyle(family, true, true))
+            return family.toStdString();
+    }
+    qFatal("no font family with all styles is installed");
+}
+
+}  // namespace
+
+class test_qt_choosers : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase();
+    void theColorDialogStartsWithTheColorAndRoomToMixOthers();
+    void aColorIsChosenByItsNumbers();
+    void colorCancelledGivesNothing();
+    void theFontDialogStartsWithTheFont_data();
+    void theFontDialogStartsWithTheFont();
+    void theFontDialogStartsWithTheSystemsFontWhenToldNone();
+    void aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay_data();
+    void aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay();
+    void aFontThatIsMissingStartsWithOneThatExists();
+    void aFontIsChosenWithItsStyle();
+    void fontCancelledGivesNothing();
+    void colorAndFontDialogsBelongToTheActiveWindow();
+};
+
+void test_qt_choosers::initTestCase() {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void test_qt_choosers::theColorDialogStartsWithTheColorAndRoomToMixOthers() {
+    whenShown<QColorDialog>([](QColorDialog& dialog) {
+        QCOMPARE(dialog.currentColor(), QColor(0xFF, 0x80, 0x00));
+        QVERIFY(!dialog.testOption(QColorDialog::ShowAlphaChannel));
+        const auto numbers = dialog.findChildren<QSpinBox*>();
+        QVERIFY(std::count_if(numbers.begin(), numbers.end(), [](const QSpinBox* number) {
+                    return number->isVisible() && number->isEnabled();
+                }) >= 3);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QCOMPARE(QtCommonDialogs().chooseColor(0x0080FF), std::optional<std::int32_t>(0x0080FF));
+}
+
+void test_qt_choosers::aColorIsChosenByItsNumbers() {
+    whenShown<QColorDialog>([](QColorDialog& dialog) {
+        const auto texts = dialog.findChildren<QLineEdit*>();
+        const auto text = std::find_if(texts.begin(), texts.end(), [](const QLineEdit* each) {
+            return each->text().startsWith('#');
+        });
+        QVERIFY(text != texts.end());
+        (*text)->selectAll();
+        QTest::keyClicks(*text, "#abcdef");
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QCOMPARE(QtCommonDialogs().chooseColor(0), std::optional<std::int32_t>(0xEFCDAB));
+}
+
+void test_qt_choosers::colorCancelledGivesNothing() {
+    whenShown<QColorDialog>([](QColorDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QCOMPARE(QtCommonDialogs().chooseColor(0x0080FF), std::optional<std::int32_t>());
+}
+
+void test_qt_choosers::theFontDialogStartsWithTheFont_data() {
+    QTest::addColumn<bool>("isItalic");
+    QTest::addColumn<bool>("isBold");
+    QTest::newRow("plain") << false << false;
+    QTest::newRow("italic") << true << false;
+    QTest::newRow("bold") << false << true;
+    QTest::newRow("bold italic") << true << true;
+}
+
+void test_qt_choosers::theFontDialogStartsWithTheFont() {
+    QFETCH(bool, isItalic);
+    QFETCH(bool, isBold);
+    const FontChoice initial{existingFamily(), 14, isItalic, isBold};
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        QCOMPARE(dialog.currentFont().family().toStdString(), initial.name);
+        QCOMPARE(dialog.currentFont().pointSize(), 14);
+        QCOMPARE(dialog.currentFont().italic(), isItalic);
+        QCOMPARE(dialog.currentFont().bold(), isBold);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QVERIFY(QtCommonDialogs().chooseFont(initial) == initial);
+}
+
+void test_qt_choosers::theFontDialogStartsWithTheSystemsFontWhenToldNone() {
+    const QFontInfo system{QFont()};
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        QCOMPARE(dialog.currentFont().pointSize(), system.pointSize());
+        QVERIFY(QFontDatabase::families().contains(dialog.currentFont().family()));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont({});
+    QVERIFY(chosen.has_value());
+    QVERIFY(!chosen->isItalic);
+    QVERIFY(!chosen->isBold);
+}
+
+void test_qt_choosers::aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay_data() {
+    QTest::addColumn<QString>("family");
+    for (const QString& family : QFontDatabase::families()) {
+        if (hasStyle(family, false, false))
+            QTest::newRow(qPrintable(family)) << family;
+    }
+}
+
+void test_qt_choosers::aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay() {
+    QFETCH(QString, family);
+    const FontChoice initial{family.toStdString(), 12, false, false};
+    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont(initial);
+    QVERIFY(chosen.has_value());
+    QVERIFY(*chosen == initial);
+}
+
+void test_qt_choosers::aFontThatIsMissingStartsWithOneThatExists() {
+    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    const std::optional<FontChoice> chosen =
+        QtCommonDialogs().chooseFont({"No Such Family", 9, false, false});
+    QVERIFY(chosen.has_value());
+    QVERIFY2(QFontDatabase::families().contains(QString::fromStdString(chosen->name)),
+             chosen->name.c_str());
+    QCOMPARE(chosen->points, 9.0F);
+}
+
+void test_qt_choosers::aFontIsChosenWithItsStyle() {
+    FontChoice expected;
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        const auto lists = dialog.findChildren<QListView*>();
+        const auto edits = dialog.findChildren<QLineEdit*>();
+        QVERIFY(lists.size() == 3 && !edits.isEmpty());
+        // Family, style and size, each by the keyboard.
+        for (QListView* list : lists.first(2)) {
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_End);
+        }
+        lists[2]->setFocus();
+        QTest::keyClick(lists[2], Qt::Key_Home);
+        const QFont shown = dialog.currentFont();
+        expected = {shown.family().toStdString(), static_cast<float>(shown.pointSizeF()),
+                    shown.italic(), shown.bold()};
+        QCOMPARE(expected.name, lists[0]->currentIndex().data().toString().toStdString());
+        QCOMPARE(shown.pointSize(), lists[2]->currentIndex().data().toString().toInt());
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    const FontChoice initial{existingFamily(), 20, false, false};
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont(initial);
+    QVERIFY(chosen.has_value());
+    QVERIFY(*chosen == expected);
+    QVERIFY(*chosen != initial);
+}
+
+void test_qt_choosers::fontCancelledGivesNothing() {
+    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QVERIFY(!QtCommonDialogs().chooseFont({}).has_value());
+}
+
+void test_qt_choosers::colorAndFontDialogsBelongToTheActiveWindow() {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    whenShown<QColorDialog>([&](QColorDialog& dialog) {
+        QCOMPARE(dialog.parentWidget(), &window);
+        dialog.reject();
+    });
+    QtCommonDialogs().chooseColor(0);
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        QCOMPARE(dialog.parentWidget(), &window);
+        dialog.reject();
+    });
+    QtCommonDialogs().chooseFont({});
+}
+
+QTEST_MAIN(test_qt_choosers)
+#include "test_qt_choosers.moc"

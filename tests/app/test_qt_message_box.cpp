@@ -1,0 +1,341 @@
+// The real message boxes of Qt, answered with real keys, and the size of windows.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyleFactory>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextEdit>
+#include <QTextLayout>
+
+#include "message_text.h"
+#include "platform/qt/fit_screen.h"
+#include "platform/qt/plain_button_style.h"
+#include "platform/qt/qt_message_box.h"
+#include "when_shown.h"
+
+using namespace zev;
+
+namespace {
+
+using Answer = MessageBox::Answer;
+using Buttons = MessageRequest::Buttons;
+
+/// The button that shows and hides the details; null when there is none.
+QAbstractButton* detailsButton(const QMessageBox& box) {
+    for (QAbstractButton* button : box.buttons()) {
+        if (box.buttonRole(button) == QMessageBox::ActionRole)
+            return button;
+    }
+    return nullptr;
+}
+
+MessageRequest requestWithDetails(int lines) {
+    MessageRequest request;
+    request.text = "Finished importing /old/menu.txt. 3 warnings encountered.";
+    for (int line = 1; line <= lines; ++line)
+        request.details += (line > 1 ? "\nline " : "line ") + std::to_string(line) +
+                           ": <b>the item goes up past the top level & so on</b>";
+    return request;
+}
+
+/// As desktops have it that show pictures on buttons.
+class PicturedButtonStyle : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+}  // namespace
+
+class test_qt_message_box : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase();
+    void eachKeyIsAnAnswer_data();
+    void eachKeyIsAnAnswer();
+    void closingTheBoxIsTheMildestAnswer_data();
+    void closingTheBoxIsTheMildestAnswer();
+    void messagesAreShownAsTheyAre();
+    void aMessageWithoutTitleHasTheProgramsName();
+    void longPathsWrapInsideTheScreen_data();
+    void longPathsWrapInsideTheScreen();
+    void aBoxBelongsToTheActiveWindow();
+    void buttonsHaveNoPicturesInTheProgramsStyle();
+    void aWindowIsNotLargerThanItsScreen();
+    void aMessageWithoutDetailsHasOnlyItsButtons();
+    void detailsAreShownWhenAskedFor();
+    void detailsAreReadWithTheKeyboard();
+    void detailsOfManyLinesFitTheScreen();
+    void aBoxWithDetailsIsAnsweredAsOneWithout_data();
+    void aBoxWithDetailsIsAnsweredAsOneWithout();
+};
+
+void test_qt_message_box::initTestCase() {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void test_qt_message_box::eachKeyIsAnAnswer_data() {
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("ok, Enter") << int(Buttons::Ok) << int(Qt::Key_Return) << int(Answer::Ok);
+    QTest::newRow("ok, Escape") << int(Buttons::Ok) << int(Qt::Key_Escape) << int(Answer::Ok);
+    QTest::newRow("ok/cancel, Enter")
+        << int(Buttons::OkCancel) << int(Qt::Key_Return) << int(Answer::Ok);
+    QTest::newRow("ok/cancel, Escape")
+        << int(Buttons::OkCancel) << int(Qt::Key_Escape) << int(Answer::Cancel);
+    QTest::newRow("yes/no, Enter")
+        << int(Buttons::YesNo) << int(Qt::Key_Return) << int(Answer::Yes);
+    QTest::newRow("yes/no, Escape")
+        << int(Buttons::YesNo) << int(Qt::Key_Escape) << int(Answer::No);
+    QTest::newRow("yes/no, N") << int(Buttons::YesNo) << int(Qt::Key_N) << int(Answer::No);
+    QTest::newRow("yes/no/cancel, Y")
+        << int(Buttons::YesNoCancel) << int(Qt::Key_Y) << int(Answer::Yes);
+    QTest::newRow("yes/no/cancel, N")
+        << int(Buttons::YesNoCancel) << int(Qt::Key_N) << int(Answer::No);
+    QTest::newRow("yes/no/cancel, Escape")
+        << int(Buttons::YesNoCancel) << int(Qt::Key_Escape) << int(Answer::Cancel);
+}
+
+void test_qt_message_box::eachKeyIsAnAnswer() {
+    QFETCH(int, buttons);
+    QFETCH(int, key);
+    MessageRequest request;
+    request.text = "Save changes to project?";
+    request.buttons = Buttons(buttons);
+    whenShown<QMessageBox>([key](QMessageBox& box) {
+        const bool isLetter = key == Qt::Key_Y || key == Qt::Key_N;
+        QTest::keyClick(&box, Qt::Key(key), isLetter ? Qt::AltModifier : Qt::NoModifier);
+    });
+    QtMessageBox messages;
+    QTEST(int(messages.show(request)), "answer");
+}
+
+void test_qt_message_box::closingTheBoxIsTheMildestAnswer_data() {
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("ok") << int(Buttons::Ok) << int(Answer::Ok);
+    QTest::newRow("ok/cancel") << int(Buttons::OkCancel) << int(Answer::Cancel);
+    QTest::newRow("yes/no") << int(Buttons::YesNo) << int(Answer::No);
+    QTest::newRow("yes/no/cancel") << int(Buttons::YesNoCancel) << int(Answer::Cancel);
+}
+
+void test_qt_message_box::closingTheBoxIsTheMildestAnswer() {
+    QFETCH(int, buttons);
+    MessageRequest request;
+    request.text = "Text";
+    request.buttons = Buttons(buttons);
+    whenShown<QMessageBox>([](QMessageBox& box) { box.close(); });
+    QtMessageBox messages;
+    QTEST(int(messages.show(request)), "answer");
+}
+
+void test_qt_message_box::messagesAreShownAsTheyAre() {
+    MessageRequest request;
+    request.text = "Could not open /a & b/<b>x</b>.js: Is a directory";
+    request.title = "URL Failed";
+    request.icon = MessageRequest::Icon::Exclamation;
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+        QCOMPARE(box.windowTitle(), QString("URL Failed"));
+        QCOMPARE(box.icon(), QMessageBox::Warning);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::aMessageWithoutTitleHasTheProgramsName() {
+    MessageRequest request;
+    request.text = "Text";
+    whenShown<QMessageBox>([](QMessageBox& box) {
+        QCOMPARE(box.windowTitle(), QString("ZEVMenu Creator"));
+        QCOMPARE(box.icon(), QMessageBox::NoIcon);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::longPathsWrapInsideTheScreen_data() {
+    QTest::addColumn<QString>("path");
+    QTest::newRow("many folders") << QString("/some/folder").repeated(40) + "/menu.js";
+    QTest::newRow("one long name") << "/" + QString(255, 'x');
+}
+
+void test_qt_message_box::longPathsWrapInsideTheScreen() {
+    QFETCH(QString, path);
+    MessageRequest request;
+    request.text = ("Could not open " + path + ": No such file or directory").toStdString();
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+        QVERIFY(label != nullptr);
+        const QRect needed = label->fontMetrics().boundingRect(
+            QRect(0, 0, label->width(), 10000), Qt::TextWordWrap | Qt::AlignLeft, label->text());
+        QVERIFY2(needed.width() <= label->width(), "cut off at the right");
+        QVERIFY2(needed.height() <= label->height(), "cut off at the bottom");
+        QVERIFY(box.width() <= box.screen()->availableGeometry().width());
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::aBoxBelongsToTheActiveWindow() {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    MessageRequest request;
+    request.text = "Text";
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(box.parentWidget(), &window);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::buttonsHaveNoPicturesInTheProgramsStyle() {
+    MessageRequest request;
+    request.text = "Save changes to project?";
+    request.buttons = Buttons::YesNoCancel;
+    const auto picturesIn = [&](QStyle* style) {
+        QApplication::setStyle(style);
+        qsizetype count = 0;
+        whenShown<QMessageBox>([&](QMessageBox& box) {
+            for (const QAbstractButton* button : box.buttons())
+                count += button->icon().isNull() ? 0 : 1;
+            box.reject();
+        });
+        QtMessageBox().show(request);
+        return count;
+    };
+    QCOMPARE(picturesIn(new PicturedButtonStyle), 3);
+    QCOMPARE(picturesIn(new PlainButtonStyle(new PicturedButtonStyle)), 0);
+    QApplication::setStyle("Fusion");
+}
+
+void test_qt_message_box::aWindowIsNotLargerThanItsScreen() {
+    QWidget window;
+    const QSize screen = window.screen()->availableSize();
+    window.resize(screen.width() + 100, screen.height() + 100);
+    FitScreen(window);
+    QVERIFY(window.width() < screen.width() && window.height() < screen.height());
+    const QSize fitting = screen / 2;
+    window.resize(fitting);
+    FitScreen(window);
+    QCOMPARE(window.size(), fitting);
+}
+
+void test_qt_message_box::aMessageWithoutDetailsHasOnlyItsButtons() {
+    MessageRequest request;
+    request.text = "Text";
+    whenShown<QMessageBox>([](QMessageBox& box) {
+        QCOMPARE(box.buttons().size(), 1);
+        QCOMPARE(box.findChild<QTextEdit*>(), nullptr);
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::detailsAreShownWhenAskedFor() {
+    const MessageRequest request = requestWithDetails(3);
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        auto* details = box.findChild<QTextEdit*>();
+        QVERIFY(details != nullptr && !details->isVisible());
+        QCOMPARE(details->accessibleName(), QString("Details"));
+        QAbstractButton* button = detailsButton(box);
+        QVERIFY(button != nullptr);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(details->isVisible());
+        QCOMPARE(details->toPlainText(), QString::fromStdString(request.details));
+        QVERIFY(details->isReadOnly());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(!details->isVisible());
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::detailsAreReadWithTheKeyboard() {
+    const MessageRequest request = requestWithDetails(100);
+    const auto pressTabUntilOn = [](const QWidget* target) {
+        for (int presses = 0; QApplication::focusWidget() != target; ++presses) {
+            QVERIFY2(presses < 5, "the Tab key does not come there");
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+    };
+    bool isClosed = false;
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        QAbstractButton* button = detailsButton(box);
+        pressTabUntilOn(button);
+        QTest::keyClick(button, Qt::Key_Space);
+        auto* details = box.findChild<QTextEdit*>();
+        pressTabUntilOn(details);
+        QTest::keyClick(details, Qt::Key_PageDown);
+        QVERIFY(details->verticalScrollBar()->value() > 0);
+        QTest::keyClick(details, Qt::Key_A, Qt::ControlModifier);
+        QVERIFY(details->textCursor().hasSelection());
+        QTest::keyClick(details, Qt::Key_X);
+        QTest::keyClick(details, Qt::Key_Delete);
+        QCOMPARE(details->toPlainText(), QString::fromStdString(request.details));
+        pressTabUntilOn(box.button(QMessageBox::Ok));
+        pressTabUntilOn(details);
+        QTest::keyClick(details, Qt::Key_Escape);
+        isClosed = !box.isVisible();
+    });
+    QCOMPARE(QtMessageBox().show(request), Answer::Ok);
+    QVERIFY(isClosed);
+}
+
+void test_qt_message_box::detailsOfManyLinesFitTheScreen() {
+    const MessageRequest request = requestWithDetails(5000);
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QTest::mouseClick(detailsButton(box), Qt::LeftButton);
+        auto* details = box.findChild<QTextEdit*>();
+        QVERIFY(box.frameGeometry().height() <= box.screen()->availableGeometry().height());
+        QVERIFY(box.frameGeometry().width() <= box.screen()->availableGeometry().width());
+        const QFontMetrics metrics(details->font());
+        QVERIFY(details->viewport()->height() >= 8 * metrics.lineSpacing());
+        // No line of a usual length is broken. The layout follows from the event loop.
+        const QTextBlock last = details->document()->lastBlock();
+        QCOMPARE(last.blockNumber(), 4999);
+        QTRY_COMPARE(last.layout()->lineCount(), 1);
+        QTest::keyClick(details, Qt::Key_End, Qt::ControlModifier);
+        QTRY_VERIFY(details->viewport()->rect().contains(details->cursorRect(QTextCursor(last))));
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::aBoxWithDetailsIsAnsweredAsOneWithout_data() {
+    eachKeyIsAnAnswer_data();
+}
+
+void test_qt_message_box::aBoxWithDetailsIsAnsweredAsOneWithout() {
+    QFETCH(int, buttons);
+    QFETCH(int, key);
+    MessageRequest request = requestWithDetails(3);
+    request.buttons = Buttons(buttons);
+    whenShown<QMessageBox>([key](QMessageBox& box) {
+        QVERIFY(detailsButton(box) != nullptr);
+        const bool isLetter = key == Qt::Key_Y || key == Qt::Key_N;
+        QTest::keyClick(&box, Qt::Key(key), isLetter ? Qt::AltModifier : Qt::NoModifier);
+    });
+    QTEST(int(QtMessageBox().show(request)), "answer");
+}
+
+QTEST_MAIN(test_qt_message_box)
+#include "test_qt_message_box.moc"
