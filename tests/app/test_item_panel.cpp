@@ -111,6 +111,14 @@ class test_item_panel : public QObject {
         QApplication::setPalette(before);
     }
 
+    void disabledFieldsHaveTheColourOfButtonsFromTheStart() {
+        WindowDesk desk;
+        const QPalette palette = QApplication::palette();
+        QVERIFY(palette.color(QPalette::Button) != palette.color(QPalette::Base));
+        for (const QString& name : kFields)
+            QCOMPARE(paintedColour(desk.field(name)), palette.color(QPalette::Button));
+    }
+
     void theLabelFollowsTheCaptionAtOnce() {
         WindowDesk desk;
         desk.choose("mnuEditAddMenuItem");

@@ -1,7 +1,9 @@
 // The three tabs: what switching to one does, and that the one shown follows the menu.
 
 #include <QAction>
+#include <QClipboard>
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 #include "imported_products.h"
 #include "window_desk.h"
@@ -54,6 +56,16 @@ class test_tabs : public QObject {
         QTest::keyClicks(&desk.script(), "x");
         QTest::keyClick(&desk.script(), Qt::Key_Delete);
         QCOMPARE(desk.script().toPlainText(), before);
+    }
+
+    void theScriptCanBeCopiedWithTheKeyboard() {
+        WindowDesk desk;
+        desk.clickTab("JavaScript");
+        desk.script().setFocus();
+        QTest::keyClick(&desk.script(), Qt::Key_Down);
+        QTest::keyClick(&desk.script(), Qt::Key_End, Qt::ShiftModifier);
+        QTest::keyClick(&desk.script(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), desk.expectedScript().section('\n', 1, 1));
     }
 
     void theScriptIsShownInTheSystemsFontForPrograms() {
