@@ -70,27 +70,17 @@ bool MenuTree::isVisible(const MenuNode& node) const {
 }
 
 void MenuTree::reserve(std::size_t count) {
-    m_nodes.reserve(count);
-}
-
-MenuNode* MenuTree::insert(MenuNode* parent, std::size_t row, std::string key, std::string text,
-                           ItemProp item) {
-    return insertNode(parent, row, std::move(key), std::move(text), std::move(item));
+    // Twice as much: the nodes lie scattered in memory, and looking at one only because it shares a
+    // bucket with the one sought is slow.
+    m_nodes.reserve(2 * count);
 }
 
 MenuNode* MenuTree::append(MenuNode* parent, std::string key, std::string text, ItemProp item) {
-    return insertNode(parent, childrenOf(parent).size(), std::move(key), std::move(text),
-                      std::move(item));
-}
-
-MenuNode* MenuTree::insertNode(MenuNode* parent, std::size_t row, std::string&& key,
-                               std::string&& text, ItemProp&& item) {
     Siblings& siblings = mutableChildrenOf(parent);
-    assert(row <= siblings.size());
     if (m_observer) {
         if (m_nodes.contains(key))
             return nullptr;
-        m_observer->aboutToInsert(parent, row);
+        m_observer->aboutToInsert(parent, siblings.size());
     }
     const auto [entry, isNew] =
         m_nodes.try_emplace(std::move(key), std::move(text), std::move(item));
@@ -99,8 +89,8 @@ MenuNode* MenuTree::insertNode(MenuNode* parent, std::size_t row, std::string&& 
     MenuNode* const node = &entry->second;
     node->m_key = &entry->first;
     node->m_parent = parent;
-    siblings.insert(At(siblings, row), node);
-    renumber(siblings, row);
+    node->m_row = siblings.size();
+    siblings.push_back(node);
     if (m_observer)
         m_observer->inserted();
     return node;

@@ -91,10 +91,8 @@ class MenuTree {
 
     /// Makes room for `count` nodes in all, so that adding them rearranges nothing.
     void reserve(std::size_t count);
-    /// Inserts a new node before `row` of `parent` (null: top level); `row` may equal the count.
-    /// Returns null and changes nothing when the key is taken.
-    MenuNode* insert(MenuNode* parent, std::size_t row, std::string key, std::string text,
-                     ItemProp item = {});
+    /// Adds a new node as the last child of `parent` (null: top level). Returns null and changes
+    /// nothing when the key is taken.
     MenuNode* append(MenuNode* parent, std::string key, std::string text, ItemProp item = {});
     /// Removes a node with its subtree.
     void remove(MenuNode& node);
@@ -113,12 +111,21 @@ class MenuTree {
     void setObserver(MenuTreeObserver* observer) { m_observer = observer; }
 
   private:
+    /// Keys that differ in their last digit, as those of neighbouring items do, get neighbouring
+    /// places in the index. Spread all over it, each would be a cache miss of its own.
+    struct KeyHash {
+        std::size_t operator()(const std::string& key) const {
+            std::size_t hash = 0;
+            for (const char c : key)
+                hash = 31 * hash + static_cast<unsigned char>(c);
+            return hash;
+        }
+    };
+
     std::vector<MenuNode*>& mutableChildrenOf(MenuNode* parent);
-    MenuNode* insertNode(MenuNode* parent, std::size_t row, std::string&& key, std::string&& text,
-                         ItemProp&& item);
     static void renumber(const std::vector<MenuNode*>& siblings, std::size_t firstRow);
 
-    std::unordered_map<std::string, MenuNode> m_nodes;  ///< by key; its elements never move
+    std::unordered_map<std::string, MenuNode, KeyHash> m_nodes;  ///< by key; they never move
     std::vector<MenuNode*> m_topLevel;
     MenuTreeObserver* m_observer = nullptr;
 };

@@ -57,7 +57,7 @@ class Editor {
             case 0:
             case 1: {
                 const std::string key = "k" + std::to_string(m_nextKey++);
-                m_tree.insert(other, below(count + 1), key, key);
+                m_tree.move(*m_tree.append(other, key, key), other, below(count + 1));
                 break;
             }
             case 2:

@@ -55,22 +55,22 @@ TEST_F(MenuTreeTest, NeighboursParentsAndChildren) {
     EXPECT_FALSE(node("A").hasChildren());
 }
 
-TEST_F(MenuTreeTest, InsertPutsTheNodeBeforeTheRow) {
-    tree.insert(nullptr, 0, "front", "front");
-    tree.insert(&node("B"), 1, "middle", "middle");
-    tree.insert(nullptr, 4, "end", "end");
-    EXPECT_EQ(TreeText(tree), "front\nA\nB\n  B1\n    B11\n  middle\n  B2\nC\nend\n");
+TEST_F(MenuTreeTest, AppendPutsTheNodeBehindTheLastChild) {
+    tree.append(&node("B"), "B3", "B3");
+    tree.append(&node("A"), "A1", "A1");
+    tree.append(nullptr, "D", "D");
+    EXPECT_EQ(TreeText(tree), "A\n  A1\nB\n  B1\n    B11\n  B2\n  B3\nC\nD\n");
     ExpectSoundTree(tree);
 }
 
-TEST_F(MenuTreeTest, InsertHandsTheItemToTheNode) {
+TEST_F(MenuTreeTest, AppendHandsTheItemToTheNode) {
     ItemProp item;
     item.URL = "a.html";
     EXPECT_EQ(tree.append(nullptr, "new", "New", item)->item, item);
 }
 
 TEST_F(MenuTreeTest, AKeyThatIsTakenIsRefused) {
-    EXPECT_EQ(tree.insert(&node("A"), 0, "B11", "twin"), nullptr);
+    EXPECT_EQ(tree.append(&node("A"), "B11", "twin"), nullptr);
     EXPECT_EQ(TreeText(tree), "A\nB\n  B1\n    B11\n  B2\nC\n");
     ExpectSoundTree(tree);
 }
@@ -228,8 +228,8 @@ class MenuTreeObserverTest : public MenuTreeTest {
 };
 
 TEST_F(MenuTreeObserverTest, AnInsertionIsBracketed) {
-    tree.insert(nullptr, 1, "new", "new");
-    EXPECT_EQ(observer.takeLog(), "insert top 1; 6 -> 7 inserted\n");
+    tree.append(nullptr, "new", "new");
+    EXPECT_EQ(observer.takeLog(), "insert top 3; 6 -> 7 inserted\n");
     tree.append(&node("B"), "last", "last");
     EXPECT_EQ(observer.takeLog(), "insert B 2; 7 -> 8 inserted\n");
 }
