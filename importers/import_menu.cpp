@@ -30,8 +30,10 @@ std::vector<ImportWarning> ReadLines(ImportFormat format, DefinitionLines& lines
 
 ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuDocument& document) {
     DefinitionLines lines(bytes);
-    // Nearly every line is an item; of another file no more is taken than a menu can hold.
-    document.tree.reserve(std::min<std::size_t>(lines.lineEndCount(), kMaxItemCounter));
+    // About the length of a short item's line; of another file no more is taken than a menu can
+    // hold.
+    constexpr std::size_t kShortLineBytes = 16;
+    document.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
     ImportResult result{ReadLines(format, lines, document)};
     document.CurNode = document.tree.firstNode();
     document.selectedNode = document.CurNode;

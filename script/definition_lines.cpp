@@ -1,15 +1,12 @@
 #include "script/definition_lines.h"
 
-#include <algorithm>
-
 #include "model/text_rules.h"
 #include "script/text_encoding.h"
 
 namespace zev {
 
 DefinitionLines::DefinitionLines(std::string_view bytes)
-    : m_rest(DecodeDefinition(bytes, m_converted)),
-      m_lineEndCount(static_cast<std::size_t>(std::count(m_rest.begin(), m_rest.end(), '\n'))) {}
+    : m_rest(DecodeDefinition(bytes, m_converted)) {}
 
 bool DefinitionLines::next(std::string_view& line) {
     if (m_rest.empty())

@@ -17,8 +17,6 @@ class DefinitionLines {
     DefinitionLines(const DefinitionLines&) = delete;
     DefinitionLines& operator=(const DefinitionLines&) = delete;
 
-    /// Number of line ends in the whole file; its last line may have none.
-    std::size_t lineEndCount() const { return m_lineEndCount; }
     /// The number of the line that `next` gave last, counted from 1.
     std::size_t number() const { return m_number; }
 
@@ -29,7 +27,6 @@ class DefinitionLines {
   private:
     std::string m_converted;
     std::string_view m_rest;
-    std::size_t m_lineEndCount;
     std::size_t m_number = 0;
 };
 

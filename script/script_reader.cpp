@@ -63,20 +63,18 @@ class ScriptReader {
             ++m_errorCount;
             return;
         }
-        MenuNode* const node =
-            m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber), "");
-        if (!node) {
-            ++m_errorCount;
-            return;
-        }
-        ++m_document.ItemCounter;
-        ItemProp& item = node->item;
+        ItemProp item;
         item.MenuProperty = NewItemMenuProp();
         if (isRollover)
             item.Set_ImageProperty(line);
         else
             item.Set_ItemProperty(line);
-        m_document.tree.setText(*node, isRollover ? item.ImageOut : item.Caption);
+        std::string text = isRollover ? item.ImageOut : item.Caption;
+        if (m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
+                                   std::move(text), std::move(item)))
+            ++m_document.ItemCounter;
+        else
+            ++m_errorCount;
     }
 
     MenuDocument& m_document;
@@ -90,9 +88,10 @@ class ScriptReader {
 
 ReadResult ReadScript(std::string_view bytes, MenuDocument& document) {
     DefinitionLines lines(bytes);
-    // Nearly every line of a definition is an item; of another file no more is taken than a menu
-    // can hold.
-    document.tree.reserve(std::min<std::size_t>(lines.lineEndCount(), kMaxItemCounter));
+    // About the length of a short item's line; of another file no more is taken than a menu can
+    // hold.
+    constexpr std::size_t kShortLineBytes = 32;
+    document.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
     ScriptReader reader(document);
     std::string_view line;
     while (lines.next(line))

@@ -48,12 +48,6 @@ TEST(DefinitionLines, AreUtf8WithoutAByteOrderMark) {
     EXPECT_EQ(LinesOf("a\ncaf\xE9"), "1[a]2[caf\xC3\xA9]");
 }
 
-TEST(DefinitionLines, KnowTheNumberOfLineEndsBeforeTheFirstIsGiven) {
-    EXPECT_EQ(DefinitionLines("").lineEndCount(), 0u);
-    EXPECT_EQ(DefinitionLines("a\nb").lineEndCount(), 1u);
-    EXPECT_EQ(DefinitionLines("a\r\n\r\n").lineEndCount(), 2u);
-}
-
 TEST(DefinitionLines, LeaveTheTextAloneAtTheEnd) {
     DefinitionLines lines("a");
     std::string_view line;
