@@ -1,9 +1,9 @@
 #include "script/script_writer.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "script/submenu_walk.h"
+#include "script/text_encoding.h"
 
 namespace zev {
 
@@ -50,9 +50,7 @@ std::string GenerateScript(const MenuDocument& document) {
 }
 
 std::string DefinitionFileBytes(std::string script) {
-    const bool isAscii =
-        std::all_of(script.begin(), script.end(), [](char c) { return (c & 0x80) == 0; });
-    if (!isAscii)
+    if (!IsAscii(script))
         script.insert(0, "\xEF\xBB\xBF");
     script += kLineEnd;
     return script;

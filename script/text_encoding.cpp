@@ -59,6 +59,10 @@ std::size_t SequenceLength(std::string_view bytes, std::size_t offset) {
 
 }  // namespace
 
+bool IsAscii(std::string_view bytes) {
+    return SkipAscii(bytes, 0) == bytes.size();
+}
+
 bool IsValidUtf8(std::string_view bytes) {
     std::size_t offset = SkipAscii(bytes, 0);
     while (offset < bytes.size()) {

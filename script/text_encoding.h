@@ -5,6 +5,9 @@
 
 namespace zev {
 
+/// True when every byte is below 0x80.
+bool IsAscii(std::string_view bytes);
+
 /// True when `bytes` is well-formed UTF-8 (Unicode standard, table 3-7: no surrogates, no overlong
 /// forms).
 bool IsValidUtf8(std::string_view bytes);

@@ -8,6 +8,19 @@
 namespace zev {
 namespace {
 
+TEST(IsAscii, IsTrueUnlessAnyByteHasItsHighBit) {
+    // At every offset from the blocks of eight that are looked at together.
+    for (std::size_t length = 0; length < 18; ++length) {
+        const std::string ascii(length, '\x7F');
+        EXPECT_TRUE(IsAscii(ascii)) << length;
+        for (std::size_t offset = 0; offset < length; ++offset) {
+            std::string text = ascii;
+            text[offset] = '\x80';
+            EXPECT_FALSE(IsAscii(text)) << offset << " of " << length;
+        }
+    }
+}
+
 TEST(IsValidUtf8, AcceptsWellFormedText) {
     for (const char* text :
          {"", "ascii", "\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xEC\xBF\xBF",
