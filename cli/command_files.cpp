@@ -26,6 +26,11 @@ FileResult<std::string> readStandardInput() {
 
 }  // namespace
 
+MenuDocument& commandDocument() {
+    static MenuDocument* const document = new MenuDocument("");
+    return *document;
+}
+
 void printProblem(const std::string& problem) {
     std::cerr << "zevmenu: " << problem << '\n';
 }

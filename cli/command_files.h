@@ -17,6 +17,10 @@ enum class ExitStatus {
     FileProblem = 3  ///< a file could not be read or written
 };
 
+/// The one document of this process, new when its command begins. It is never taken apart: node by
+/// node that takes a large part of a command's time, and the system gets the memory back anyway.
+MenuDocument& commandDocument();
+
 /// Prints one line on standard error, after the program's name.
 void printProblem(const std::string& problem);
 

@@ -14,6 +14,7 @@ namespace zev {
 
 namespace {
 
+/// For files of this system, where a backslash may be part of a name.
 std::string joinPath(const std::string& folder, std::string_view name) {
     return (std::filesystem::path(folder) / name).string();
 }
@@ -43,7 +44,7 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable,
 }  // namespace
 
 ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output) {
-    MenuDocument document("");
+    MenuDocument& document = commandDocument();
     const std::optional<ExitStatus> status = readDefinition(files, input, document);
     if (!status || !writeDefinition(files, output, document))
         return ExitStatus::FileProblem;
@@ -56,7 +57,7 @@ ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
         printProblem(bytes.error());
         return ExitStatus::FileProblem;
     }
-    MenuDocument document("");
+    MenuDocument& document = commandDocument();
     const ImportResult result = ImportMenu(options.format, bytes.value(), document);
     if (!writeDefinition(files, options.output, document))
         return ExitStatus::FileProblem;
@@ -79,7 +80,7 @@ ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options) {
     const std::optional<std::string> to = fullFolder(options.to);
     if (!from || !to)
         return ExitStatus::FileProblem;
-    MenuDocument document("");
+    MenuDocument& document = commandDocument();
     const std::optional<ExitStatus> status = readDefinition(files, options.input, document);
     if (!status)
         return ExitStatus::FileProblem;
@@ -88,7 +89,7 @@ ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options) {
 }
 
 ExitStatus submenusCommand(const FileSystem& files, const std::string& input) {
-    MenuDocument document("");
+    MenuDocument& document = commandDocument();
     const std::optional<ExitStatus> status = readDefinition(files, input, document);
     if (!status)
         return ExitStatus::FileProblem;
@@ -109,7 +110,7 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
         printProblem(input + ": has the name of a run-time file that goes beside it");
         return ExitStatus::WrongUse;
     }
-    MenuDocument document("");
+    MenuDocument& document = commandDocument();
     const std::optional<ExitStatus> status = readDefinition(files, input, document);
     if (!status)
         return ExitStatus::FileProblem;

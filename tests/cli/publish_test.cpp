@@ -51,6 +51,12 @@ TEST_F(PublishTest, IntoItsOwnFolderRewritesTheDefinitionAsTheEditorWould) {
     EXPECT_EQ(namesIn(folder.path()).size(), 5U);
 }
 
+TEST_F(PublishTest, AFoldersNameMayHoldABackslash) {
+    std::filesystem::create_directory(folder / "odd\\site");
+    EXPECT_EQ(run({"publish", "menu.js", "odd\\site"}).status, 0);
+    EXPECT_EQ(contentOf(folder / "odd\\site/menu.js"), kSmallDefinition);
+}
+
 TEST_F(PublishTest, NeedsAFolderThatIsThere) {
     struct Case {
         const char* folder;
