@@ -1,6 +1,5 @@
 #include "model/text_rules.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace zev {
@@ -9,19 +8,12 @@ namespace {
 
 constexpr auto npos = std::string_view::npos;
 
-/// Offset of the last code point of `text`, which is not empty. A truncated sequence at the end
-/// counts as one code point; a byte that belongs to no sequence counts as one by itself.
+/// Offset of the last code point of `text`; 0 when it is empty.
 std::size_t LastCodePointOffset(std::string_view text) {
-    const std::size_t last = text.size() - 1;
-    for (std::size_t continuationCount = 0; continuationCount <= std::min<std::size_t>(last, 3);
-         ++continuationCount) {
-        const auto byte = static_cast<unsigned char>(text[last - continuationCount]);
-        if ((byte & 0xC0) == 0x80)
-            continue;
-        const std::size_t expected = byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : byte >= 0xC0 ? 1 : 0;
-        return continuationCount <= expected ? last - continuationCount : last;
+    std::size_t offset = text.size();
+    while (offset > 0 && (text[--offset] & 0xC0) == 0x80) {
     }
-    return last;
+    return offset;
 }
 
 std::string WithoutCharacter(std::string_view text, char unwanted) {
@@ -82,7 +74,7 @@ std::string GetPropValue(std::string_view line) {
     // A value that is not closed ends before the line's last character, which is usually the
     // semicolon.
     if (end == npos || end == start)
-        end = line.empty() ? 0 : LastCodePointOffset(line);
+        end = LastCodePointOffset(line);
     const std::size_t first = start == npos ? 0 : start + 1;
     return end <= first ? std::string() : std::string(line.substr(first, end - first));
 }
