@@ -140,7 +140,7 @@ constexpr TextProperty kTextProperties[] = {
     {"fshadow", &MenuProp::FilterShadow},
 };
 
-bool SetFontProperty(MenuProp& prop, std::string_view name, std::string_view value) {
+void SetFontProperty(MenuProp& prop, std::string_view name, std::string_view value) {
     if (name == "fontFamily")
         prop.FontFamily = value;
     else if (name == "fontSize")
@@ -150,9 +150,8 @@ bool SetFontProperty(MenuProp& prop, std::string_view name, std::string_view val
     else if (name == "fontWeight")
         prop.FontWeight = value == "bold";
     else
-        return false;
+        return;
     prop.FontSet = true;
-    return true;
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ struct MenuProp {
     std::string MenuOffset;     ///< pixels between item and submenu; defaults only
     std::string CloseDelay;     ///< milliseconds; defaults only
     bool FontSet = false;       ///< this level has fonts of its own
-    std::string FilterOpacity;  ///< 1 to 100
+    std::string FilterOpacity;  ///< percent, 1 to 100
     std::string FilterShadow;   ///< shadow colour
     std::string FilterFade;     ///< seconds, 0 to 5
 

@@ -16,6 +16,7 @@ struct PathParts {
     std::string folder;  ///< without its last separator; "/" for a file in the root directory
 };
 
+/// Cuts at the last separator; a path without one has no folder.
 PathParts SplitPath(std::string_view path);
 
 /// `folder` and `name` joined by the separator of the folder's own form; a folder that is the root
