@@ -147,7 +147,9 @@ void addPublish(CLI::App& program, FileSystem& files, Command& chosen) {
     CLI::App& command = addCommand(
         program, "publish", "Write a menu definition and the run-time scripts into a folder");
     addInput(command, options->input);
-    command.add_option("DIR", options->folder, "Folder of the web site; it must exist")->required();
+    command.add_option("DIR", options->folder, "Folder of the web site; it must exist")
+        ->required()
+        ->check(refuseEmpty);
     command.callback([&files, &chosen, options] {
         chosen = [&files, options] {
             return publishCommand(files, runningProgram(), options->input, options->folder);

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <filesystem>
+
 #include "tests/cli/run_program.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_files.h"
@@ -41,6 +44,7 @@ TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
         {"submenus", "in.js", "-o", "a.js"},
         {"publish", "in.js"},
         {"publish", "-", "."},
+        {"publish", "in.js", ""},
         {"linkcode"},
         {"linkcode", "--definition", ""},
         {"linkcode", "--definition", "m.js", "in.js"},
@@ -96,6 +100,8 @@ TEST(CommandLineTest, HelpAndVersionAreEverywhereAndGoToStandardOutput) {
 TEST(CommandLineTest, InputThatCannotBeReadHasStatusThreeAndNamesFileAndReason) {
     const TempFolder folder;
     makeFile(folder / "binary.js", std::string("zevmenu\0", 8));
+    makeFile(folder / "zeros.js", "");
+    std::filesystem::resize_file(folder / "zeros.js", std::uintmax_t{2} << 30);
     struct Case {
         const char* input;
         const char* problem;
@@ -104,6 +110,7 @@ TEST(CommandLineTest, InputThatCannotBeReadHasStatusThreeAndNamesFileAndReason) 
         {"missing.js", "zevmenu: missing.js: No such file or directory\n"},
         {".", "zevmenu: .: Is a directory\n"},
         {"binary.js", "zevmenu: binary.js: is not a text file\n"},
+        {"zeros.js", "zevmenu: zeros.js: larger than 256 MiB, which no menu definition is\n"},
         {"/dev/zero", "zevmenu: /dev/zero: larger than 256 MiB, which no menu definition is\n"},
     };
     for (const Case& c : cases) {
@@ -119,7 +126,45 @@ TEST(CommandLineTest, InputThatCannotBeReadHasStatusThreeAndNamesFileAndReason) 
             EXPECT_EQ(result.output, "");
         }
     }
-    EXPECT_EQ(namesIn(folder.path()), Arguments{"binary.js"});
+    EXPECT_EQ(namesIn(folder.path()), (Arguments{"binary.js", "zeros.js"}));
+}
+
+TEST(CommandLineTest, InputThatMayNotBeReadIsNamedWithTheReason) {
+    const TempFolder folder;
+    std::filesystem::permissions(folder.path(), std::filesystem::perms{0755});
+    const std::string input = folder / "in.js";
+    makeFile(input, kSmallDefinition);
+    std::filesystem::permissions(input, std::filesystem::perms::none);
+    const ProgramResult result =
+        runProgramAt(ZEVMENU_AS_ORDINARY_USER, {ZEVMENU_PROGRAM, "submenus", input}, folder.path());
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.problems, "zevmenu: " + input + ": Permission denied\n");
+}
+
+TEST(CommandLineTest, ARelativePathNeedsACurrentFolder) {
+    struct Case {
+        Arguments arguments;
+        const char* path;
+    };
+    const Case cases[] = {
+        {{"rebase", "--from", "a", "--to", "/b", "-"}, "a"},
+        {{"rebase", "--from", "/a", "--to", "b", "-"}, "b"},
+        {{"integrate", "--definition", "m.js", "--library", "/lib", "/p.htm"}, "m.js"},
+        {{"integrate", "--definition", "/m.js", "--library", "lib", "/p.htm"}, "lib"},
+        {{"integrate", "--definition", "/m.js", "--library", "/lib", "p.htm"}, "p.htm"},
+    };
+    for (const Case& c : cases) {
+        const TempFolder folder;
+        Arguments arguments{"-c", "mkdir gone && cd gone && rmdir ../gone && exec \"$0\" \"$@\"",
+                            ZEVMENU_PROGRAM};
+        arguments.insert(arguments.end(), c.arguments.begin(), c.arguments.end());
+        const ProgramResult result =
+            runProgramAt("/bin/sh", arguments, folder.path(), kSmallDefinition);
+        EXPECT_EQ(result.status, 3) << c.path;
+        EXPECT_EQ(result.problems,
+                  "zevmenu: " + std::string(c.path) + ": No such file or directory\n");
+        EXPECT_EQ(result.output, "");
+    }
 }
 
 TEST(CommandLineTest, StandardInputThatCannotBeReadIsNamed) {

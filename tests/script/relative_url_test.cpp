@@ -146,6 +146,7 @@ TEST(ToRelativeURL, ABaseThatIsTheRootGetsNoSecondSeparator) {
     CheckRelative({
         {"/", "/a.html", "a.html"},
         {"/", "/web/a.html", "web/a.html"},
+        {"//", "/web/a.html", "web/a.html"},
     });
 }
 
@@ -250,6 +251,7 @@ TEST(ToAbsolutePath, ABaseThatIsTheRootGetsNoSecondSeparator) {
     CheckAbsolute({
         {"/", "a.gif", "/a.gif"},
         {"/", "../a.gif", "/a.gif"},
+        {"//", "a.gif", "/a.gif"},
     });
 }
 
