@@ -1,7 +1,9 @@
 #include "platform/qt/web_engine_view.h"
 
+#include <QGuiApplication>
 #include <QMenu>
 #include <QOpenGLContext>
+#include <QPalette>
 #include <QVBoxLayout>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
@@ -27,6 +29,15 @@ void drawWithoutOpenGL() {
     // that was never created has one, and tells it not to use OpenGL.
     if (QOpenGLContext::globalShareContext() == nullptr) {
         qt_gl_set_global_share_context(new QOpenGLContext);
+    }
+}
+
+/// Tells the engine when the desktop's theme is dark, which it does not ask for by itself: the
+/// manual, and pages that have a dark look, follow.
+void followTheme() {
+    constexpr const char* kFlags = "QTWEBENGINE_CHROMIUM_FLAGS";
+    if (QGuiApplication::palette().color(QPalette::Base).lightness() < 128) {
+        qputenv(kFlags, qgetenv(kFlags) + " --blink-settings=preferredColorScheme=0");
     }
 }
 
@@ -107,6 +118,7 @@ WebView* WebEngineViewFactory::create(QWidget* parent, QString& problem) {
     }
     static const bool isPrepared = [] {
         drawWithoutOpenGL();
+        followTheme();
         return true;
     }();
     Q_UNUSED(isPrepared)

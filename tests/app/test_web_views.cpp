@@ -13,6 +13,7 @@
 #include "page_probe.h"
 #include "platform/qt/qt_browser_view.h"
 #include "platform/qt/qt_help_viewer.h"
+#include "theme_palettes.h"
 
 using namespace zev;
 
@@ -58,7 +59,9 @@ class test_web_views : public QObject {
     Q_OBJECT
 
   private slots:
+    void initTestCase();
     void theEngineStartsWithTheFirstPage();
+    void pagesFollowADarkTheme();
     void theEndOfLoadingIsTold();
     void scriptsAndImagesOfTheFolderAreLoaded();
     void aPageIsReadAfreshEachTime();
@@ -94,6 +97,19 @@ void test_web_views::whereTheEngineWouldEndTheProgramANoteSaysWhatToDo() {
     QVERIFY(note->isVisible());
     QVERIFY2(note->text().contains("Start the program as an ordinary user"),
              qPrintable(note->text()));
+}
+
+void test_web_views::initTestCase() {
+    QApplication::setPalette(darkPalette());
+}
+
+void test_web_views::pagesFollowADarkTheme() {
+    QTemporaryDir folder;
+    const QString page = write(folder, "index.html", "<p>Manual</p>");
+    QtHelpViewer help;
+    help.show(page.toStdString());
+    TRY_IN_PAGE(*help.window(), "document.body.innerText", "Manual");
+    TRY_IN_PAGE(*help.window(), "matchMedia('(prefers-color-scheme: dark)').matches", "true");
 }
 
 void test_web_views::theEndOfLoadingIsTold() {
@@ -277,8 +293,9 @@ void test_web_views::theMenuOfThePreviewOpensAndIsDrawn() {
                 "rect('One').top == rect('Two').top && rect('One').right <= rect('Two').left &&"
                 "rect('Three').top >= rect('One').bottom && rect('Three').left == rect('One').left",
                 "true");
-    evaluateInPage(view, "item('Two').dispatchEvent(new PointerEvent('pointermove', "
-                         "{ pointerType: 'mouse', bubbles: true, composed: true })); 0");
+    evaluateInPage(view,
+                   "item('Two').dispatchEvent(new PointerEvent('pointermove', "
+                   "{ pointerType: 'mouse', bubbles: true, composed: true })); 0");
     TRY_IN_PAGE(view, "item('Below').getClientRects().length", "1");
     TRY_IN_PAGE(view, "item('Two').getAttribute('aria-expanded')", "true");
     TRY_IN_PAGE(view,
