@@ -22,10 +22,12 @@ def commands_in(help_text):
 
 
 def options_in(help_text):
-    """Every spelling of every option listed under "Options:"."""
+    """Every spelling of every option listed under "Options:", and the name of its argument."""
     listed = help_text.split("Options:\n")[1].split("\n\n")[0]
-    return {option for line in re.findall(r"^  (-\S+)", listed, re.MULTILINE)
-            for option in line.split(",")}
+    return {(option, argument)
+            for spellings, argument in re.findall(r"^  (-\S+)(?: (?!Needs:)([A-Z]\S*))?(?= |$)", listed,
+                                                  re.MULTILINE)
+            for option in spellings.split(",")}
 
 
 def arguments_in(help_text):
@@ -39,7 +41,8 @@ def options_on(page):
     """The options that head a paragraph: lines of the form ".It Fl o Ar OUT , Fl -output Ar OUT"."""
     options = set()
     for line in re.findall(r"^\.It (Fl .*)$", page, re.MULTILINE):
-        options.update("-" + name for name in re.findall(r"Fl (\S+)", line))
+        for name, argument in re.findall(r"Fl (\S+)(?: Ar (\S+(?: , Ns Ar \S+)*))?", line):
+            options.add(("-" + name, argument.replace(" , Ns Ar ", ",")))
     return options
 
 
