@@ -195,6 +195,7 @@ void test_qt_file_dialogs::filesOfSeveralFoldersAreRefused() {
     QString notice;
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         whenShown<QMessageBox>([&](QMessageBox& box) {
+            QCOMPARE(box.windowTitle(), QString("ZEVMenu Creator"));
             notice = textOf(box);
             whenShown<QFileDialog>([&](QFileDialog& again) { again.reject(); });
             QTest::keyClick(&box, Qt::Key_Return);
@@ -256,6 +257,7 @@ void test_qt_file_dialogs::saveAsksAboutTheFileThatIsReallyReplaced() {
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         whenShown<QMessageBox>([&](QMessageBox& box) {
             isAsked = true;
+            QCOMPARE(box.windowTitle(), QString("ZEVMenu Creator"));
             QCOMPARE(textOf(box), QString("menu.js already exists.\nDo you want to replace it?"));
             // After No the dialog is there again, for another name.
             whenShown<QFileDialog>([](QFileDialog& again) { typeName(again, "other"); });
