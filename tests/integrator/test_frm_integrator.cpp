@@ -138,6 +138,46 @@ class test_frm_integrator : public QObject {
         }
     }
 
+    void theTabKeyGoesRightAndDown() {
+        WizardDesk desk;
+        desk.goToMenuFrame();
+        desk.choosePopup();
+        desk.click("optXY");
+        desk.type("txtX", "10");
+        desk.type("txtY", "20");
+        desk.next(2);
+        const auto placeOf = [&](const QWidget& control) {
+            return QRect(control.mapTo(&desk.wizard, QPoint()), control.size());
+        };
+        const QString buttons = " btnBack btnNext btnExit";
+        const QStringList controls{
+            buttons.trimmed(),
+            "comboFiles BtnInputFile txtPathname chkBackup chkKeepScripts" + buttons,
+            "txtPath btnPath txtMenuDef btnMenuDef" + buttons,
+            "cboIntegration cboMenuList optXY txtX txtY" + buttons,
+            "txtReport btnSaveReport" + buttons,
+            "txtCode btnCopyCode txtLinkCode btnCopyLinkCode" + buttons};
+        for (int step = 5; step >= 0; --step) {
+            desk.button("btnExit").setFocus();
+            QTest::keyClick(&desk.wizard, Qt::Key_Tab);
+            QStringList names{desk.wizard.focusWidget()->objectName()};
+            while (desk.wizard.focusWidget()->objectName() != "btnExit") {
+                const QRect before = placeOf(*desk.wizard.focusWidget());
+                QTest::keyClick(desk.wizard.focusWidget(), Qt::Key_Tab);
+                const QWidget& control = *desk.wizard.focusWidget();
+                const QRect place = placeOf(control);
+                const bool isInRow =
+                    place.top() <= before.bottom() && place.bottom() >= before.top();
+                QVERIFY2(
+                    place.top() > before.bottom() || (isInRow && place.left() > before.right()),
+                    qPrintable(control.objectName()));
+                names.append(control.objectName());
+            }
+            QCOMPARE(names.join(' '), controls[step]);
+            desk.click("btnBack");
+        }
+    }
+
     void everyFieldHasALabelAndEveryControlANameOfItsOwn() {
         WizardDesk desk;
         QSet<QWidget*> labelled;
