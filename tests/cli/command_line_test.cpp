@@ -205,6 +205,19 @@ TEST(CommandLineTest, OutputThatCannotBeWrittenHasStatusThree) {
     }
 }
 
+// As on a network drive, which may tell only then that there is no room.
+TEST(CommandLineTest, OutputThatFailsWhenItIsClosedHasStatusThree) {
+    const TempFolder folder;
+    const std::string command =
+        "export ASAN_OPTIONS=detect_leaks=0; exec strace -qq -o trace -P \"$PWD/out\" "
+        "-e trace=close -e inject=close:error=EIO \"$0\" format - > out";
+    const ProgramResult result =
+        runProgramAt("/bin/sh", {"-c", command, ZEVMENU_PROGRAM}, folder.path(), kSmallDefinition);
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.problems, "zevmenu: standard output: Input/output error\n");
+    EXPECT_EQ(contentOf(folder / "out"), kSmallDefinition);
+}
+
 TEST(CommandLineTest, NamesThatLookLikeOptionsFollowADoubleDash) {
     const TempFolder folder;
     makeFile(folder / "-o", kSmallDefinition);
