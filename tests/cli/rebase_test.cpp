@@ -73,6 +73,17 @@ TEST_F(RebaseTest, TakesFoldersInEveryForm) {
         EXPECT_EQ(firstUrl(c.from, c.to), c.url) << c.from << " to " << c.to;
 }
 
+TEST_F(RebaseTest, TheSameFolderInTwoSpellingsChangesNothing) {
+    // A step above the root is lost as soon as a URL is recalculated at all.
+    std::string definition = kSmallDefinition;
+    definition.insert(definition.find("index.html"), "../../../");
+    makeFile(folder / "in.js", definition);
+    for (const char* const from : {"/web/", "/web/.", "/x/../web", "/web"})
+        EXPECT_EQ(firstUrl(from, "/web"), "../../../index.html") << from;
+    EXPECT_EQ(firstUrl("C:\\web\\", "C:\\web"), "../../../index.html");
+    EXPECT_EQ(firstUrl("/web", "/x"), "../index.html");
+}
+
 TEST_F(RebaseTest, MayReplaceItsOwnInput) {
     const ProgramResult result = runZevmenu(
         {"rebase", "--from", "/web", "--to", "/web/menu", "in.js", "-o", "in.js"}, folder.path());
