@@ -2,12 +2,11 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QMenu>
 #include <QSignalSpy>
-#include <QTimer>
 #include <stdexcept>
 
+#include "app/frm_about.h"
 #include "integrator/frm_integrator.h"
 #include "script/script_writer.h"
 #include "when_shown.h"
@@ -34,6 +33,65 @@ class test_frm_main_commands : public QObject {
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator (/site/menu.js)");
         desk.choose("mnuFileNew");
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator");
+    }
+
+    void newWithChangesAsks_data() {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("tree");
+        QTest::newRow("yes, saved") << int(Answer::Yes) << "/site/menu.js"
+                                    << "";
+        QTest::newRow("yes, dialog cancelled") << int(Answer::Yes) << ""
+                                               << "";
+        QTest::newRow("no") << int(Answer::No) << ""
+                            << "";
+        QTest::newRow("cancel") << int(Answer::Cancel) << ""
+                                << "*It\\'s\n";
+    }
+    void newWithChangesAsks() {
+        QFETCH(int, answer);
+        QFETCH(QString, file);
+        QFETCH(QString, tree);
+        WindowDesk desk;
+        desk.add("It's");
+        desk.messages.expect(WindowDesk::saveChanges, static_cast<Answer>(answer));
+        if (static_cast<Answer>(answer) == Answer::Yes)
+            desk.dialogs.expectSaveFile(file.toStdString());
+        if (!file.isEmpty())
+            desk.messages.expect(WindowDesk::recalculate, Answer::No);
+        QTest::keyClick(&desk.field("txtCaption"), Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(desk.shownTree(), tree);
+        QCOMPARE(desk.field("txtCaption").text(), tree.isEmpty() ? "" : "It\\'s");
+        QCOMPARE(desk.field("txtCaption").isEnabled(), !tree.isEmpty());
+        QCOMPARE(desk.document().bModified, !tree.isEmpty());
+        QCOMPARE(desk.disk.FileExists("/site/menu.js"), !file.isEmpty());
+        if (!file.isEmpty())
+            QVERIFY(desk.disk.allFiles().at("/site/menu.js").find("'It\\'s'") != std::string::npos);
+    }
+
+    void aSaveThatFailsLeavesTheMenuAndTheFileAsTheyWere() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.saveAs("/site/menu.js");
+        const std::string saved = desk.disk.allFiles().at("/site/menu.js");
+        desk.type("txtURL", "it's");
+        desk.disk.setWritable("/site", false);
+        int problems = 0;
+        for (int i = 0; i < 5; ++i)
+            desk.messages.expect(
+                "a message about a file in the folder",
+                [&problems](const MessageRequest& request) {
+                    ++problems;
+                    return request.text.find("/site/") != std::string::npos;
+                },
+                Answer::Ok);
+        QTest::keyClick(&desk.field("txtURL"), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(problems, 5);
+        QVERIFY(desk.messages.recorded().back().text.starts_with("Could not save /site/menu.js: "));
+        QCOMPARE(desk.disk.allFiles().at("/site/menu.js"), saved);
+        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.action("mnuFileSave").isEnabled());
+        QCOMPARE(desk.shownPanel(), "normal|a|it\\'s|||");
     }
 
     void anOpenedMenuShowsItsFirstItem() {
@@ -321,11 +379,9 @@ class test_frm_main_commands : public QObject {
     void aboutShowsTheAboutBox() {
         WindowDesk desk;
         bool wasShown = false;
-        QTimer::singleShot(0, &desk.window, [&wasShown] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            wasShown = dialog != nullptr && dialog->inherits("zev::frmAbout");
-            if (dialog != nullptr)
-                dialog->reject();
+        whenShown<frmAbout>([&wasShown](frmAbout& about) {
+            wasShown = true;
+            about.reject();
         });
         desk.choose("mnuHelpAbout");
         QVERIFY(wasShown);
