@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "app/frm_about.h"
+#include "app/icons.h"
 #include "theme_palettes.h"
 
 using namespace zev;
@@ -15,6 +16,7 @@ class test_frm_about : public QObject {
   private slots:
     void init();
     void showsNameAndVersion();
+    void showsTheProgramsIcon();
     void linksOpenByMouse_data() { addLinks(); }
     void linksOpenByMouse();
     void linksOpenByKeyboard_data() { addLinks(); }
@@ -55,6 +57,17 @@ void test_frm_about::showsNameAndVersion() {
     QCOMPARE(m_about->objectName(), QString("frmAbout"));
     QCOMPARE(label("lblName").text(), QString("ZEVMenu Creator"));
     QCOMPARE(label("lblVersion").text(), QString("Version " ZEV_VERSION));
+}
+
+void test_frm_about::showsTheProgramsIcon() {
+    const QIcon before = QApplication::windowIcon();
+    QApplication::setWindowIcon(ProgramIcon());
+    init();
+    int pictures = 0;
+    for (const QLabel* label : m_about->findChildren<QLabel*>())
+        pictures += label->isVisible() && !label->pixmap().isNull() ? 1 : 0;
+    QCOMPARE(pictures, 1);
+    QApplication::setWindowIcon(before);
 }
 
 void test_frm_about::linksOpenByMouse() {
