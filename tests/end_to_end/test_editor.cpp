@@ -34,6 +34,7 @@ class test_editor : public QObject, private EditorOnDisk {
     void saveAsPutsAllFilesIntoTheFolder();
     void openGivesTheSameMenuBack();
     void thePreviewShowsTheMenu();
+    void theShownPreviewFollowsNewAndOpen();
     void aVisitorCanClickThroughTheMenu();
     void cleanupTestCase();
 
@@ -130,6 +131,27 @@ void test_editor::thePreviewShowsTheMenu() {
     clickTab("Preview");
     QTRY_COMPARE_WITH_TIMEOUT(evaluateInPage(browser, kShownItems).toString(),
                               QString("Home|Products|It's us"), kPageTimeMs);
+}
+
+void test_editor::theShownPreviewFollowsNewAndOpen() {
+    const QByteArray saved = bytesOf(m_menuFile);
+    QWidget& browser = *find<QWidget>("WebBrowser");
+    QVERIFY(browser.isVisible());
+    // The keys reach the commands from within the page.
+    browser.setFocus();
+    pressShortcut(Qt::Key_N);
+    QVERIFY(m_window->document().tree.isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(evaluateInPage(browser, "location.pathname").toString(),
+                              m_folder.filePath("program/orlet_temp.html"), kPageTimeMs);
+    QTRY_COMPARE_WITH_TIMEOUT(evaluateInPage(browser, kShownItems).toString(), QString(),
+                              kPageTimeMs);
+    m_dialogs.expectOpenFile(m_menuFile.toStdString());
+    pressShortcut(Qt::Key_O);
+    m_dialogs.verify();
+    QTRY_COMPARE_WITH_TIMEOUT(evaluateInPage(browser, kShownItems).toString(),
+                              QString("Home|Products|It's us"), kPageTimeMs);
+    QCOMPARE(bytesOf(m_menuFile), saved);
+    QVERIFY(!m_window->document().bModified);
 }
 
 void test_editor::aVisitorCanClickThroughTheMenu() {
