@@ -293,7 +293,12 @@ void frmIntegrator::showHints() {
         tr("A quote in this path would break the script. Rename the folder, or enter \"%1\".");
     QStringList pathHints;
     QStringList definitionHints;
-    if (HasDriveLetter(urls.library)) {
+    if (txtPath->text().isEmpty()) {
+        // Where the menu lies elsewhere, its library does too.
+        if (definition.contains(u'/'))
+            pathHints.append(
+                tr("Without a path the pages look for the library in their own folder."));
+    } else if (HasDriveLetter(urls.library)) {
         pathHints.append(driveHint.arg(library));
     } else {
         if (!library.isEmpty() && !library.endsWith(u'/'))

@@ -282,6 +282,18 @@ class test_frm_integrator_fields : public QObject {
                                        << ""
                                        << ""
                                        << "";
+        QTest::newRow("no path, the menu beside the page") << ""
+                                                           << "/site/m.js"
+                                                           << ""
+                                                           << "";
+        QTest::newRow("no path, the menu elsewhere") << ""
+                                                     << "/site/js/m.js"
+                                                     << "Without a path the pages look"
+                                                     << "";
+        QTest::newRow("the path of the page's own folder") << "/site"
+                                                           << "/site/js/m.js"
+                                                           << ""
+                                                           << "";
         QTest::newRow("no last slash") << "js"
                                        << "m.js"
                                        << "jszevmenu_loader.js"
