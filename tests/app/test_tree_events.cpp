@@ -11,6 +11,23 @@ class test_tree_events : public QObject {
     Q_OBJECT
 
   private slots:
+    void theLabelsArePainted() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("");
+        desk.add("b");
+        const auto row = [&desk, a] {
+            const int height = desk.tree().visualRect(desk.tree().model()->index(0, 0)).height();
+            const QPoint place = desk.placeOf(a);
+            const QRect all(0, place.y() - 6, desk.tree().viewport()->width(), height);
+            return desk.tree().viewport()->grab(all).toImage();
+        };
+        const QImage empty = row();
+        desk.document().tree.setText(*a, "WWW");
+        const QImage labelled = row();
+        QCOMPARE(labelled.size(), empty.size());
+        QVERIFY(labelled != empty);
+    }
+
     // Choosing
 
     void clickingANodeStoresThePanelAndShowsTheNode() {
