@@ -65,7 +65,6 @@ MenuTreeView::MenuTreeView(MenuDocument& document, QWidget* parent)
     setSelectionMode(QAbstractItemView::SingleSelection);
     // A double click edits the label; F2 belongs to Menu Properties.
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked);
-    setExpandsOnDoubleClick(false);
     // Wide enough for the rows in sight, so that deep levels can be scrolled to.
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     header()->setResizeContentsPrecision(0);
