@@ -15,6 +15,9 @@ export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.m
 const types = { html: 'text/html', xhtml: 'application/xhtml+xml', js: 'text/javascript', svg: 'image/svg+xml' };
 const folders = { runtime: libraryFolder, samples: samplesFolder };
 
+// How long the tests wait for what must come; a busy machine can be slow.
+const patienceMs = 20000;
+
 /*
  * Starts the browser and the server. Paths of the server: /runtime/ and /samples/ are the folders of
  * the repository, everything else comes from `files` (path -> text, a function that gives it or a promise of
@@ -89,7 +92,7 @@ async function hear(page, request, response) {
 // A browser tab; `warnings` and `errors` collect what its console got since the last show().
 async function newPage(browser) {
     const page = await browser.newPage();
-    page.setDefaultTimeout(10000);
+    page.setDefaultTimeout(patienceMs);
     page.warnings = [];
     page.errors = [];
     page.on('console', message => message.type() == 'warn' && page.warnings.push(message.text()));
@@ -261,15 +264,15 @@ export async function style(page, name, property, selector = 'a') {
     return (await lookAt(page, name, selector, property)).value;
 }
 
-export async function waitShown(page, name, timeout = 5000) {
+export async function waitShown(page, name, timeout = patienceMs) {
     await until(() => isShown(page, name), `"${name}" to be shown`, timeout);
 }
 
-export async function waitGone(page, name, timeout = 5000) {
+export async function waitGone(page, name, timeout = patienceMs) {
     await until(async () => !await isShown(page, name), `"${name}" to be gone`, timeout);
 }
 
-export async function until(question, what, timeout = 5000) {
+export async function until(question, what, timeout = patienceMs) {
     const end = Date.now() + timeout;
     while (!await question()) {
         if (Date.now() > end) throw new Error(`waited ${timeout} ms for ${what}`);

@@ -25,6 +25,8 @@ const launchers = {
         userDataDir: profile, timeout, extraPrefsFirefox: {
             'ui.prefersReducedMotion': reducedMotion ? 1 : 0,
             'browser.display.document_color_use': forcedColours ? 2 : 1,
+            // On a busy machine a tap can take long, and is a tap all the same.
+            'apz.max_tap_time': timeout, 'ui.click_hold_context_menus.delay': timeout,
         },
     }),
     webkit: startWebKit,
