@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/library_files.h"
+#include "library/library_files.h"
 #include "script/relative_url.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
@@ -122,7 +122,7 @@ FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
         content = FileError{FileError::Code::Other, path, "Not a text file"};
     }
     if (!content.isOk()) {
-        showNotice("Could not open " + path + ": " + content.error().reason);
+        m_services.messages.notice("Could not open " + path + ": " + content.error().reason);
     }
     return content;
 }
@@ -148,7 +148,8 @@ bool FileCommands::openDefinition(const std::string& path) {
     const ReadResult result = ReadScript(content.value(), opened);
     replaceDocument(opened);
     if (result.errorCount > 0) {
-        showNotice(std::to_string(result.errorCount) + " errors encountered during parsing");
+        m_services.messages.notice(std::to_string(result.errorCount) +
+                                   " errors encountered during parsing");
     }
     return true;
 }
@@ -216,7 +217,7 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     const std::string target = path.empty() ? JoinPath(m_document.SavePath, kPreviewScript) : path;
     const FileOutcome failure = m_services.files.writeFile(target, DefinitionFileBytes(script));
     if (failure) {
-        showNotice("Could not save " + target + ": " + failure->reason);
+        m_services.messages.notice("Could not save " + target + ": " + failure->reason);
     }
     return !failure;
 }
@@ -257,14 +258,8 @@ void FileCommands::copyRunTimeFile(std::string_view sourceName, std::string_view
     const CopyResult result = CopyLibraryFile(m_services.files, source, destination);
     const std::string problem = CopyProblemText(result, source, destination);
     if (!problem.empty()) {
-        showNotice(problem);
+        m_services.messages.notice(problem);
     }
-}
-
-void FileCommands::showNotice(const std::string& text) {
-    MessageRequest notice;
-    notice.text = text;
-    m_services.messages.show(notice);
 }
 
 }  // namespace zev

@@ -68,7 +68,6 @@ class FileCommands {
     void loadPreview();
     void copyRunTimeFiles();
     void copyRunTimeFile(std::string_view sourceName, std::string_view destinationName);
-    void showNotice(const std::string& text);
 
     MenuDocument& m_document;
     EditorView& m_view;

@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "text/program_name.h"
+
 namespace zev {
 
 namespace {
@@ -18,7 +20,7 @@ constexpr int kIconSizePx = 64;
 constexpr double kNameSizeFactor = 1.6;
 
 QLabel* MakeNameLabel() {
-    auto* label = new QLabel(QStringLiteral("ZEVMenu Creator"));
+    auto* label = new QLabel(QString(kProgramName));
     label->setObjectName("lblName");
     QFont font = label->font();
     font.setBold(true);
@@ -32,7 +34,7 @@ QLabel* MakeNameLabel() {
 frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget* parent)
     : QDialog(parent), m_openAddress(std::move(openAddress)) {
     setObjectName("frmAbout");
-    setWindowTitle("About ZEVMenu Creator");
+    setWindowTitle(QString("About ") + kProgramName);
 
     auto* version = new QLabel("Version " ZEV_VERSION);
     version->setObjectName("lblVersion");

@@ -23,17 +23,17 @@
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
 #include "dialogs/frm_path.h"
-#include "integrator/frm_integrator.h"
-#include "platform/html/html_page.h"
+#include "html/html_page.h"
+#include "integrator/wizard/frm_integrator.h"
 #include "script/relative_url.h"
 #include "script/script_writer.h"
 #include "script/submenu_list.h"
+#include "text/program_name.h"
 
 namespace zev {
 
 namespace {
 
-constexpr const char* kProgramName = "ZEVMenu Creator";
 constexpr const char* kSupportAddress = "https://zevmenu.example/support";
 constexpr const char* kManual = "help/index.html";
 
@@ -472,7 +472,8 @@ void frmMain::guard(const std::function<void()>& work) {
     try {
         work();
     } catch (const std::exception& problem) {
-        showNotice(std::string("The command could not be finished: ") + problem.what());
+        m_services.messages.notice(std::string("The command could not be finished: ") +
+                                   problem.what());
     }
 }
 
@@ -485,8 +486,8 @@ void frmMain::leaveField() {
 EditResult frmMain::edit(EditResult (*command)(MenuDocument&)) {
     const EditResult result = command(m_document);
     if (result == EditResult::CounterExhausted)
-        showNotice("The menu has used all its " + std::to_string(kMaxItemCounter) +
-                   " item numbers. Save it and open it again to add more items.");
+        m_services.messages.notice("The menu has used all its " + std::to_string(kMaxItemCounter) +
+                                   " item numbers. Save it and open it again to add more items.");
     if (result != EditResult::Done)
         return result;
     TreeView->showSelection();
@@ -501,12 +502,6 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::openAddress(const std::string& address) {
     OpenURL(address, m_document.programFolder(), m_services);
-}
-
-void frmMain::showNotice(const std::string& text) {
-    MessageRequest notice;
-    notice.text = text;
-    m_services.messages.show(notice);
 }
 
 }  // namespace zev

@@ -103,7 +103,6 @@ class frmMain : public QMainWindow, public EditorView {
     void leaveField();
     EditResult edit(EditResult (*command)(MenuDocument&));
     void openAddress(const std::string& address);
-    void showNotice(const std::string& text);
 
     MenuDocument m_document;
     EditorServices m_services;

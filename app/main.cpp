@@ -7,9 +7,9 @@
 #include "app/frm_main.h"
 #include "app/icons.h"
 #include "app/preview_picture.h"
+#include "library/program_folder.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_shell.h"
-#include "platform/program_folder.h"
 #include "platform/qt/fit_screen.h"
 #include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_browser_view.h"
@@ -47,10 +47,8 @@ std::string ProgramFolder(FileSystem& files, MessageBox& messages) {
     const FileResult<std::string> folder = findProgramFolder(files, executable, userFolder);
     if (folder.isOk())
         return folder.value();
-    MessageRequest notice;
-    notice.text = "The program's own files could not be prepared. " + folder.error().path + ": " +
-                  folder.error().reason;
-    messages.show(notice);
+    messages.notice("The program's own files could not be prepared. " + folder.error().path + ": " +
+                    folder.error().reason);
     return QCoreApplication::applicationDirPath().toStdString();
 }
 

@@ -19,10 +19,10 @@
 #include <utility>
 #include <vector>
 
+#include "html/html_page.h"
+#include "html/html_tokenizer.h"
 #include "integrator/page_rewriter.h"
 #include "platform/fake/fake_file_system.h"
-#include "platform/html/html_page.h"
-#include "platform/html/html_tokenizer.h"
 #include "tests/support/hostile_pages.h"
 
 namespace {

@@ -10,6 +10,7 @@
 #include "cli/commands.h"
 #include "cli/integrator_commands.h"
 #include "platform/posix/posix_process.h"
+#include "text/program_name.h"
 
 namespace zev {
 
@@ -291,7 +292,8 @@ ExitStatus report(const CLI::App& program, const CLI::ParseError& outcome) {
 }  // namespace
 
 ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileSystem& files) {
-    CLI::App program("Works on the menu definitions of ZEVMenu Creator.", "zevmenu");
+    CLI::App program(std::string("Works on the menu definitions of ") + kProgramName + ".",
+                     "zevmenu");
     program.set_version_flag("--version", "zevmenu " ZEV_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.footer(kFooter);

@@ -5,8 +5,8 @@
 #include <iostream>
 
 #include "cli/command_paths.h"
-#include "platform/library_files.h"
-#include "platform/program_folder.h"
+#include "library/library_files.h"
+#include "library/program_folder.h"
 #include "script/relative_url.h"
 #include "script/submenu_list.h"
 

@@ -4,17 +4,18 @@
 #include <set>
 
 #include "cli/command_paths.h"
+#include "html/html_page.h"
 #include "integrator/page_integration.h"
-#include "model/text_rules.h"
-#include "platform/html/html_page.h"
 #include "script/relative_url.h"
+#include "text/ascii.h"
+#include "text/pattern.h"
 
 namespace zev {
 
 namespace {
 
 std::string withUnixLineEnds(std::string_view text) {
-    return ReplaceAll(text, "\r\n", "\n");
+    return replaceAll(text, "\r\n", "\n");
 }
 
 std::string codeToPaste(const std::string& definitionURL,
@@ -73,7 +74,7 @@ std::string codeOfAll(const std::vector<PageGroup>& groups, const IntegrateOptio
 
 ExitStatus linkcodeCommand(const std::string& definitionURL,
                            const std::optional<PopupOptions>& popup) {
-    return writeStandardOutput(codeToPaste(std::string(TrimSpaces(definitionURL)), popup))
+    return writeStandardOutput(codeToPaste(std::string(trimSpaces(definitionURL)), popup))
                ? ExitStatus::Done
                : ExitStatus::FileProblem;
 }

@@ -4,7 +4,7 @@
 
 #include "dialogs/color_swatch.h"
 #include "dialogs/dialog_button.h"
-#include "dialogs/input_rules.h"
+#include "model/input_rules.h"
 #include "platform/common_dialogs.h"
 
 namespace zev {

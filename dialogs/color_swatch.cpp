@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "dialogs/input_rules.h"
+#include "model/input_rules.h"
 
 namespace zev {
 

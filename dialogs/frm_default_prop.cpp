@@ -3,8 +3,8 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
-#include "dialogs/input_rules.h"
 #include "dialogs/preview_label.h"
+#include "model/input_rules.h"
 
 namespace zev {
 

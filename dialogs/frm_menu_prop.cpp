@@ -7,8 +7,8 @@
 #include "dialogs/edited_menu.h"
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
-#include "dialogs/input_rules.h"
 #include "dialogs/preview_label.h"
+#include "model/input_rules.h"
 
 namespace zev {
 

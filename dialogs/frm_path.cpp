@@ -14,8 +14,8 @@
 
 #include "dialogs/dialog_button.h"
 #include "dialogs/single_line.h"
+#include "library/library_files.h"
 #include "platform/file_system.h"
-#include "platform/library_files.h"
 #include "platform/message_box.h"
 #include "script/relative_url.h"
 
@@ -167,9 +167,7 @@ void frmPath::listDrv_Change() {
 
 void frmPath::listDir_Change(const QString& folder) {
     if (!QDir(folder).isReadable()) {
-        MessageRequest notice;
-        notice.text = "Cannot open " + QDir::toNativeSeparators(folder).toStdString();
-        m_messages.show(notice);
+        m_messages.notice("Cannot open " + QDir::toNativeSeparators(folder).toStdString());
         return;
     }
     showFolder(folder);

@@ -4,7 +4,7 @@
 #include <QPalette>
 #include <algorithm>
 
-#include "dialogs/input_rules.h"
+#include "model/input_rules.h"
 
 namespace zev {
 

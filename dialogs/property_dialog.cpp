@@ -11,8 +11,8 @@
 
 #include "dialogs/color_swatch.h"
 #include "dialogs/dialog_button.h"
-#include "dialogs/input_rules.h"
 #include "dialogs/preview_label.h"
+#include "model/input_rules.h"
 #include "script/relative_url.h"
 
 namespace zev {

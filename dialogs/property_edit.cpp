@@ -3,8 +3,8 @@
 #include <QFocusEvent>
 #include <QLabel>
 
-#include "dialogs/input_rules.h"
 #include "dialogs/single_line.h"
+#include "model/input_rules.h"
 #include "platform/message_box.h"
 
 namespace zev {
@@ -63,9 +63,7 @@ namespace {
 void Apply(const CheckedText& checked, PropertyEdit& edit, MessageBox& messages) {
     if (checked.message.empty())
         return;
-    MessageRequest request;
-    request.text = checked.message;
-    messages.show(request);
+    messages.notice(checked.message);
     edit.setText(QString::fromStdString(checked.text));
 }
 

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "importers/piece_cutter.h"
 #include "model/text_rules.h"
 #include "script/loaded_keys.h"
+#include "text/piece_cutter.h"
 
 namespace zev {
 

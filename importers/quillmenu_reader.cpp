@@ -4,9 +4,10 @@
 #include <string_view>
 #include <utility>
 
-#include "importers/piece_cutter.h"
-#include "model/text_rules.h"
+#include "script/line_tokenizers.h"
 #include "script/loaded_keys.h"
+#include "text/pattern.h"
+#include "text/piece_cutter.h"
 
 namespace zev {
 
@@ -45,17 +46,17 @@ class QuillmenuReader {
         if (!line.starts_with("qlm"))
             return;
         m_lineNumber = number;
-        if (MatchesPattern(line, "qlm_state.*=*;"))
+        if (matchesPattern(line, "qlm_state.*=*;"))
             m_document.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
-        if (MatchesPattern(line, "qlmenu1 = new mainMenu('*');"))
+        if (matchesPattern(line, "qlmenu1 = new mainMenu('*');"))
             openMainMenu(line);
-        if (MatchesPattern(line, "qlmenu1 = new subMenu('*');"))
+        if (matchesPattern(line, "qlmenu1 = new subMenu('*');"))
             openSubmenu(line);
-        if (MatchesPattern(line, "qlmenu1.*=*;"))
+        if (matchesPattern(line, "qlmenu1.*=*;"))
             readProperty(line);
-        if (MatchesPattern(line, "qlmenu1.addItems(*);"))
+        if (matchesPattern(line, "qlmenu1.addItems(*);"))
             readItem(line, false);
-        else if (MatchesPattern(line, "qlmenu1.addImages(*);"))
+        else if (matchesPattern(line, "qlmenu1.addImages(*);"))
             readItem(line, true);
     }
 

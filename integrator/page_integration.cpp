@@ -3,8 +3,8 @@
 #include <optional>
 #include <utility>
 
-#include "model/text_rules.h"
 #include "script/relative_url.h"
+#include "text/ascii.h"
 
 namespace zev {
 
@@ -25,7 +25,7 @@ bool IsFullPath(std::string_view path) {
 /// A drive's folder gets a separator whatever it ends in; a folder of the system has at most one.
 std::string WithSeparator(std::string_view folder) {
     std::string path(folder);
-    if (!IsSystemPath(TrimSpaces(folder)))
+    if (!IsSystemPath(trimSpaces(folder)))
         path += '\\';
     else if (!folder.ends_with('/'))
         path += '/';
@@ -41,13 +41,13 @@ std::string TemporaryPath(const std::string& pagePath) {
 IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view definition,
                              std::string_view library) {
     IntegrationURLs urls;
-    definition = TrimSpaces(definition);
+    definition = trimSpaces(definition);
     urls.definition =
         IsFullPath(definition) ? ToRelativeURL(pagesFolder, definition) : std::string(definition);
     // The folder goes into the sum with its spaces: a folder's name may end in one.
-    urls.library = IsFullPath(TrimSpaces(library))
+    urls.library = IsFullPath(trimSpaces(library))
                        ? ToRelativeURL(pagesFolder, WithSeparator(library))
-                       : std::string(TrimSpaces(library));
+                       : std::string(trimSpaces(library));
     return urls;
 }
 

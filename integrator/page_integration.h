@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "html/html_parse.h"
 #include "integrator/page_rewriter.h"
 #include "platform/file_system.h"
-#include "platform/html_parse.h"
 
 namespace zev {
 
@@ -24,7 +24,8 @@ struct IntegrationURLs {
 IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view definition,
                              std::string_view library);
 
-/// Full path of a page in the folder with the full path `folder`: both joined by the separator of the folder's own form.
+/// Full path of a page in the folder with the full path `folder`: both joined by the separator of
+/// the folder's own form.
 std::string PagePath(const std::string& folder, const std::string& name);
 
 /// How many of the page's scripts integration drops unless other scripts are kept.

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "model/text_rules.h"
+#include "text/ascii.h"
 
 namespace zev {
 
@@ -74,7 +74,7 @@ bool NamesJavaScript(const HtmlParse& parser) {
 }
 
 bool LoadsLibrary(const HtmlParse& parser) {
-    return TrimSpaces(parser.Attribute("src")).ends_with("zevmenu_loader.js");
+    return trimSpaces(parser.Attribute("src")).ends_with("zevmenu_loader.js");
 }
 
 bool IsOldScript(const HtmlParse& parser) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/html_parse.h"
+#include "html/html_parse.h"
 
 namespace zev {
 

@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "model/text_rules.h"
+#include "text/pattern.h"
 
 namespace zev {
 
@@ -57,7 +57,7 @@ class ArgumentCutter {
 };
 
 std::string WithPlaceholders(std::string_view argument) {
-    return ReplaceAll(argument, kEscapedApostrophe, kPlaceholder);
+    return replaceAll(argument, kEscapedApostrophe, kPlaceholder);
 }
 
 /// Escaped apostrophes travel as placeholders, so a placeholder that the file itself holds becomes
@@ -69,7 +69,7 @@ void ReadArgument(ArgumentCutter& arguments, std::string& member) {
     if (argument.find(kPlaceholder.front()) == std::string_view::npos)
         member = argument;
     else
-        member = ReplaceAll(WithPlaceholders(argument), kPlaceholder, kEscapedApostrophe);
+        member = replaceAll(WithPlaceholders(argument), kPlaceholder, kEscapedApostrophe);
 }
 
 }  // namespace

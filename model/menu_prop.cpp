@@ -4,7 +4,8 @@
 #include <array>
 #include <iterator>
 
-#include "model/text_rules.h"
+#include "text/ascii.h"
+#include "text/pattern.h"
 
 namespace zev {
 
@@ -144,7 +145,7 @@ void SetFontProperty(MenuProp& prop, std::string_view name, std::string_view val
     if (name == "fontFamily")
         prop.FontFamily = value;
     else if (name == "fontSize")
-        prop.FontSize = ReplaceAll(value, "pt", "");
+        prop.FontSize = replaceAll(value, "pt", "");
     else if (name == "fontStyle")
         prop.FontStyle = value == "italic";
     else if (name == "fontWeight")
@@ -220,7 +221,7 @@ std::string MenuProp::GetText(const MenuProp& defaults) const {
 }
 
 void MenuProp::SetProperty(std::string_view StrProp, std::string_view StrValue) {
-    const std::string_view value = TrimSpaces(StrValue);
+    const std::string_view value = trimSpaces(StrValue);
     const auto* const property =
         std::find_if(std::begin(kTextProperties), std::end(kTextProperties),
                      [&](const TextProperty& candidate) { return candidate.name == StrProp; });

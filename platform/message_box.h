@@ -25,6 +25,13 @@ class MessageBox {
     /// Shows the box and waits. Closing the window counts as Cancel where there is one, as No in a
     /// Yes/No box, as Ok in a box with that button alone.
     virtual Answer show(const MessageRequest& request) = 0;
+
+    /// Shows a text that only wants to be read.
+    void notice(const std::string& text) {
+        MessageRequest request;
+        request.text = text;
+        show(request);
+    }
 };
 
 }  // namespace zev

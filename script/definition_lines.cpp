@@ -1,7 +1,7 @@
 #include "script/definition_lines.h"
 
-#include "model/text_rules.h"
-#include "script/text_encoding.h"
+#include "text/ascii.h"
+#include "text/text_encoding.h"
 
 namespace zev {
 
@@ -17,7 +17,7 @@ bool DefinitionLines::next(std::string_view& line) {
     m_rest.remove_prefix(end == std::string_view::npos ? m_rest.size() : end + 1);
     if (line.ends_with('\r'))
         line.remove_suffix(1);
-    line = TrimSpaces(line);
+    line = trimSpaces(line);
     return true;
 }
 

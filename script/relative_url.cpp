@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "model/text_rules.h"
+#include "text/ascii.h"
+#include "text/pattern.h"
 
 namespace zev {
 
@@ -60,10 +61,9 @@ std::size_t LastSeparator(std::string_view path) {
 /// among them and is treated like a relative URL.
 bool IsAddress(std::string_view url) {
     std::string lowerCase(url);
-    std::transform(lowerCase.begin(), lowerCase.end(), lowerCase.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return MatchesPattern(lowerCase, "http://*") || MatchesPattern(lowerCase, "javascript:*") ||
-           MatchesPattern(lowerCase, "mailto:*") || lowerCase == "ftp://" ||
+    std::transform(lowerCase.begin(), lowerCase.end(), lowerCase.begin(), asciiLower);
+    return matchesPattern(lowerCase, "http://*") || matchesPattern(lowerCase, "javascript:*") ||
+           matchesPattern(lowerCase, "mailto:*") || lowerCase == "ftp://" ||
            lowerCase == "https://";
 }
 

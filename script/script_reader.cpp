@@ -4,9 +4,10 @@
 #include <string>
 #include <utility>
 
-#include "model/text_rules.h"
 #include "script/definition_lines.h"
+#include "script/line_tokenizers.h"
 #include "script/loaded_keys.h"
+#include "text/pattern.h"
 
 namespace zev {
 
@@ -22,15 +23,15 @@ class ScriptReader {
         // How every line that means anything begins; a large file of other lines is passed quickly.
         if (!line.starts_with("zev"))
             return;
-        if (MatchesPattern(line, "zev_state.*=*;"))
+        if (matchesPattern(line, "zev_state.*=*;"))
             m_document.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
-        if (MatchesPattern(line, "zevmenu = new ZEVMenu('*');"))
+        if (matchesPattern(line, "zevmenu = new ZEVMenu('*');"))
             openMenu(GetMenuId(line));
-        if (MatchesPattern(line, "zevmenu.*=*;"))
+        if (matchesPattern(line, "zevmenu.*=*;"))
             readProperty(line);
-        if (MatchesPattern(line, "zevmenu.AddItem(*);"))
+        if (matchesPattern(line, "zevmenu.AddItem(*);"))
             readItem(line, false);
-        else if (MatchesPattern(line, "zevmenu.AddRollover(*);"))
+        else if (matchesPattern(line, "zevmenu.AddRollover(*);"))
             readItem(line, true);
     }
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "script/submenu_walk.h"
-#include "script/text_encoding.h"
+#include "text/text_encoding.h"
 
 namespace zev {
 

@@ -8,6 +8,7 @@
 
 #include "platform/posix/desktop_entry.h"
 #include "platform/posix/posix_process.h"
+#include "text/ascii.h"
 
 namespace zev {
 
@@ -19,9 +20,8 @@ bool isWebPage(std::string_view file) {
     const std::size_t dot = file.rfind('.');
     if (dot == std::string_view::npos)
         return false;
-    std::string extension(file.substr(dot));
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    const std::string_view extension = file.substr(dot);
+    return equalsIgnoringCase(extension, ".htm") || equalsIgnoringCase(extension, ".html");
     return extension == ".htm" || extension == ".html";
 }
 

@@ -17,12 +17,11 @@
 #include <utility>
 
 #include "platform/qt/parent_window.h"
+#include "text/program_name.h"
 
 namespace zev {
 
 namespace {
-
-constexpr const char* kTitle = "ZEVMenu Creator";
 
 /// In characters: names of 25 beside all that is told of a file.
 constexpr int kFileDialogWidth = 110;
@@ -79,7 +78,7 @@ ChosenFiles FilesOfOneFolder(const QStringList& paths) {
 
 void ShowSeveralFolders(QWidget* parent) {
     QMessageBox notice(parent);
-    notice.setWindowTitle(kTitle);
+    notice.setWindowTitle(kProgramName);
     notice.setIcon(QMessageBox::Warning);
     notice.setText("Please choose files of one folder only.");
     notice.exec();
@@ -87,7 +86,7 @@ void ShowSeveralFolders(QWidget* parent) {
 
 bool MayReplace(QWidget* parent, const QString& path) {
     QMessageBox question(parent);
-    question.setWindowTitle(kTitle);
+    question.setWindowTitle(kProgramName);
     question.setIcon(QMessageBox::Warning);
     question.setTextFormat(Qt::PlainText);
     question.setText(QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/fit_screen.h"
+#include "text/program_name.h"
 
 namespace zev {
 
@@ -34,7 +35,7 @@ void QtHelpViewer::show(const std::string& path) {
 void QtHelpViewer::makeWindow() {
     m_window = new QWidget;
     m_window->setObjectName("frmHelp");
-    m_window->setWindowTitle("ZEVMenu Creator Help");
+    m_window->setWindowTitle(QString(kProgramName) + " Help");
     // The program ends with its main window, not with the last page of the manual.
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_window->resize(860, 640);

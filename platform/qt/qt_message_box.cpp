@@ -5,6 +5,7 @@
 #include <QTextEdit>
 
 #include "platform/qt/parent_window.h"
+#include "text/program_name.h"
 
 namespace zev {
 
@@ -84,7 +85,7 @@ MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
     QMessageBox box(ParentWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(WithBreaksInLongWords(QString::fromStdString(request.text)));
-    box.setWindowTitle(request.title.empty() ? QString("ZEVMenu Creator")
+    box.setWindowTitle(request.title.empty() ? QString(kProgramName)
                                              : QString::fromStdString(request.title));
     box.setIcon(request.icon == MessageRequest::Icon::Exclamation ? QMessageBox::Warning
                                                                   : QMessageBox::NoIcon);

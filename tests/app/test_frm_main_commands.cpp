@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "app/frm_about.h"
-#include "integrator/frm_integrator.h"
+#include "integrator/wizard/frm_integrator.h"
 #include "script/script_writer.h"
 #include "when_shown.h"
 #include "window_desk.h"

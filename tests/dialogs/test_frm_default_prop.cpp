@@ -1,7 +1,7 @@
 // Default Menu Properties: what is filled in, and what OK and Cancel do with it.
 
 #include "default_prop_desk.h"
-#include "dialogs/input_rules.h"
+#include "model/input_rules.h"
 
 using namespace zev;
 

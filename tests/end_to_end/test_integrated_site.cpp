@@ -13,7 +13,7 @@
 
 #include "dialogs/frm_path.h"
 #include "editor_on_disk.h"
-#include "integrator/frm_integrator.h"
+#include "integrator/wizard/frm_integrator.h"
 
 using namespace zev;
 

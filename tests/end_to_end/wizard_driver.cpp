@@ -13,9 +13,9 @@
 #include <iostream>
 #include <string>
 
-#include "integrator/frm_integrator.h"
+#include "html/html_page.h"
+#include "integrator/wizard/frm_integrator.h"
 #include "platform/common_dialogs.h"
-#include "platform/html/html_page.h"
 #include "platform/message_box.h"
 #include "platform/posix/posix_file_system.h"
 

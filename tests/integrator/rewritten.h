@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "html/html_page.h"
 #include "integrator/page_rewriter.h"
 #include "platform/fake/fake_file_system.h"
-#include "platform/html/html_page.h"
 
 namespace zev::test {
 

@@ -11,28 +11,28 @@ import re
 import sys
 from pathlib import Path
 
-CORE = {"model", "script", "importers", "integrator"}
+CORE = {"text", "model", "script", "importers", "html", "library", "integrator", "platform"}
 QT = {"Qt"}
 
 # Folder of the including file -> what it may include beside its own folder and the standard and
 # system headers. The longest folder that fits a file counts. "Qt" stands for all of Qt's headers.
 ALLOWED = {
-    "model": set(),
-    "script": {"model"},
-    "importers": {"model", "script"},
-    "integrator": {"model", "script", "platform"},
-    "platform": set(),
-    "platform/html": {"platform"},
-    "platform/posix": {"platform"},
-    "platform/fake": {"platform"},
-    "platform/qt": {"platform"} | QT,
-    "dialogs": {"model", "script", "platform"} | QT,
-    "app": CORE | {"platform", "platform/html", "platform/posix", "platform/qt", "dialogs"} | QT,
-    "cli": CORE | {"platform", "platform/html", "platform/posix"},
+    "text": set(),
+    "model": {"text"},
+    "script": {"model", "text"},
+    "importers": {"script", "model", "text"},
+    "platform": {"text"},
+    "platform/posix": {"platform", "text"},
+    "platform/fake": {"platform", "text"},
+    "platform/qt": {"platform", "text"} | QT,
+    "html": {"platform", "text"},
+    "library": {"platform", "text"},
+    "integrator": {"script", "model", "html", "platform", "text"},
+    "integrator/wizard": CORE | {"dialogs"} | QT,
+    "dialogs": CORE | QT,
+    "app": CORE | {"integrator/wizard", "platform/posix", "platform/qt", "dialogs"} | QT,
+    "cli": CORE | {"platform/posix"},
 }
-
-# The integrator's wizard is a window in the folder of its engine.
-EXCEPTIONS = {"integrator/frm_integrator": {"model", "script", "platform", "dialogs"} | QT}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
@@ -52,9 +52,6 @@ def is_qt(header):
 
 
 def allowed_for(path):
-    for beginning, allowed in EXCEPTIONS.items():
-        if path.startswith(beginning):
-            return allowed
     return ALLOWED[folder_of(path)]
 
 

@@ -4,10 +4,11 @@
 #include <string>
 #include <string_view>
 
+#include "html/html_characters.h"
+#include "html/html_page.h"
+#include "html/html_tokenizer.h"
 #include "platform/fake/fake_file_system.h"
-#include "platform/html/html_characters.h"
-#include "platform/html/html_page.h"
-#include "platform/html/html_tokenizer.h"
+#include "text/ascii.h"
 
 namespace zev {
 

@@ -10,7 +10,7 @@
 #include "script/definition_lines.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
-#include "script/text_encoding.h"
+#include "text/text_encoding.h"
 
 namespace zev::test {
 

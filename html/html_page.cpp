@@ -1,0 +1,157 @@
+#include "html/html_page.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+#include "html/html_attributes.h"
+#include "html/html_characters.h"
+#include "html/server_blocks.h"
+#include "text/ascii.h"
+
+namespace zev {
+
+namespace {
+
+/// The value as it can stand between such quotes. Quotes in blocks of server-side code stay: they
+/// are the code's, not the value's.
+std::string quoted(std::string_view value, char quote) {
+    std::string text(1, quote);
+    ServerBlocks blocks(value);
+    const unsigned kinds = htmlCharacter(quote) | html_character::kLessThan;
+    std::size_t begin = 0;
+    std::size_t end = findHtmlCharacter(value, 0, kinds);
+    while (end < value.size()) {
+        if (value[end] == '<') {
+            end = std::max(end + 1, blocks.endOf(end));
+        } else {
+            text += value.substr(begin, end - begin);
+            text += quote == '"' ? "&quot;" : "&#39;";
+            begin = ++end;
+        }
+        end = findHtmlCharacter(value, end, kinds);
+    }
+    text += value.substr(begin);
+    return text += quote;
+}
+
+std::string withChangedValue(std::string_view tagText, const HtmlAttribute& attribute,
+                             std::string_view value) {
+    const bool hasQuotes = attribute.quote != '\0';
+    const std::size_t begin = attribute.valueBegin - (hasQuotes ? 1 : 0);
+    // The page's end can cut the closing quote off.
+    const std::size_t end = std::min(attribute.valueEnd + (hasQuotes ? 1 : 0), tagText.size());
+    std::string text(tagText.substr(0, begin));
+    if (!attribute.hasEqualsSign) {
+        text += '=';
+    }
+    text += quoted(value, hasQuotes ? attribute.quote : '"');
+    return text += tagText.substr(end);
+}
+
+std::string withAddedAttribute(std::string_view tagText, std::size_t nameEnd, std::string_view name,
+                               std::string_view value) {
+    HtmlAttribute last;
+    ServerBlocks blocks(tagText);
+    HtmlAttributeReader reader(tagText, blocks, nameEnd);
+    std::size_t lastEnd = nameEnd;
+    while (reader.next(last)) {
+        lastEnd = reader.position();
+    }
+    // A "/" that ends an unquoted value does not close the tag.
+    const bool hasSlash = tagText.size() > lastEnd && tagText.back() == '/';
+    const std::size_t place = tagText.size() - (hasSlash ? 1 : 0);
+    std::string text(tagText.substr(0, place));
+    if (lastEnd > nameEnd && last.hasEqualsSign && last.quote == '\0' &&
+        last.valueBegin == last.valueEnd) {
+        text += "\"\"";  // an equals sign without a value would take the new attribute for it
+    }
+    if (!isHtmlSpace(text.back())) {
+        text += ' ';
+    }
+    text += name;
+    text += '=';
+    text += quoted(value, '"');
+    return text += tagText.substr(place);
+}
+
+}  // namespace
+
+HtmlPage::HtmlPage(const FileSystem& files) : m_files(files) {
+    m_current = m_last = m_batch.data();
+}
+
+FileOutcome HtmlPage::LoadFile(const std::string& path) {
+    Close();
+    m_file.emplace(m_files.readFile(path, std::numeric_limits<std::uint64_t>::max()));
+    if (!m_file->isOk()) {
+        FileError error = m_file->error();
+        Close();
+        return error;
+    }
+    m_tokenizer.emplace(m_file->value());
+    if (!m_tokenizer->isAtEnd()) {
+        readBatch();
+    }
+    return {};
+}
+
+std::string_view HtmlPage::TagText() const {
+    return m_changed == m_current ? std::string_view(m_changedText) : m_current->inside;
+}
+
+std::string_view HtmlPage::Attribute(std::string_view name) const {
+    HtmlAttribute attribute;
+    if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute)) {
+        return {};
+    }
+    return TagText().substr(attribute.valueBegin, attribute.valueEnd - attribute.valueBegin);
+}
+
+void HtmlPage::SetAttribute(std::string_view name, std::string_view value) {
+    if (!hasAttributes()) {
+        return;
+    }
+    HtmlAttribute attribute;
+    m_changedText = findHtmlAttribute(TagText(), nameEnd(), name, attribute)
+                        ? withChangedValue(TagText(), attribute, value)
+                        : withAddedAttribute(TagText(), nameEnd(), name, value);
+    m_changed = m_current;
+}
+
+void HtmlPage::readBatch() {
+    std::size_t count = 0;
+    while (count < m_batch.size() && m_tokenizer->next(m_batch[count])) {
+        ++count;
+    }
+    m_current = m_batch.data();
+    m_batchEnd = m_current + count;
+    m_last = m_tokenizer->isAtEnd() ? m_batchEnd - 1 : nullptr;
+    m_changed = nullptr;
+}
+
+/// Comments and text have none.
+bool HtmlPage::hasAttributes() const {
+    return m_current->kind == HtmlToken::Kind::StartTag ||
+           m_current->kind == HtmlToken::Kind::EndTag;
+}
+
+std::string_view HtmlPage::lowerCaseName() const {
+    m_lowerCaseName.clear();
+    for (const char character : m_current->name) {
+        m_lowerCaseName += asciiLower(character);
+    }
+    return m_lowerCaseName;
+}
+
+void HtmlPage::Close() {
+    m_tokenizer.reset();
+    m_file.reset();
+    m_batch[0] = {};
+    m_current = m_last = m_batch.data();
+    m_changed = nullptr;
+}
+
+}  // namespace zev

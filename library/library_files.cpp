@@ -1,0 +1,30 @@
+#include "library/library_files.h"
+#include "text/ascii.h"
+
+namespace zev {
+
+CopyResult CopyLibraryFile(FileSystem& files, const std::string& source,
+                           const std::string& destination) {
+    if (equalsIgnoringCase(source, destination))
+        return CopyResult::SamePlace;
+    if (!files.FileExists(source))
+        return CopyResult::SourceMissing;
+    // Not deleted first: the copy replaces the old file whole, so that a failure leaves it intact.
+    return files.CopyFile(source, destination) ? CopyResult::NotSaved : CopyResult::Copied;
+}
+
+std::string CopyProblemText(CopyResult result, const std::string& source,
+                            const std::string& destination) {
+    switch (result) {
+        case CopyResult::SourceMissing:
+            return "Error: " + source + " does not exist";
+        case CopyResult::NotSaved:
+            return "Error: " + destination + " not saved. Please check path permissions";
+        case CopyResult::Copied:
+        case CopyResult::SamePlace:
+            break;
+    }
+    return {};
+}
+
+}  // namespace zev

@@ -1,0 +1,142 @@
+#include "model/input_rules.h"
+#include "text/ascii.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdio>
+#include <limits>
+#include <system_error>
+
+namespace zev {
+
+namespace {
+
+constexpr std::size_t kColorDigits = 6;
+
+bool isContinuationByte(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// Where the digits that begin at `start` end.
+std::size_t DigitsEnd(std::string_view text, std::size_t start) {
+    std::size_t end = start;
+    while (end < text.size() && isAsciiDigit(text[end]))
+        ++end;
+    return end;
+}
+
+/// Length of the longest number that `text` begins with; 0 when it begins with none.
+std::size_t NumberLength(std::string_view text) {
+    const auto signLength = [&](std::size_t at) -> std::size_t {
+        return at < text.size() && (text[at] == '-' || text[at] == '+') ? 1 : 0;
+    };
+    const std::size_t digits = signLength(0);
+    std::size_t end = DigitsEnd(text, digits);
+    if (end == digits)
+        return 0;
+    if (end < text.size() && text[end] == '.')
+        end = DigitsEnd(text, end + 1);
+    if (end < text.size() && (text[end] == 'e' || text[end] == 'E')) {
+        const std::size_t exponent = end + 1 + signLength(end + 1);
+        const std::size_t exponentEnd = DigitsEnd(text, exponent);
+        if (exponentEnd > exponent)
+            end = exponentEnd;
+    }
+    return end;
+}
+
+/// The value of a number as `NumberLength` finds it; nothing when a double cannot hold it.
+std::optional<double> ValueOf(std::string_view number) {
+    // std::from_chars knows no plus sign.
+    if (number.starts_with('+'))
+        number.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (number.empty() || result.ec != std::errc())
+        return std::nullopt;
+    return value;
+}
+
+/// The value of a text that is a number and nothing else.
+std::optional<double> NumberOf(std::string_view text) {
+    return NumberLength(text) == text.size() ? ValueOf(text) : std::nullopt;
+}
+
+/// The shortest decimal text, without an exponent, that stands for `number`.
+std::string TextOf(double number) {
+    std::array<char, std::numeric_limits<double>::max_exponent10 + 32> buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                      std::chars_format::fixed);
+    return {buffer.data(), result.ptr};
+}
+
+}  // namespace
+
+std::optional<std::int32_t> ColorOf(std::string_view text) {
+    if (text.empty())
+        return std::nullopt;
+    text.remove_prefix(1);
+    while (!text.empty() && isContinuationByte(text.front()))
+        text.remove_prefix(1);
+    if (text.empty())
+        return std::nullopt;
+    std::string digits(text.substr(0, kColorDigits));
+    digits.resize(kColorDigits, '0');
+    std::uint32_t rgb = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), rgb, 16);
+    if (result.ec != std::errc() || result.ptr != digits.data() + digits.size())
+        return std::nullopt;
+    return static_cast<std::int32_t>((rgb & 0xFFU) << 16 | (rgb & 0xFF00U) | rgb >> 16);
+}
+
+std::int32_t HexToColor(std::string_view text) {
+    return ColorOf(text).value_or(0);
+}
+
+std::string ColorToHex(std::string_view digits) {
+    std::string all = std::string(kColorDigits, '0').append(digits);
+    all.erase(0, all.size() - kColorDigits);
+    return "#" + all.substr(4, 2) + all.substr(2, 2) + all.substr(0, 2);
+}
+
+std::string ColorToHex(std::int32_t color) {
+    std::array<char, 16> digits;
+    std::snprintf(digits.data(), digits.size(), "%X", static_cast<unsigned>(color));
+    return ColorToHex(std::string_view(digits.data()));
+}
+
+CheckedText CheckRange(std::string_view text, double lower, double upper) {
+    if (text.empty())
+        return {};
+    const std::optional<double> value = NumberOf(text);
+    if (value.has_value() && lower <= *value && *value <= upper)
+        return {std::string(text), ""};
+    return {"", "Please enter a value between " + TextOf(lower) + " and " + TextOf(upper)};
+}
+
+CheckedText CheckInteger(std::string_view text) {
+    if (text.empty())
+        return {};
+    if (const std::optional<double> value = NumberOf(text)) {
+        // Half to even, the rounding mode every program starts with.
+        const double rounded = std::nearbyint(*value);
+        if (rounded >= std::numeric_limits<std::int16_t>::min() &&
+            rounded <= std::numeric_limits<std::int16_t>::max())
+            return {std::string(text), ""};
+    }
+    return {"", "Please enter an integer value: 0 - 65535"};
+}
+
+double LeadingNumber(std::string_view text) {
+    return ValueOf(text.substr(0, NumberLength(text))).value_or(0);
+}
+
+std::string WholePoints(float points) {
+    // Adding zero makes a plain 0 of what is rounded to -0.
+    return TextOf(std::nearbyint(static_cast<double>(points)) + 0.0);
+}
+
+}  // namespace zev

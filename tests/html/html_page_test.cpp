@@ -1,0 +1,291 @@
+#include "html/html_page.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/fake/fake_file_system.h"
+
+namespace zev {
+namespace {
+
+const std::string kPath = "/site/a.htm";
+
+/// A page of its own disk, loaded.
+struct LoadedPage {
+    explicit LoadedPage(const std::string& bytes) : page(files) {
+        files.addFile(kPath, bytes);
+        EXPECT_FALSE(page.LoadFile(kPath).has_value());
+    }
+
+    FakeFileSystem files;
+    HtmlPage page;
+};
+
+/// What a tag's text is after setting an attribute of a page that is this one tag.
+std::string withAttribute(const std::string& tag, const std::string& name,
+                          const std::string& value) {
+    LoadedPage loaded(tag);
+    const std::string source(loaded.page.Source());
+    loaded.page.SetAttribute(name, value);
+    EXPECT_EQ(loaded.page.Source(), source);
+    return "<" + std::string(loaded.page.TagText()) + ">";
+}
+
+TEST(HtmlPageTest, StepsThroughThePage) {
+    struct Step {
+        bool isTag;
+        std::string name, tagText, text, source;
+    };
+    const std::vector<Step> steps = {
+        {true, "!", "!DOCTYPE html", "", "<!DOCTYPE html>"},
+        {true, "html", "HTML", "", "<HTML>"},
+        {false, "", "", "\r\n", "\r\n"},
+        {true, "!", "!-- a --", " a ", "<!-- a -->"},
+        {true, "script", "Script src=x", "f();", "<Script src=x>f();"},
+        {true, "/script", "/Script", "", "</Script>"},
+        {true, "!", "?php <a> ?", "", "<?php <a> ?>"},
+        {true, "body", "Body onLoad='x'", "", "<Body onLoad='x'>"},
+        {true, "/body", "/BODY ", "", "</BODY >"},
+        {true, "/html", "/html", "", "</html>"},
+    };
+    std::string bytes;
+    for (const Step& step : steps) {
+        bytes += step.source;
+    }
+    LoadedPage loaded(bytes);
+    for (const Step& step : steps) {
+        EXPECT_EQ(loaded.page.IsTag(), step.isTag) << step.source;
+        EXPECT_EQ(loaded.page.TagName(), step.name) << step.source;
+        EXPECT_EQ(loaded.page.TagText(), step.tagText) << step.source;
+        EXPECT_EQ(loaded.page.Text(), step.text) << step.source;
+        EXPECT_EQ(loaded.page.Source(), step.source);
+        EXPECT_EQ(loaded.page.IsLast(), &step == &steps.back()) << step.source;
+        loaded.page.Next();
+    }
+    EXPECT_EQ(loaded.page.Source(), "</html>") << "Next does nothing on the last token";
+}
+
+/// However many tokens are read ahead, each is asked when it is the current one.
+TEST(HtmlPageTest, ALongPageIsSteppedThroughTokenByToken) {
+    constexpr int kTags = 500;
+    std::string bytes;
+    for (int i = 0; i < kTags; ++i) {
+        bytes += "<Tag" + std::to_string(i) + " a=" + std::to_string(i) + ">";
+    }
+    LoadedPage loaded(bytes);
+    for (int i = 0; i < kTags; ++i) {
+        const std::string number = std::to_string(i);
+        ASSERT_EQ(loaded.page.TagName(), "tag" + number);
+        EXPECT_EQ(loaded.page.TagText(), "Tag" + number + " a=" + number);
+        EXPECT_EQ(loaded.page.Attribute("a"), number);
+        loaded.page.SetAttribute("a", "x" + number);
+        EXPECT_EQ(loaded.page.Attribute("a"), "x" + number);
+        EXPECT_EQ(loaded.page.Source(), "<Tag" + number + " a=" + number + ">");
+        ASSERT_EQ(loaded.page.IsLast(), i + 1 == kTags);
+        loaded.page.Next();
+    }
+}
+
+TEST(HtmlPageTest, AnEmptyPageHasNoToken) {
+    LoadedPage loaded("");
+    EXPECT_TRUE(loaded.page.IsLast());
+    EXPECT_FALSE(loaded.page.IsTag());
+    loaded.page.Next();
+    EXPECT_EQ(loaded.page.Source(), "");
+}
+
+TEST(HtmlPageTest, TheLastTokenIsLastEvenWhereAScriptIsCutOff) {
+    for (const std::string bytes : {"x", "<p", "<script>a", "<!-- a", "<?php", "</script>"}) {
+        LoadedPage loaded(bytes);
+        EXPECT_TRUE(loaded.page.IsLast()) << bytes;
+        EXPECT_EQ(loaded.page.Source(), bytes);
+    }
+}
+
+TEST(HtmlPageTest, AFileThatCannotBeReadIsAnErrorAndLeavesNoPage) {
+    FakeFileSystem files;
+    files.addFile(kPath, "<p>");
+    HtmlPage page(files);
+    EXPECT_FALSE(page.LoadFile(kPath).has_value());
+    const FileOutcome outcome = page.LoadFile("/site/b.htm");
+    ASSERT_TRUE(outcome.has_value());
+    EXPECT_EQ(outcome->code, FileError::Code::NotFound);
+    EXPECT_EQ(outcome->path, "/site/b.htm");
+    EXPECT_TRUE(page.IsLast());
+    EXPECT_FALSE(page.IsTag());
+    EXPECT_EQ(page.Source(), "");
+}
+
+TEST(HtmlPageTest, CloseLetsGoOfThePage) {
+    LoadedPage loaded("<p a=b>x");
+    loaded.page.SetAttribute("a", "c");
+    loaded.page.Close();
+    EXPECT_TRUE(loaded.page.IsLast());
+    EXPECT_FALSE(loaded.page.IsTag());
+    EXPECT_EQ(loaded.page.TagName(), "");
+    EXPECT_EQ(loaded.page.TagText(), "");
+    EXPECT_EQ(loaded.page.Source(), "");
+    EXPECT_EQ(loaded.page.Attribute("a"), "");
+}
+
+TEST(HtmlPageTest, AnotherPageBeginsAtItsFirstToken) {
+    LoadedPage loaded("<p>x");
+    loaded.page.SetAttribute("a", "b");
+    loaded.files.addFile("/site/b.htm", "<i>y");
+    EXPECT_FALSE(loaded.page.LoadFile("/site/b.htm").has_value());
+    EXPECT_EQ(loaded.page.TagText(), "i");
+}
+
+TEST(HtmlAttributeTest, IsReadAsSpelledInEveryQuoting) {
+    struct Case {
+        std::string tag, value;
+    };
+    for (const Case& test : std::vector<Case>{
+             {"<body onload=\"a b\">", "a b"},
+             {"<body onload='a \"b\"'>", "a \"b\""},
+             {"<body onload=a>", "a"},
+             {"<body onload=a/>", "a/"},
+             {"<body onload=a\"b'c=d>", "a\"b'c=d"},
+             {"<body onload>", ""},
+             {"<body onload=>", ""},
+             {"<body onload= >", ""},
+             {"<body onload=\"\">", ""},
+             {"<body onload = \"a\">", "a"},
+             {"<body onload\n=\n'a'>", "a"},
+             {"<body ONLOAD=a>", "a"},
+             {"<body OnLoad=\"A&quot;\">", "A&quot;"},
+             {"<body/onload=a>", "a"},
+             {"<body x onload=a>", "a"},
+             {"<body x='onload=b'onload=a>", "a"},
+             {"<body onload=a onload=b ONLOAD=c>", "a"},
+             {"<body onload onload=b>", ""},
+             {"<body xonload=b onloadx=c>", ""},
+             {"<body data-onload=b>", ""},
+             {"<body title=\"onload=b\">", ""},
+             {"<body onload=\"a\nb\">", "a\nb"},
+             {"<body onload=\"a", "a"},
+             {"<body onload=a", "a"},
+             {"<body onload=", ""},
+             {"<body onload=\"<?= \"x\" ?>\">", "<?= \"x\" ?>"},
+             {"<body onload=<? a b ?>>", "<? a b ?>"},
+             {"<body <?php onload=b ?> onload=a>", "a"},
+             {"<body <? if ($a > 1) { ?>onload=\"a\"<? } ?>>", "a"},
+             {"<body class='x'<? b ?>onload=a>", "a"},
+             {"<body<? b ?> onload=a>", "a"},
+             {"<body <?= 'name' ?>=\"x onload=b\" onload=a>", "a"},
+             {"</body onload=a>", "a"},
+         }) {
+        LoadedPage loaded(test.tag);
+        EXPECT_EQ(loaded.page.Attribute("onload"), test.value) << test.tag;
+        EXPECT_EQ(loaded.page.Attribute("OnLOAD"), test.value) << test.tag;
+    }
+}
+
+TEST(HtmlAttributeTest, TextAndCommentsHaveNone) {
+    for (const std::string bytes :
+         {"a b=c", "<!a b=c>", "<!-- b=c -->", "<? b=c ?>", "<% b=c %>"}) {
+        LoadedPage loaded(bytes);
+        const std::string tagText(loaded.page.TagText());
+        EXPECT_EQ(loaded.page.Attribute("b"), "") << bytes;
+        loaded.page.SetAttribute("b", "d");
+        EXPECT_EQ(loaded.page.TagText(), tagText) << bytes;
+    }
+}
+
+TEST(HtmlAttributeTest, AChangedValueKeepsItsQuotesAndAllOtherBytes) {
+    struct Case {
+        std::string tag, changed;
+    };
+    for (const Case& test : std::vector<Case>{
+             {"<BODY  a onLoad = \"x\"\tb='1'/ >", "<BODY  a onLoad = \"new\"\tb='1'/ >"},
+             {"<body onload='x'b>", "<body onload='new'b>"},
+             {"<body onload=x>", "<body onload=\"new\">"},
+             {"<body onload=x/>", "<body onload=\"new\">"},
+             {"<body onload=x b>", "<body onload=\"new\" b>"},
+             {"<body onload>", "<body onload=\"new\">"},
+             {"<body onload b>", "<body onload=\"new\" b>"},
+             {"<body onload/>", "<body onload=\"new\"/>"},
+             {"<body onload=>", "<body onload=\"new\">"},
+             {"<body onload= >", "<body onload= \"new\">"},
+             {"<body onload=\"\">", "<body onload=\"new\">"},
+             {"<body onload=x onload=y>", "<body onload=\"new\" onload=y>"},
+             {"<body <? a ?> onload='<? \"' ?>' <% b %>>", "<body <? a ?> onload='new' <% b %>>"},
+         }) {
+        EXPECT_EQ(withAttribute(test.tag, "onload", "new"), test.changed) << test.tag;
+    }
+}
+
+TEST(HtmlAttributeTest, AnAddedOneGoesBeforeTheClosingBracket) {
+    struct Case {
+        std::string tag, changed;
+    };
+    for (const Case& test : std::vector<Case>{
+             {"<body>", "<body onload=\"new\">"},
+             {"<body >", "<body onload=\"new\">"},
+             {"<body\n>", "<body\nonload=\"new\">"},
+             {"<body/>", "<body onload=\"new\"/>"},
+             {"<body />", "<body onload=\"new\"/>"},
+             {"<body a>", "<body a onload=\"new\">"},
+             {"<body a=b>", "<body a=b onload=\"new\">"},
+             {"<body a=b/>", "<body a=b/ onload=\"new\">"},
+             {"<body a='b'/>", "<body a='b' onload=\"new\"/>"},
+             {"<body a='b/'>", "<body a='b/' onload=\"new\">"},
+             {"<body a=>", "<body a=\"\" onload=\"new\">"},
+             {"<body a= >", "<body a= \"\" onload=\"new\">"},
+             {"<body a=\"\">", "<body a=\"\" onload=\"new\">"},
+             {"<body a=<? b ?>>", "<body a=<? b ?> onload=\"new\">"},
+             {"<body <? b ?>>", "<body <? b ?> onload=\"new\">"},
+             {"<body<? b ?>>", "<body<? b ?> onload=\"new\">"},
+             {"<body xonload=b>", "<body xonload=b onload=\"new\">"},
+         }) {
+        EXPECT_EQ(withAttribute(test.tag, "onload", "new"), test.changed) << test.tag;
+    }
+}
+
+TEST(HtmlAttributeTest, ItsQuoteInTheValueIsWrittenAsAReference) {
+    EXPECT_EQ(withAttribute("<p a=\"\">", "a", "f(\"x\",'y')"), "<p a=\"f(&quot;x&quot;,'y')\">");
+    EXPECT_EQ(withAttribute("<p a=''>", "a", "f(\"x\",'y')"), "<p a='f(\"x\",&#39;y&#39;)'>");
+    EXPECT_EQ(withAttribute("<p>", "a", "f(\"x\",'y')"), "<p a=\"f(&quot;x&quot;,'y')\">");
+    EXPECT_EQ(withAttribute("<p a=f(\"x\")>", "a", "g();f(\"x\")"),
+              "<p a=\"g();f(&quot;x&quot;)\">");
+}
+
+TEST(HtmlAttributeTest, ReferencesAndServerCodeInTheValueStayAsTheyAre) {
+    EXPECT_EQ(withAttribute("<p a='&amp;&quot;'>", "a", "x&amp;&quot;"), "<p a='x&amp;&quot;'>");
+    EXPECT_EQ(withAttribute("<p a=\"\">", "a", "\"<?= f(\"x\") ?>\""),
+              "<p a=\"&quot;<?= f(\"x\") ?>&quot;\">");
+}
+
+TEST(HtmlAttributeTest, SeveralChangesAddUpAndCanBeRead) {
+    LoadedPage loaded("<BODY onload='a'>x");
+    HtmlPage& page = loaded.page;
+    page.SetAttribute("onload", "new;" + std::string(page.Attribute("onload")));
+    page.SetAttribute("onresize", "r");
+    page.SetAttribute("onload", "x");
+    EXPECT_EQ(page.TagText(), "BODY onload='x' onresize=\"r\"");
+    EXPECT_EQ(page.Attribute("onresize"), "r");
+    EXPECT_EQ(page.TagName(), "body");
+    EXPECT_EQ(page.Source(), "<BODY onload='a'>");
+    page.Next();
+    EXPECT_EQ(page.TagText(), "");
+    EXPECT_EQ(page.Text(), "x");
+}
+
+TEST(HtmlAttributeTest, ItsOwnValueCanBeSetBack) {
+    LoadedPage loaded("<p a='x'>");
+    loaded.page.SetAttribute("a", "a long value that does not fit a short string");
+    loaded.page.SetAttribute("a", loaded.page.Attribute("a"));
+    EXPECT_EQ(loaded.page.TagText(), "p a='a long value that does not fit a short string'");
+}
+
+TEST(HtmlAttributeTest, OfAScriptTheStartTagCounts) {
+    LoadedPage loaded("<script language=JavaScript>x src=y</script>");
+    EXPECT_EQ(loaded.page.Attribute("language"), "JavaScript");
+    EXPECT_EQ(loaded.page.Attribute("src"), "");
+}
+
+}  // namespace
+}  // namespace zev
