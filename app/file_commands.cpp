@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "library/library_files.h"
+#include "messages/library_messages.h"
 #include "script/relative_url.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"

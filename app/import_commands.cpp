@@ -1,4 +1,5 @@
 #include "app/import_commands.h"
+#include "messages/import_messages.h"
 
 #include <algorithm>
 #include <vector>

@@ -7,6 +7,8 @@
 #include "cli/command_paths.h"
 #include "library/library_files.h"
 #include "library/program_folder.h"
+#include "messages/import_messages.h"
+#include "messages/library_messages.h"
 #include "script/relative_url.h"
 #include "script/submenu_list.h"
 

@@ -38,7 +38,4 @@ struct ImportResult {
 /// `bModified` is false.
 ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuDocument& document);
 
-/// The reason in English words, as the end of "line 12: ...".
-std::string_view ReasonText(ImportWarning::Reason reason);
-
 }  // namespace zev

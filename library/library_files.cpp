@@ -13,18 +13,4 @@ CopyResult CopyLibraryFile(FileSystem& files, const std::string& source,
     return files.CopyFile(source, destination) ? CopyResult::NotSaved : CopyResult::Copied;
 }
 
-std::string CopyProblemText(CopyResult result, const std::string& source,
-                            const std::string& destination) {
-    switch (result) {
-        case CopyResult::SourceMissing:
-            return "Error: " + source + " does not exist";
-        case CopyResult::NotSaved:
-            return "Error: " + destination + " not saved. Please check path permissions";
-        case CopyResult::Copied:
-        case CopyResult::SamePlace:
-            break;
-    }
-    return {};
-}
-
 }  // namespace zev

@@ -29,8 +29,4 @@ enum class CopyResult {
 CopyResult CopyLibraryFile(FileSystem& files, const std::string& source,
                            const std::string& destination);
 
-/// The sentence for the person when a copy failed; empty when there is nothing to say.
-std::string CopyProblemText(CopyResult result, const std::string& source,
-                            const std::string& destination);
-
 }  // namespace zev

@@ -404,4 +404,5 @@ void test_import_commands::exitAfterAnImportAsksNothing() {
 }
 
 QTEST_GUILESS_MAIN(test_import_commands)
+#include "messages/import_messages.h"
 #include "test_import_commands.moc"

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "importers/import_menu.h"
+#include "messages/import_messages.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
 #include "tests/support/golden_cases.h"

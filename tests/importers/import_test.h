@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "importers/import_menu.h"
+#include "messages/import_messages.h"
 #include "tests/script/document_text.h"
 
 namespace zev {

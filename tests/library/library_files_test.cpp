@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "messages/library_messages.h"
 #include "platform/fake/fake_file_system.h"
 
 namespace zev {

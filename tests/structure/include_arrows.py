@@ -11,7 +11,7 @@ import re
 import sys
 from pathlib import Path
 
-CORE = {"text", "model", "script", "importers", "html", "library", "integrator", "platform"}
+CORE = {"text", "model", "script", "importers", "html", "library", "integrator", "platform", "messages"}
 QT = {"Qt"}
 
 # Folder of the including file -> what it may include beside its own folder and the standard and
@@ -28,6 +28,7 @@ ALLOWED = {
     "html": {"platform", "text"},
     "library": {"platform", "text"},
     "integrator": {"script", "model", "html", "platform", "text"},
+    "messages": {"importers", "library", "integrator", "script", "model", "platform", "text"},
     "integrator/wizard": CORE | {"dialogs"} | QT,
     "dialogs": CORE | QT,
     "app": CORE | {"integrator/wizard", "platform/posix", "platform/qt", "dialogs"} | QT,

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "importers/import_menu.h"
+#include "messages/import_messages.h"
 #include "script/definition_lines.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "library/library_files.h"
+
+namespace zev {
+
+/// The sentence for the person when a copy failed; empty when there is nothing to say.
+std::string CopyProblemText(CopyResult result, const std::string& source,
+                            const std::string& destination);
+
+}  // namespace zev
