@@ -1,8 +1,9 @@
 #include "app/import_commands.h"
-#include "messages/import_messages.h"
 
 #include <algorithm>
 #include <vector>
+
+#include "messages/import_messages.h"
 
 namespace zev {
 

@@ -6,6 +6,7 @@
 #include "file_commands_desk.h"
 #include "imported_products.h"
 #include "link_tree.h"
+#include "messages/import_messages.h"
 #include "script/script_writer.h"
 
 using namespace zev;
@@ -404,5 +405,4 @@ void test_import_commands::exitAfterAnImportAsksNothing() {
 }
 
 QTEST_GUILESS_MAIN(test_import_commands)
-#include "messages/import_messages.h"
 #include "test_import_commands.moc"
