@@ -1,20 +1,14 @@
 #include "app/frm_main.h"
 
-#include <QAction>
 #include <QCloseEvent>
-#include <QMenu>
-#include <QMenuBar>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QToolBar>
 #include <QVBoxLayout>
 #include <exception>
-#include <functional>
 
 #include "app/frm_about.h"
-#include "app/icons.h"
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
 #include "app/open_url.h"
@@ -37,38 +31,6 @@ namespace {
 constexpr const char* kSupportAddress = "https://zevmenu.example/support";
 constexpr const char* kManual = "help/index.html";
 
-/// A button of the toolbar; its key is its tooltip as well. A separator has no key.
-struct ToolBarItem {
-    const char* key = nullptr;
-    const char* icon = nullptr;
-    frmMain::Handler click = nullptr;
-};
-
-constexpr std::array<ToolBarItem, kToolBarItems> kToolBar = {{
-    {"New", "new", &frmMain::mnuFileNew_Click},
-    {"Open", "open", &frmMain::mnuFileOpen_Click},
-    {"Save", "save", &frmMain::mnuFileSave_Click},
-    {},
-    {"Default Properties", "default_properties", &frmMain::mnuEditDefault_Click},
-    {"Menu Properties", "menu_properties", &frmMain::mnuEditMenuProperties_Click},
-    {},
-    {"Add Menu Item", "add_menu_item", &frmMain::mnuEditAddMenuItem_Click},
-    {"Add Submenu Item", "add_submenu_item", &frmMain::mnuEditAddSubmenuItem_Click},
-    {},
-    {"Move Left", "move_left", &frmMain::mnuEditMoveLeft_Click},
-    {"Move Right", "move_right", &frmMain::mnuEditMoveRight_Click},
-    {"Move Up", "move_up", &frmMain::mnuEditMoveUp_Click},
-    {"Move Down", "move_down", &frmMain::mnuEditMoveDown_Click},
-    {},
-    {"Delete", "delete", &frmMain::mnuEditDelete_Click},
-}};
-
-QMenu* AddMenu(QMenuBar* bar, const QString& name, const QString& caption) {
-    QMenu* menu = bar->addMenu(caption);
-    menu->setObjectName(name);
-    return menu;
-}
-
 }  // namespace
 
 frmMain::frmMain(const EditorServices& services, const std::string& programFolder,
@@ -80,8 +42,8 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     setObjectName("frmMain");
     // The usual menu of a main window would hide the toolbar.
     setContextMenuPolicy(Qt::NoContextMenu);
-    buildMenus();
-    buildToolBar();
+    connect(&m_commands, &CommandActions::chosen, this,
+            [this](const Command& command) { run(command.click); });
     buildTabs(webBrowser);
     buildDialogs();
     auto* sbStatusBar = new QStatusBar(this);
@@ -100,106 +62,20 @@ frmMain::~frmMain() {
     delete takeCentralWidget();
 }
 
-void frmMain::buildMenus() {
-    QMenu* file = AddMenu(menuBar(), "mnuFile", tr("&File"));
-    addEntry(file, "mnuFileNew", tr("&New"), &frmMain::mnuFileNew_Click, tr("Ctrl+N"));
-    addEntry(file, "mnuFileOpen", tr("&Open"), &frmMain::mnuFileOpen_Click, tr("Ctrl+O"));
-    mnuFileSave =
-        addEntry(file, "mnuFileSave", tr("&Save"), &frmMain::mnuFileSave_Click, tr("Ctrl+S"));
-    addEntry(file, "mnuFileSaveAs", tr("Save &As"), &frmMain::mnuFileSaveAs_Click);
-    file->addSeparator();
-    QMenu* import = file->addMenu(tr("&Import"));
-    import->setObjectName("mnuFileImport");
-    addEntry(import, "mnuFileImportQuillmenu", tr("Quillmenu"),
-             &frmMain::mnuFileImportQuillmenu_Click);
-    addEntry(import, "mnuFileImportOrletBar", tr("OrletBar"),
-             &frmMain::mnuFileImportOrletBar_Click);
-    addEntry(import, "mnuFileImportOrletMenu", tr("OrletMenu"),
-             &frmMain::mnuFileImportOrletMenu_Click);
-    addEntry(import, "mnuFileImportOrletButton", tr("OrletButton"),
-             &frmMain::mnuFileImportOrletButton_Click);
-    file->addSeparator();
-    addEntry(file, "mnuFileExit", tr("E&xit"), &frmMain::mnuFileExit_Click);
-
-    QMenu* edit = AddMenu(menuBar(), "mnuEdit", tr("&Edit"));
-    addEntry(edit, "mnuEditDefault", tr("&Default Menu Properties"), &frmMain::mnuEditDefault_Click,
-             tr("F8"));
-    mnuEditMenuProperties = addEntry(edit, "mnuEditMenuProperties", tr("M&enu Properties"),
-                                     &frmMain::mnuEditMenuProperties_Click, tr("F2"));
-    edit->addSeparator();
-    addEntry(edit, "mnuEditAddMenuItem", tr("Add &Menu Item"), &frmMain::mnuEditAddMenuItem_Click,
-             tr("Ctrl+A"));
-    mnuEditAddSubmenuItem = addEntry(edit, "mnuEditAddSubmenuItem", tr("Add &Submenu Item"),
-                                     &frmMain::mnuEditAddSubmenuItem_Click, tr("Ctrl+W"));
-    edit->addSeparator();
-    mnuEditMoveLeft = addEntry(edit, "mnuEditMoveLeft", tr("Move &Left"),
-                               &frmMain::mnuEditMoveLeft_Click, tr("Ctrl+L"));
-    mnuEditMoveRight = addEntry(edit, "mnuEditMoveRight", tr("Move &Right"),
-                                &frmMain::mnuEditMoveRight_Click, tr("Ctrl+R"));
-    mnuEditMoveUp = addEntry(edit, "mnuEditMoveUp", tr("Move &Up"), &frmMain::mnuEditMoveUp_Click,
-                             tr("Ctrl+U"));
-    mnuEditMoveDown = addEntry(edit, "mnuEditMoveDown", tr("Move &Down"),
-                               &frmMain::mnuEditMoveDown_Click, tr("Ctrl+D"));
-    edit->addSeparator();
-    mnuEditDelete = addEntry(edit, "mnuEditDelete", tr("Delete &Item"),
-                             &frmMain::mnuEditDelete_Click, tr("Del"));
-
-    QMenu* tools = AddMenu(menuBar(), "mnuTools", tr("&Tools"));
-    addEntry(tools, "mnuToolsIntegrate", tr("&Menu Integrator"), &frmMain::mnuToolsIntegrate_Click);
-
-    QMenu* help = AddMenu(menuBar(), "mnuHelp", tr("&Help"));
-    addEntry(help, "mnuHelpContents", tr("&Contents"), &frmMain::mnuHelpContents_Click, tr("F1"));
-    help->addSeparator();
-    addEntry(help, "mnuHelpAbout", tr("&About"), &frmMain::mnuHelpAbout_Click);
-    addEntry(help, "mnuHelpSupport", tr("&Support && Upgrades"), &frmMain::mnuHelpSupport_Click);
-}
-
-QAction* frmMain::addEntry(QMenu* menu, const QString& name, const QString& caption, Handler click,
-                           const QKeySequence& shortcut) {
-    QAction* entry = menu->addAction(caption);
-    entry->setObjectName(name);
-    entry->setShortcut(shortcut);
-    entry->setMenuRole(QAction::NoRole);
-    connect(entry, &QAction::triggered, this, [this, click] { run(std::bind_front(click, this)); });
-    m_shortcuts.add(*entry);
-    return entry;
-}
-
-void frmMain::buildToolBar() {
-    auto* tbToolBar = new QToolBar(tr("Toolbar"), this);
-    tbToolBar->setObjectName("tbToolBar");
-    tbToolBar->setMovable(false);
-    tbToolBar->setIconSize(QSize(24, 24));
-    for (std::size_t index = 1; index <= kToolBarItems; ++index) {
-        const ToolBarItem& item = kToolBar[index - 1];
-        QAction* button = nullptr;
-        if (item.key == nullptr) {
-            button = tbToolBar->addSeparator();
-        } else {
-            button = tbToolBar->addAction(ButtonIcon(item.icon), tr(item.key));
-            button->setToolTip(tr(item.key));
-            connect(button, &QAction::triggered, this,
-                    [this, button] { tbToolBar_ButtonClick(button->text()); });
-        }
-        button->setObjectName(QString("tbToolBar_%1").arg(index));
-        m_buttons[index] = button;
-    }
-    addToolBar(tbToolBar);
-}
-
 void frmMain::buildTabs(QWidget* webBrowser) {
     txtJavaScript = new ScriptView(this);
     txtJavaScript->setObjectName("txtJavaScript");
     txtJavaScript->setAccessibleName(tr("JavaScript"));
-    webBrowser->setObjectName("WebBrowser");
-    webBrowser->setAccessibleName(tr("Preview"));
+    WebBrowser = webBrowser;
+    WebBrowser->setObjectName("WebBrowser");
+    WebBrowser->setAccessibleName(tr("Preview"));
 
     MenuTab = new QTabWidget(this);
     MenuTab->setObjectName("MenuTab");
     MenuTab->setAccessibleName(tr("Views of the menu"));
     MenuTab->addTab(buildMenuTab(), tr("Menu"));
     MenuTab->addTab(txtJavaScript, tr("JavaScript"));
-    MenuTab->addTab(webBrowser, tr("Preview"));
+    MenuTab->addTab(WebBrowser, tr("Preview"));
     connect(MenuTab, &QTabWidget::currentChanged, this,
             [this] { guard([this] { MenuTab_Click(); }); });
     setCentralWidget(MenuTab);
@@ -247,7 +123,7 @@ void frmMain::buildDialogs() {
 }
 
 void frmMain::openDefinition(const std::string& path) {
-    run([this, &path] { m_fileCommands.openDefinition(path); });
+    run([&path](frmMain& window) { window.m_fileCommands.openDefinition(path); });
 }
 
 void frmMain::validateFields() {
@@ -282,49 +158,7 @@ void frmMain::LoadDefaultDialog() {
 }
 
 void frmMain::Button_Update() {
-    m_state.Button_Update(m_document);
-    mnuFileSave->setEnabled(m_state.mnuFileSave);
-    mnuEditMenuProperties->setEnabled(m_state.mnuEditMenuProperties);
-    mnuEditAddSubmenuItem->setEnabled(m_state.mnuEditAddSubmenuItem);
-    mnuEditMoveLeft->setEnabled(m_state.mnuEditMoveLeft);
-    mnuEditMoveRight->setEnabled(m_state.mnuEditMoveRight);
-    mnuEditMoveUp->setEnabled(m_state.mnuEditMoveUp);
-    mnuEditMoveDown->setEnabled(m_state.mnuEditMoveDown);
-    mnuEditDelete->setEnabled(m_state.mnuEditDelete);
-    for (std::size_t index = 1; index <= kToolBarItems; ++index)
-        m_buttons[index]->setEnabled(m_state.tbToolBar[index]);
-}
-
-void frmMain::mnuFileNew_Click() {
-    m_fileCommands.mnuFileNew_Click();
-}
-
-void frmMain::mnuFileOpen_Click() {
-    m_fileCommands.mnuFileOpen_Click();
-}
-
-void frmMain::mnuFileSave_Click() {
-    m_fileCommands.mnuFileSave_Click();
-}
-
-void frmMain::mnuFileSaveAs_Click() {
-    m_fileCommands.mnuFileSaveAs_Click();
-}
-
-void frmMain::mnuFileImportQuillmenu_Click() {
-    m_importCommands.mnuFileImportQuillmenu_Click();
-}
-
-void frmMain::mnuFileImportOrletBar_Click() {
-    m_importCommands.mnuFileImportOrletBar_Click();
-}
-
-void frmMain::mnuFileImportOrletMenu_Click() {
-    m_importCommands.mnuFileImportOrletMenu_Click();
-}
-
-void frmMain::mnuFileImportOrletButton_Click() {
-    m_importCommands.mnuFileImportOrletButton_Click();
+    m_commands.Button_Update(m_document);
 }
 
 void frmMain::mnuFileExit_Click() {
@@ -415,19 +249,15 @@ void frmMain::mnuHelpSupport_Click() {
 }
 
 void frmMain::tbToolBar_ButtonClick(const QString& key) {
-    for (const ToolBarItem& item : kToolBar) {
-        if (item.key != nullptr && key == tr(item.key)) {
-            run(std::bind_front(item.click, this));
-            return;
-        }
-    }
+    if (const Command* command = CommandActions::withButton(key))
+        run(command->click);
 }
 
 void frmMain::MenuTab_Click() {
     TreeView->commitEditor();
-    if (shownTab() == tr("Preview")) {
+    if (MenuTab->currentWidget() == WebBrowser) {
         m_fileCommands.ShowPreview();
-    } else if (shownTab() == tr("JavaScript")) {
+    } else if (MenuTab->currentWidget() == txtJavaScript) {
         StoreItem();
         ShowScript(GenerateScript(m_document));
     }
@@ -444,10 +274,10 @@ void frmMain::TreeView_NodeClick(MenuNode* node) {
 }
 
 /// Runs a command as the person does who leaves the field being edited for it.
-void frmMain::run(const std::function<void()>& command) {
+void frmMain::run(const std::function<void(frmMain&)>& command) {
     leaveField();
     guard([this, &command] {
-        command();
+        command(*this);
         followDocument();
     });
 }
@@ -457,14 +287,10 @@ void frmMain::run(const std::function<void()>& command) {
 void frmMain::followDocument() {
     if (m_isEnding)
         return;
-    if (shownTab() == tr("Preview"))
+    if (MenuTab->currentWidget() == WebBrowser)
         m_fileCommands.UpdatePreview();
-    else if (shownTab() == tr("JavaScript"))
+    else if (MenuTab->currentWidget() == txtJavaScript)
         ShowScript(GenerateScript(m_document));
-}
-
-QString frmMain::shownTab() const {
-    return MenuTab->tabText(MenuTab->currentIndex());
 }
 
 /// No exception may reach Qt's event loop; what is still possible is a lack of memory.
@@ -496,7 +322,7 @@ EditResult frmMain::edit(EditResult (*command)(MenuDocument&)) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!m_isEnding)
-        run([this] { mnuFileExit_Click(); });
+        run(&frmMain::mnuFileExit_Click);
     event->setAccepted(m_isEnding);
 }
 

@@ -1,16 +1,14 @@
 #pragma once
 
 #include <QMainWindow>
-#include <array>
 #include <functional>
 #include <string>
 
-#include "app/command_state.h"
+#include "app/commands.h"
 #include "app/editor_services.h"
 #include "app/editor_view.h"
 #include "app/file_commands.h"
 #include "app/import_commands.h"
-#include "app/shortcut_keys.h"
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
@@ -32,8 +30,6 @@ class frmMenuProp;
 class frmMain : public QMainWindow, public EditorView {
     Q_OBJECT
   public:
-    using Handler = void (frmMain::*)();
-
     /// `programFolder`: the folder that holds the run-time files. `webBrowser`: the widget behind
     /// `services.browser`, placed into the Preview tab, owned by the window from then on. What
     /// `services` refers to is not owned and outlives the window.
@@ -54,14 +50,14 @@ class frmMain : public QMainWindow, public EditorView {
     void LoadDefaultDialog() override;
     void Button_Update() override;
 
-    void mnuFileNew_Click();
-    void mnuFileOpen_Click();
-    void mnuFileSave_Click();
-    void mnuFileSaveAs_Click();
-    void mnuFileImportQuillmenu_Click();
-    void mnuFileImportOrletBar_Click();
-    void mnuFileImportOrletMenu_Click();
-    void mnuFileImportOrletButton_Click();
+    void mnuFileNew_Click() { m_fileCommands.mnuFileNew_Click(); }
+    void mnuFileOpen_Click() { m_fileCommands.mnuFileOpen_Click(); }
+    void mnuFileSave_Click() { m_fileCommands.mnuFileSave_Click(); }
+    void mnuFileSaveAs_Click() { m_fileCommands.mnuFileSaveAs_Click(); }
+    void mnuFileImportQuillmenu_Click() { m_importCommands.mnuFileImportQuillmenu_Click(); }
+    void mnuFileImportOrletBar_Click() { m_importCommands.mnuFileImportOrletBar_Click(); }
+    void mnuFileImportOrletMenu_Click() { m_importCommands.mnuFileImportOrletMenu_Click(); }
+    void mnuFileImportOrletButton_Click() { m_importCommands.mnuFileImportOrletButton_Click(); }
     void mnuFileExit_Click();
     void mnuEditDefault_Click();
     void mnuEditMenuProperties_Click();
@@ -89,16 +85,11 @@ class frmMain : public QMainWindow, public EditorView {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void buildMenus();
-    void buildToolBar();
     void buildTabs(QWidget* webBrowser);
     QWidget* buildMenuTab();
     void buildDialogs();
-    QAction* addEntry(QMenu* menu, const QString& name, const QString& caption, Handler click,
-                      const QKeySequence& shortcut = {});
-    void run(const std::function<void()>& command);
+    void run(const std::function<void(frmMain&)>& command);
     void followDocument();
-    QString shownTab() const;
     void guard(const std::function<void()>& work);
     void leaveField();
     EditResult edit(EditResult (*command)(MenuDocument&));
@@ -108,24 +99,14 @@ class frmMain : public QMainWindow, public EditorView {
     EditorServices m_services;
     FileCommands m_fileCommands;
     ImportCommands m_importCommands;
-    CommandState m_state;
-    ShortcutKeys m_shortcuts{*this};
+    CommandActions m_commands{*this};
     bool m_isEnding = false;
-
-    QAction* mnuFileSave = nullptr;
-    QAction* mnuEditMenuProperties = nullptr;
-    QAction* mnuEditAddSubmenuItem = nullptr;
-    QAction* mnuEditMoveLeft = nullptr;
-    QAction* mnuEditMoveRight = nullptr;
-    QAction* mnuEditMoveUp = nullptr;
-    QAction* mnuEditMoveDown = nullptr;
-    QAction* mnuEditDelete = nullptr;
-    std::array<QAction*, kToolBarItems + 1> m_buttons{};
 
     QTabWidget* MenuTab = nullptr;
     ItemPanel* m_panel = nullptr;
     MenuTreeView* TreeView = nullptr;
     ScriptView* txtJavaScript = nullptr;
+    QWidget* WebBrowser = nullptr;
 
     // Made once: they keep what was copied and which font was chosen from one use to the next.
     frmDefaultProp* m_defaultForm = nullptr;

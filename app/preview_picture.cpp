@@ -37,7 +37,7 @@ void TakePreviewPicture(frmMain& window, QtBrowserView& browser, const QString& 
         });
     });
     auto* tabs = window.findChild<QTabWidget*>("MenuTab");
-    tabs->setCurrentIndex(tabs->count() - 1);
+    tabs->setCurrentWidget(window.findChild<QWidget*>("WebBrowser"));
 }
 
 }  // namespace zev

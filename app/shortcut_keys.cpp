@@ -1,6 +1,5 @@
 #include "app/shortcut_keys.h"
 
-#include <QAction>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -10,7 +9,7 @@ namespace zev {
 
 namespace {
 
-bool HoldsText(const QWidget& widget) {
+bool holdsText(const QWidget& widget) {
     return qobject_cast<const QLineEdit*>(&widget) != nullptr ||
            qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
 }
@@ -28,10 +27,10 @@ bool ShortcutKeys::eventFilter(QObject* watched, QEvent* event) {
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (widget == nullptr || widget->window() != &m_window)
         return false;
-    const QAction* command = commandOf(static_cast<const QKeyEvent&>(*event));
-    if (command == nullptr)
+    const Shortcut* shortcut = shortcutOf(static_cast<const QKeyEvent&>(*event));
+    if (shortcut == nullptr)
         return false;
-    if (command->shortcut() == QKeySequence(Qt::Key_Delete) && HoldsText(*widget)) {
+    if (shortcut->leavesKeyToText && holdsText(*widget)) {
         // Accepted here the key is no shortcut, and comes to the widget as a press.
         if (isOverride)
             event->accept();
@@ -41,13 +40,13 @@ bool ShortcutKeys::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-/// The command with this key as its shortcut; null when there is none.
-const QAction* ShortcutKeys::commandOf(const QKeyEvent& key) const {
+/// Null when no command has this key.
+const ShortcutKeys::Shortcut* ShortcutKeys::shortcutOf(const QKeyEvent& key) const {
     const QKeySequence sequence(
         QKeyCombination(key.modifiers() & ~Qt::KeypadModifier, Qt::Key(key.key())));
-    for (const QAction* command : m_commands) {
-        if (!command->shortcut().isEmpty() && command->shortcut() == sequence)
-            return command;
+    for (const Shortcut& shortcut : m_shortcuts) {
+        if (shortcut.keys == sequence)
+            return &shortcut;
     }
     return nullptr;
 }

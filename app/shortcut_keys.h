@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QObject>
 #include <vector>
 
-class QAction;
 class QKeyEvent;
 class QWidget;
 
@@ -11,24 +11,30 @@ namespace zev {
 
 /// Sees the keys before the widgets of a window do, so that the shortcuts of its commands win over
 /// the text fields, which would take Ctrl+A or Ctrl+U for themselves. A shortcut whose command is
-/// disabled does nothing there. Only Del edits text where there is text.
+/// disabled does nothing there.
 class ShortcutKeys : public QObject {
     Q_OBJECT
   public:
     /// `window` is not owned and outlives the object. Other windows' keys are left alone.
     explicit ShortcutKeys(QWidget& window);
 
-    /// `command` is not owned and outlives the object.
-    void add(QAction& command) { m_commands.push_back(&command); }
+    /// `leavesKeyToText`: where there is text these keys edit it, and run no command.
+    void add(const QKeySequence& keys, bool leavesKeyToText) {
+        m_shortcuts.push_back({keys, leavesKeyToText});
+    }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    const QAction* commandOf(const QKeyEvent& key) const;
+    struct Shortcut {
+        QKeySequence keys;
+        bool leavesKeyToText;
+    };
+    const Shortcut* shortcutOf(const QKeyEvent& key) const;
 
     QWidget& m_window;
-    std::vector<const QAction*> m_commands;
+    std::vector<Shortcut> m_shortcuts;
 };
 
 }  // namespace zev

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <vector>
+
+#include "app/shortcut_keys.h"
+#include "model/menu_document.h"
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+
+namespace zev {
+
+class frmMain;
+
+/// One row of the table of commands. Texts are English; they are translated where they are shown.
+struct Command {
+    /// Its menu entry. A row that has only a menu is a separator there, one without a handler a
+    /// menu itself.
+    struct Entry {
+        const char* menu = "";      ///< object name of the menu it stands in; empty: the menu bar
+        const char* name = "";      ///< object name
+        const char* caption = "";   ///< "&" marks the access key
+        const char* shortcut = "";  ///< empty: none
+    };
+    /// Its toolbar button. The key is the tooltip as well; empty: there is none.
+    struct Button {
+        const char* key = "";
+        const char* icon = "";  ///< as `ButtonIcon` takes it
+    };
+    /// What stays as it was, usable or not, while there is no `CurNode`.
+    enum class Keeps { Nothing, Entry, EntryAndButton };
+    struct Rule {
+        bool (*isUsable)(const MenuDocument&) = nullptr;  ///< null: always
+        Keeps keepsWithoutNode = Keeps::Nothing;
+    };
+
+    Entry entry;
+    std::function<void(frmMain&)> click = nullptr;
+    Button button = {};
+    Rule rule = {};
+    bool leavesKeyToText = false;  ///< in a text field its shortcut edits the text instead
+};
+
+/// The commands of the main window: their table, and the menus, toolbar and shortcuts made from it.
+/// What a command does is the window's; so is what comes before and after each.
+class CommandActions : public QObject {
+    Q_OBJECT
+  public:
+    /// In the order of the menus, which gives the toolbar its order and separators too.
+    static const std::vector<Command>& rows();
+    /// The command whose toolbar button has this key; null when there is none.
+    static const Command* withButton(const QString& key);
+
+    /// Fills the menu bar of `window` and gives it the toolbar. `window` is not owned and outlives
+    /// the object.
+    explicit CommandActions(QMainWindow& window);
+
+    /// Enables and disables entries and buttons after `bModified` and `CurNode`.
+    void Button_Update(const MenuDocument& document);
+
+  signals:
+    /// The person chose this command by menu, button or shortcut.
+    void chosen(const Command& command);
+
+  private:
+    void addEntry(QMenu& menu, const Command& command);
+    void addButton(QToolBar& toolBar, const Command& command);
+    void connectAction(QAction& action, const Command& command, bool keepsWithoutNode);
+
+    /// An entry or button that is not always usable.
+    struct Switch {
+        QAction* action;
+        bool (*isUsable)(const MenuDocument&);
+        bool keepsWithoutNode;
+    };
+    std::vector<Switch> m_switches;
+    ShortcutKeys m_shortcuts;
+};
+
+}  // namespace zev
