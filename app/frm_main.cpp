@@ -311,9 +311,14 @@ void frmMain::leaveField() {
 /// Runs a tree editing command and shows the tree that it leaves.
 EditResult frmMain::edit(EditResult (*command)(MenuDocument&)) {
     const EditResult result = command(m_document);
-    if (result == EditResult::CounterExhausted)
-        m_services.messages.notice("The menu has used all its " + std::to_string(kMaxItemCounter) +
-                                   " item numbers. Save it and open it again to add more items.");
+    if (result == EditResult::CounterExhausted) {
+        std::string notice =
+            "The menu has used all its " + std::to_string(kMaxItemCounter) + " item numbers.";
+        // An opened menu has used one number an item.
+        if (m_document.tree.size() < std::size_t(kMaxItemCounter))
+            notice += " Save it and open it again to add more items.";
+        m_services.messages.notice(notice);
+    }
     if (result != EditResult::Done)
         return result;
     TreeView->showSelection();

@@ -426,6 +426,43 @@ class test_tree_commands : public QObject {
         QVERIFY(!desk.document().bModified);
     }
 
+    void openingAgainIsOfferedOnlyWhereItHelps_data() {
+        QTest::addColumn<int>("items");
+        QTest::addColumn<QString>("notice");
+        QTest::newRow("room for one more")
+            << kMaxItemCounter - 1
+            << "The menu has used all its 32767 item numbers. Save it and open it again to add "
+               "more items.";
+        QTest::newRow("as many items as numbers")
+            << int(kMaxItemCounter) << "The menu has used all its 32767 item numbers.";
+    }
+    void openingAgainIsOfferedOnlyWhereItHelps() {
+        QFETCH(int, items);
+        QFETCH(QString, notice);
+        WindowDesk desk;
+        MenuDocument full("/program");
+        for (int i = 0; i < items; ++i)
+            full.tree.append(nullptr, std::to_string(i), "x");
+        full.ItemCounter = kMaxItemCounter;
+        full.CurNode = full.selectedNode = full.tree.firstNode();
+        desk.document().takeFrom(full);
+        desk.window.Button_Update();
+        desk.messages.expect(notice.toStdString());
+        desk.choose("mnuEditAddSubmenuItem");
+        QCOMPARE(desk.document().tree.size(), std::size_t(items));
+    }
+
+    void whatOpeningAgainOffersIsTrue() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.document().ItemCounter = kMaxItemCounter;
+        desk.saveAs("/site/menu.js");
+        desk.dialogs.expectOpenFile("/site/menu.js");
+        desk.choose("mnuFileOpen");
+        desk.choose("mnuEditAddMenuItem");
+        QCOMPARE(desk.shownTree(), "a\n*Item 1\n");
+    }
+
     void theShownScriptFollowsACommand() {
         WindowDesk desk;
         desk.add("First");
