@@ -282,8 +282,9 @@ void frmMain::run(const std::function<void(frmMain&)>& command) {
     });
 }
 
-/// The JavaScript or Preview tab, when it is the one shown, follows what a command did. Nothing was
-/// typed meanwhile, so unlike a switch to the tab this stores and cleans nothing.
+/// The JavaScript or Preview tab, when it is the one shown, follows what a command did. Unlike a
+/// switch to the tab this cleans no fields (the one being edited was left before the command), and
+/// it stores the panel only where the preview is written again, as every save does.
 void frmMain::followDocument() {
     if (m_isEnding)
         return;
