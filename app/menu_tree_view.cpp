@@ -71,10 +71,10 @@ MenuTreeView::MenuTreeView(MenuDocument& document, QWidget* parent)
     header()->setStretchLastSection(false);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
 
-    connect(this, &QTreeView::expanded, this,
-            [this](const QModelIndex& index) { setNodeExpanded(index, true); });
-    connect(this, &QTreeView::collapsed, this,
-            [this](const QModelIndex& index) { setNodeExpanded(index, false); });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
+        m_document.tree.setExpanded(*m_model.nodeAt(index), true);
+    });
+    connect(this, &QTreeView::collapsed, this, &MenuTreeView::foldBranch);
     connect(&m_model, &TreeViewModel::nodeExpansionChanged, this, &QTreeView::setExpanded);
     connect(&m_model, &TreeViewModel::modelReset, this, &MenuTreeView::showExpansion);
     connect(&m_model, &TreeViewModel::labelEdited, this, &MenuTreeView::labelEdited);
@@ -164,8 +164,18 @@ void MenuTreeView::paintEvent(QPaintEvent* event) {
                      tr("The menu has no items yet.\nAdd Menu Item (Ctrl+A) makes the first one."));
 }
 
-void MenuTreeView::setNodeExpanded(const QModelIndex& index, bool isExpanded) {
-    m_document.tree.setExpanded(*m_model.nodeAt(index), isExpanded);
+/// The person is never left with a selected node that cannot be seen: the folded one is chosen in
+/// its place. A branch that the tree itself collapsed is its own affair.
+void MenuTreeView::foldBranch(const QModelIndex& index) {
+    MenuNode* folded = m_model.nodeAt(index);
+    if (!folded->isExpanded)
+        return;
+    m_document.tree.setExpanded(*folded, false);
+    const MenuNode* node = m_document.selectedNode;
+    while (node != nullptr && node->parent() != folded)
+        node = node->parent();
+    if (node != nullptr)
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
 }
 
 // A reset view has every node collapsed.

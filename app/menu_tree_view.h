@@ -23,7 +23,8 @@ class MenuTreeView : public QTreeView {
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
   signals:
-    /// The person chose this node by mouse or keyboard, or clicked it again.
+    /// The person chose this node by mouse or keyboard, clicked it again, or folded it over the one
+    /// that was selected.
     void nodeClicked(MenuNode* node);
     /// A label was edited in place; the node already shows it.
     void labelEdited(const QString& text);
@@ -39,7 +40,7 @@ class MenuTreeView : public QTreeView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void setNodeExpanded(const QModelIndex& index, bool isExpanded);
+    void foldBranch(const QModelIndex& index);
     void showExpansion();
     int indentOf(const MenuNode& node) const;
 

@@ -83,6 +83,7 @@ class ExpectedMenu {
             transfer(branchEnd(next), 0);
     }
     void select(std::size_t row) { m_current = row; }
+    void selectParent() { m_current = parentOf(m_current); }
     void setCaption(const QString& caption) { m_items[m_current].caption = caption; }
     void setUrl(const QString& url) { m_items[m_current].url = url; }
     QString caption() const { return m_items[m_current].caption; }
@@ -220,8 +221,10 @@ void test_random_commands::handle(WindowDesk& desk, ExpectedMenu& expected, unsi
             QCOMPARE(storedItems(tree), expected.items());
             break;
         default:
-            if (desk.document().CurNode->parent() != nullptr)
-                tree.setExpanded(*desk.document().CurNode->parent(), false);
+            if (desk.document().CurNode->parent() != nullptr) {
+                expected.selectParent();
+                desk.clickBranchMark(desk.document().CurNode->parent());
+            }
     }
 }
 

@@ -1,6 +1,8 @@
 // What the person does to the tree with mouse and keys: choosing items, and editing labels in
 // place.
 
+#include <QSignalSpy>
+
 #include "dialogs/frm_menu_prop.h"
 #include "when_shown.h"
 #include "window_desk.h"
@@ -319,6 +321,85 @@ class test_tree_events : public QObject {
         desk.choose("mnuEditAddMenuItem");
         QCOMPARE(desk.shownTree(), "a\n  child\n  *Item 2\n");
         QVERIFY(a->isExpanded);
+    }
+
+    void foldingTheBranchOfTheSelectedItemChoosesTheFoldedOne() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        MenuNode* child = desk.addChild("child");
+        MenuNode* grandchild = desk.addChild("grandchild");
+        desk.add("sibling");
+        desk.click(grandchild);
+        desk.type("txtURL", "it's.html");
+        desk.forgetChanges();
+        desk.clickBranchMark(a);
+        QVERIFY(!a->isExpanded);
+        QVERIFY(child->isExpanded);
+        QCOMPARE(desk.document().CurNode, a);
+        QCOMPARE(desk.document().selectedNode, a);
+        QCOMPARE(desk.shownPanel(), "normal|a||||");
+        QCOMPARE(grandchild->item.URL, "it\\'s.html");
+        QVERIFY(!desk.action("mnuEditMoveLeft").isEnabled());
+        QCOMPARE(desk.shownTree(), "*a\n  child\n    grandchild\n    sibling\n");
+        desk.clickBranchMark(a);
+        QCOMPARE(desk.document().CurNode, a);
+        QCOMPARE(desk.shownTree(), "*a\n  child\n    grandchild\n    sibling\n");
+    }
+
+    void foldingNeverMarksTheMenuAsChanged() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        desk.addChild("child");
+        for (const bool wasModified : {false, true}) {
+            desk.click(a->children().front());
+            desk.document().bModified = wasModified;
+            desk.clickBranchMark(a);
+            QCOMPARE(desk.document().CurNode, a);
+            QCOMPARE(desk.document().bModified, wasModified);
+            desk.clickBranchMark(a);
+        }
+    }
+
+    void delAfterFoldingDeletesTheItemThatIsShown() {
+        WindowDesk desk;
+        desk.add("a");
+        MenuNode* b = desk.add("b");
+        desk.addChild("child");
+        desk.clickBranchMark(b);
+        QTest::keyClick(&desk.tree(), Qt::Key_Delete);
+        QCOMPARE(desk.shownTree(), "*a\n");
+        QCOMPARE(desk.shownPanel(), "normal|a||||");
+    }
+
+    void foldingAnotherBranchKeepsTheSelectedItem() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        desk.addChild("of a");
+        desk.click(a);
+        MenuNode* b = desk.add("b");
+        MenuNode* child = desk.addChild("of b");
+        QSignalSpy clicked(&desk.tree(), &MenuTreeView::nodeClicked);
+        desk.clickBranchMark(a);
+        QVERIFY(!a->isExpanded);
+        QCOMPARE(desk.document().CurNode, child);
+        QCOMPARE(desk.shownPanel(), "normal|of b||||");
+        desk.click(b);
+        clicked.clear();
+        desk.clickBranchMark(b);
+        QVERIFY(!b->isExpanded);
+        QCOMPARE(desk.document().CurNode, b);
+        QVERIFY(clicked.isEmpty());
+    }
+
+    void aLabelBeingEditedIsTakenWhenItsBranchIsFolded() {
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        MenuNode* child = desk.addChild("child");
+        desk.startLabel(child, "It's");
+        desk.clickBranchMark(a);
+        QCOMPARE(desk.document().CurNode, a);
+        QCOMPARE(desk.shownTree(), "*a\n  It\\'s\n");
+        QCOMPARE(desk.shownPanel(), "normal|a||||");
     }
 
     void theArrowKeysChooseAfterEveryCommand_data() {

@@ -69,6 +69,13 @@ struct WindowDesk {
         click(node);
         QTest::mouseDClick(tree().viewport(), Qt::LeftButton, {}, placeOf(node));
     }
+    /// Folds the branch of a node, or unfolds it, by its mark before the label.
+    void clickBranchMark(const MenuNode* node) {
+        const QPoint label = placeOf(node);
+        const int indentation = tree().indentation();
+        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {},
+                          QPoint(label.x() - 6 - indentation / 2, label.y()));
+    }
     /// A point on the label of a node, in the tree's viewport, which is scrolled to it.
     QPoint placeOf(const MenuNode* node) {
         const QModelIndex index = indexOf(node);
