@@ -45,6 +45,7 @@ class test_file_commands : public QObject {
     void saveAsAsksAboutURLsEvenInTheSameFolder();
     void saveAsRecalculatesWhatWasTypedAMomentAgo();
     void saveAsWithoutRecalculationKeepsURLs();
+    void saveAsOfAnEmptyMenuRecalculatesNothing();
     void savingIntoTheProgramsFolderCopiesNoLibraryFile();
     void aMissingLibraryFileIsReportedAtEachSave();
     void theDefinitionIsWhatTheWriterMakes_data();
@@ -359,6 +360,25 @@ void test_file_commands::saveAsWithoutRecalculationKeepsURLs() {
     desk.saveAs("/site/sub/menu.js");
     QCOMPARE(desk.document.CurNode->item.URL, std::string("first.html"));
     QVERIFY(desk.bytesOf("/site/sub/menu.js").find("'first.html'") != std::string::npos);
+}
+
+void test_file_commands::saveAsOfAnEmptyMenuRecalculatesNothing() {
+    Desk desk;
+    desk.document.RootMenuProp.BgImg = "menu.gif";
+    desk.document.DefaultProp.BgImg = "all.gif";
+    desk.document.bModified = true;
+    const MenuProp root = desk.document.RootMenuProp;
+    const MenuProp defaults = desk.document.DefaultProp;
+    desk.dialogs.expectSaveFile("/site/menu.js");
+    desk.messages.expect(Desk::recalculate, Answer::Yes);
+    desk.commands.mnuFileSaveAs_Click();
+    QVERIFY(desk.document.RootMenuProp == root);
+    QVERIFY(desk.document.DefaultProp == defaults);
+    QVERIFY(desk.document.tree.isEmpty());
+    QVERIFY(desk.document.CurNode == nullptr);
+    QCOMPARE(desk.document.SaveFile, std::string("/site/menu.js"));
+    QVERIFY(!desk.document.bModified);
+    QCOMPARE(desk.bytesOf("/site/menu.js"), GenerateScript(desk.document) + "\r\n");
 }
 
 void test_file_commands::savingIntoTheProgramsFolderCopiesNoLibraryFile() {

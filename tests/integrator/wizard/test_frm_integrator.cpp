@@ -323,6 +323,23 @@ class test_frm_integrator : public QObject {
         QCOMPARE(desk.shownFrames(), QList<int>{2});
     }
 
+    // What is typed is asked for, not what it is good for; the blanks are left out where it is
+    // used.
+    void aDefinitionNameOfBlanksIsAccepted() {
+        WizardDesk desk;
+        desk.next();
+        desk.choosePages({"a.htm"});
+        desk.next();
+        desk.type("txtMenuDef", "  ");
+        desk.next();
+        QCOMPARE(desk.shownFrames(), QList<int>{3});
+        QVERIFY(desk.messages.recorded().empty());
+        desk.next(2);
+        QVERIFY2(desk.text("txtCode").startsWith(
+                     "<script language=\"JavaScript1.2\" src=\"\"></script>\n"),
+                 qPrintable(desk.text("txtCode")));
+    }
+
     void theLibrarysPathNeedNotBeGiven() {
         WizardDesk desk;
         desk.next();
