@@ -4,9 +4,18 @@
 
 const shared = window.ZEVMenu?.shared;
 if (!shared || shared.sums) return;
-const { menus, setting, warn } = shared;
+const { state, setting, warn } = shared;
 
-// ---- Sums: rectangles in, coordinates out ----
+// What no definition sets.
+const fixed = {
+    restMs: 200,            // a mouse that rests so long stays
+    typingMs: 700,          // letters that follow sooner belong together
+    besideMousePx: 8,       // from the mouse to its pop-up
+    menusAhead: 50,         // submenus of a box that are built before they open
+    itemsAhead: 200         // in each of them
+};
+
+// ---- Sums: rectangles in, coordinates out; no page is needed ----
 
 const opposite = { right: 'left', left: 'right', top: 'bottom', bottom: 'top' };
 
@@ -77,69 +86,91 @@ function typeAhead(names, index, typed) {
 
 shared.sums = { place, unzoomed, isHeadedFor, neighbour, realSide, typeAhead };
 
-// ---- State ----
+// ---- State: what opens, stays and closes; no element is called ----
 
-// The open submenus: `opener` is the item or link, `wish` the side to open on, `side` the one
-// found, `point` a pop-up's place.
-const levels = [];
+// 0 for the top menu and what is closed, 1 for the first open level.
+function depthOf(box) {
+    return state.levels.findIndex(level => level.box == box) + 1;
+}
 
 function openLevel(depth, level) {
-    const { box, opener } = level;
     closeFrom(depth);
-    levels.push(level);
-    // Measured first and marked then, so that styles are calculated once.
-    follow(level);
-    placeLevel(level);
-    box.style.pointerEvents = '';
-    if (opener) mark(opener, { 'aria-expanded': true });
-    if (!depth) {
-        mark(layer, { role: 'navigation', 'aria-label': box.getAttribute('aria-label') || '' });
-        watch(true);
-    }
-    fade(level, 'reverse', () => {});
-    buildAhead(box);
+    state.levels.push(level);
+    show(level);
 }
 
 function closeFrom(depth) {
-    while (levels.length > depth) hide(levels.pop());
-}
-
-function hide(level) {
-    const { box, opener } = level;
-    clearTimeout(level.timer);
-    level.observer?.disconnect();
-    if (opener) {
-        if (box.contains(focused())) opener.focus();
-        mark(opener, { 'aria-expanded': false });
-    }
-    box.style.pointerEvents = 'none';
-    fade(level, 'normal', () => { box.hidden = true; });
-    if (!levels.length) {
-        layer.removeAttribute('role');
-        layer.removeAttribute('aria-label');
-        watch(false);
+    while (state.levels.length > depth) {
+        const level = state.levels.pop();
+        clearTimeout(level.timer);
+        hide(level);
     }
 }
 
 // Lets all but the first `depth` levels close after the delay.
 function keep(depth) {
-    levels.forEach((level, index) => {
+    state.levels.forEach((level, index) => {
         if (index < depth) {
             clearTimeout(level.timer);
             level.timer = 0;
         } else if (!level.timer) {
-            level.timer = setTimeout(() => closeFrom(levels.indexOf(level)),
+            level.timer = setTimeout(() => closeFrom(state.levels.indexOf(level)),
                                      setting(null, 'closedelay'));
         }
     });
 }
 
-// ---- Page ----
+shared.closePopup = function (id) {
+    // Browsers may tell of the arrival on the pop-up before the leaving of the link.
+    const isInside = state.over && depthOf(state.over.box) > 0;
+    if (state.levels[0]?.menu.zevId == id && !isInside) keep(0);
+};
 
-let layer = null;           // holds every submenu box
+function pointAt(box, link, point) {
+    const { over: was, lastPoint: before, crossing } = state;
+    state.lastPoint = point;
+    if (!box || (was && was.link == link && was.box == box && !crossing)) return;
+    state.over = { box, link };
+    // On its way to a submenu the mouse may cross other items.
+    const from = crossing ? crossing.from : before, level = state.levels[depthOf(box)];
+    dropCrossing();
+    if (was && level && level.opener != link &&
+        isHeadedFor(from, point, rectOf(level.box), level.side)) {
+        state.crossing = { from, timer: setTimeout(hover, fixed.restMs) };
+    } else {
+        hover();
+    }
+}
+
+function hover() {
+    const { box, link } = state.over, depth = depthOf(box), child = state.levels[depth];
+    dropCrossing();
+    if (link && child?.opener == link) return keep(depth + 1);
+    keep(depth);
+    if (link) openSubmenu(link);
+}
+
+function dropCrossing() {
+    clearTimeout(state.crossing?.timer);
+    state.crossing = null;
+}
+
+function pointAway() {
+    state.lastPoint = state.over = null;
+    dropCrossing();
+    keep(0);
+}
+
+function takePress() {
+    const { press } = state;
+    state.press = {};
+    return press;
+}
+
+// ---- Page: elements, styles, events ----
 
 function submenuOf(link) {
-    const menu = menus[link.zevSubmenu];
+    const menu = state.menus[link.zevSubmenu];
     return menu?.zevItems.some(Boolean) ? menu : null;
 }
 
@@ -160,10 +191,8 @@ function linksOf(box) {
     return Array.from(box.children, line => line.firstChild);
 }
 
-// 0 in the top menu, 1 in the first open level.
-function depthOf(element) {
-    const box = boxAt(element);
-    return levels.findIndex(level => level.box == box) + 1;
+function depthAt(element) {
+    return depthOf(boxAt(element));
 }
 
 function isRtlAt(element) {
@@ -174,8 +203,12 @@ function isOpen(link) {
     return link.getAttribute('aria-expanded') == 'true';
 }
 
+// An attribute of null is taken away.
 function mark(element, attributes) {
-    Object.keys(attributes).forEach(name => element.setAttribute(name, attributes[name]));
+    Object.keys(attributes).forEach(name => {
+        if (attributes[name] == null) element.removeAttribute(name);
+        else element.setAttribute(name, attributes[name]);
+    });
 }
 
 function promote(box, role) {
@@ -191,7 +224,7 @@ function promote(box, role) {
 
 function itemOf(menu) {
     const [, parentId, position] = /^(?:(.*)i)?(.*)/.exec(menu.zevId);
-    return menus[parentId || '0']?.zevItems[position - 1];
+    return state.menus[parentId || '0']?.zevItems[position - 1];
 }
 
 function boxOf(menu) {
@@ -206,32 +239,29 @@ function boxOf(menu) {
 
 function ensureBox(menu) {
     const box = boxOf(menu);
-    if (!layer) {
-        layer = shared.createHost('layer');
-        listen(layer);
+    if (!state.layer) {
+        state.layer = shared.createHost('layer');
+        attend(state.layer, true);
     }
-    if (!layer.isConnected) document.body.appendChild(layer);
-    if (!box.isConnected) layer.shadowRoot.appendChild(box);
+    if (!state.layer.isConnected) document.body.appendChild(state.layer);
+    if (!box.isConnected) state.layer.shadowRoot.appendChild(box);
     return box;
 }
-
-const mostMenusAhead = 50, mostItemsAhead = 200;
-let ahead = [];             // menus still to be built
 
 function buildAhead(box) {
     // Until the page has loaded, its scripts may add to the definition.
     if (!box || document.readyState != 'complete') return;
-    const isRunning = ahead.length;
-    ahead = linksOf(box).map(submenuOf)
-        .filter(menu => menu && !menu.zevBox && !ahead.includes(menu) &&
-                menu.zevItems.length <= mostItemsAhead)
-        .slice(0, mostMenusAhead).concat(ahead);
+    const isRunning = state.ahead.length;
+    state.ahead = linksOf(box).map(submenuOf)
+        .filter(menu => menu && !menu.zevBox && !state.ahead.includes(menu) &&
+                menu.zevItems.length <= fixed.itemsAhead)
+        .slice(0, fixed.menusAhead).concat(state.ahead);
     if (!isRunning) buildWhenIdle();
 }
 
 function buildWhenIdle() {
-    if (ahead.length) (window.requestIdleCallback || setTimeout)(() => {
-        boxOf(ahead.shift());
+    if (state.ahead.length) state.building = (window.requestIdleCallback || setTimeout)(() => {
+        boxOf(state.ahead.shift());
         buildWhenIdle();
     });
 }
@@ -239,7 +269,7 @@ function buildWhenIdle() {
 // ---- Showing and placing ----
 
 function levelOf(link) {
-    const menu = submenuOf(link), top = menus['0'];
+    const menu = submenuOf(link), top = state.menus['0'];
     if (!menu) return null;
     const isBelowRow = !menu.zevId.includes('i') && setting(top, 'columns') > 1;
     const side = setting(menu, 'position', isBelowRow && top);
@@ -270,7 +300,7 @@ function placeLevel(level) {
     const { box } = level, { style } = box, isRtl = isRtlAt(level.opener || document.body);
     const root = document.scrollingElement || document.documentElement;
     const frame = { width: root.clientWidth, height: root.clientHeight };
-    const origin = rectOf(layer), anchor = anchorOf(level);
+    const origin = rectOf(state.layer), anchor = anchorOf(level);
     const pixels = length => unzoomed(length, origin, 100) + 'px';
     box.hidden = false;
     box.dir = isRtl ? 'rtl' : 'ltr';
@@ -298,7 +328,8 @@ function fade(level, direction, onEnd) {
 function follow(level) {
     if (!level.opener?.getClientRects().length) return;
     level.observer = new IntersectionObserver(entries => {
-        const index = levels.indexOf(level);    // -1: closed, but told in spite of disconnect()
+        // -1 if closed, but told in spite of disconnect().
+        const index = state.levels.indexOf(level);
         const isLeft = !level.opener.isConnected || !level.box.contains(focused());
         if (index >= 0 && isLeft && !entries[entries.length - 1].isIntersecting) closeFrom(index);
     });
@@ -306,110 +337,71 @@ function follow(level) {
 }
 
 function placeAll(event) {
-    levels.slice(event ? depthOf(event.target) : 0).forEach(placeLevel);
+    state.levels.slice(event ? depthAt(event.target) : 0).forEach(placeLevel);
+}
+
+function show(level) {
+    const { box, opener } = level;
+    // Measured first and marked then, so that styles are calculated once.
+    follow(level);
+    placeLevel(level);
+    box.style.pointerEvents = '';
+    if (opener) mark(opener, { 'aria-expanded': true });
+    if (state.levels.length == 1) {
+        const name = box.getAttribute('aria-label') || '';
+        mark(state.layer, { role: 'navigation', 'aria-label': name });
+        watch(true);
+    }
+    fade(level, 'reverse', () => {});
+    buildAhead(box);
+}
+
+function hide(level) {
+    const { box, opener } = level;
+    level.observer?.disconnect();
+    if (opener) {
+        if (box.contains(focused())) opener.focus();
+        mark(opener, { 'aria-expanded': false });
+    }
+    box.style.pointerEvents = 'none';
+    fade(level, 'normal', () => { box.hidden = true; });
+    if (!state.levels.length) {
+        mark(state.layer, { role: null, 'aria-label': null });
+        watch(false);
+    }
 }
 
 function openSubmenu(link) {
-    const depth = depthOf(link), level = levelOf(link);
-    if (level && levels[depth]?.menu != level.menu) openLevel(depth, level);
+    const depth = depthAt(link), level = levelOf(link);
+    if (level && state.levels[depth]?.menu != level.menu) openLevel(depth, level);
 }
-
-const besideMousePx = 8;
-let actingLink = null;      // the pop-up link that a key or tap is to open
-
-shared.openPopup = function (call) {
-    const { id, isEvent, x, y } = call, menu = menus[id];
-    if (!document.body || (document.readyState == 'loading' && !menu)) {
-        shared.waiting = call;
-        return;
-    }
-    if (!menu) return warn(`ZEVMenuOpen: there is no submenu "${id}"`);
-    const link = call.link instanceof Element && call.link.matches(anyLink) ? call.link : actingLink;
-    if (link) {
-        link.zevPopup = id;
-        adopt(link);
-    }
-    if (levels[0]?.menu == menu && levels[0].opener == link) return keep(1);
-    closeFrom(0);
-    // By a key, a tap or the focus the menu opens below the link.
-    const isBelow = link && isEvent && (actingLink || x == null);
-    openLevel(0, {
-        menu, box: ensureBox(menu), opener: link,
-        point: isBelow ? null : { x: x || 0, y: y || 0 },
-        wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(document.body)) : '',
-        offset: isBelow || !isEvent ? 0 : besideMousePx
-    });
-};
-
-shared.closePopup = function (id) {
-    // Browsers may tell of the arrival on the pop-up before the leaving of the link.
-    const isInside = over && depthOf(over.box) > 0;
-    if (levels[0]?.menu.zevId == id && !isInside) keep(0);
-};
 
 // ---- Mouse ----
 
-const restMs = 200;                 // a mouse that rests so long stays
-let over = null;                    // { box, link } under the mouse
-let lastPoint = null;
-let waiting = null;                 // { from, timer } of a hover put off
-
-function dropWaiting() {
-    clearTimeout(waiting?.timer);
-    waiting = null;
-}
-
-function hover() {
-    const { box, link } = over, depth = depthOf(box), child = levels[depth];
-    dropWaiting();
-    if (link && child?.opener == link) return keep(depth + 1);
-    keep(depth);
-    if (link) openSubmenu(link);
-}
-
 function onPointerMove(event) {
     if (event.pointerType != 'mouse') return;
-    const point = { x: event.clientX, y: event.clientY };
-    const link = linkAt(event.target), box = boxAt(event.target), before = lastPoint, was = over;
-    lastPoint = point;
-    if (!box || (was && was.link == link && was.box == box && !waiting)) return;
-    over = { box, link };
-    // On its way to a submenu the mouse may cross other items.
-    const from = waiting ? waiting.from : before, level = levels[depthOf(box)];
-    dropWaiting();
-    if (was && level && level.opener != link &&
-        isHeadedFor(from, point, rectOf(level.box), level.side)) {
-        waiting = { from, timer: setTimeout(hover, restMs) };
-    } else {
-        hover();
-    }
+    pointAt(boxAt(event.target), linkAt(event.target), { x: event.clientX, y: event.clientY });
 }
 
 // Holds a box that appears under a resting mouse, and opens nothing.
 function onPointerOver(event) {
-    if (event.pointerType == 'mouse' && !over) keep(depthOf(event.target));
+    if (event.pointerType == 'mouse' && !state.over) keep(depthAt(event.target));
 }
 
 function onPointerLeave(event) {
-    if (event.pointerType != 'mouse') return;
-    lastPoint = over = null;
-    dropWaiting();
-    keep(0);
+    if (event.pointerType == 'mouse') pointAway();
 }
-
-let press = {};             // the last pointerdown on a link, until the click
 
 function onPress(event) {
     const link = linkAt(event.target) || popupLinkAt(event);
-    if (link) press = { type: event.pointerType, wasOpen: isOpen(link) };
+    if (link) state.press = { type: event.pointerType, wasOpen: isOpen(link) };
 }
 
 // A finger or an assistive technology, which presses nothing, first opens and then follows.
 function onClick(event) {
     const link = linkAt(event.target);
     if (!link) return;
-    const { type, wasOpen } = press;
-    press = {};
+    const { type, wasOpen } = takePress();
     const isFirst = type != 'mouse' && !(type ? wasOpen : isOpen(link)) && submenuOf(link);
     if (isFirst) event.preventDefault();
     if (!isFirst && link.hasAttribute('href')) closeFrom(0);
@@ -424,8 +416,8 @@ function focused() {
 
 function onFocusIn(event) {
     const link = event.target;
-    if (!link.zevSubmenu || boxAt(link) != shared.barBox) return;
-    linksOf(shared.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
+    if (!link.zevSubmenu || boxAt(link) != state.barBox) return;
+    linksOf(state.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
 }
 
 function enter(box, isAtEnd) {
@@ -435,12 +427,12 @@ function enter(box, isAtEnd) {
 
 function openAndEnter(link, isAtEnd) {
     openSubmenu(link);
-    const level = levels[depthOf(link)];
+    const level = state.levels[depthAt(link)];
     if (level?.opener == link) enter(level.box, isAtEnd);
 }
 
 function sideOfSubmenu(link) {
-    if (isOpen(link)) return levels[depthOf(link)].side;
+    if (isOpen(link)) return state.levels[depthAt(link)].side;
     const level = levelOf(link);
     if (!level) return '';
     const wasHidden = level.box.hidden;
@@ -450,7 +442,7 @@ function sideOfSubmenu(link) {
 }
 
 function moveTo(target) {
-    const depth = depthOf(target), hadOpen = levels.length;
+    const depth = depthAt(target), hadOpen = state.levels.length;
     closeFrom(depth);
     target.focus();
     if (!depth && hadOpen) openSubmenu(target);
@@ -463,7 +455,8 @@ function nextLink(link, reading) {
 }
 
 function onArrow(link, direction) {
-    const depth = depthOf(link), level = levels[depth - 1], reading = realSide(direction, isRtlAt(link));
+    const depth = depthAt(link), level = state.levels[depth - 1];
+    const reading = realSide(direction, isRtlAt(link));
     const next = nextLink(link, reading);
     if (next) return moveTo(next);
     const side = sideOfSubmenu(link);
@@ -472,7 +465,7 @@ function onArrow(link, direction) {
     if (side && !level && side == opposite[direction]) return openAndEnter(link, true);
     if (side && (reading == 'right' || reading == 'bottom')) return openAndEnter(link);
     // From a submenu below a row the key goes on to the row's neighbour.
-    const root = level && levels[0].opener;
+    const root = level && state.levels[0].opener;
     const isGridEnd = boxAt(link).className == 'grid' && !isBeside(reading);
     const beyond = root?.zevSubmenu && !isGridEnd && nextLink(root, reading);
     if (beyond) moveTo(beyond);
@@ -480,16 +473,13 @@ function onArrow(link, direction) {
 
 const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', ArrowUp: 'top' };
 
-const typingMs = 700;               // letters that follow sooner belong together
-let typed = { text: '', time: 0 };
-
 // A space belongs to typing only after letters.
 function onLetter(link, event) {
-    const isMore = event.timeStamp - typed.time < typingMs;
+    const isMore = event.timeStamp - state.typed.time < fixed.typingMs;
     if (event.key.length != 1 || (event.key == ' ' && !isMore)) return false;
-    const links = linksOf(boxAt(link)), text = (isMore ? typed.text : '') + event.key;
+    const links = linksOf(boxAt(link)), text = (isMore ? state.typed.text : '') + event.key;
     const next = links[typeAhead(links.map(other => other.zevName), links.indexOf(link), text)];
-    if (next || event.key != ' ') typed = { text, time: event.timeStamp };
+    if (next || event.key != ' ') state.typed = { text, time: event.timeStamp };
     if (next) moveTo(next);
     return next;
 }
@@ -521,33 +511,14 @@ function onKeyDown(event) {
 
 function onEscape(event) {
     if (event.key != 'Escape') return;
-    const index = levels.findIndex(level => level.box.contains(focused()));
+    const index = state.levels.findIndex(level => level.box.contains(focused()));
     closeFrom(Math.max(index, 0));
 }
 
 function onOutside(event) {
     const path = event.composedPath();
-    if (![layer, shared.bar, levels[0].opener].some(own => path.includes(own))) closeFrom(0);
-}
-
-function watch(isOn) {
-    const change = isOn ? 'addEventListener' : 'removeEventListener';
-    document[change]('keydown', onEscape, true);
-    document[change]('pointerdown', onOutside, true);
-    window[change]('scroll', placeAll, true);
-    window[change]('resize', placeAll);
-}
-
-function listen(host) {
-    const root = host.shadowRoot;
-    root.addEventListener('scroll', placeAll, true);
-    root.addEventListener('pointerover', onPointerOver);
-    root.addEventListener('pointermove', onPointerMove);
-    root.addEventListener('pointerdown', onPress);
-    root.addEventListener('click', onClick);
-    root.addEventListener('keydown', onKeyDown);
-    root.addEventListener('focusin', onFocusIn);
-    host.addEventListener('pointerleave', onPointerLeave);
+    const { layer, bar, levels } = state;
+    if (![layer, bar, levels[0].opener].some(own => path.includes(own))) closeFrom(0);
 }
 
 // ---- Links of pop-ups ----
@@ -561,7 +532,10 @@ function popupLinkAt({ target }) {
     return (target instanceof Element && target.closest(popupLinks)) || around(target, 'zevPopup');
 }
 
+const popupMarks = ['aria-expanded', 'aria-haspopup', 'tabindex', 'role'];
+
 function adopt(link) {
+    link.zevOwn ??= Object.fromEntries(popupMarks.map(name => [name, link.getAttribute(name)]));
     if (!link.hasAttribute('aria-expanded')) mark(link, { 'aria-expanded': false });
     mark(link, { 'aria-haspopup': true });
     if (link.matches('[href],button,input,[tabindex]')) return;
@@ -569,15 +543,47 @@ function adopt(link) {
     if (!link.hasAttribute('role')) mark(link, { role: 'button' });
 }
 
+function release(link) {
+    if (!link.zevOwn) return;
+    mark(link, link.zevOwn);
+    delete link.zevOwn;
+    delete link.zevPopup;
+}
+
+shared.openPopup = function (call) {
+    const { id, isEvent, x, y } = call, { levels, actingLink } = state, menu = state.menus[id];
+    if (!document.body || (document.readyState == 'loading' && !menu)) {
+        state.earlyCall = call;
+        return;
+    }
+    if (!menu) return warn(`ZEVMenuOpen: there is no submenu "${id}"`);
+    const isLink = call.link instanceof Element && call.link.matches(anyLink);
+    const link = isLink ? call.link : actingLink;
+    if (link) {
+        link.zevPopup = id;
+        adopt(link);
+    }
+    if (levels[0]?.menu == menu && levels[0].opener == link) return keep(1);
+    closeFrom(0);
+    // By a key, a tap or the focus the menu opens below the link.
+    const isBelow = link && isEvent && (actingLink || x == null);
+    openLevel(0, {
+        menu, box: ensureBox(menu), opener: link,
+        point: isBelow ? null : { x: x || 0, y: y || 0 },
+        wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(document.body)) : '',
+        offset: isBelow || !isEvent ? 0 : fixed.besideMousePx
+    });
+};
+
 // By its handler, or as its listener did last.
 function openFrom(link, event) {
     const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name)));
-    actingLink = link;
+    state.actingLink = link;
     try {
         if (link[name]) link[name](event);
         else if (link.zevPopup) shared.openPopup({ id: link.zevPopup, isEvent: true });
     } finally {
-        actingLink = null;
+        state.actingLink = null;
     }
     return isOpen(link);
 }
@@ -585,8 +591,7 @@ function openFrom(link, event) {
 function onPageClick(event) {
     const link = popupLinkAt(event);
     if (!link) return;
-    const isTap = press.type != 'mouse' && !press.wasOpen;
-    press = {};
+    const { type, wasOpen } = takePress(), isTap = type != 'mouse' && !wasOpen;
     // An empty address would load the page anew.
     if (link.getAttribute('href') == '' || isTap) event.preventDefault();
     if (isTap && !isOpen(link)) openFrom(link, event);
@@ -598,32 +603,67 @@ function onPageKey(event) {
     const isPress = key == 'Enter' || key == 'ArrowDown' || (key == ' ' && !link.matches('[href]'));
     if (!isPress || !openFrom(link, event)) return;
     event.preventDefault();
-    enter(levels[0].box);
+    enter(state.levels[0].box);
 }
 
-shared.adoptBar = function () {
-    listen(shared.bar);
-    promote(shared.barBox, 'menubar');
-    if (!shared.bar.closest('nav,[role=navigation]')) mark(shared.bar, { role: 'navigation' });
-    // The mouse may have been there first.
-    const link = shared.barBox.querySelector('li:hover>a');
-    if (link) openSubmenu(link);
-    buildAhead(shared.barBox);
-};
-
-function openWaiting() {
-    const call = shared.waiting;
-    shared.waiting = null;
+function openEarly() {
+    const call = state.earlyCall;
+    state.earlyCall = null;
     if (call) shared.openPopup(call);
 }
 
+// ---- What is added, and taken away again ----
+
+function listen(target, isOn, listeners, isCapturing) {
+    const change = isOn ? 'addEventListener' : 'removeEventListener';
+    Object.keys(listeners).forEach(type => target[change](type, listeners[type], isCapturing));
+}
+
+// The page, while a submenu is open.
+function watch(isOn) {
+    listen(document, isOn, { keydown: onEscape, pointerdown: onOutside }, true);
+    listen(window, isOn, { scroll: placeAll }, true);
+    listen(window, isOn, { resize: placeAll });
+}
+
+// The top menu, or the layer of the submenus.
+function attend(host, isOn) {
+    listen(host.shadowRoot, isOn, { scroll: placeAll }, true);
+    listen(host.shadowRoot, isOn, {
+        pointerover: onPointerOver, pointermove: onPointerMove, pointerdown: onPress,
+        click: onClick, keydown: onKeyDown, focusin: onFocusIn
+    });
+    listen(host, isOn, { pointerleave: onPointerLeave });
+}
+
+shared.serve = function (isOn) {
+    listen(document, isOn, {
+        pointerdown: onPress, click: onPageClick, keydown: onPageKey, DOMContentLoaded: finish
+    });
+    listen(window, isOn, { load: onLoad });
+};
+
+shared.adoptBar = function () {
+    attend(state.bar, true);
+    promote(state.barBox, 'menubar');
+    if (!state.bar.closest('nav,[role=navigation]')) mark(state.bar, { role: 'navigation' });
+    // The mouse may have been there first.
+    const link = state.barBox.querySelector('li:hover>a');
+    if (link) openSubmenu(link);
+    buildAhead(state.barBox);
+};
+
 function finish() {
-    openWaiting();
+    openEarly();
     document.querySelectorAll(popupLinks).forEach(adopt);
-    Object.keys(menus).forEach(id => {
-        if (id == '0' || itemOf(menus[id])) return;
+    Object.keys(state.menus).forEach(id => {
+        if (id == '0' || itemOf(state.menus[id])) return;
         warn(`menu ${id} has no item to open from`);
     });
+}
+
+function onLoad() {
+    buildAhead(state.barBox);
 }
 
 shared.refresh = function () {
@@ -631,13 +671,25 @@ shared.refresh = function () {
     placeAll();
 };
 
-document.addEventListener('pointerdown', onPress);
-document.addEventListener('click', onPageClick);
-document.addEventListener('keydown', onPageKey);
-document.addEventListener('DOMContentLoaded', finish);
-window.addEventListener('load', () => buildAhead(shared.barBox));
-if (document.readyState != 'loading') finish();
-if (shared.barBox) shared.adoptBar();
-openWaiting();
+shared.stop = function () {
+    const { bar, barBox, layer } = state;
+    closeFrom(0);
+    dropCrossing();
+    (window.cancelIdleCallback || clearTimeout)(state.building);
+    shared.serve(false);
+    if (barBox) attend(bar, false);
+    if (layer) {
+        attend(layer, false);
+        layer.remove();
+    }
+    document.querySelectorAll('[aria-haspopup]').forEach(release);
+};
+
+if (!state.isRemoved) {
+    shared.serve(true);
+    if (document.readyState != 'loading') finish();
+    if (state.barBox) shared.adoptBar();
+    openEarly();
+}
 
 })();

@@ -2,21 +2,41 @@
 // every browser ever made may meet it.
 if (!window.ZEVMenu) (function () {
 
+// All that changes while the library is at work.
+function emptyState() {
+    return {
+        menus: {},          // by id
+        told: {},           // warnings given
+        renderer: null,     // script element
+        isRemoved: false,   // by destroy(), and no menu defined since
+        drawing: 0,         // timer of drawTop
+        bar: null,          // the page's element around the top menu
+        barBox: null,       // the top menu
+        layer: null,        // the page's element around the submenus
+        levels: [],         // open submenus, the deepest last
+        ahead: [],          // menus still to be built
+        building: 0,        // timer or idle callback of the next of them
+        earlyCall: null,    // a ZEVMenuOpen that came too early
+        actingLink: null,   // the pop-up link that a key or tap is to open
+        over: null,         // { box, link } under the mouse
+        lastPoint: null,    // { x, y } of the mouse
+        crossing: null,     // { from, timer } of a mouse on its way to a submenu
+        press: {},          // the last pointerdown on a link, until the click
+        typed: { text: '', time: 0 }    // the last letters
+    };
+}
+
+var state = emptyState();
 var shared = {
-    menus: {},          // by id
-    bar: null,          // the page's element around the top menu
-    barBox: null,
-    waiting: null,      // a ZEVMenuOpen that came too early
-    warn: warn, setting: setting, submenuId: submenuId,
+    state: state, destroy: destroy, warn: warn, setting: setting, submenuId: submenuId,
     createHost: createHost, buildBox: buildBox, nameOf: nameOf, nameFromFiles: nameFromFiles
 };
 
 var isModern = document.getElementById && document.documentElement.attachShadow;
 
-var told = {};
 function warn(text) {
-    if (!told[text] && window.console && console.warn) console.warn('ZEVMenu: ' + text);
-    told[text] = true;
+    if (!state.told[text] && window.console && console.warn) console.warn('ZEVMenu: ' + text);
+    state.told[text] = true;
 }
 
 // ---- Checks: the value to use, or null ----
@@ -108,12 +128,14 @@ function ZEVMenu(id) {
     this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';
     if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(this.zevId)) {
         warn('"' + this.zevId + '" is not a menu id');
-    } else if (shared.menus[this.zevId]) {
+    } else if (state.menus[this.zevId]) {
         warn('menu ' + this.zevId + ' is defined twice; the first is used');
     } else {
-        shared.menus[this.zevId] = this;
+        state.menus[this.zevId] = this;
         // ZEVDisplayMenu may have been called first.
-        if (shared.bar && this.zevId == '0') setTimeout(drawTop, 0);
+        if (state.bar && this.zevId == '0') state.drawing = setTimeout(drawTop, 0);
+        if (state.isRemoved && shared.serve) shared.serve(true);
+        state.isRemoved = false;
     }
 }
 
@@ -135,6 +157,7 @@ ZEVMenu.prototype.AddRollover = function (url, imageOut, imageOver, target) {
         { url: asText(url) || '', imageOut: out, imageOver: over, target: asText(target) || '' });
 };
 
+var noMenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
 function warnOfItem() {
     warn('an item stands before any menu');
 }
@@ -310,9 +333,9 @@ function buildBox(menu) {
 }
 
 function drawTop() {
-    var menu = shared.menus['0'];
-    if (!shared.bar || shared.barBox || !menu || !menu.zevItems.length) return;
-    shared.barBox = shared.bar.shadowRoot.appendChild(buildBox(menu));
+    var menu = state.menus['0'];
+    if (!state.bar || state.barBox || !menu || !menu.zevItems.length) return;
+    state.barBox = state.bar.shadowRoot.appendChild(buildBox(menu));
     if (shared.adoptBar) shared.adoptBar();
 }
 
@@ -320,9 +343,9 @@ function drawTop() {
 function placeBar() {
     var script = document.currentScript;
     if (script && script.parentNode && script.parentNode != document.head) {
-        script.parentNode.insertBefore(shared.bar, script);
+        script.parentNode.insertBefore(state.bar, script);
     } else if (document.body) {
-        document.body.insertBefore(shared.bar, document.body.firstChild);
+        document.body.insertBefore(state.bar, document.body.firstChild);
     } else {
         document.addEventListener('DOMContentLoaded', placeBar);
     }
@@ -332,15 +355,15 @@ window.ZEVDisplayMenu = function () {
     if (shared.writeLinks) {
         shared.writeLinks();
     } else if (isModern) {
-        if (!shared.bar) shared.bar = createHost('bar');
-        if (!shared.bar.isConnected) placeBar();
+        if (!state.bar) state.bar = createHost('bar');
+        if (!state.bar.isConnected) placeBar();
         drawTop();
     }
 };
 
 window.ZEVCreateMenu = window.ZEVLoadMenu = function () {
     drawTop();
-    if (shared.refresh) shared.refresh();
+    if (shared.refresh && !state.isRemoved) shared.refresh();
 };
 
 // 'zev1' and the id, or 'zev1i' + N and the rest of it.
@@ -355,25 +378,37 @@ window.ZEVMenuOpen = function (a, b, x, y) {
     var call = { id: popupId(a, b), link: event && event.currentTarget, isEvent: event != null,
         x: coordinate(event ? event.pageX : x), y: coordinate(event ? event.pageY : y) };
     if (shared.openPopup) shared.openPopup(call);
-    else shared.waiting = call;
+    else state.earlyCall = call;
 };
 
 window.ZEVMenuClose = function (a, b) {
-    shared.waiting = null;
+    state.earlyCall = null;
     if (shared.closePopup) shared.closePopup(popupId(a, b));
 };
+
+// Takes away what was added, but for the global names. The next definition starts again.
+function destroy() {
+    if (shared.stop) shared.stop();
+    clearTimeout(state.drawing);
+    document.removeEventListener('DOMContentLoaded', placeBar);
+    if (state.bar) state.bar.remove();
+    if (state.renderer) state.renderer.remove();
+    Object.assign(state, emptyState());
+    state.isRemoved = true;
+    window.zevmenu = noMenu;
+}
 
 ZEVMenu.shared = shared;
 window.ZEVMenu = ZEVMenu;
 window.zev_state = window.zev_state || {};
-window.zevmenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
+window.zevmenu = noMenu;
 
 var own = document.currentScript;
 var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
 if (prefix == '' && own && own.src) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
 
 if (isModern) {
-    var renderer = document.createElement('script');
+    var renderer = state.renderer = document.createElement('script');
     renderer.src = prefix + 'zevmenu_dom.js';
     renderer.onerror = function () {
         warn(renderer.src + ' did not load; submenus do not open');

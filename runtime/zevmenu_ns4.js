@@ -7,7 +7,7 @@
  */
 (function () {
 
-var shared = ZEVMenu.shared;
+var shared = ZEVMenu.shared, menus = shared.state.menus, isWritten = false;
 
 function text(value) {
     return typeof value == 'string' ? value : '';
@@ -33,7 +33,7 @@ function listOf(menu) {
     for (i = 0; i < menu.zevItems.length; i++) {
         item = menu.zevItems[i];
         if (item) {
-            child = shared.menus[shared.submenuId(menu, i + 1)];
+            child = menus[shared.submenuId(menu, i + 1)];
             html += '<li>' + linkOf(menu, item) + (child ? listOf(child) : '') + '</li>';
         }
     }
@@ -42,9 +42,9 @@ function listOf(menu) {
 
 // A second call writes nothing.
 shared.writeLinks = function () {
-    var top = shared.menus['0'];
-    if (top && !shared.isWritten) {
-        shared.isWritten = true;
+    var top = menus['0'];
+    if (top && !isWritten) {
+        isWritten = true;
         document.write(listOf(top));
     }
 };

@@ -1,10 +1,10 @@
 // A menu opened and closed 10,000 times: nothing is left of it. So many openings with real input would take an
 // hour; the events are made in the page, by the same targets and in the same order (growth.test.mjs has 300
-// openings by real keys). What a page holds is counted by the page itself, in functions put in place of the
-// browser's own before the library comes.
+// openings by real keys). What a page holds is counted by support_counts.mjs.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
 import { engine, nested, script, source, startLab } from './support.mjs';
+import { countingScript, driverTimers } from './support_counts.mjs';
 
 let lab, page;
 before(async () => {
@@ -13,78 +13,6 @@ before(async () => {
 });
 after(() => lab.close());
 afterEach(() => assert.deepEqual(page.errors, []));
-
-/*
- * Runs in the page before the library. Afterwards document.counts() tells what the page holds: elements, also in
- * shadow trees, listeners, timers that have not run, observed elements and running animations.
- */
-function countEverything() {
-    const listeners = new Set(), timers = new Set(), observed = new Set(), numbers = new WeakMap();
-    let last = 0;
-    const numberOf = object => {
-        if (!numbers.has(object)) numbers.set(object, ++last);
-        return numbers.get(object);
-    };
-    const keyOf = (target, type, listener, options) => [numberOf(target || window), type, numberOf(listener),
-        !!(options === true || options?.capture)].join();
-
-    const { addEventListener, removeEventListener } = EventTarget.prototype;
-    EventTarget.prototype.addEventListener = function (type, listener, options) {
-        const key = keyOf(this, type, listener, options);
-        listeners.add(key);
-        if (options?.once) addEventListener.call(this, type, () => listeners.delete(key), options);
-        return addEventListener.call(this, type, listener, options);
-    };
-    EventTarget.prototype.removeEventListener = function (type, listener, options) {
-        listeners.delete(keyOf(this, type, listener, options));
-        return removeEventListener.call(this, type, listener, options);
-    };
-
-    for (const [set, clear, isLasting] of [['setTimeout', 'clearTimeout'], ['setInterval', 'clearInterval', true],
-        ['requestAnimationFrame', 'cancelAnimationFrame'], ['requestIdleCallback', 'cancelIdleCallback']]) {
-        const [setOriginal, clearOriginal] = [window[set], window[clear]];
-        if (!setOriginal) continue;
-        window[set] = (action, ...rest) => {
-            const id = setOriginal.call(window, (...values) => {
-                if (!isLasting) timers.delete(set + id);
-                action(...values);
-            }, ...rest);
-            timers.add(set + id);
-            return id;
-        };
-        window[clear] = id => {
-            timers.delete(set + id);
-            clearOriginal.call(window, id);
-        };
-    }
-
-    for (const type of [IntersectionObserver, ResizeObserver, MutationObserver]) {
-        const { observe, disconnect } = type.prototype;
-        type.prototype.observe = function (target, ...rest) {
-            observed.add(numberOf(this) + ',' + numberOf(target));
-            return observe.call(this, target, ...rest);
-        };
-        type.prototype.disconnect = function () {
-            for (const key of observed) {
-                if (key.startsWith(numberOf(this) + ',')) observed.delete(key);
-            }
-            return disconnect.call(this);
-        };
-    }
-
-    document.counts = () => {
-        const roots = [document];
-        let elements = 0;
-        for (const root of roots) {
-            for (const element of root.querySelectorAll('*')) {
-                elements++;
-                if (element.shadowRoot) roots.push(element.shadowRoot);
-            }
-        }
-        const animations = roots.flatMap(root => root.getAnimations()).length;
-        return { elements, listeners: listeners.size, timers: timers.size, observed: observed.size, animations };
-    };
-}
 
 // Runs in the page. Opens Products that many times, every tenth time Boats below it too, and closes them by all
 // the ways there are in turn.
@@ -122,10 +50,7 @@ async function openAndClose(times, driverTimers) {
     return opened;
 }
 
-// WebKit's driver has a timer of its own in the page while a script runs.
-const driverTimers = engine == 'webkit' ? 1 : 0;
-
-const counting = { loader: script(`(${countEverything})()`) + script("var zev_path = '/runtime/';") +
+const counting = { loader: countingScript + script("var zev_path = '/runtime/';") +
     source('/runtime/zevmenu_loader.js') };
 const atOnce = nested.replace('closedelay = 300', 'closedelay = 0');
 
@@ -161,13 +86,14 @@ for (const [what, definition, rounds, times] of uses) {
     });
 }
 
-test('the counts see one element, listener, timer, observed element and animation more', async () => {
+test('the counts see one element, style sheet, listener, timer, observed element and animation more', async () => {
     await lab.show({ ...counting, definition: atOnce });
     await page.evaluate(openAndClose, 1, driverTimers);
     const first = await page.evaluate(() => document.counts());
     await page.evaluate(() => {
         const host = document.querySelector('[data-zev=bar]'), box = host.shadowRoot.querySelector('ul');
         host.shadowRoot.append(document.createElement('p'));
+        host.shadowRoot.adoptedStyleSheets = [...host.shadowRoot.adoptedStyleSheets, new CSSStyleSheet()];
         box.addEventListener('click', () => {});
         setTimeout(() => {}, 60000);
         new IntersectionObserver(() => {}).observe(box);

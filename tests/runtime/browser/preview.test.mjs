@@ -3,7 +3,7 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
-import { hover, libraryFolder, nested, shown, startLab, waitReady, waitShown } from './support.mjs';
+import { hover, item, libraryFolder, nested, shown, startLab, waitAt, waitReady, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -49,6 +49,15 @@ test('the list of pop-up links adds no names to the page', async () => {
     const names = await page.evaluate(() => ['shared', 'nameOf', 'addLink', 'addSubmenusOf'].filter(name =>
         name in window));
     assert.deepEqual(names, []);
+});
+
+test('the preview page says what a click on a link does: a browser follows it', async () => {
+    await showPreview(nested);
+    const text = await page.$eval('main', main => main.innerText.replace(/\s+/g, ' '));
+    assert.match(text, /In the editor a click on a link to a page stays here and tells where the link leads;/);
+    assert.match(text, /; in a browser it is followed\./);
+    await (await item(page, 'Home')).click();
+    await waitAt(page, lab.origin + '/preview/home.html');
 });
 
 test('the preview page has no list of pop-ups where there are no submenus', async () => {

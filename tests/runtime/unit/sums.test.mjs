@@ -7,7 +7,7 @@ import vm from 'node:vm';
 const source = readFileSync(new URL('../../../runtime/zevmenu_dom.js', import.meta.url), 'utf8');
 
 function loadSums() {
-    const window = { ZEVMenu: { shared: { menus: {} } }, addEventListener() {} };
+    const window = { ZEVMenu: { shared: { state: {} } }, addEventListener() {} };
     const document = { readyState: 'loading', addEventListener() {} };
     vm.runInNewContext(source, { window, document });
     return window.ZEVMenu.shared.sums;
