@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -9,16 +10,8 @@
 
 namespace zev {
 
-/// How a text stands in its line.
-enum class TextForm {
-    Number,  ///< as it is: 10
-    Quoted,  ///< 'transparent'
-    Points,  ///< quoted and with the unit, which the member lacks: '10pt'
-};
-
 struct TextMember {
     std::string MenuProp::*member;
-    TextForm form = TextForm::Quoted;
     const char* factory = nullptr;   ///< set by `SetDefault`; null: that leaves the member alone
     std::string_view starting = {};  ///< in the set of a new menu
 };
@@ -29,16 +22,21 @@ struct FlagMember {
     std::string_view word;  ///< stands for "on" in a line; "none" stands for "off"
 };
 
-/// A side, written as its word. 0, no side, in a new menu.
+/// A side, which a line holds as its word. 0, no side, in a new menu.
 struct PositionMember {
     std::int16_t MenuProp::*member;
     std::int16_t factory;
 };
 
-enum class DefaultsLine { Never, WhenSet };
+/// How the value stands in its line.
+enum class LineForm {
+    Number,  ///< as it is: 10
+    Quoted,  ///< 'transparent'
+    Points,  ///< quoted and with the unit, which the member lacks: '10pt'
+};
 
-/// When a menu of its own has a line for a property.
-enum class MenuLine {
+/// When there is a line.
+enum class LineRule {
     Never,
     WhenSet,
     WhenDifferent,   ///< set, and not to the value of the menu-wide defaults
@@ -47,7 +45,7 @@ enum class MenuLine {
                      ///< value is written too
 };
 
-/// What sets a property apart from the others of its kind.
+/// What sets a property apart.
 enum class Special {
     None,
     Font,         ///< a menu writes it only with `FontSet`, which reading it sets
@@ -59,56 +57,47 @@ enum class Special {
 struct MenuPropertyRow {
     std::string_view name;  ///< in the script; case-sensitive
     std::variant<TextMember, FlagMember, PositionMember> member;
-    DefaultsLine inDefaults;
-    MenuLine inMenu;
+    LineForm form;
+    LineRule inDefaults;  ///< among the lines of the menu-wide defaults
+    LineRule inMenu;      ///< among those of a menu
     Special special = Special::None;
 };
 
 /// The rows, in the order of the lines in a file.
-inline constexpr MenuPropertyRow kMenuProperties[] = {
-    {"columns", TextMember{&MenuProp::Columns, TextForm::Number, "1"}, DefaultsLine::WhenSet,
-     MenuLine::WhenSet},
-    {"bgimage", TextMember{&MenuProp::BgImg, TextForm::Quoted, ""}, DefaultsLine::WhenSet,
-     MenuLine::WhenDifferent},
-    {"hbgcolor", TextMember{&MenuProp::HBgColor, TextForm::Quoted, "#888888"},
-     DefaultsLine::WhenSet, MenuLine::WhenDifferent},
-    {"hftcolor", TextMember{&MenuProp::HFtColor, TextForm::Quoted, "#000000"},
-     DefaultsLine::WhenSet, MenuLine::WhenDifferent},
-    {"nbgcolor", TextMember{&MenuProp::NBgColor, TextForm::Quoted, "#000000"},
-     DefaultsLine::WhenSet, MenuLine::WhenDifferent},
-    {"nftcolor", TextMember{&MenuProp::NFtColor, TextForm::Quoted, "#FFFFFF"},
-     DefaultsLine::WhenSet, MenuLine::WhenDifferent},
-    {"hspacing", TextMember{&MenuProp::Spacing, TextForm::Number, ""}, DefaultsLine::WhenSet,
-     MenuLine::WhenDifferent},
-    {"menuoffset", TextMember{&MenuProp::MenuOffset, TextForm::Number, "1"}, DefaultsLine::WhenSet,
-     MenuLine::Never, Special::NotReadBack},
-    {"closedelay", TextMember{&MenuProp::CloseDelay, TextForm::Number, "500"},
-     DefaultsLine::WhenSet, MenuLine::Never, Special::NotReadBack},
-    {"position", PositionMember{&MenuProp::Position, 1}, DefaultsLine::WhenSet,
-     MenuLine::WhenDifferent},
-    {"ffade", TextMember{&MenuProp::FilterFade}, DefaultsLine::Never, MenuLine::WhenSet},
-    {"fopacity", TextMember{&MenuProp::FilterOpacity}, DefaultsLine::Never, MenuLine::WhenSet},
-    {"fshadow", TextMember{&MenuProp::FilterShadow}, DefaultsLine::Never, MenuLine::WhenSet},
-    {"fontFamily", TextMember{&MenuProp::FontFamily, TextForm::Quoted, "Arial"},
-     DefaultsLine::WhenSet, MenuLine::WhenDifferent, Special::Font},
-    {"fontSize", TextMember{&MenuProp::FontSize, TextForm::Points, "10"}, DefaultsLine::WhenSet,
-     MenuLine::WhenDifferent, Special::Font},
-    {"fontStyle", FlagMember{&MenuProp::FontStyle, "italic"}, DefaultsLine::WhenSet,
-     MenuLine::WhenDifferent, Special::Font},
-    {"fontWeight", FlagMember{&MenuProp::FontWeight, "bold"}, DefaultsLine::WhenSet,
-     MenuLine::WhenDifferent, Special::Font},
-    {"htmlAfter", TextMember{&MenuProp::HTMLAfter, TextForm::Quoted, nullptr, "&nbsp;&nbsp;"},
-     DefaultsLine::Never, MenuLine::UnlessStarting},
-    {"htmlBefore", TextMember{&MenuProp::HTMLBefore, TextForm::Quoted, nullptr, "&nbsp;&nbsp;"},
-     DefaultsLine::Never, MenuLine::UnlessStarting},
-    {"itemborder", TextMember{&MenuProp::ItemBorder}, DefaultsLine::Never, MenuLine::WhenSet},
-    {"menuborder", TextMember{&MenuProp::MenuBorder}, DefaultsLine::Never, MenuLine::WhenSet},
-    {"target", TextMember{&MenuProp::Target}, DefaultsLine::Never, MenuLine::WhenSet},
-    {"cellpadding", TextMember{&MenuProp::CellPadding, TextForm::Number, "1"}, DefaultsLine::Never,
-     MenuLine::UnlessFactory},
-    {"divider", TextMember{&MenuProp::Divider, TextForm::Quoted, nullptr, "&nbsp;"},
-     DefaultsLine::Never, MenuLine::UnlessStarting},
-};
+inline constexpr auto kMenuProperties = [] {
+    using enum LineForm;
+    using enum LineRule;
+    using enum Special;
+    using P = MenuProp;
+    return std::to_array<MenuPropertyRow>({
+        {"columns", TextMember{&P::Columns, "1"}, Number, WhenSet, WhenSet},
+        {"bgimage", TextMember{&P::BgImg, ""}, Quoted, WhenSet, WhenDifferent},
+        {"hbgcolor", TextMember{&P::HBgColor, "#888888"}, Quoted, WhenSet, WhenDifferent},
+        {"hftcolor", TextMember{&P::HFtColor, "#000000"}, Quoted, WhenSet, WhenDifferent},
+        {"nbgcolor", TextMember{&P::NBgColor, "#000000"}, Quoted, WhenSet, WhenDifferent},
+        {"nftcolor", TextMember{&P::NFtColor, "#FFFFFF"}, Quoted, WhenSet, WhenDifferent},
+        {"hspacing", TextMember{&P::Spacing, ""}, Number, WhenSet, WhenDifferent},
+        {"menuoffset", TextMember{&P::MenuOffset, "1"}, Number, WhenSet, Never, NotReadBack},
+        {"closedelay", TextMember{&P::CloseDelay, "500"}, Number, WhenSet, Never, NotReadBack},
+        {"position", PositionMember{&P::Position, 1}, Quoted, WhenSet, WhenDifferent},
+        {"ffade", TextMember{&P::FilterFade}, Quoted, Never, WhenSet},
+        {"fopacity", TextMember{&P::FilterOpacity}, Quoted, Never, WhenSet},
+        {"fshadow", TextMember{&P::FilterShadow}, Quoted, Never, WhenSet},
+        {"fontFamily", TextMember{&P::FontFamily, "Arial"}, Quoted, WhenSet, WhenDifferent, Font},
+        {"fontSize", TextMember{&P::FontSize, "10"}, Points, WhenSet, WhenDifferent, Font},
+        {"fontStyle", FlagMember{&P::FontStyle, "italic"}, Quoted, WhenSet, WhenDifferent, Font},
+        {"fontWeight", FlagMember{&P::FontWeight, "bold"}, Quoted, WhenSet, WhenDifferent, Font},
+        {"htmlAfter", TextMember{&P::HTMLAfter, nullptr, "&nbsp;&nbsp;"}, Quoted, Never,
+         UnlessStarting},
+        {"htmlBefore", TextMember{&P::HTMLBefore, nullptr, "&nbsp;&nbsp;"}, Quoted, Never,
+         UnlessStarting},
+        {"itemborder", TextMember{&P::ItemBorder}, Quoted, Never, WhenSet},
+        {"menuborder", TextMember{&P::MenuBorder}, Quoted, Never, WhenSet},
+        {"target", TextMember{&P::Target}, Quoted, Never, WhenSet},
+        {"cellpadding", TextMember{&P::CellPadding, "1"}, Number, Never, UnlessFactory},
+        {"divider", TextMember{&P::Divider, nullptr, "&nbsp;"}, Quoted, Never, UnlessStarting},
+    });
+}();
 
 /// The row of a name; null when no property has it.
 constexpr const MenuPropertyRow* findMenuProperty(std::string_view name) {

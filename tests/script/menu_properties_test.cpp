@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <iterator>
 #include <set>
+#include <sstream>
 #include <string>
 #include <variant>
 #include <vector>
@@ -24,10 +25,10 @@ namespace {
 
 const std::string kRoot = ZEV_SOURCE_FOLDER;
 
-/// A value that neither the factory nor a new menu nor `without` has.
+/// A value that neither the factory nor a new menu has.
 void setOtherValue(MenuProp& prop, const MenuPropertyRow& row) {
     if (const auto* const text = std::get_if<TextMember>(&row.member))
-        prop.*text->member = text->form == TextForm::Quoted ? "a value" : "73";
+        prop.*text->member = row.form == LineForm::Quoted ? "a value" : "73";
     else if (const auto* const flag = std::get_if<FlagMember>(&row.member))
         prop.*flag->member = true;
     else if (const auto* const position = std::get_if<PositionMember>(&row.member))
@@ -67,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(Row, EachProperty, testing::ValuesIn(kMenuProperties),
 
 TEST_P(EachProperty, OfTheDefaultsComesBackWhereItIsWritten) {
     setOtherValue(document.DefaultProp, GetParam());
-    const bool isWritten = GetParam().inDefaults == DefaultsLine::WhenSet;
+    const bool isWritten = GetParam().inDefaults == LineRule::WhenSet;
     EXPECT_EQ(("\r\n" + written(document)).find(line("zev_state.")) != std::string::npos,
               isWritten);
     const bool isReadBack = isWritten && GetParam().special != Special::NotReadBack;
@@ -86,7 +87,7 @@ TEST_P(EachProperty, OfTheTopMenuAndOfASubmenuComesBackWhereItIsWritten) {
     document.tree.append(node, "Key 1", "A1");
     setOtherValue(document.RootMenuProp, GetParam());
     setOtherValue(node->item.MenuProperty.edit(), GetParam());
-    const bool isWritten = GetParam().inMenu != MenuLine::Never;
+    const bool isWritten = GetParam().inMenu != LineRule::Never;
     EXPECT_EQ(written(document).find(line("zevmenu.")) != std::string::npos, isWritten);
     MenuProp expected = newDocument.RootMenuProp;
     MenuProp expectedOfSubmenu = *NewItemMenuProp();
