@@ -97,7 +97,7 @@ class MenuScriptReader {
         return isWhole;
     }
 
-    bool addItem(ItemProp item) {
+    bool addItem(ItemProp&& item) {
         std::string text = item.IsRollover ? item.ImageOut : item.Caption;
         if (m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
                                    std::move(text), std::move(item)))

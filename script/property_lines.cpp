@@ -52,7 +52,7 @@ void assign(const PositionMember& position, MenuProp& prop, std::string_view val
 bool hasOwnValue(const MenuPropertyRow& row, const MenuProp& prop, const MenuProp& inherited) {
     return std::visit(
         [&](const auto& kind) {
-            return prop.*kind.member != inherited.*kind.member && !textOf(kind, prop).empty();
+            return !textOf(kind, prop).empty() && prop.*kind.member != inherited.*kind.member;
         },
         row.member);
 }
@@ -130,9 +130,10 @@ std::string GetText(const MenuProp& prop, const MenuProp& defaults) {
 bool SetProperty(MenuProp& prop, std::string_view StrProp, std::string_view StrValue) {
     const MenuPropertyRow* const row = findMenuProperty(StrProp);
     if (row && row->special != Special::NotReadBack) {
-        std::string value(trimSpaces(StrValue));
+        std::string_view value = trimSpaces(StrValue);
+        std::string withoutUnit;
         if (row->form == LineForm::Points)
-            value = replaceAll(value, "pt", "");
+            value = withoutUnit = replaceAll(value, "pt", "");
         std::visit([&](const auto& kind) { assign(kind, prop, value); }, row->member);
         prop.FontSet = prop.FontSet || row->special == Special::Font;
     }

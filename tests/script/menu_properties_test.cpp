@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <ostream>
 #include <set>
 #include <sstream>
 #include <string>
@@ -20,7 +21,13 @@
 
 // What holds for every property, by going through the rows.
 
-namespace zev::test {
+namespace zev {
+
+inline void PrintTo(const MenuPropertyRow& row, std::ostream* out) {
+    *out << row.name;
+}
+
+namespace test {
 namespace {
 
 const std::string kRoot = ZEV_SOURCE_FOLDER;
@@ -149,4 +156,5 @@ TEST(MenuProperties, AreThoseOfTheirPageAndOfTheLibraryEachOnce) {
 }
 
 }  // namespace
-}  // namespace zev::test
+}  // namespace test
+}  // namespace zev
