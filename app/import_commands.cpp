@@ -9,24 +9,21 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kTextFilter = "All Files (*.*)|*.*|Text (*.txt)|*.txt";
-
 /// More are counted only: nobody reads on, and a text box is slow to show them.
 constexpr std::size_t kMaxListedWarnings = 1000;
 
 /// One line a warning, without a line end behind the last.
-std::string DetailsOf(const std::vector<ImportWarning>& warnings) {
+std::string DetailsOf(const std::vector<LineWarning>& warnings) {
     const std::size_t listed = std::min(warnings.size(), kMaxListedWarnings);
     std::string details;
     for (std::size_t index = 0; index < listed; ++index) {
-        const ImportWarning& warning = warnings[index];
+        const LineWarning& warning = warnings[index];
         details += details.empty() ? "line " : "\nline ";
         details += std::to_string(warning.line) + ": ";
         details += ReasonText(warning.reason);
     }
-    if (warnings.size() > listed) {
+    if (warnings.size() > listed)
         details += "\nand " + std::to_string(warnings.size() - listed) + " more";
-    }
     return details;
 }
 
@@ -37,39 +34,36 @@ ImportCommands::ImportCommands(const MenuDocument& document, FileCommands& fileC
     : m_document(document), m_fileCommands(fileCommands), m_messages(messages) {}
 
 void ImportCommands::mnuFileImportQuillmenu_Click() {
-    run(ImportFormat::Quillmenu, kDefinitionFilter);
+    run(*findImportFormat("quillmenu"));
 }
 
 void ImportCommands::mnuFileImportOrletBar_Click() {
-    run(ImportFormat::OrletBar, kTextFilter);
+    run(*findImportFormat("orletbar"));
 }
 
 void ImportCommands::mnuFileImportOrletMenu_Click() {
-    run(ImportFormat::OrletMenu, kTextFilter);
+    run(*findImportFormat("orletmenu"));
 }
 
 void ImportCommands::mnuFileImportOrletButton_Click() {
-    run(ImportFormat::OrletButton, kTextFilter);
+    run(*findImportFormat("orletbutton"));
 }
 
 /// A cancelled dialog leaves the new document, as a file does that cannot be read.
-void ImportCommands::run(ImportFormat format, const char* filter) {
+void ImportCommands::run(const ImportFormat& format) {
     // Where the person works; the new document does not know it any more.
     const std::string folder = m_fileCommands.definitionFolder();
-    if (!m_fileCommands.mnuFileNew_Click()) {
+    if (!m_fileCommands.mnuFileNew_Click())
         return;
-    }
-    const std::string path = m_fileCommands.chooseFile(filter, folder);
-    if (!path.empty()) {
+    const std::string path = m_fileCommands.chooseFile(format.fileFilter, folder);
+    if (!path.empty())
         importFile(format, path);
-    }
 }
 
-void ImportCommands::importFile(ImportFormat format, const std::string& path) {
+void ImportCommands::importFile(const ImportFormat& format, const std::string& path) {
     const FileResult<std::string> content = m_fileCommands.readTextFile(path);
-    if (!content.isOk()) {
+    if (!content.isOk())
         return;
-    }
     MenuDocument imported(m_document.programFolder());
     const ImportResult result = ImportMenu(format, content.value(), imported);
     m_fileCommands.replaceDocument(imported);

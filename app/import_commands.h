@@ -16,14 +16,14 @@ class ImportCommands {
   public:
     ImportCommands(const MenuDocument& document, FileCommands& fileCommands, MessageBox& messages);
 
+    void run(const ImportFormat& format);
     void mnuFileImportQuillmenu_Click();
     void mnuFileImportOrletBar_Click();
     void mnuFileImportOrletMenu_Click();
     void mnuFileImportOrletButton_Click();
 
   private:
-    void run(ImportFormat format, const char* filter);
-    void importFile(ImportFormat format, const std::string& path);
+    void importFile(const ImportFormat& format, const std::string& path);
 
     const MenuDocument& m_document;
     FileCommands& m_fileCommands;

@@ -64,21 +64,19 @@ void addFormat(CLI::App& program, FileSystem& files, Command& chosen) {
     });
 }
 
-std::optional<ImportFormat> importFormatOf(std::string_view name) {
-    constexpr std::pair<std::string_view, ImportFormat> kFormats[] = {
-        {"quillmenu", ImportFormat::Quillmenu},
-        {"orletbar", ImportFormat::OrletBar},
-        {"orletmenu", ImportFormat::OrletMenu},
-        {"orletbutton", ImportFormat::OrletButton}};
-    for (const auto& [formatName, format] : kFormats) {
-        if (formatName == name)
-            return format;
+/// The names of the formats, as in "a, b or c".
+std::string importFormatNames() {
+    std::string names;
+    for (const ImportFormat& format : importFormats()) {
+        if (!names.empty())
+            names += &format == &importFormats().back() ? " or " : ", ";
+        names += format.name;
     }
-    return {};
+    return names;
 }
 
 std::string refuseNoImportFormat(const std::string& name) {
-    return importFormatOf(name) ? "" : "must be quillmenu, orletbar, orletmenu or orletbutton";
+    return findImportFormat(name) ? "" : "must be " + importFormatNames();
 }
 
 void addImport(CLI::App& program, FileSystem& files, Command& chosen) {
@@ -90,8 +88,7 @@ void addImport(CLI::App& program, FileSystem& files, Command& chosen) {
     CLI::App& command = addCommand(
         program, "import", "Read the menu of an earlier product and write a menu definition");
     command
-        .add_option("--format", options->formatName,
-                    "What made the menu: quillmenu, orletbar, orletmenu or orletbutton")
+        .add_option("--format", options->formatName, "What made the menu: " + importFormatNames())
         ->required()
         ->type_name("FORMAT")
         ->check(refuseNoImportFormat);
@@ -100,7 +97,7 @@ void addImport(CLI::App& program, FileSystem& files, Command& chosen) {
     addInput(command, options->settings.input, "Menu to read");
     addOutput(command, options->settings.output);
     command.callback([&files, &chosen, options] {
-        options->settings.format = *importFormatOf(options->formatName);
+        options->settings.format = findImportFormat(options->formatName);
         chosen = [&files, options] { return importCommand(files, options->settings); };
     });
 }

@@ -60,11 +60,11 @@ ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
         return ExitStatus::FileProblem;
     }
     MenuDocument& document = commandDocument();
-    const ImportResult result = ImportMenu(options.format, bytes.value(), document);
+    const ImportResult result = ImportMenu(*options.format, bytes.value(), document);
     if (!writeDefinition(files, options.output, document))
         return ExitStatus::FileProblem;
     if (options.isVerbose) {
-        for (const ImportWarning& warning : result.warnings)
+        for (const LineWarning& warning : result.warnings)
             std::cerr << "line " << warning.line << ": " << ReasonText(warning.reason) << '\n';
     }
     const std::size_t warningCount = result.warnings.size();

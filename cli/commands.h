@@ -15,7 +15,7 @@ namespace zev {
 ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output);
 
 struct ImportOptions {
-    ImportFormat format = ImportFormat::Quillmenu;
+    const ImportFormat* format = nullptr;  ///< never null when the command runs
     std::string input;
     std::string output;
     bool isVerbose = false;  ///< each warning is printed, with its line

@@ -7,11 +7,9 @@
 
 // The first byte chooses the format: '0' bar, '1' menu, '2' button.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    using zev::ImportFormat;
     if (size == 0)
         return 0;
-    constexpr ImportFormat kFormats[] = {ImportFormat::OrletBar, ImportFormat::OrletMenu,
-                                         ImportFormat::OrletButton};
+    constexpr const char* kFormats[] = {"orletbar", "orletmenu", "orletbutton"};
     const std::string problem = zev::test::problemOfImport(
         kFormats[bytes[0] % 3], std::string(reinterpret_cast<const char*>(bytes) + 1, size - 1));
     if (!problem.empty()) {

@@ -7,7 +7,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string problem = zev::test::problemOfImport(
-        zev::ImportFormat::Quillmenu, std::string(reinterpret_cast<const char*>(bytes), size));
+        "quillmenu", std::string(reinterpret_cast<const char*>(bytes), size));
     if (!problem.empty()) {
         std::fprintf(stderr, "%s\n", problem.c_str());
         std::abort();

@@ -1,40 +1,54 @@
 #include "importers/import_menu.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 
 #include "importers/orlet_reader.h"
 #include "importers/quillmenu_reader.h"
-#include "script/definition_lines.h"
 
 namespace zev {
 
 namespace {
 
-std::vector<ImportWarning> ReadLines(ImportFormat format, DefinitionLines& lines,
-                                     MenuDocument& document) {
-    switch (format) {
-        case ImportFormat::Quillmenu:
-            return ReadQuillmenu(lines, document);
-        case ImportFormat::OrletBar:
-            return ReadOrlet(lines, OrletTopLevel::LinkItems, document);
-        case ImportFormat::OrletMenu:
-            document.RootMenuProp.Columns = "1";  // a vertical list
-            return ReadOrlet(lines, OrletTopLevel::LinkItems, document);
-        case ImportFormat::OrletButton:
-            return ReadOrlet(lines, OrletTopLevel::ImageItems, document);
-    }
-    return {};
+constexpr const char* kScriptFilter = "All Files (*.*)|*.*|JavaScript (*.js)|*.js";
+constexpr const char* kTextFilter = "All Files (*.*)|*.*|Text (*.txt)|*.txt";
+
+template <OrletTopLevel kTopLevel>
+std::vector<LineWarning> readOrletAs(DefinitionLines& lines, MenuDocument& document) {
+    return ReadOrlet(lines, kTopLevel, document);
 }
+
+constexpr ImportFormat kFormats[] = {
+    {"quillmenu", "Quillmenu", "mnuFileImportQuillmenu", kScriptFilter, ReadQuillmenu},
+    {"orletbar", "OrletBar", "mnuFileImportOrletBar", kTextFilter, readOrletAs<OrletTopLevel::Bar>},
+    {"orletmenu", "OrletMenu", "mnuFileImportOrletMenu", kTextFilter,
+     readOrletAs<OrletTopLevel::List>},
+    {"orletbutton", "OrletButton", "mnuFileImportOrletButton", kTextFilter,
+     readOrletAs<OrletTopLevel::ImageBar>},
+};
 
 }  // namespace
 
-ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuDocument& document) {
+std::span<const ImportFormat> importFormats() {
+    return kFormats;
+}
+
+const ImportFormat* findImportFormat(std::string_view name) {
+    const auto* const found =
+        std::find_if(std::begin(kFormats), std::end(kFormats),
+                     [name](const ImportFormat& format) { return format.name == name; });
+    return found == std::end(kFormats) ? nullptr : found;
+}
+
+ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes,
+                        MenuDocument& document) {
     DefinitionLines lines(bytes);
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 16;
     document.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
-    ImportResult result{ReadLines(format, lines, document)};
+    ImportResult result{format.read(lines, document)};
     document.CurNode = document.tree.firstNode();
     document.selectedNode = document.CurNode;
     document.bModified = false;

@@ -1,33 +1,36 @@
 #pragma once
 
-#include <cstddef>
+#include <span>
 #include <string_view>
 #include <vector>
 
 #include "model/menu_document.h"
+#include "script/definition_lines.h"
+#include "script/line_warning.h"
 
 namespace zev {
 
-/// Earlier products whose menus can be read.
-enum class ImportFormat { Quillmenu, OrletBar, OrletMenu, OrletButton };
-
-/// A line that could not be applied as it stands.
-struct ImportWarning {
-    enum class Reason {
-        UnknownMenu,   ///< a property or item of a menu that no item opens
-        DuplicateKey,  ///< the item's place is taken by an earlier one
-        AboveTop,      ///< the item goes up past the top level
-        StartsDeep,    ///< the first item is deeper than the top level; it was put there
-        TooManyItems,  ///< the menu holds as many items as it can
-    };
-    std::size_t line = 0;  ///< counted from 1
-    Reason reason = Reason::UnknownMenu;
-    bool operator==(const ImportWarning&) const = default;
+/// An earlier product whose menus can be read, and all that the editor and the command line say of
+/// it.
+struct ImportFormat {
+    std::string_view name;       ///< on the command line
+    std::string_view title;      ///< for people
+    std::string_view menuEntry;  ///< the object name of the editor's command
+    const char* fileFilter;      ///< of the dialog that asks for the file
+    /// Reads the lines into a new document; returns the warnings. `CurNode`, `selectedNode` and
+    /// `bModified` are left to the caller.
+    std::vector<LineWarning> (*read)(DefinitionLines& lines, MenuDocument& document);
 };
+
+/// The formats, in the order of the menu.
+std::span<const ImportFormat> importFormats();
+
+/// The format of a name on the command line; null when there is none.
+const ImportFormat* findImportFormat(std::string_view name);
 
 /// What an import counted, in the order of the lines. One line can give two warnings.
 struct ImportResult {
-    std::vector<ImportWarning> warnings;
+    std::vector<LineWarning> warnings;
 };
 
 /// Reads the menu of an earlier product into `document`, which must be a new document
@@ -36,6 +39,6 @@ struct ImportResult {
 /// `bytes` is the file's whole content, with the encodings and line ends of a definition file.
 /// Lines that mean nothing are skipped. Afterwards the first node is current and selected and
 /// `bModified` is false.
-ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuDocument& document);
+ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes, MenuDocument& document);
 
 }  // namespace zev

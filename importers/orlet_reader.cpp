@@ -13,7 +13,7 @@ namespace zev {
 
 namespace {
 
-using Reason = ImportWarning::Reason;
+using Reason = LineWarning::Reason;
 
 bool IsLeftOut(std::string_view field) {
     return field == "~";
@@ -66,7 +66,7 @@ class OrletReader {
             addItem(parentOf(level, climb), level, line.substr(level));
     }
 
-    std::vector<ImportWarning> takeWarnings() { return std::move(m_warnings); }
+    std::vector<LineWarning> takeWarnings() { return std::move(m_warnings); }
 
   private:
     /// The parent of the item of the current line, and its depth into `m_depth`. However much
@@ -91,7 +91,7 @@ class OrletReader {
     /// The item placed before it has no later sibling and no child yet, nor has any item it lies in
     /// a later sibling: every place is the last of its parent.
     void addItem(MenuNode* parent, std::size_t level, std::string_view fields) {
-        const bool hasImage = level == 1 && m_topLevel == OrletTopLevel::ImageItems;
+        const bool hasImage = level == 1 && m_topLevel == OrletTopLevel::ImageBar;
         ItemProp item = ReadItem(PieceCutter(fields, '|'), hasImage);
         // The number is new at every item, so the key is never taken.
         ++m_document.ItemCounter;
@@ -107,7 +107,7 @@ class OrletReader {
 
     OrletTopLevel m_topLevel;
     MenuDocument& m_document;
-    std::vector<ImportWarning> m_warnings;
+    std::vector<LineWarning> m_warnings;
     std::size_t m_lineNumber = 0;
     MenuNode* m_previous = nullptr;  ///< the item placed last; null before the first
     std::size_t m_level = 1;         ///< colons of that item's line; may be more than its depth
@@ -116,8 +116,10 @@ class OrletReader {
 
 }  // namespace
 
-std::vector<ImportWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
-                                     MenuDocument& document) {
+std::vector<LineWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
+                                   MenuDocument& document) {
+    if (topLevel == OrletTopLevel::List)
+        document.RootMenuProp.Columns = "1";
     OrletReader reader(topLevel, document);
     std::string_view line;
     while (lines.next(line))

@@ -2,15 +2,18 @@
 
 #include <vector>
 
-#include "importers/import_menu.h"
+#include "model/menu_document.h"
 #include "script/definition_lines.h"
+#include "script/line_warning.h"
 
 namespace zev {
 
-/// What the fields of a top-level item are. All other items have a caption, a link and a target.
+/// The top-level menu. An item has a caption, a link and a target; one of the top-level menu may
+/// have an image beside its caption, in the second field.
 enum class OrletTopLevel {
-    LinkItems,   ///< the same
-    ImageItems,  ///< caption, image beside it, link, target
+    Bar,       ///< as in a new document
+    List,      ///< one item below the other
+    ImageBar,  ///< a bar of items with images
 };
 
 /// Reads a menu whose items are lines that begin with colons, one for each level, into a new
@@ -21,7 +24,7 @@ enum class OrletTopLevel {
 ///     :Contact|~|~                    "~" is an empty field
 ///
 /// `CurNode`, `selectedNode` and `bModified` are left to the caller.
-std::vector<ImportWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
-                                     MenuDocument& document);
+std::vector<LineWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
+                                   MenuDocument& document);
 
 }  // namespace zev

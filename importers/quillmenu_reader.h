@@ -2,8 +2,9 @@
 
 #include <vector>
 
-#include "importers/import_menu.h"
+#include "model/menu_document.h"
 #include "script/definition_lines.h"
+#include "script/line_warning.h"
 
 namespace zev {
 
@@ -18,6 +19,6 @@ namespace zev {
 ///
 /// A submenu's id spells the positions of the items that lead to it, from 1. `CurNode`,
 /// `selectedNode` and `bModified` are left to the caller.
-std::vector<ImportWarning> ReadQuillmenu(DefinitionLines& lines, MenuDocument& document);
+std::vector<LineWarning> ReadQuillmenu(DefinitionLines& lines, MenuDocument& document);
 
 }  // namespace zev

@@ -2,18 +2,20 @@
 
 namespace zev {
 
-std::string_view ReasonText(ImportWarning::Reason reason) {
+std::string_view ReasonText(LineWarning::Reason reason) {
     switch (reason) {
-        case ImportWarning::Reason::UnknownMenu:
+        case LineWarning::Reason::UnknownMenu:
             return "no item opens the menu it belongs to";
-        case ImportWarning::Reason::DuplicateKey:
+        case LineWarning::Reason::DuplicateKey:
             return "an earlier item has its place";
-        case ImportWarning::Reason::AboveTop:
+        case LineWarning::Reason::AboveTop:
             return "the item goes up past the top level";
-        case ImportWarning::Reason::StartsDeep:
+        case LineWarning::Reason::StartsDeep:
             return "the first item is deeper than the top level; it was put there";
-        case ImportWarning::Reason::TooManyItems:
+        case LineWarning::Reason::TooManyItems:
             return "the menu holds as many items as it can";
+        case LineWarning::Reason::NotUnderstood:
+            return "it is not a line that a menu has";
     }
     return {};
 }

@@ -2,11 +2,11 @@
 
 #include <string_view>
 
-#include "importers/import_menu.h"
+#include "script/line_warning.h"
 
 namespace zev {
 
 /// The reason in English words, as the end of "line 12: ...".
-std::string_view ReasonText(ImportWarning::Reason reason);
+std::string_view ReasonText(LineWarning::Reason reason);
 
 }  // namespace zev

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "model/shared_menu_prop.h"
 
@@ -21,19 +20,6 @@ struct ItemProp {
     std::string Caption;          ///< caption of a text item, HTML
 
     bool operator==(const ItemProp&) const = default;
-
-    /// The item's script line, without line end.
-    std::string GetText() const;
-    /// Appends the same line to `script`.
-    void AppendText(std::string& script) const;
-
-    /// Loads a rollover item from an "AddRollover" line. An argument the line lacks leaves its
-    /// member unchanged.
-    void Set_ImageProperty(std::string_view StrLine);
-
-    /// Loads a text item from an "AddItem" line. An argument the line lacks leaves its member
-    /// unchanged.
-    void Set_ItemProperty(std::string_view StrLine);
 };
 
 }  // namespace zev

@@ -3,6 +3,8 @@
 #include <cassert>
 #include <utility>
 
+#include "model/menu_properties.h"
+
 namespace zev {
 
 MenuDocument::MenuDocument(std::string programFolder) : m_programFolder(std::move(programFolder)) {
@@ -42,9 +44,10 @@ void MenuDocument::takeFrom(MenuDocument& other) {
 const SharedMenuProp& NewItemMenuProp() {
     static const SharedMenuProp shared = [] {
         MenuProp prop;
-        prop.Divider = "&nbsp;";
-        prop.HTMLAfter = "&nbsp;&nbsp;";
-        prop.HTMLBefore = "&nbsp;&nbsp;";
+        for (const MenuPropertyRow& row : kMenuProperties) {
+            if (const auto* const text = std::get_if<TextMember>(&row.member))
+                prop.*text->member = text->starting;
+        }
         return prop;
     }();
     return shared;

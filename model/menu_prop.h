@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace zev {
 
@@ -42,18 +41,6 @@ struct MenuProp {
 
     /// Loads the factory defaults. Members without a factory default keep their value.
     void SetDefault();
-
-    /// The `zev_state` lines of this set, each ending in CR LF. Meant for the menu-wide defaults.
-    std::string GetDefaultText() const;
-
-    /// The `zevmenu` lines of one menu level, each ending in CR LF; may be empty. Values equal to
-    /// those of `defaults` are left out where inheritance supplies them.
-    std::string GetText(const MenuProp& defaults) const;
-
-    /// Assigns the property with the script name `StrProp` (exact, case-sensitive) from a value
-    /// without quotes and semicolon; spaces around the value are dropped. Unknown names are
-    /// ignored, "menuoffset" and "closedelay" among them: a file never brings those two back.
-    void SetProperty(std::string_view StrProp, std::string_view StrValue);
 };
 
 }  // namespace zev

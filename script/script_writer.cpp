@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "script/item_lines.h"
+#include "script/property_lines.h"
 #include "script/submenu_walk.h"
 #include "text/text_encoding.h"
 
@@ -22,7 +24,7 @@ void WriteMenu(std::string& script, std::string_view id, const std::string& prop
     script += properties;
     script += kLineEnd;
     for (const MenuNode* node : items) {
-        node->item.AppendText(script);
+        appendText(script, node->item);
         script += kLineEnd;
     }
     script += kLineEnd;
@@ -37,15 +39,15 @@ std::string GenerateScript(const MenuDocument& document) {
     constexpr std::size_t kUsualLineBytes = 96;
     std::string script;
     script.reserve(1024 + tree.size() * kUsualLineBytes);
-    script += defaults.GetDefaultText();
+    script += GetDefaultText(defaults);
     script += kLineEnd;
     if (tree.isEmpty())
         return script;
 
-    WriteMenu(script, "0", document.RootMenuProp.GetText(defaults), tree.topLevel());
+    WriteMenu(script, "0", GetText(document.RootMenuProp, defaults), tree.topLevel());
     SubmenuWalk walk(tree);
     while (const MenuNode* node = walk.next())
-        WriteMenu(script, walk.id(), node->item.MenuProperty->GetText(defaults), node->children());
+        WriteMenu(script, walk.id(), GetText(*node->item.MenuProperty, defaults), node->children());
     return script;
 }
 

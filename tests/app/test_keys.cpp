@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "imported_products.h"
+#include "script/item_lines.h"
 #include "when_shown.h"
 #include "window_desk.h"
 
@@ -137,7 +138,7 @@ class test_keys : public QObject {
             QCOMPARE(desk.shownPanel(), panel);
             QVERIFY(desk.disk.allFiles()
                         .at("/site/menu.js")
-                        .find(desk.document().CurNode->item.GetText()) != std::string::npos);
+                        .find(GetText(desk.document().CurNode->item)) != std::string::npos);
             QVERIFY(!desk.document().bModified);
         }
     }

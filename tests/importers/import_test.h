@@ -14,21 +14,21 @@
 
 namespace zev {
 
-inline void PrintTo(const ImportWarning& warning, std::ostream* out) {
+inline void PrintTo(const LineWarning& warning, std::ostream* out) {
     *out << "line " << warning.line << ": " << ReasonText(warning.reason);
 }
 
 namespace test {
 
-using Reason = ImportWarning::Reason;
-using Warnings = std::vector<ImportWarning>;
+using Reason = LineWarning::Reason;
+using Warnings = std::vector<LineWarning>;
 
 /// Imports into a document that is new at each call.
 class ImportTest : public testing::Test {
   protected:
-    Warnings importMenu(ImportFormat format, std::string_view bytes) {
+    Warnings importMenu(std::string_view format, std::string_view bytes) {
         document.NewDocument();
-        const Warnings warnings = ImportMenu(format, bytes, document).warnings;
+        const Warnings warnings = ImportMenu(*findImportFormat(format), bytes, document).warnings;
         ExpectSoundTree(document.tree);
         return warnings;
     }

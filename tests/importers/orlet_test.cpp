@@ -7,11 +7,10 @@
 namespace zev::test {
 namespace {
 
-constexpr ImportFormat kFormats[] = {ImportFormat::OrletBar, ImportFormat::OrletMenu,
-                                     ImportFormat::OrletButton};
+constexpr std::string_view kFormats[] = {"orletbar", "orletmenu", "orletbutton"};
 
 /// What the three formats have in common.
-class OrletTest : public ImportTest, public testing::WithParamInterface<ImportFormat> {
+class OrletTest : public ImportTest, public testing::WithParamInterface<std::string_view> {
   protected:
     Warnings read(std::initializer_list<std::string_view> lines) {
         return importMenu(GetParam(), Lines(lines));
@@ -19,14 +18,7 @@ class OrletTest : public ImportTest, public testing::WithParamInterface<ImportFo
 };
 
 INSTANTIATE_TEST_SUITE_P(Format, OrletTest, testing::ValuesIn(kFormats), [](const auto& parameter) {
-    switch (parameter.param) {
-        case ImportFormat::OrletBar:
-            return "OrletBar";
-        case ImportFormat::OrletMenu:
-            return "OrletMenu";
-        default:
-            return "OrletButton";
-    }
+    return std::string(findImportFormat(parameter.param)->title);
 });
 
 TEST_P(OrletTest, AFileWithoutItemLinesGivesAnEmptyDocument) {
@@ -42,7 +34,7 @@ TEST_P(OrletTest, AFileWithoutItemLinesGivesAnEmptyDocument) {
 TEST_P(OrletTest, TheFirstNodeIsCurrentAndSelectedAndNothingIsModified) {
     MenuDocument modified("/program");
     modified.bModified = true;
-    ImportMenu(GetParam(), ":A\n::A1\n:B\n", modified);
+    ImportMenu(*findImportFormat(GetParam()), ":A\n::A1\n:B\n", modified);
     EXPECT_EQ(modified.CurNode, modified.tree.firstNode());
     EXPECT_EQ(modified.selectedNode, modified.tree.firstNode());
     EXPECT_EQ(modified.CurNode->text, "A");
@@ -52,7 +44,7 @@ TEST_P(OrletTest, TheFirstNodeIsCurrentAndSelectedAndNothingIsModified) {
 
 TEST_P(OrletTest, OnlyFormatOrletMenuMakesTheTopLevelOneColumn) {
     MenuProp expected = newDocument.RootMenuProp;
-    if (GetParam() == ImportFormat::OrletMenu)
+    if (GetParam() == "orletmenu")
         expected.Columns = "1";
     for (const char* const bytes : {"", ":A\n"}) {
         importMenu(GetParam(), bytes);
@@ -183,10 +175,10 @@ TEST_P(OrletTest, BelowTheTopLevelAnItemHasCaptionLinkAndTarget) {
     }
 }
 
-class OrletLinkItemsTest : public ImportTest, public testing::WithParamInterface<ImportFormat> {};
+class OrletLinkItemsTest : public ImportTest,
+                           public testing::WithParamInterface<std::string_view> {};
 
-INSTANTIATE_TEST_SUITE_P(BarAndMenu, OrletLinkItemsTest,
-                         testing::Values(ImportFormat::OrletBar, ImportFormat::OrletMenu));
+INSTANTIATE_TEST_SUITE_P(BarAndMenu, OrletLinkItemsTest, testing::Values("orletbar", "orletmenu"));
 
 TEST_P(OrletLinkItemsTest, AtTheTopLevelAnItemHasCaptionLinkAndTarget) {
     for (const FieldCase& c : kLinkItems) {
@@ -219,7 +211,7 @@ TEST_F(OrletButtonTest, AtTheTopLevelAnItemHasAnImageInItsCaptionBeforeLinkAndTa
     };
     for (const FieldCase& c : kCases) {
         SCOPED_TRACE(c.line);
-        EXPECT_EQ(importMenu(ImportFormat::OrletButton, ":" + std::string(c.line) + "\n"), none);
+        EXPECT_EQ(importMenu("orletbutton", ":" + std::string(c.line) + "\n"), none);
         EXPECT_EQ(ItemText(itemAt("KeyLoad 1")), "text [" + std::string(c.caption) + "] [" + c.url +
                                                      "] [" + c.target + "] [] []" +
                                                      PropText(*NewItemMenuProp()));
@@ -229,8 +221,7 @@ TEST_F(OrletButtonTest, AtTheTopLevelAnItemHasAnImageInItsCaptionBeforeLinkAndTa
 
 TEST_F(OrletButtonTest, TheColonsSayWhatTheFieldsAreWhereverTheItemIsPlaced) {
     // The first item is at the top level for lack of another; its line is that of a deeper one.
-    EXPECT_EQ(importMenu(ImportFormat::OrletButton, "::A|a.html|main\n"),
-              (Warnings{{1, Reason::StartsDeep}}));
+    EXPECT_EQ(importMenu("orletbutton", "::A|a.html|main\n"), (Warnings{{1, Reason::StartsDeep}}));
     EXPECT_EQ(itemAt("KeyLoad 1").Caption, "A");
     EXPECT_EQ(itemAt("KeyLoad 1").URL, "a.html");
     EXPECT_EQ(itemAt("KeyLoad 1").Target, "main");

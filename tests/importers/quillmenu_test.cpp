@@ -10,7 +10,7 @@ namespace {
 class QuillmenuTest : public ImportTest {
   protected:
     Warnings read(std::initializer_list<std::string_view> lines) {
-        return importMenu(ImportFormat::Quillmenu, Lines(lines));
+        return importMenu("quillmenu", Lines(lines));
     }
     const MenuProp& submenu(const std::string& key) { return *itemAt(key).MenuProperty; }
 };
@@ -19,7 +19,7 @@ constexpr std::string_view kMain = "qlmenu1 = new mainMenu('vertical');";
 
 TEST_F(QuillmenuTest, AFileWithoutMenuLinesGivesAnEmptyDocument) {
     for (const char* const bytes : {"", "\n", "// a script\nvar menu = 1;\n", ":Home|a.html\n"}) {
-        EXPECT_EQ(importMenu(ImportFormat::Quillmenu, bytes), none);
+        EXPECT_EQ(importMenu("quillmenu", bytes), none);
         EXPECT_EQ(DocumentText(document), DocumentText(newDocument));
         EXPECT_EQ(document.CurNode, nullptr);
         EXPECT_EQ(document.selectedNode, nullptr);
@@ -30,7 +30,7 @@ TEST_F(QuillmenuTest, AFileWithoutMenuLinesGivesAnEmptyDocument) {
 TEST_F(QuillmenuTest, TheFirstNodeIsCurrentAndSelectedAndNothingIsModified) {
     MenuDocument modified("/program");
     modified.bModified = true;
-    ImportMenu(ImportFormat::Quillmenu,
+    ImportMenu(*findImportFormat("quillmenu"),
                Lines({kMain, "qlmenu1.addItems('A');", "qlmenu1.addItems('B');"}), modified);
     EXPECT_EQ(modified.CurNode, modified.tree.firstNode());
     EXPECT_EQ(modified.selectedNode, modified.tree.firstNode());
@@ -256,7 +256,7 @@ TEST_F(QuillmenuTest, LinesThatMatchNoPatternAreSkipped) {
 }
 
 TEST_F(QuillmenuTest, SpacesAroundALineDoNotMatter) {
-    EXPECT_EQ(importMenu(ImportFormat::Quillmenu,
+    EXPECT_EQ(importMenu("quillmenu",
                          "   qlmenu1 = new mainMenu('horizontal');  \r\n  qlmenu1.addItems('A');"),
               none);
     EXPECT_EQ(document.RootMenuProp.Columns, "20");

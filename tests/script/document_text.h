@@ -5,6 +5,8 @@
 #include <string_view>
 
 #include "model/menu_document.h"
+#include "model/menu_properties.h"
+#include "script/item_lines.h"
 #include "tests/model/tree_text.h"
 
 namespace zev::test {
@@ -21,36 +23,18 @@ inline std::string Lines(std::initializer_list<std::string_view> lines) {
 
 /// Every member of a property set that is not empty, zero or false.
 inline std::string PropText(const MenuProp& prop) {
-    std::string text;
-    const auto add = [&text](const char* name, const std::string& value) {
+    std::string text = prop.FontSet ? " FontSet" : "";
+    for (const MenuPropertyRow& row : kMenuProperties) {
+        std::string value;
+        if (const auto* const member = std::get_if<TextMember>(&row.member))
+            value = prop.*member->member;
+        else if (const auto* const flag = std::get_if<FlagMember>(&row.member))
+            value = prop.*flag->member ? "true" : "";
+        else if (const auto* const position = std::get_if<PositionMember>(&row.member))
+            value = prop.*position->member ? std::to_string(prop.*position->member) : "";
         if (!value.empty())
-            text += std::string(" ") + name + "=[" + value + "]";
-    };
-    add("BgImg", prop.BgImg);
-    add("Columns", prop.Columns);
-    add("Divider", prop.Divider);
-    add("HBgColor", prop.HBgColor);
-    add("HFtColor", prop.HFtColor);
-    add("HTMLAfter", prop.HTMLAfter);
-    add("HTMLBefore", prop.HTMLBefore);
-    add("ItemBorder", prop.ItemBorder);
-    add("MenuBorder", prop.MenuBorder);
-    add("NBgColor", prop.NBgColor);
-    add("NFtColor", prop.NFtColor);
-    add("Spacing", prop.Spacing);
-    add("Target", prop.Target);
-    add("FontFamily", prop.FontFamily);
-    add("FontStyle", prop.FontStyle ? "true" : "");
-    add("FontWeight", prop.FontWeight ? "true" : "");
-    add("FontSize", prop.FontSize);
-    add("Position", prop.Position ? std::to_string(prop.Position) : "");
-    add("CellPadding", prop.CellPadding);
-    add("MenuOffset", prop.MenuOffset);
-    add("CloseDelay", prop.CloseDelay);
-    add("FontSet", prop.FontSet ? "true" : "");
-    add("FilterOpacity", prop.FilterOpacity);
-    add("FilterShadow", prop.FilterShadow);
-    add("FilterFade", prop.FilterFade);
+            text += " " + std::string(row.name) + "=[" + value + "]";
+    }
     return text;
 }
 
@@ -72,7 +56,7 @@ inline std::string DocumentText(const MenuDocument& document) {
 /// Captions, links and images in their places, without keys and property sets.
 inline std::string ItemLines(const MenuTree& tree) {
     return TreeText(tree,
-                    [](const MenuNode& node) { return node.text + ": " + node.item.GetText(); });
+                    [](const MenuNode& node) { return node.text + ": " + GetText(node.item); });
 }
 
 }  // namespace zev::test

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/tree_editing.h"
 #include "script/script_writer.h"
@@ -265,6 +266,79 @@ TEST_F(ReadScriptTest, ItemsMadeAfterwardsGetNumbersBehindThoseRead) {
           "zevmenu.AddItem('B', '', '');"});
     EXPECT_EQ(AddMenuItem(document), EditResult::Done);
     EXPECT_EQ(document.CurNode->key(), "Key 2");
+}
+
+/// "3 UnknownMenu" for each warning.
+std::vector<std::string> WarningsOf(std::initializer_list<std::string_view> lines) {
+    using Reason = LineWarning::Reason;
+    MenuDocument document("/program");
+    std::vector<std::string> texts;
+    for (const LineWarning& warning : ReadScript(Lines(lines), document).warnings) {
+        const char* const reason = warning.reason == Reason::UnknownMenu     ? " UnknownMenu"
+                                   : warning.reason == Reason::DuplicateKey  ? " DuplicateKey"
+                                   : warning.reason == Reason::NotUnderstood ? " NotUnderstood"
+                                                                             : " another";
+        texts.push_back(std::to_string(warning.line) + reason);
+    }
+    return texts;
+}
+
+TEST(ReadScriptWarnings, EachErrorHasItsLineAndReason) {
+    EXPECT_EQ(WarningsOf({"zevmenu.columns = 3;", "zevmenu = new ZEVMenu('0');",
+                          "zevmenu.AddItem('A', '', '');", "", "zevmenu = new ZEVMenu('0');",
+                          "zevmenu.AddItem('B', '', '');", "zevmenu = new ZEVMenu('7');",
+                          "zevmenu.AddItem('a=b', '', '');"}),
+              (std::vector<std::string>{"1 UnknownMenu", "6 DuplicateKey", "8 UnknownMenu",
+                                        "8 UnknownMenu"}));
+}
+
+TEST(ReadScriptWarnings, ALineThatBeginsAsThoseOfAMenuAndSaysNothingIsToldButNotCounted) {
+    for (const char* line : {"zev",
+                             "zevmenu",
+                             "zevmenu.",
+                             "zevmenu.columns",
+                             "  zevmenu.columns = 3  ",
+                             "zevmenu.columns = 3;\t",
+                             "zevmenu.colums = 3;",
+                             "zevmenu.Columns = 3;",
+                             "zev_state.colums = 3;",
+                             "zev_state = 1;",
+                             "zevmenu = new ZEVMenu(\"0\");",
+                             "zevmenu=new ZEVMenu('0');",
+                             "zevmenu.additem('A', '', '');",
+                             "zevmenu.AddItem('A', '', '')",
+                             "zevmenu.AddItem();",
+                             "zevmenu.AddItem('A', '');",
+                             "zevmenu.AddItem('A', '', \"\");",
+                             "zevmenu.AddItem('A', '', '', '');",
+                             "zevmenu.AddItem('It's', 'a.html', '');",
+                             "zevmenu.AddItem('A', '', 'a);",
+                             "zevmenu.AddItem('a=b', '');",
+                             "zevmenu.AddRollover('', '', '');",
+                             "zevmenu.AddRollover('', '', '', '', '');",
+                             "zevmenu_dom.js"}) {
+        SCOPED_TRACE(line);
+        EXPECT_EQ(WarningsOf({"zevmenu = new ZEVMenu('0');", line}),
+                  std::vector<std::string>{"2 NotUnderstood"});
+        MenuDocument document("/program");
+        EXPECT_EQ(ReadScript(Lines({"zevmenu = new ZEVMenu('0');", line}), document).errorCount,
+                  0u);
+    }
+}
+
+TEST(ReadScriptWarnings, OtherLinesAndThoseThatAreAppliedWholeAreNotTold) {
+    EXPECT_EQ(WarningsOf({"// zevmenu", "\tzevmenu", "ZEVMENU.columns = 3;", "x", "",
+                          "zev_state.menuoffset = 9;", "zev_state.divider = '|';",
+                          "zevmenu = new ZEVMenu('0');", "zevmenu.closedelay = 3;",
+                          "  zevmenu.columns=3;", "zevmenu.AddItem('It\\'s', 'a=b', '');",
+                          "zevmenu.AddRollover('','','','');"}),
+              std::vector<std::string>());
+}
+
+TEST(ReadScriptWarnings, ALineOfAMissingMenuThatSaysNothingIsToldTwice) {
+    EXPECT_EQ(WarningsOf({"zevmenu.colums = 3;", "zevmenu.AddItem('A');"}),
+              (std::vector<std::string>{"1 UnknownMenu", "1 NotUnderstood", "2 UnknownMenu",
+                                        "2 NotUnderstood"}));
 }
 
 TEST(IsBinary, AFileWithANulByteIsNoText) {

@@ -9,6 +9,7 @@
 #include "importers/import_menu.h"
 #include "messages/import_messages.h"
 #include "script/definition_lines.h"
+#include "script/item_lines.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
 #include "text/text_encoding.h"
@@ -26,7 +27,7 @@ inline std::size_t colonLineCount(std::string_view bytes) {
 }
 
 /// What is wrong with the warnings of an import; empty when nothing is.
-inline std::string problemOfWarnings(const std::vector<ImportWarning>& warnings,
+inline std::string problemOfWarnings(const std::vector<LineWarning>& warnings,
                                      std::string_view bytes) {
     std::size_t lineCount = 0;
     DefinitionLines lines(bytes);
@@ -69,11 +70,11 @@ inline std::string problemOfDocument(const MenuDocument& document) {
 
 /// What is wrong with a document of one of the three formats with colons; empty when nothing is.
 inline std::string problemOfOrletDocument(const MenuDocument& document,
-                                          const std::vector<ImportWarning>& warnings,
+                                          const std::vector<LineWarning>& warnings,
                                           std::string_view bytes) {
     const auto refused = static_cast<std::size_t>(
-        std::count_if(warnings.begin(), warnings.end(), [](const ImportWarning& warning) {
-            return warning.reason != ImportWarning::Reason::StartsDeep;
+        std::count_if(warnings.begin(), warnings.end(), [](const LineWarning& warning) {
+            return warning.reason != LineWarning::Reason::StartsDeep;
         }));
     if (document.tree.size() + refused != colonLineCount(bytes))
         return "an item is neither in the tree nor refused";
@@ -113,8 +114,8 @@ inline std::string problemOfSaving(const MenuDocument& document) {
     while (node && same) {
         if (node->children().size() != same->children().size() || node->row() != same->row())
             return "the tree has another shape when it is opened again";
-        if (!endsInBackslash(node->item) && node->item.GetText() != same->item.GetText())
-            return "an item is another when it is opened again: " + node->item.GetText();
+        if (!endsInBackslash(node->item) && GetText(node->item) != GetText(same->item))
+            return "an item is another when it is opened again: " + GetText(node->item);
         node = document.tree.nextInTreeOrder(*node);
         same = again.tree.nextInTreeOrder(*same);
     }
@@ -135,20 +136,22 @@ inline bool isSameMenu(const MenuDocument& left, const MenuDocument& right) {
 }
 
 /// Imports the bytes and says the first thing wrong with what comes of it; empty when nothing is.
-inline std::string problemOfImport(ImportFormat format, std::string_view bytes) {
+inline std::string problemOfImport(std::string_view format, std::string_view bytes) {
     MenuDocument document("/program");
-    const std::vector<ImportWarning> warnings = ImportMenu(format, bytes, document).warnings;
+    const std::vector<LineWarning> warnings =
+        ImportMenu(*findImportFormat(format), bytes, document).warnings;
     std::string problem = problemOfWarnings(warnings, bytes);
     if (problem.empty())
         problem = problemOfDocument(document);
-    if (problem.empty() && format != ImportFormat::Quillmenu)
+    if (problem.empty() && format != "quillmenu")
         problem = problemOfOrletDocument(document, warnings, bytes);
     if (problem.empty())
         problem = problemOfSaving(document);
     if (!problem.empty())
         return problem;
     MenuDocument again("/program");
-    if (ImportMenu(format, bytes, again).warnings != warnings || !isSameMenu(again, document))
+    if (ImportMenu(*findImportFormat(format), bytes, again).warnings != warnings ||
+        !isSameMenu(again, document))
         return "imported again it is another menu";
     return "";
 }

@@ -1,5 +1,6 @@
-#include "model/item_prop.h"
+#include "script/item_lines.h"
 
+#include <cstddef>
 #include <initializer_list>
 
 #include "text/pattern.h"
@@ -11,7 +12,7 @@ namespace {
 constexpr std::string_view kEscapedApostrophe = "\\'";
 constexpr std::string_view kPlaceholder = "~||~";
 
-void AppendCall(std::string& line, std::string_view function,
+void appendCall(std::string& line, std::string_view function,
                 std::initializer_list<std::string_view> values) {
     constexpr std::string_view kSeparator = "', '";
     line += function;
@@ -40,9 +41,15 @@ class ArgumentCutter {
         return true;
     }
 
+    /// True when all arguments were handed out, `count` of them, and the last one is closed.
+    bool isDone(std::size_t count) const { return m_isAtEnd && m_pieceCount == 2 * count + 1; }
+
   private:
     /// Steps behind the next apostrophe that is not escaped and returns the text before it.
     std::string_view skipPiece() {
+        if (m_isAtEnd)
+            return {};
+        ++m_pieceCount;
         std::size_t quote = m_rest.find('\'');
         while (quote != std::string_view::npos && quote > 0 && m_rest[quote - 1] == '\\')
             quote = m_rest.find('\'', quote + 1);
@@ -53,59 +60,63 @@ class ArgumentCutter {
     }
 
     std::string_view m_rest;
+    std::size_t m_pieceCount = 0;  ///< before, in and between arguments
     bool m_isAtEnd = false;
 };
 
-std::string WithPlaceholders(std::string_view argument) {
+std::string withPlaceholders(std::string_view argument) {
     return replaceAll(argument, kEscapedApostrophe, kPlaceholder);
 }
 
 /// Escaped apostrophes travel as placeholders, so a placeholder that the file itself holds becomes
 /// an escaped apostrophe as well.
-void ReadArgument(ArgumentCutter& arguments, std::string& member) {
+void readArgument(ArgumentCutter& arguments, std::string& member) {
     std::string_view argument;
     if (!arguments.next(argument))
         return;
     if (argument.find(kPlaceholder.front()) == std::string_view::npos)
         member = argument;
     else
-        member = replaceAll(WithPlaceholders(argument), kPlaceholder, kEscapedApostrophe);
+        member = replaceAll(withPlaceholders(argument), kPlaceholder, kEscapedApostrophe);
 }
 
 }  // namespace
 
-std::string ItemProp::GetText() const {
+std::string GetText(const ItemProp& item) {
     std::string line;
-    AppendText(line);
+    appendText(line, item);
     return line;
 }
 
-void ItemProp::AppendText(std::string& script) const {
-    if (IsRollover)
-        AppendCall(script, "zevmenu.AddRollover", {URL, ImageOut, ImageOver, Target});
+void appendText(std::string& script, const ItemProp& item) {
+    if (item.IsRollover)
+        appendCall(script, "zevmenu.AddRollover",
+                   {item.URL, item.ImageOut, item.ImageOver, item.Target});
     else
-        AppendCall(script, "zevmenu.AddItem", {Caption, URL, Target});
+        appendCall(script, "zevmenu.AddItem", {item.Caption, item.URL, item.Target});
 }
 
-void ItemProp::Set_ImageProperty(std::string_view StrLine) {
-    IsRollover = true;
+bool Set_ImageProperty(ItemProp& item, std::string_view StrLine) {
+    item.IsRollover = true;
     ArgumentCutter arguments(StrLine);
     // The link of a rollover item is taken over with its placeholders: the one argument that is not
     // turned back.
     std::string_view link;
     if (arguments.next(link))
-        URL = WithPlaceholders(link);
-    ReadArgument(arguments, ImageOut);
-    ReadArgument(arguments, ImageOver);
-    ReadArgument(arguments, Target);
+        item.URL = withPlaceholders(link);
+    readArgument(arguments, item.ImageOut);
+    readArgument(arguments, item.ImageOver);
+    readArgument(arguments, item.Target);
+    return arguments.isDone(4);
 }
 
-void ItemProp::Set_ItemProperty(std::string_view StrLine) {
-    IsRollover = false;
+bool Set_ItemProperty(ItemProp& item, std::string_view StrLine) {
+    item.IsRollover = false;
     ArgumentCutter arguments(StrLine);
-    ReadArgument(arguments, Caption);
-    ReadArgument(arguments, URL);
-    ReadArgument(arguments, Target);
+    readArgument(arguments, item.Caption);
+    readArgument(arguments, item.URL);
+    readArgument(arguments, item.Target);
+    return arguments.isDone(3);
 }
 
 }  // namespace zev

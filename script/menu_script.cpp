@@ -1,0 +1,131 @@
+#include "script/menu_script.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "model/menu_properties.h"
+#include "script/item_lines.h"
+#include "script/line_tokenizers.h"
+#include "script/loaded_keys.h"
+#include "script/property_lines.h"
+#include "text/pattern.h"
+
+namespace zev {
+
+namespace {
+
+using Reason = LineWarning::Reason;
+
+/// Applies the lines of one script to a new document, one after the other.
+class MenuScriptReader {
+  public:
+    MenuScriptReader(const ScriptDialect& dialect, MenuDocument& document)
+        : m_dialect(dialect), m_document(document) {}
+
+    /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
+    void readLine(std::string_view line, std::size_t number) {
+        // A large file of other lines is passed quickly.
+        if (!line.starts_with(m_dialect.start))
+            return;
+        m_lineNumber = number;
+        bool isUnderstood = false;
+        if (matchesPattern(line, m_dialect.defaultLine))
+            isUnderstood =
+                SetProperty(m_document.DefaultProp, GetPropName(line), GetPropValue(line));
+        for (const CreationLine& creation : m_dialect.creationLines) {
+            if (matchesPattern(line, creation.pattern)) {
+                openMenu(creation, line);
+                isUnderstood = true;
+            }
+        }
+        if (matchesPattern(line, m_dialect.propertyLine))
+            isUnderstood = readProperty(line);
+        if (matchesPattern(line, m_dialect.textItemLine))
+            isUnderstood = readItem(line, Set_ItemProperty);
+        else if (matchesPattern(line, m_dialect.rolloverLine))
+            isUnderstood = readItem(line, Set_ImageProperty);
+        if (!isUnderstood && m_dialect.tellsOfLostLines)
+            warn(Reason::NotUnderstood);
+    }
+
+    std::vector<LineWarning> takeWarnings() { return std::move(m_warnings); }
+
+  private:
+    bool isTopLevel() const { return m_menuId == kTopLevelMenuId; }
+
+    void openMenu(const CreationLine& creation, std::string_view line) {
+        m_menuId = creation.idOf ? creation.idOf(line) : std::string(kTopLevelMenuId);
+        m_itemNumber = 0;
+        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find(LoadedMenuKey(m_menuId));
+        if (!creation.readLook)
+            return;
+        // A submenu that no item opens is no warning by itself: what is put into it is. That holds
+        // for the id "0" too, though what follows goes to the top-level menu.
+        if (!creation.idOf)
+            creation.readLook(line, m_document.RootMenuProp);
+        else if (m_menuNode)
+            creation.readLook(line, m_menuNode->item.MenuProperty.edit());
+    }
+
+    bool readProperty(std::string_view line) {
+        const std::string name = GetPropName(line);
+        if (isTopLevel())
+            return SetProperty(m_document.RootMenuProp, name, GetPropValue(line));
+        if (m_menuNode)
+            return SetProperty(m_menuNode->item.MenuProperty.edit(), name, GetPropValue(line));
+        warn(Reason::UnknownMenu);
+        return findMenuProperty(name) != nullptr;
+    }
+
+    /// An item that is refused keeps its number all the same: the ids of the submenus that follow
+    /// count it. True when the line has all arguments of an item and no more.
+    bool readItem(std::string_view line, bool (*load)(ItemProp&, std::string_view)) {
+        ItemProp item;
+        item.MenuProperty = NewItemMenuProp();
+        const bool isWhole = load(item, line);
+        ++m_itemNumber;
+        const bool isFull = m_document.ItemCounter == kMaxItemCounter;
+        bool isAdded = false;
+        if (!isTopLevel() && !m_menuNode)
+            warn(Reason::UnknownMenu);
+        else if (isFull)
+            warn(Reason::TooManyItems);
+        else
+            isAdded = addItem(std::move(item));
+        if (isAdded || (m_dialect.countsRefusedItems && !isFull))
+            ++m_document.ItemCounter;
+        return isWhole;
+    }
+
+    bool addItem(ItemProp&& item) {
+        std::string text = item.IsRollover ? item.ImageOut : item.Caption;
+        if (m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
+                                   std::move(text), std::move(item)))
+            return true;
+        warn(Reason::DuplicateKey);
+        return false;
+    }
+
+    void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }
+
+    const ScriptDialect& m_dialect;
+    MenuDocument& m_document;
+    std::vector<LineWarning> m_warnings;
+    std::size_t m_lineNumber = 0;
+    std::string m_menuId;            ///< menu of the last creation line; empty before the first
+    MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
+    std::size_t m_itemNumber = 0;    ///< item lines of that menu so far
+};
+
+}  // namespace
+
+std::vector<LineWarning> readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
+                                        MenuDocument& document) {
+    MenuScriptReader reader(dialect, document);
+    std::string_view line;
+    while (lines.next(line))
+        reader.readLine(line, lines.number());
+    return reader.takeWarnings();
+}
+
+}  // namespace zev
