@@ -50,8 +50,8 @@ pid_t spawn(const std::string& program, const std::vector<std::string>& argument
     sigaddset(&sigPipe, SIGPIPE);
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setflags(&attributes,
                              POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
@@ -151,6 +151,7 @@ bool startDetached(const std::vector<std::string>& arguments) {
     const pid_t child = spawn(program, arguments, nowhere.get());
     if (child < 0)
         return false;
+    // Somebody has to collect it when it ends.
     try {
         std::thread([child] { waitFor(child); }).detach();
     } catch (const std::system_error&) {
