@@ -16,21 +16,19 @@ namespace {
 constexpr int kUsualKind = 2;
 
 /// Copies of all items in tree order.
-std::vector<ItemProp> ItemsOf(const MenuTree& tree) {
+std::vector<ItemProp> itemsOf(const MenuTree& tree) {
     std::vector<ItemProp> items;
     items.reserve(tree.size());
-    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node)) {
+    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node))
         items.push_back(node->item);
-    }
     return items;
 }
 
-/// Puts back what `ItemsOf` took from the same tree.
-void RestoreItems(MenuTree& tree, std::vector<ItemProp>&& items) {
+/// Puts back what `itemsOf` took from the same tree.
+void restoreItems(MenuTree& tree, std::vector<ItemProp>&& items) {
     auto item = items.begin();
-    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node)) {
+    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node))
         node->item = std::move(*item++);
-    }
 }
 
 }  // namespace
@@ -48,18 +46,16 @@ void FileCommands::Reset() {
 }
 
 bool FileCommands::mnuFileNew_Click() {
-    if (!mayDiscardDocument()) {
+    if (!mayDiscardDocument())
         return false;
-    }
     Reset();
     return true;
 }
 
 void FileCommands::mnuFileOpen_Click() {
     const std::string path = chooseFile(kDefinitionFilter, definitionFolder());
-    if (!path.empty() && !openDefinition(path)) {
+    if (!path.empty() && !openDefinition(path))
         return;  // the menu in memory is still the one being edited, with its changes
-    }
     // A cancelled dialog clears the mark too: Open asks nothing about unsaved changes, and Exit
     // after it ends without asking.
     m_document.bModified = false;
@@ -88,9 +84,8 @@ bool FileCommands::mnuFileExit_Click() {
 /// Asks about unsaved changes before the document is given up. Answered Yes, only a failed write
 /// keeps the document: a cancelled Save As dialog does not.
 bool FileCommands::mayDiscardDocument() {
-    if (!m_document.bModified) {
+    if (!m_document.bModified)
         return true;
-    }
     MessageRequest question;
     question.text = "Save changes to project?";
     question.buttons = MessageRequest::Buttons::YesNoCancel;
@@ -119,12 +114,10 @@ std::string FileCommands::definitionFolder() const {
 
 FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
     FileResult<std::string> content = m_services.files.readFile(path, kMaxDefinitionFileBytes);
-    if (content.isOk() && IsBinary(content.value())) {
+    if (content.isOk() && IsBinary(content.value()))
         content = FileError{FileError::Code::Other, path, "Not a text file"};
-    }
-    if (!content.isOk()) {
+    if (!content.isOk())
         m_services.messages.notice("Could not open " + path + ": " + content.error().reason);
-    }
     return content;
 }
 
@@ -139,9 +132,8 @@ void FileCommands::replaceDocument(MenuDocument& other) {
 
 bool FileCommands::openDefinition(const std::string& path) {
     const FileResult<std::string> content = readTextFile(path);
-    if (!content.isOk()) {
+    if (!content.isOk())
         return false;
-    }
     MenuDocument opened(m_document.programFolder());
     opened.NewDocument();
     opened.SaveFile = path;
@@ -163,9 +155,8 @@ FileCommands::SaveOutcome FileCommands::saveAs() {
     request.filterIndex = kUsualKind;
     request.asksBeforeReplacing = true;
     const std::string path = m_services.dialogs.saveFile(request);
-    if (path.empty()) {
+    if (path.empty())
         return SaveOutcome::Cancelled;
-    }
     // Before the URLs are recalculated, so that what was typed a moment ago is recalculated too
     // and not lost when the panel shows the result.
     m_view.StoreItem();
@@ -186,7 +177,7 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
     const std::string oldFolder = m_document.SavePath;
     std::vector<ItemProp> oldItems;
     if (isRebasing) {
-        oldItems = ItemsOf(m_document.tree);
+        oldItems = itemsOf(m_document.tree);
         RebaseAllURLs(m_document, oldFolder, folder);
         m_view.ShowItem();
     }
@@ -202,7 +193,7 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
     m_document.SavePath = oldFolder;
     m_view.ShowCaption();
     if (isRebasing) {
-        RestoreItems(m_document.tree, std::move(oldItems));
+        restoreItems(m_document.tree, std::move(oldItems));
         m_view.ShowItem();
         m_view.ShowScript(GenerateScript(m_document));
     }
@@ -215,11 +206,11 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     // What is written comes from the writer and never back out of the JavaScript tab.
     const std::string script = GenerateScript(m_document);
     m_view.ShowScript(script);
-    const std::string target = path.empty() ? JoinPath(m_document.SavePath, kPreviewScript) : path;
+    const std::string target =
+        path.empty() ? Path(m_document.SavePath).child(kPreviewScript) : path;
     const FileOutcome failure = m_services.files.writeFile(target, DefinitionFileBytes(script));
-    if (failure) {
+    if (failure)
         m_services.messages.notice("Could not save " + target + ": " + failure->reason);
-    }
     return !failure;
 }
 
@@ -237,30 +228,19 @@ void FileCommands::UpdatePreview() {
 }
 
 void FileCommands::loadPreview() {
-    SaveDefinition(JoinPath(m_document.SavePath, kPreviewScript));
+    SaveDefinition(Path(m_document.SavePath).child(kPreviewScript));
     m_previewedScript = GenerateScript(m_document);
     m_previewedFolder = m_document.SavePath;
     // Also after a failure: the preview shows whatever is there.
-    m_services.browser.load(JoinPath(m_document.SavePath, kPreviewPage));
+    m_services.browser.load(Path(m_document.SavePath).child(kPreviewPage));
 }
 
 void FileCommands::copyRunTimeFiles() {
-    for (const std::string_view name : kLibraryFiles) {
-        copyRunTimeFile(name, name);
-    }
-    // The page gets another name, so the program's own folder receives it too: the preview of a
-    // menu never saved loads it from there.
-    copyRunTimeFile(kPageTemplate, kPreviewPage);
-}
-
-void FileCommands::copyRunTimeFile(std::string_view sourceName, std::string_view destinationName) {
-    const std::string source = JoinPath(m_document.programFolder(), sourceName);
-    const std::string destination = JoinPath(m_document.SavePath, destinationName);
-    const CopyResult result = CopyLibraryFile(m_services.files, source, destination);
-    const std::string problem = CopyProblemText(result, source, destination);
-    if (!problem.empty()) {
-        m_services.messages.notice(problem);
-    }
+    const std::vector<CopyOutcome> problems =
+        copyLibrary(m_services.files, Path(m_document.programFolder()), Path(m_document.SavePath),
+                    CopiedFiles::ScriptsAndPreviewPage);
+    for (const CopyOutcome& problem : problems)
+        m_services.messages.notice(CopyProblemText(problem));
 }
 
 }  // namespace zev

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "app/editor_services.h"
 #include "app/editor_view.h"
@@ -67,7 +66,6 @@ class FileCommands {
     bool mayDiscardDocument();
     void loadPreview();
     void copyRunTimeFiles();
-    void copyRunTimeFile(std::string_view sourceName, std::string_view destinationName);
 
     MenuDocument& m_document;
     EditorView& m_view;

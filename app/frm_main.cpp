@@ -19,9 +19,9 @@
 #include "dialogs/frm_path.h"
 #include "html/html_page.h"
 #include "integrator/wizard/frm_integrator.h"
-#include "script/relative_url.h"
 #include "script/script_writer.h"
 #include "script/submenu_list.h"
+#include "text/path.h"
 #include "text/program_name.h"
 
 namespace zev {
@@ -236,7 +236,7 @@ void frmMain::mnuToolsIntegrate_Click() {
 }
 
 void frmMain::mnuHelpContents_Click() {
-    m_services.help.show(JoinPath(m_document.programFolder(), kManual));
+    m_services.help.show(Path(m_document.programFolder()).child(kManual));
 }
 
 void frmMain::mnuHelpAbout_Click() {

@@ -54,7 +54,7 @@ std::string ProgramFolder(FileSystem& files, MessageBox& messages) {
 
 int RunEditor(QApplication& application, const QCommandLineParser& arguments) {
     PosixFileSystem fileSystem;
-    PosixShell shell(fileSystem);
+    PosixShell shell;
     QtMessageBox messages;
     QtCommonDialogs dialogs;
     QtHelpViewer help;

@@ -2,25 +2,22 @@
 
 #include <string_view>
 
+#include "text/ascii.h"
+
 namespace zev {
 
 namespace {
 
-/// One quoted record. Only the file's type matters to whoever looks up the program; the text is
-/// kept as it always was.
+/// One quoted record. Only the file's type matters to whoever looks up the program.
 constexpr std::string_view kScratchContent = "\"<HTML> <\\HTML>\"\r\n";
 
-void ShowBrowserProblem(const EditorServices& services, const std::string& title,
+void showBrowserProblem(const EditorServices& services, const std::string& title,
                         const std::string& text) {
     MessageRequest notice;
     notice.title = title;
     notice.text = text;
     notice.icon = MessageRequest::Icon::Exclamation;
     services.messages.show(notice);
-}
-
-bool IsBlank(const std::string& text) {
-    return text.find_first_not_of(' ') == std::string::npos;
 }
 
 }  // namespace
@@ -34,14 +31,12 @@ void OpenURL(const std::string& address, const std::string& programFolder,
     // the file's name.
     const bool hasScratchFile = !services.files.writeFile(scratchFile, kScratchContent);
     const std::string browser = services.shell.FindExecutable(scratchFile);
-    if (IsBlank(browser)) {
-        ShowBrowserProblem(services, "Browser Not Found", "Could not find associated browser");
-    } else if (!services.shell.ShellExecute(browser, address)) {
-        ShowBrowserProblem(services, "URL Failed", "Web Page not Opened");
-    }
-    if (hasScratchFile) {
+    if (trimSpaces(browser).empty())
+        showBrowserProblem(services, "Browser Not Found", "Could not find associated browser");
+    else if (!services.shell.ShellExecute(browser, address))
+        showBrowserProblem(services, "URL Failed", "Web Page not Opened");
+    if (hasScratchFile)
         services.files.DeleteFile(scratchFile);
-    }
 }
 
 }  // namespace zev

@@ -4,17 +4,18 @@
 #include <system_error>
 
 #include "cli/command_files.h"
+#include "text/path.h"
 
 namespace zev {
 
-bool isDrivePath(std::string_view path) {
-    const bool isLetter =
-        !path.empty() && ((path[0] >= 'A' && path[0] <= 'Z') || (path[0] >= 'a' && path[0] <= 'z'));
-    return isLetter && path.substr(1).starts_with(":\\");
+bool isDriveFolder(std::string_view folder) {
+    const Path path(folder);
+    return path.hasDriveLetter() && path.kind() != Path::Kind::Other;
 }
 
 std::optional<std::string> fullPath(const std::string& path) {
-    if (isDrivePath(path))
+    const Path given(path);
+    if (given.hasDriveLetter() && given.kind() == Path::Kind::Drive)
         return path;
     std::error_code error;
     const std::filesystem::path full = std::filesystem::absolute(path, error);
@@ -26,14 +27,10 @@ std::optional<std::string> fullPath(const std::string& path) {
 }
 
 std::optional<std::string> fullFolder(const std::string& folder) {
-    std::optional<std::string> full = fullPath(folder);
+    const std::optional<std::string> full = isDriveFolder(folder) ? folder : fullPath(folder);
     if (!full)
         return {};
-    if (isDrivePath(folder))
-        return folder.substr(0, folder.find_last_not_of('\\') + 1);
-    if (full->size() > 1 && full->ends_with('/'))
-        full->pop_back();
-    return full;
+    return std::string(Path(*full).withoutTrailingSeparators());
 }
 
 }  // namespace zev

@@ -10,7 +10,8 @@ namespace zev {
 // taken as they are; relative ones count from the current folder, and "." and ".." are resolved by
 // name.
 
-bool isDrivePath(std::string_view path);
+/// "C:" alone counts, for it is no use as the name of a folder of this system.
+bool isDriveFolder(std::string_view folder);
 
 /// Nothing, with the problem printed, when a relative path has no current folder to count from.
 std::optional<std::string> fullPath(const std::string& path);

@@ -1,8 +1,8 @@
 #include "cli/commands.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
+#include <vector>
 
 #include "cli/command_paths.h"
 #include "library/library_files.h"
@@ -11,36 +11,23 @@
 #include "messages/library_messages.h"
 #include "script/relative_url.h"
 #include "script/submenu_list.h"
+#include "text/path.h"
 
 namespace zev {
 
 namespace {
 
-/// For files of this system, where a backslash may be part of a name.
-std::string joinPath(const std::string& folder, std::string_view name) {
-    return (std::filesystem::path(folder) / name).string();
-}
-
-ExitStatus publishLibrary(FileSystem& files, const std::string& executable,
-                          const std::string& folder) {
+ExitStatus publishLibrary(FileSystem& files, const std::string& executable, const Path& folder) {
     const FileResult<std::string> installed = findInstalledFolder(files, executable);
-    if (!installed.isOk()) {
-        const std::string& missing = installed.error().path;
-        printProblem(CopyProblemText(CopyResult::SourceMissing, missing, {}));
-        return ExitStatus::FileProblem;
-    }
-    ExitStatus status = ExitStatus::Done;
-    for (const std::string_view name : kLibraryFiles) {
-        const std::string source = joinPath(installed.value(), name);
-        const std::string destination = joinPath(folder, name);
-        const CopyResult result = CopyLibraryFile(files, source, destination);
-        const std::string problem = CopyProblemText(result, source, destination);
-        if (problem.empty())
-            continue;
-        printProblem(problem);
-        status = ExitStatus::FileProblem;
-    }
-    return status;
+    std::vector<CopyOutcome> problems;
+    if (installed.isOk())
+        problems =
+            copyLibrary(files, Path::onThisSystem(installed.value()), folder, CopiedFiles::Scripts);
+    else
+        problems = {{CopyResult::SourceMissing, installed.error().path, {}}};
+    for (const CopyOutcome& problem : problems)
+        printProblem(CopyProblemText(problem));
+    return problems.empty() ? ExitStatus::Done : ExitStatus::FileProblem;
 }
 
 }  // namespace
@@ -74,7 +61,7 @@ ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
 }
 
 ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options) {
-    if (isDrivePath(options.from) != isDrivePath(options.to)) {
+    if (isDriveFolder(options.from) != isDriveFolder(options.to)) {
         printProblem("--from and --to must both have a drive letter, or neither");
         return ExitStatus::WrongUse;
     }
@@ -107,7 +94,7 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
         printProblem("publish needs a definition with a file name");
         return ExitStatus::WrongUse;
     }
-    const std::string name = std::filesystem::path(input).filename().string();
+    const std::string_view name = Path::onThisSystem(input).name();
     if (std::find(kLibraryFiles.begin(), kLibraryFiles.end(), name) != kLibraryFiles.end()) {
         printProblem(input + ": has the name of a run-time file that goes beside it");
         return ExitStatus::WrongUse;
@@ -120,9 +107,10 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
         printProblem(folder + ": is not a folder");
         return ExitStatus::FileProblem;
     }
-    const ExitStatus libraryStatus = publishLibrary(files, executable, folder);
+    const Path target = Path::onThisSystem(folder);
+    const ExitStatus libraryStatus = publishLibrary(files, executable, target);
     // As when the editor saves, the definition is written whatever became of the scripts.
-    if (!writeDefinition(files, joinPath(folder, name), document))
+    if (!writeDefinition(files, target.child(name), document))
         return ExitStatus::FileProblem;
     return libraryStatus == ExitStatus::Done ? *status : libraryStatus;
 }

@@ -17,7 +17,7 @@
 #include "library/library_files.h"
 #include "platform/file_system.h"
 #include "platform/message_box.h"
-#include "script/relative_url.h"
+#include "text/path.h"
 
 namespace zev {
 
@@ -175,7 +175,7 @@ void frmPath::listDir_Change(const QString& folder) {
 
 void frmPath::btnOK_Click() {
     for (const std::string_view name : kLibraryFiles) {
-        if (m_files.FileExists(JoinPath(path(), name)))
+        if (m_files.FileExists(Path(path()).child(name)))
             continue;
         MessageRequest question;
         question.text = std::string(name) + " not found in " + path() + ". Do you want to proceed?";

@@ -5,6 +5,7 @@
 
 #include "script/relative_url.h"
 #include "text/ascii.h"
+#include "text/path.h"
 
 namespace zev {
 
@@ -12,20 +13,16 @@ namespace {
 
 constexpr const char* kTemporaryName = "~qxtmp.htm";
 
-bool IsSystemPath(std::string_view path) {
-    return path.starts_with('/');
-}
-
-/// Only an upper-case letter counts as a drive.
-bool IsFullPath(std::string_view path) {
-    const bool hasDrive = path.size() >= 2 && path[0] >= 'A' && path[0] <= 'Z' && path[1] == ':';
-    return hasDrive || IsSystemPath(path);
+/// Of drives only those with an upper-case letter are turned into URLs.
+bool isFullPath(std::string_view text) {
+    const Path path(text);
+    return path.hasUpperCaseDriveLetter() || path.kind() == Path::Kind::System;
 }
 
 /// A drive's folder gets a separator whatever it ends in; a folder of the system has at most one.
 std::string WithSeparator(std::string_view folder) {
     std::string path(folder);
-    if (!IsSystemPath(trimSpaces(folder)))
+    if (Path(trimSpaces(folder)).kind() != Path::Kind::System)
         path += '\\';
     else if (!folder.ends_with('/'))
         path += '/';
@@ -33,7 +30,7 @@ std::string WithSeparator(std::string_view folder) {
 }
 
 std::string TemporaryPath(const std::string& pagePath) {
-    return JoinPath(SplitPath(pagePath).folder, kTemporaryName);
+    return Path(Path(pagePath).folder()).child(kTemporaryName);
 }
 
 }  // namespace
@@ -43,9 +40,9 @@ IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view defi
     IntegrationURLs urls;
     definition = trimSpaces(definition);
     urls.definition =
-        IsFullPath(definition) ? ToRelativeURL(pagesFolder, definition) : std::string(definition);
+        isFullPath(definition) ? ToRelativeURL(pagesFolder, definition) : std::string(definition);
     // The folder goes into the sum with its spaces: a folder's name may end in one.
-    urls.library = IsFullPath(trimSpaces(library))
+    urls.library = isFullPath(trimSpaces(library))
                        ? ToRelativeURL(pagesFolder, WithSeparator(library))
                        : std::string(trimSpaces(library));
     return urls;

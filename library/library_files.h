@@ -3,8 +3,10 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/file_system.h"
+#include "text/path.h"
 
 namespace zev {
 
@@ -17,16 +19,30 @@ inline constexpr std::string_view kPageTemplate = "zevmenu.html";
 inline constexpr std::string_view kPreviewPage = "orlet_temp.html";
 inline constexpr std::string_view kPreviewScript = "orlet_temp.js";
 
-/// What became of one copy.
 enum class CopyResult {
     Copied,
-    SamePlace,  ///< both paths are equal but for letter case; nothing was done
+    SamePlace,  ///< source and destination are one file; nothing was done
     SourceMissing,
     NotSaved  ///< the destination could not be replaced; it holds its old content
 };
 
-/// Copies one run-time file. ASCII letter case does not count when the two paths are compared.
-CopyResult CopyLibraryFile(FileSystem& files, const std::string& source,
-                           const std::string& destination);
+/// What became of one copy.
+struct CopyOutcome {
+    CopyResult result = CopyResult::Copied;
+    std::string path;    ///< the file at fault; empty when there is none
+    std::string reason;  ///< of NotSaved the system's own words
+};
+
+/// Copies one run-time file. Two paths name one file when they end in the same name and their
+/// folders are one on the disk, however those are spelt.
+CopyOutcome CopyLibraryFile(FileSystem& files, const std::string& source,
+                            const std::string& destination);
+
+enum class CopiedFiles { Scripts, ScriptsAndPreviewPage };
+
+/// Copies the run-time files from the folder `from` to the folder `to`, each one whatever became of
+/// those before it. Returns the outcomes that are problems, in the order of the files.
+std::vector<CopyOutcome> copyLibrary(FileSystem& files, const Path& from, const Path& to,
+                                     CopiedFiles copiedFiles);
 
 }  // namespace zev

@@ -11,15 +11,14 @@ namespace {
 
 constexpr std::string_view kManualFolder = "help";
 
-std::string joinPath(const std::string& folder, std::string_view name) {
-    return folder + (folder.ends_with('/') ? "" : "/") + std::string(name);
+/// The folder of a file or folder, "." for a bare name.
+std::string folderOf(const std::string& path) {
+    const std::string_view folder = Path::onThisSystem(path).folder();
+    return folder.empty() ? "." : std::string(folder);
 }
 
-std::string folderOf(const std::string& path) {
-    const std::size_t separator = path.rfind('/');
-    if (separator == std::string::npos)
-        return ".";
-    return path.substr(0, separator == 0 ? 1 : separator);
+std::string joinPath(const std::string& folder, std::string_view name) {
+    return Path::onThisSystem(folder).child(name);
 }
 
 /// Compared by content, not by time: a packaged file is as old as its package, which may be older

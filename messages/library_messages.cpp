@@ -2,13 +2,12 @@
 
 namespace zev {
 
-std::string CopyProblemText(CopyResult result, const std::string& source,
-                            const std::string& destination) {
-    switch (result) {
+std::string CopyProblemText(const CopyOutcome& outcome) {
+    switch (outcome.result) {
         case CopyResult::SourceMissing:
-            return "Error: " + source + " does not exist";
+            return "Error: " + outcome.path + " does not exist";
         case CopyResult::NotSaved:
-            return "Error: " + destination + " not saved. Please check path permissions";
+            return "Error: " + outcome.path + " not saved. Please check path permissions";
         case CopyResult::Copied:
         case CopyResult::SamePlace:
             break;

@@ -7,7 +7,6 @@
 namespace zev {
 
 /// The sentence for the person when a copy failed; empty when there is nothing to say.
-std::string CopyProblemText(CopyResult result, const std::string& source,
-                            const std::string& destination);
+std::string CopyProblemText(const CopyOutcome& outcome);
 
 }  // namespace zev

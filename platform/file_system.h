@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "platform/macro_names.h"
+
 namespace zev {
 
 /// Why a file operation failed. Paths are in the system's own bytes (UTF-8 in practice).
@@ -46,6 +48,9 @@ class FileSystem {
     /// True for anything that exists at `path` and is not a folder.
     virtual bool FileExists(const std::string& path) const = 0;
     virtual bool isFolder(const std::string& path) const = 0;
+    /// True when both paths lead to one folder of the disk, by links, letter case or spelling. A
+    /// path to no folder is never the same.
+    virtual bool isSameFolder(const std::string& left, const std::string& right) const = 0;
     /// True when new files can be made in the folder.
     virtual bool isWritableFolder(const std::string& path) const = 0;
     /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge).

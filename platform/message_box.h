@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "platform/macro_names.h"
+
 namespace zev {
 
 /// A question or notice for the person at the screen.

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "platform/macro_names.h"
+
 namespace zev {
 
 /// The desktop's file associations.

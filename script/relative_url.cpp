@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "text/ascii.h"
+#include "text/path.h"
 #include "text/pattern.h"
 
 namespace zev {
@@ -13,53 +14,9 @@ namespace {
 constexpr auto npos = std::string_view::npos;
 constexpr std::string_view kParentStep = "../";
 
-bool IsSystemPath(std::string_view path) {
-    return path.starts_with('/');
-}
-
-/// The first code point of `text`, as bytes.
-std::string_view FirstCharacter(std::string_view text) {
-    std::size_t length = text.empty() ? 0 : 1;
-    while (length > 0 && length < text.size() && (text[length] & 0xC0) == 0x80)
-        ++length;
-    return text.substr(0, length);
-}
-
-/// True for "C:\" and whatever follows it; the drive may be any one character.
-bool IsDrivePath(std::string_view path) {
-    return path.substr(FirstCharacter(path).size()).starts_with(":\\");
-}
-
-bool IsDriveRoot(std::string_view path) {
-    return IsDrivePath(path) && path.size() == FirstCharacter(path).size() + 2;
-}
-
-/// The root directory of the system ends in its separator already. A drive's root is not treated
-/// so: the drive-letter rules add a separator to every base.
-bool IsSystemRoot(std::string_view path) {
-    return path == "/";
-}
-
-char SeparatorOf(std::string_view base) {
-    return IsSystemPath(base) ? '/' : '\\';
-}
-
-/// A folder of the system may be given with slashes at its end.
-std::string_view WithoutTrailingSlashes(std::string_view base) {
-    while (IsSystemPath(base) && base.size() > 1 && base.ends_with('/'))
-        base.remove_suffix(1);
-    return base;
-}
-
-/// Offset of the last separator: in a path of the system itself a backslash is an ordinary
-/// character.
-std::size_t LastSeparator(std::string_view path) {
-    return path.find_last_of(IsSystemPath(path) ? "/" : "/\\");
-}
-
 /// True for addresses that no folder has a part in. A full "https://" or "ftp://" address is not
 /// among them and is treated like a relative URL.
-bool IsAddress(std::string_view url) {
+bool isAddress(std::string_view url) {
     std::string lowerCase(url);
     std::transform(lowerCase.begin(), lowerCase.end(), lowerCase.begin(), asciiLower);
     return matchesPattern(lowerCase, "http://*") || matchesPattern(lowerCase, "javascript:*") ||
@@ -69,45 +26,41 @@ bool IsAddress(std::string_view url) {
 
 /// A URL with a leading slash starts at the root of the web site, which no folder of the system
 /// tells.
-bool IsSiteRootURL(std::string_view base, std::string_view url) {
-    return IsSystemPath(base) && url.starts_with('/');
+bool isSiteRootURL(const Path& base, std::string_view url) {
+    return base.kind() == Path::Kind::System && url.starts_with('/');
+}
+
+/// A folder of the system may be given with slashes at its end.
+Path baseFolder(std::string_view base) {
+    const Path folder(base);
+    return folder.kind() == Path::Kind::System ? Path(folder.withoutTrailingSeparators()) : folder;
+}
+
+/// A drive's folder gets a separator whatever it ends in.
+std::string withSeparator(const Path& folder) {
+    std::string path(folder.text());
+    if (!folder.isSystemRoot())
+        path += folder.separator();
+    return path;
 }
 
 }  // namespace
 
 PathParts SplitPath(std::string_view path) {
-    const std::size_t separator = LastSeparator(path);
-    if (separator == npos)
-        return {std::string(path), ""};
-    const bool isInSystemRoot = separator == 0 && IsSystemPath(path);
-    return {std::string(path.substr(separator + 1)),
-            isInSystemRoot ? "/" : std::string(path.substr(0, separator))};
-}
-
-std::string JoinPath(std::string_view folder, std::string_view name) {
-    std::string path(folder);
-    const std::size_t last = LastSeparator(folder);
-    const bool endsInSeparator = last != npos && last + 1 == folder.size();
-    if (!folder.empty() && !endsInSeparator) {
-        const bool isBareDrive = last == npos && folder.ends_with(':');
-        path += last != npos ? folder[last] : isBareDrive ? '\\' : '/';
-    }
-    path += name;
-    return path;
+    const Path parts(path);
+    return {std::string(parts.name()), std::string(parts.folder())};
 }
 
 std::string ToRelativeURL(std::string_view base, std::string_view path) {
-    if (!IsDrivePath(path) && !IsSystemPath(path))
-        return std::string(path);
-    if (FirstCharacter(base) != FirstCharacter(path))
+    const Path file(path);
+    const Path folder = baseFolder(base);
+    const bool isFull = file.kind() == Path::Kind::Drive || file.kind() == Path::Kind::System;
+    if (!isFull || folder.firstCharacter() != file.firstCharacter())
         return std::string(path);
 
-    base = WithoutTrailingSlashes(base);
-    const char separator = SeparatorOf(base);
-    std::string folder(base);
-    if (!IsSystemRoot(base))
-        folder += separator;
-    std::string_view folderRest = folder;
+    const char separator = folder.separator();
+    const std::string start = withSeparator(folder);
+    std::string_view folderRest = start;
     std::size_t folderEnd = folderRest.find(separator);
     std::size_t pathEnd = path.find(separator);
     while (folderEnd != npos && pathEnd != npos &&
@@ -129,28 +82,25 @@ std::string ToRelativeURL(std::string_view base, std::string_view path) {
 }
 
 std::string ToAbsolutePath(std::string_view base, std::string_view url) {
-    if (IsDriveRoot(url) || IsAddress(url) || IsSiteRootURL(base, url))
+    Path folder = baseFolder(base);
+    if (Path(url).isDriveRoot() || isAddress(url) || isSiteRootURL(folder, url))
         return std::string(url);
 
-    const char separator = SeparatorOf(base);
-    base = WithoutTrailingSlashes(base);
     while (url.starts_with(kParentStep)) {
         url.remove_prefix(kParentStep.size());
-        const std::size_t last = LastSeparator(base);
-        base = base.substr(0, last == npos ? 0 : last);
+        folder = Path(folder.folder());
     }
-    std::string path(base);
-    if (!IsSystemRoot(base))
-        path += separator;
+    std::string path = withSeparator(folder);
     const std::size_t urlOffset = path.size();
     path += url;
-    std::replace(path.begin() + static_cast<std::ptrdiff_t>(urlOffset), path.end(), '/', separator);
+    std::replace(path.begin() + static_cast<std::ptrdiff_t>(urlOffset), path.end(), '/',
+                 folder.separator());
     return path;
 }
 
 std::string RebaseURL(std::string_view oldFolder, std::string_view newFolder,
                       std::string_view url) {
-    if (url.empty() || IsSiteRootURL(oldFolder, url))
+    if (url.empty() || isSiteRootURL(Path(oldFolder), url))
         return std::string(url);
     return ToRelativeURL(newFolder, ToAbsolutePath(oldFolder, url));
 }

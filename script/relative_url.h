@@ -7,9 +7,8 @@
 
 namespace zev {
 
-// Path arithmetic between files and URLs relative to the definition file's folder. Drive-letter
-// paths ("C:\web") are understood on every system; absolute paths of the system itself ("/web")
-// follow the same rules with "/" as the separator.
+// Path arithmetic between files and URLs relative to the definition file's folder. Absolute paths
+// of the system itself ("/web") follow the rules of drives with "/" as the separator.
 
 struct PathParts {
     std::string name;    ///< file name
@@ -18,10 +17,6 @@ struct PathParts {
 
 /// Cuts at the last separator; a path without one has no folder.
 PathParts SplitPath(std::string_view path);
-
-/// `folder` and `name` joined by the separator of the folder's own form; a folder that is the root
-/// directory gets no second one.
-std::string JoinPath(std::string_view folder, std::string_view name);
 
 /// URL of the file `path` relative to the folder `base`; `path` unchanged when it is not absolute
 /// or lies on another drive.

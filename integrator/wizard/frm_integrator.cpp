@@ -22,6 +22,7 @@
 #include "integrator/page_integration.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
+#include "text/path.h"
 
 namespace zev {
 
@@ -38,11 +39,6 @@ constexpr int kPopupKind = 1;  // index in `cboIntegration`
 
 /// A window that stands still for less than this needs no explanation.
 constexpr int kMomentMs = 500;
-
-bool HasDriveLetter(const std::string& url) {
-    const auto isLetter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
-    return url.size() >= 2 && url[1] == ':' && isLetter(url[0]);
-}
 
 QString WithEscapedQuotes(QString url) {
     return url.replace(u'\'', "%27").replace(u'"', "%22");
@@ -292,7 +288,7 @@ void frmIntegrator::showHints() {
         if (definition.contains(u'/'))
             pathHints.append(
                 tr("Without a path the pages look for the library in their own folder."));
-    } else if (HasDriveLetter(urls.library)) {
+    } else if (Path(urls.library).hasDriveLetter()) {
         pathHints.append(driveHint.arg(library));
     } else {
         if (!library.isEmpty() && !library.endsWith(u'/'))
@@ -302,7 +298,7 @@ void frmIntegrator::showHints() {
         if (library.contains(u'\'') || library.contains(u'"'))
             pathHints.append(quoteHint.arg(WithEscapedQuotes(library)));
     }
-    if (HasDriveLetter(urls.definition))
+    if (Path(urls.definition).hasDriveLetter())
         definitionHints.append(driveHint.arg(definition));
     else if (definition.contains(u'"'))
         definitionHints.append(quoteHint.arg(WithEscapedQuotes(definition)));

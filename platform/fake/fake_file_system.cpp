@@ -45,6 +45,10 @@ void FakeFileSystem::addFile(const std::string& path, const std::string& bytes) 
     m_files[path] = bytes;
 }
 
+void FakeFileSystem::addFolderAlias(const std::string& folder, const std::string& alias) {
+    m_folderOfAlias[alias] = folder;
+}
+
 void FakeFileSystem::setWritable(const std::string& folder, bool isWritable) {
     if (isWritable)
         m_unwritableFolders.erase(folder);
@@ -58,6 +62,14 @@ bool FakeFileSystem::FileExists(const std::string& path) const {
 
 bool FakeFileSystem::isFolder(const std::string& path) const {
     return m_folders.contains(path);
+}
+
+bool FakeFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
+    const auto folderAt = [&](const std::string& path) {
+        const auto alias = m_folderOfAlias.find(path);
+        return alias == m_folderOfAlias.end() ? path : alias->second;
+    };
+    return isFolder(folderAt(left)) && folderAt(left) == folderAt(right);
 }
 
 bool FakeFileSystem::isWritableFolder(const std::string& path) const {
@@ -156,6 +168,10 @@ bool FailingFileSystem::FileExists(const std::string& path) const {
 
 bool FailingFileSystem::isFolder(const std::string& path) const {
     return m_inner.isFolder(path);
+}
+
+bool FailingFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
+    return m_inner.isSameFolder(left, right);
 }
 
 bool FailingFileSystem::isWritableFolder(const std::string& path) const {

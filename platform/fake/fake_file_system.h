@@ -21,6 +21,8 @@ class FakeFileSystem : public FileSystem {
     void addFolder(const std::string& path);
     /// Adds a file, and the folders it lies in.
     void addFile(const std::string& path, const std::string& bytes);
+    /// Gives the folder a second path, by which `isSameFolder` knows it.
+    void addFolderAlias(const std::string& folder, const std::string& alias);
     /// In such a folder no file can be made, replaced or deleted.
     void setWritable(const std::string& folder, bool isWritable);
     /// Every file: path and bytes.
@@ -28,6 +30,7 @@ class FakeFileSystem : public FileSystem {
 
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
+    bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
@@ -41,12 +44,13 @@ class FakeFileSystem : public FileSystem {
   private:
     std::map<std::string, std::string> m_files;
     std::set<std::string> m_folders;
+    std::map<std::string, std::string> m_folderOfAlias;
     std::set<std::string> m_unwritableFolders;
 };
 
 /// Passes everything on to another file system, and breaks what it was told to break. A broken
-/// operation changes nothing. Questions (`FileExists`, `isFolder`, `isWritableFolder`) never break
-/// and are not counted.
+/// operation changes nothing. Questions (`FileExists` and the three about folders) never break and
+/// are not counted.
 class FailingFileSystem : public FileSystem {
   public:
     /// `inner` is not owned and must outlive this object.
@@ -61,6 +65,7 @@ class FailingFileSystem : public FileSystem {
 
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
+    bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;

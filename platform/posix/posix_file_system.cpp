@@ -24,6 +24,13 @@ bool PosixFileSystem::isFolder(const std::string& path) const {
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+bool PosixFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
+    struct stat one {};
+    struct stat other {};
+    return ::stat(left.c_str(), &one) == 0 && ::stat(right.c_str(), &other) == 0 &&
+           S_ISDIR(one.st_mode) && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
 bool PosixFileSystem::isWritableFolder(const std::string& path) const {
     return isFolder(path) && ::faccessat(AT_FDCWD, path.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }

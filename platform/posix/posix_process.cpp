@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
+#include <thread>
 
 #include "platform/posix/posix_descriptor.h"
 
@@ -37,19 +38,9 @@ std::vector<char*> argumentPointers(const std::vector<std::string>& arguments) {
     return pointers;
 }
 
-bool makePipe(PosixDescriptor& readEnd, PosixDescriptor& writeEnd) {
-    int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0)
-        return false;
-    readEnd = PosixDescriptor(ends[0]);
-    writeEnd = PosixDescriptor(ends[1]);
-    return true;
-}
-
-/// Starts `program` in a process group of its own with its output going to `output`; everything
-/// else goes nowhere. -1 when it cannot be started.
-pid_t spawnWithOutput(const std::string& program, const std::vector<std::string>& arguments,
-                      int output) {
+/// Starts `arguments` as `program` in a session of its own, with its output going to `output`;
+/// everything else goes nowhere. -1 when it cannot be executed.
+pid_t spawn(const std::string& program, const std::vector<std::string>& arguments, int output) {
     posix_spawn_file_actions_t actions;
     posix_spawnattr_t attributes;
     sigset_t none;
@@ -62,9 +53,8 @@ pid_t spawnWithOutput(const std::string& program, const std::vector<std::string>
     posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(
-        &attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    posix_spawnattr_setpgroup(&attributes, 0);
+    posix_spawnattr_setflags(&attributes,
+                             POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     posix_spawnattr_setsigmask(&attributes, &none);
     posix_spawnattr_setsigdefault(&attributes, &sigPipe);
     pid_t child = -1;
@@ -106,33 +96,6 @@ int waitFor(pid_t child) {
     return status;
 }
 
-/// The part of `startDetached` after the first fork. Between fork and exec only calls that are safe
-/// in a process with several threads are allowed, so everything was made ready before.
-[[noreturn]] void runDetachedChild(const char* program, char* const* arguments, int errorPipe) {
-    ::setsid();
-    const pid_t grandchild = ::fork();
-    if (grandchild > 0)
-        ::_exit(0);
-    if (grandchild == 0) {
-        sigset_t none;
-        sigemptyset(&none);
-        ::sigprocmask(SIG_SETMASK, &none, nullptr);
-        ::signal(SIGPIPE, SIG_DFL);
-        const int null = ::open("/dev/null", O_RDWR);
-        if (null >= 0) {
-            ::dup2(null, STDIN_FILENO);
-            ::dup2(null, STDOUT_FILENO);
-            ::dup2(null, STDERR_FILENO);
-            if (null > STDERR_FILENO)
-                ::close(null);
-        }
-        ::execve(program, arguments, environ);
-    }
-    const char failed = 1;
-    const ssize_t written = ::write(errorPipe, &failed, 1);
-    ::_exit(written == 1 ? 1 : 2);
-}
-
 }  // namespace
 
 std::string runningProgram() {
@@ -160,16 +123,18 @@ std::string findProgram(const std::string& name) {
 std::optional<std::string> runProgram(const std::vector<std::string>& arguments,
                                       std::chrono::milliseconds timeLimit) {
     const std::string program = findProgram(arguments.front());
-    PosixDescriptor readEnd;
-    PosixDescriptor writeEnd;
-    if (program.empty() || !makePipe(readEnd, writeEnd))
+    int ends[2];
+    if (program.empty() || ::pipe2(ends, O_CLOEXEC) != 0)
         return {};
-    const pid_t child = spawnWithOutput(program, arguments, writeEnd.get());
+    const PosixDescriptor readEnd(ends[0]);
+    PosixDescriptor writeEnd(ends[1]);
+    const pid_t child = spawn(program, arguments, writeEnd.get());
     if (child < 0)
         return {};
     writeEnd.close();
     std::string output;
     const bool isDone = readUntil(readEnd.get(), Clock::now() + timeLimit, output);
+    // The leader of a session leads a process group too.
     if (!isDone)
         ::kill(-child, SIGKILL);
     const int status = waitFor(child);
@@ -180,21 +145,19 @@ std::optional<std::string> runProgram(const std::vector<std::string>& arguments,
 
 bool startDetached(const std::vector<std::string>& arguments) {
     const std::string program = findProgram(arguments.front());
-    PosixDescriptor readEnd;
-    PosixDescriptor writeEnd;
-    if (program.empty() || !makePipe(readEnd, writeEnd))
+    PosixDescriptor nowhere;
+    if (program.empty() || openDescriptor("/dev/null", O_WRONLY, 0, nowhere) != 0)
         return false;
-    const std::vector<char*> pointers = argumentPointers(arguments);
-    const pid_t child = ::fork();
+    const pid_t child = spawn(program, arguments, nowhere.get());
     if (child < 0)
         return false;
-    if (child == 0)
-        runDetachedChild(program.c_str(), pointers.data(), writeEnd.get());
-    writeEnd.close();
-    waitFor(child);
-    // A successful exec() closes the pipe without a word.
-    std::string report;
-    return readAll(readEnd.get(), 16, report) == 0 && report.empty();
+    // Somebody has to collect it when it ends.
+    try {
+        std::thread([child] { waitFor(child); }).detach();
+    } catch (const std::system_error&) {
+        // Without a thread the ended child stays in the process table as long as this process.
+    }
+    return true;
 }
 
 }  // namespace zev

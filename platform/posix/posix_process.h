@@ -20,9 +20,8 @@ std::string findProgram(const std::string& name);
 std::optional<std::string> runProgram(const std::vector<std::string>& arguments,
                                       std::chrono::milliseconds timeLimit);
 
-/// Starts a program that goes on by itself: in a session of its own, not a child of this process,
-/// without our input and output. False when it cannot be executed. `arguments` begin with the
-/// program.
+/// Starts a program that goes on by itself: in a session of its own, without our input and output,
+/// forgotten when it ends. False when it cannot be executed. `arguments` begin with the program.
 bool startDetached(const std::vector<std::string>& arguments);
 
 }  // namespace zev

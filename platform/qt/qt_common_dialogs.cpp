@@ -1,5 +1,6 @@
 #include "platform/qt/qt_common_dialogs.h"
 
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
@@ -16,7 +17,9 @@
 #include <limits>
 #include <utility>
 
+#include "platform/qt/message_text.h"
 #include "platform/qt/parent_window.h"
+#include "platform/qt/qt_message_box.h"
 #include "text/program_name.h"
 
 namespace zev {
@@ -40,6 +43,8 @@ void ShowWholeColumns(QFileDialog& dialog) {
 
 void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QString& lastFolder) {
     dialog.setWindowTitle(QString::fromStdString(request.title));
+    // The descriptions name the patterns themselves, and not in Qt's form.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
     const QStringList filters = NameFilters(request.filter);
     dialog.setNameFilters(filters);
     dialog.selectNameFilter(filters.value(request.filterIndex - 1));
@@ -76,23 +81,22 @@ ChosenFiles FilesOfOneFolder(const QStringList& paths) {
     return files;
 }
 
-void ShowSeveralFolders(QWidget* parent) {
-    QMessageBox notice(parent);
-    notice.setWindowTitle(kProgramName);
-    notice.setIcon(QMessageBox::Warning);
-    notice.setText("Please choose files of one folder only.");
-    notice.exec();
+void ShowSeveralFolders() {
+    MessageRequest notice;
+    notice.text = "Please choose files of one folder only.";
+    notice.icon = MessageRequest::Icon::Exclamation;
+    QtMessageBox().show(notice);
 }
 
 bool MayReplace(QWidget* parent, const QString& path) {
     QMessageBox question(parent);
     question.setWindowTitle(kProgramName);
     question.setIcon(QMessageBox::Warning);
-    question.setTextFormat(Qt::PlainText);
-    question.setText(QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     question.setDefaultButton(QMessageBox::No);
     question.setEscapeButton(QMessageBox::No);
+    SetMessageText(question,
+                   QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
     return question.exec() == QMessageBox::Yes;
 }
 
@@ -138,18 +142,27 @@ QFont ExistingFont(const FontChoice& choice) {
     return font;
 }
 
+/// Underlined and struck out, which a choice does not hold. Their place stays: the sample beside it
+/// is as high.
+void HideEffects(const QFontDialog& dialog) {
+    for (const QCheckBox* effect : dialog.findChildren<QCheckBox*>()) {
+        QWidget* const group = effect->parentWidget();
+        QSizePolicy policy = group->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        group->setSizePolicy(policy);
+        group->hide();
+    }
+}
+
 }  // namespace
 
 QStringList NameFilters(const std::string& filter) {
     const QStringList parts = QString::fromStdString(filter).split('|');
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        QString description = parts[i];
-        // The description usually shows the patterns too; Qt adds them itself.
-        description.remove(QRegularExpression(R"(\s*\([^()]*\)\s*$)"));
         QStringList patterns = parts[i + 1].split(';', Qt::SkipEmptyParts);
         patterns.replaceInStrings(QRegularExpression(R"(^\*\.\*$)"), "*");
-        filters << description + " (" + patterns.join(' ') + ')';
+        filters << parts[i] + " (" + patterns.join(' ') + ')';
     }
     return filters;
 }
@@ -178,7 +191,7 @@ ChosenFiles QtCommonDialogs::openFiles(const FileDialogRequest& request) {
             m_lastFolder = QString::fromStdString(files.folder);
             return files;
         }
-        ShowSeveralFolders(ParentWindow());
+        ShowSeveralFolders();
     }
     return {};
 }
@@ -215,6 +228,7 @@ std::optional<std::int32_t> QtCommonDialogs::chooseColor(std::int32_t initial) {
 
 std::optional<FontChoice> QtCommonDialogs::chooseFont(const FontChoice& initial) {
     QFontDialog dialog(ExistingFont(initial), ParentWindow());
+    HideEffects(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const QFont chosen = dialog.selectedFont();

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QTextEdit>
 
+#include "platform/qt/message_text.h"
 #include "platform/qt/parent_window.h"
 #include "text/program_name.h"
 
@@ -11,33 +12,8 @@ namespace zev {
 
 namespace {
 
-constexpr int kLongestWord = 50;
 constexpr int kDetailsLines = 12;
 constexpr int kDetailsCharacters = 70;
-constexpr QChar kZeroWidthSpace(0x200B);
-
-/// Lets long paths wrap: a label breaks lines between words only and would cut them off. The places
-/// are after separators, and anywhere in a name that is too long by itself.
-QString WithBreaksInLongWords(const QString& text) {
-    QString result;
-    result.reserve(text.size());
-    int wordLength = 0;
-    for (const QChar character : text) {
-        const bool isInsideCodePoint = character.isLowSurrogate() || character.isMark();
-        if (wordLength >= kLongestWord && !isInsideCodePoint) {
-            result += kZeroWidthSpace;
-            wordLength = 0;
-        }
-        result += character;
-        const bool isBreak = character.isSpace();
-        wordLength = isBreak ? 0 : wordLength + 1;
-        if (character == u'/' || character == u'\\') {
-            result += kZeroWidthSpace;
-            wordLength = 0;
-        }
-    }
-    return result;
-}
 
 QMessageBox::StandardButtons ButtonsOf(MessageRequest::Buttons buttons) {
     switch (buttons) {
@@ -83,8 +59,6 @@ void ShowDetails(QMessageBox& box, const std::string& details) {
 
 MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
     QMessageBox box(ParentWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.setText(WithBreaksInLongWords(QString::fromStdString(request.text)));
     box.setWindowTitle(request.title.empty() ? QString(kProgramName)
                                              : QString::fromStdString(request.title));
     box.setIcon(request.icon == MessageRequest::Icon::Exclamation ? QMessageBox::Warning
@@ -93,6 +67,7 @@ MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
     box.setEscapeButton(EscapeButtonOf(request.buttons));
     if (!request.details.empty())
         ShowDetails(box, request.details);
+    SetMessageText(box, QString::fromStdString(request.text));
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
     QApplication::setPalette(isDark ? darkPalette() : lightPalette());
 
     PosixFileSystem files;
-    PosixShell shell(files);
+    PosixShell shell;
     QtMessageBox messages;
     QtCommonDialogs dialogs;
     QtHelpViewer help;

@@ -55,6 +55,9 @@ class test_file_commands : public QObject {
     void previewOfASavedMenuWritesBesideIt();
     void previewCleansAndStoresThePanelFirst();
     void previewChangesNeitherFileNorChangesMark();
+    void previewTellsOfEachMissingFileAndIsShownAllTheSame_data();
+    void previewTellsOfEachMissingFileAndIsShownAllTheSame();
+    void thePreviewFilesStayAfterTheEnd();
 };
 
 void test_file_commands::resetShowsAnEmptyMenu() {
@@ -493,6 +496,48 @@ void test_file_commands::previewChangesNeitherFileNorChangesMark() {
         QCOMPARE(desk.document.SaveFile, std::string("/site/menu.js"));
         QCOMPARE(desk.view.shownFile, std::string("/site/menu.js"));
     }
+}
+
+void test_file_commands::previewTellsOfEachMissingFileAndIsShownAllTheSame_data() {
+    QTest::addColumn<QStringList>("missing");
+    QTest::newRow("a script") << QStringList{"zevmenu_dom.js"};
+    QTest::newRow("the template") << QStringList{"zevmenu.html"};
+    QTest::newRow("all") << QStringList{"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js",
+                                        "zevmenu.html"};
+}
+
+void test_file_commands::previewTellsOfEachMissingFileAndIsShownAllTheSame() {
+    QFETCH(QStringList, missing);
+    Desk desk;
+    desk.addItem("Home");
+    desk.saveAs("/site/menu.js");
+    for (const QString& name : missing) {
+        const std::string path = "/program/" + name.toStdString();
+        desk.disk.DeleteFile(path);
+        desk.messages.expect("Error: " + path + " does not exist");
+    }
+    desk.commands.ShowPreview();
+    QCOMPARE(desk.bytesOf("/site/orlet_temp.js"), desk.bytesOf("/site/menu.js"));
+    QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/site/orlet_temp.html"});
+    // What an earlier preview or save left there is still there to be shown.
+    for (const std::string& name : kSavedBeside)
+        QVERIFY2(desk.isOnDisk("/site/" + name), name.c_str());
+}
+
+void test_file_commands::thePreviewFilesStayAfterTheEnd() {
+    Desk desk;
+    desk.addItem("Home");
+    desk.saveAs("/site/menu.js");
+    std::map<std::string, std::string> filesAtTheEnd;
+    {
+        FileCommands commands(desk.document, desk.view, desk.services);
+        commands.ShowPreview();
+        filesAtTheEnd = desk.disk.allFiles();
+        QVERIFY(commands.mnuFileExit_Click());
+    }
+    QVERIFY(filesAtTheEnd.contains("/site/orlet_temp.js"));
+    QVERIFY(filesAtTheEnd.contains("/site/orlet_temp.html"));
+    QCOMPARE(desk.disk.allFiles(), filesAtTheEnd);
 }
 
 QTEST_GUILESS_MAIN(test_file_commands)

@@ -1,9 +1,11 @@
 // The real colour and font dialogs of Qt, answered with real keys.
 
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QListView>
 #include <QSpinBox>
@@ -52,6 +54,7 @@ class test_qt_choosers : public QObject {
     void aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay();
     void aFontThatIsMissingStartsWithOneThatExists();
     void aFontIsChosenWithItsStyle();
+    void theFontDialogOffersNoEffectThatAChoiceDoesNotHold();
     void fontCancelledGivesNothing();
     void colorAndFontDialogsBelongToTheActiveWindow();
 };
@@ -180,6 +183,20 @@ void test_qt_choosers::aFontIsChosenWithItsStyle() {
     QVERIFY(chosen.has_value());
     QVERIFY(*chosen == expected);
     QVERIFY(*chosen != initial);
+}
+
+void test_qt_choosers::theFontDialogOffersNoEffectThatAChoiceDoesNotHold() {
+    whenShown<QFontDialog>([](QFontDialog& dialog) {
+        const auto effects = dialog.findChildren<QCheckBox*>();
+        QCOMPARE(effects.size(), 2);
+        for (const QCheckBox* effect : effects)
+            QVERIFY2(!effect->isVisible(), qPrintable(effect->text()));
+        for (const QGroupBox* group : dialog.findChildren<QGroupBox*>())
+            QVERIFY2(!group->isVisible() || group->findChild<QCheckBox*>() == nullptr,
+                     "an empty frame");
+        dialog.reject();
+    });
+    QtCommonDialogs().chooseFont({});
 }
 
 void test_qt_choosers::fontCancelledGivesNothing() {

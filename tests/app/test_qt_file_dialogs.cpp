@@ -1,5 +1,6 @@
 // The real file dialogs of Qt, answered with real keys.
 
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -7,8 +8,8 @@
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
-#include "message_text.h"
 #include "platform/qt/qt_common_dialogs.h"
 #include "when_shown.h"
 
@@ -58,6 +59,8 @@ class test_qt_file_dialogs : public QObject {
     void filtersAreTranslated();
     void aFilterOfOneKindGivesTheExtension_data();
     void aFilterOfOneKindGivesTheExtension();
+    void aFilterReadsAsDescribedAndMatchesAsMeant_data();
+    void aFilterReadsAsDescribedAndMatchesAsMeant();
     void openGivesTheFullPath();
     void openShowsTheRequest();
     void openCancelledGivesNothing();
@@ -83,9 +86,9 @@ void test_qt_file_dialogs::filtersAreTranslated_data() {
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("definitions") << "All Files (*.*)|*.*|JavaScript (*.js)|*.js"
-                                 << QStringList{"All Files (*)", "JavaScript (*.js)"};
+                                 << QStringList{"All Files (*.*) (*)", "JavaScript (*.js) (*.js)"};
     QTest::newRow("images") << "Image Files (*.gif;*.jpg)|*.gif;*.jpg"
-                            << QStringList{"Image Files (*.gif *.jpg)"};
+                            << QStringList{"Image Files (*.gif;*.jpg) (*.gif *.jpg)"};
     QTest::newRow("no patterns in the description") << "Text|*.txt" << QStringList{"Text (*.txt)"};
     QTest::newRow("none") << "" << QStringList{};
 }
@@ -100,15 +103,60 @@ void test_qt_file_dialogs::aFilterOfOneKindGivesTheExtension_data() {
     QTest::addColumn<QString>("suffix");
     QTest::newRow("one kind") << "JavaScript (*.js)"
                               << "js";
-    QTest::newRow("all files") << "All Files (*)"
+    QTest::newRow("one kind, all of it") << "JavaScript (*.js) (*.js)"
+                                         << "js";
+    QTest::newRow("all files") << "All Files (*.*)"
                                << "";
-    QTest::newRow("two kinds") << "Image Files (*.gif *.jpg)"
+    QTest::newRow("all files, all of it") << "All Files (*.*) (*)"
+                                          << "";
+    QTest::newRow("two kinds") << "Image Files (*.gif;*.jpg)"
                                << "";
+    QTest::newRow("two kinds, all of it") << "Image Files (*.gif;*.jpg) (*.gif *.jpg)"
+                                          << "";
 }
 
 void test_qt_file_dialogs::aFilterOfOneKindGivesTheExtension() {
     QFETCH(QString, filter);
     QTEST(DefaultSuffix(filter), "suffix");
+}
+
+void test_qt_file_dialogs::aFilterReadsAsDescribedAndMatchesAsMeant_data() {
+    QTest::addColumn<int>("filterIndex");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QStringList>("shown");
+    QTest::newRow("all files") << 1 << "All Files (*.*)"
+                               << QStringList{"README", "a.gif", "b.jpg", "c.js"};
+    QTest::newRow("two kinds") << 2 << "Image Files (*.gif;*.jpg)" << QStringList{"a.gif", "b.jpg"};
+}
+
+void test_qt_file_dialogs::aFilterReadsAsDescribedAndMatchesAsMeant() {
+    QFETCH(int, filterIndex);
+    QFETCH(QString, caption);
+    QFETCH(QStringList, shown);
+    QTemporaryDir folder;
+    for (const char* const name : {"README", "a.gif", "b.jpg", "c.js"})
+        makeFile(folder.filePath(name));
+    FileDialogRequest request;
+    request.filter = "All Files (*.*)|*.*|Image Files (*.gif;*.jpg)|*.gif;*.jpg";
+    request.filterIndex = filterIndex;
+    request.folder = folder.path().toStdString();
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        const auto* kinds = dialog.findChild<QComboBox*>("fileTypeCombo");
+        QVERIFY(kinds != nullptr && kinds->isVisible());
+        QCOMPARE(kinds->currentText(), caption);
+        QCOMPARE(kinds->itemText(0), QString("All Files (*.*)"));
+        const auto* list = dialog.findChild<QTreeView*>("treeView");
+        const auto names = [&] {
+            QStringList found;
+            for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+                found.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
+            found.sort();
+            return found;
+        };
+        QTRY_COMPARE(names(), shown);
+        dialog.reject();
+    });
+    QtCommonDialogs().openFile(request);
 }
 
 void test_qt_file_dialogs::openGivesTheFullPath() {
@@ -196,7 +244,7 @@ void test_qt_file_dialogs::filesOfSeveralFoldersAreRefused() {
     whenShown<QFileDialog>([&](QFileDialog& dialog) {
         whenShown<QMessageBox>([&](QMessageBox& box) {
             QCOMPARE(box.windowTitle(), QString("ZEVMenu Creator"));
-            notice = textOf(box);
+            notice = box.text();
             whenShown<QFileDialog>([&](QFileDialog& again) { again.reject(); });
             QTest::keyClick(&box, Qt::Key_Return);
         });
@@ -258,7 +306,7 @@ void test_qt_file_dialogs::saveAsksAboutTheFileThatIsReallyReplaced() {
         whenShown<QMessageBox>([&](QMessageBox& box) {
             isAsked = true;
             QCOMPARE(box.windowTitle(), QString("ZEVMenu Creator"));
-            QCOMPARE(textOf(box), QString("menu.js already exists.\nDo you want to replace it?"));
+            QCOMPARE(box.text(), QString("menu.js already exists.\nDo you want to replace it?"));
             // After No the dialog is there again, for another name.
             whenShown<QFileDialog>([](QFileDialog& again) { typeName(again, "other"); });
             QTest::keyClick(&box, Qt::Key_Escape);

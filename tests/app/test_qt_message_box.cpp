@@ -2,18 +2,20 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocument>
 #include <QTextEdit>
 #include <QTextLayout>
 
-#include "message_text.h"
 #include "platform/qt/fit_screen.h"
 #include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_message_box.h"
@@ -33,6 +35,28 @@ QAbstractButton* detailsButton(const QMessageBox& box) {
             return button;
     }
     return nullptr;
+}
+
+/// The label that the person sees.
+QLabel* shownLabel(const QMessageBox& box) {
+    for (QLabel* label : box.findChildren<QLabel*>()) {
+        if (label->isVisible() && label->text() == box.text())
+            return label;
+    }
+    return nullptr;
+}
+
+/// True when a part of a picture is not of one colour.
+bool hasInk(const QImage& picture, const QRect& part) {
+    const QRect inside = part.intersected(picture.rect());
+    const QRgb background = picture.pixel(inside.topLeft());
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            if (picture.pixel(x, y) != background)
+                return true;
+        }
+    }
+    return false;
 }
 
 MessageRequest requestWithDetails(int lines) {
@@ -70,6 +94,8 @@ class test_qt_message_box : public QObject {
     void aMessageWithoutTitleHasTheProgramsName();
     void longPathsWrapInsideTheScreen_data();
     void longPathsWrapInsideTheScreen();
+    void theTextIsCopiedAsItIs();
+    void aShortTextStaysOnOneLine();
     void aBoxBelongsToTheActiveWindow();
     void buttonsHaveNoPicturesInTheProgramsStyle();
     void aWindowIsNotLargerThanItsScreen();
@@ -147,7 +173,7 @@ void test_qt_message_box::messagesAreShownAsTheyAre() {
     request.title = "URL Failed";
     request.icon = MessageRequest::Icon::Exclamation;
     whenShown<QMessageBox>([&](QMessageBox& box) {
-        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        QCOMPARE(box.text(), QString::fromStdString(request.text));
         QCOMPARE(box.textFormat(), Qt::PlainText);
         QCOMPARE(box.windowTitle(), QString("URL Failed"));
         QCOMPARE(box.icon(), QMessageBox::Warning);
@@ -171,6 +197,9 @@ void test_qt_message_box::longPathsWrapInsideTheScreen_data() {
     QTest::addColumn<QString>("path");
     QTest::newRow("many folders") << QString("/some/folder").repeated(40) + "/menu.js";
     QTest::newRow("one long name") << "/" + QString(255, 'x');
+    QTest::newRow("a long name among short ones")
+        << "/home/anna/" + QString(120, 'x') + "/sub folder/menu.js";
+    QTest::newRow("backslashes") << "C:" + QString("\\folder").repeated(40);
 }
 
 void test_qt_message_box::longPathsWrapInsideTheScreen() {
@@ -178,14 +207,65 @@ void test_qt_message_box::longPathsWrapInsideTheScreen() {
     MessageRequest request;
     request.text = ("Could not open " + path + ": No such file or directory").toStdString();
     whenShown<QMessageBox>([&](QMessageBox& box) {
-        QCOMPARE(textOf(box), QString::fromStdString(request.text));
-        const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+        QCOMPARE(box.text(), QString::fromStdString(request.text));
+        QLabel* label = shownLabel(box);
         QVERIFY(label != nullptr);
-        const QRect needed = label->fontMetrics().boundingRect(
-            QRect(0, 0, label->width(), 10000), Qt::TextWordWrap | Qt::AlignLeft, label->text());
-        QVERIFY2(needed.width() <= label->width(), "cut off at the right");
-        QVERIFY2(needed.height() <= label->height(), "cut off at the bottom");
+        // The same text, laid out in the label's width.
+        QTextDocument wanted(label->text());
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        wanted.setDefaultTextOption(option);
+        wanted.setDefaultFont(label->font());
+        wanted.setDocumentMargin(0);
+        wanted.setTextWidth(label->width() - label->indent());
+        QVERIFY2(wanted.idealWidth() <= label->width() - label->indent(), "cut off at the right");
+        QVERIFY2(wanted.size().height() <= label->height(), "cut off at the bottom");
+        // And painted so.
+        QVERIFY(wanted.firstBlock().layout()->lineCount() > 1);
+        const QImage picture = label->grab().toImage();
+        const qreal scale = picture.devicePixelRatio();
+        const int lineHeight = qRound(label->fontMetrics().lineSpacing() * scale);
+        const QRect contents(0, 0, picture.width(), qRound(wanted.size().height() * scale));
+        QVERIFY2(hasInk(picture, contents.adjusted(0, contents.height() - lineHeight, 0, 0)),
+                 "the last line is not painted");
+        QVERIFY2(!hasInk(picture, QRect(picture.width() - 1, 0, 1, picture.height())),
+                 "painted up to the edge");
         QVERIFY(box.width() <= box.screen()->availableGeometry().width());
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::theTextIsCopiedAsItIs() {
+    MessageRequest request;
+    request.text = "Could not open /home/anna/" + std::string(200, 'x') + "/menu.js: No such file";
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        QLabel* label = shownLabel(box);
+        QVERIFY(label != nullptr);
+        // A drag over all of it, then the copy key.
+        QTest::mousePress(label, Qt::LeftButton, {}, QPoint(1, 1));
+        const QPoint end(label->width() - 1, label->height() - 1);
+        QMouseEvent move(QEvent::MouseMove, end, label->mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(label, &move);
+        QTest::mouseRelease(label, Qt::LeftButton, {}, end);
+        QCOMPARE(label->selectedText(), QString::fromStdString(request.text));
+        QTest::keyClick(label, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), QString::fromStdString(request.text));
+        box.close();
+    });
+    QtMessageBox().show(request);
+}
+
+void test_qt_message_box::aShortTextStaysOnOneLine() {
+    MessageRequest request;
+    request.text = "Save changes to project?";
+    request.buttons = Buttons::YesNoCancel;
+    whenShown<QMessageBox>([&](QMessageBox& box) {
+        const QLabel* label = shownLabel(box);
+        QVERIFY(label != nullptr);
+        QVERIFY(label->height() < 2 * label->fontMetrics().lineSpacing());
+        QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance(label->text()));
         box.close();
     });
     QtMessageBox().show(request);
@@ -251,7 +331,7 @@ void test_qt_message_box::aMessageWithoutDetailsHasOnlyItsButtons() {
 void test_qt_message_box::detailsAreShownWhenAskedFor() {
     const MessageRequest request = requestWithDetails(3);
     whenShown<QMessageBox>([&](QMessageBox& box) {
-        QCOMPARE(textOf(box), QString::fromStdString(request.text));
+        QCOMPARE(box.text(), QString::fromStdString(request.text));
         auto* details = box.findChild<QTextEdit*>();
         QVERIFY(details != nullptr && !details->isVisible());
         QCOMPARE(details->accessibleName(), QString("Details"));

@@ -37,6 +37,8 @@ TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
         {"rebase", "in.js"},
         {"rebase", "--from", "/a", "in.js"},
         {"rebase", "--from", "/a", "--to", "C:\\a", "in.js"},
+        {"rebase", "--from", "C:", "--to", "/a", "in.js"},
+        {"rebase", "--from", "a", "--to", "C:", "in.js"},
         {"rebase", "--from", "", "--to", "/a", "in.js"},
         {"rebase", "--from", "/a", "--to", "", "in.js"},
         {"format", "in.js", "-o", ""},

@@ -68,6 +68,11 @@ TEST_F(RebaseTest, TakesFoldersInEveryForm) {
         {"C:\\web\\", "C:\\", "web/index.html"},
         {"C:\\", "C:\\new\\", "../index.html"},
         {"C:\\web", "D:\\web", "C:\\web\\index.html"},
+        {"C:", "C:\\new", "../index.html"},
+        {"C:\\web", "C:", "web/index.html"},
+        {"C:", "C:\\", "index.html"},
+        {"C:", "D:", "C:\\index.html"},
+        {"c:", "c:\\new", "../index.html"},
     };
     for (const Case& c : cases)
         EXPECT_EQ(firstUrl(c.from, c.to), c.url) << c.from << " to " << c.to;

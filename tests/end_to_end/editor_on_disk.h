@@ -148,7 +148,7 @@ class EditorOnDisk {
 
     QTemporaryDir m_folder;
     PosixFileSystem m_files;
-    PosixShell m_shell{m_files};
+    PosixShell m_shell;
     QtMessageBox m_messages;
     FakeCommonDialogs m_dialogs{
         [](const std::string& problem) { QTest::qFail(problem.c_str(), __FILE__, __LINE__); }};

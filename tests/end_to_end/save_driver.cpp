@@ -12,7 +12,7 @@
 
 #include "app/file_commands.h"
 #include "platform/posix/posix_file_system.h"
-#include "script/relative_url.h"
+#include "text/path.h"
 
 using namespace zev;
 
@@ -81,15 +81,15 @@ int main(int argc, char** argv) {
     const std::string folder = argv[2];
     PosixFileSystem files;
     PrintedMessages messages;
-    OneFile dialogs(JoinPath(folder, "site/menu.js"));
+    OneFile dialogs(Path(folder).child("site/menu.js"));
     NoShell shell;
     NoHelp help;
     NoBrowser browser;
     NoView view;
-    MenuDocument document(JoinPath(folder, "program"));
+    MenuDocument document(Path(folder).child("program"));
     FileCommands commands(document, view, {files, messages, dialogs, shell, help, browser});
 
-    if (!commands.openDefinition(JoinPath(folder, "in.js")) || document.tree.isEmpty())
+    if (!commands.openDefinition(Path(folder).child("in.js")) || document.tree.isEmpty())
         return 3;
     document.tree.firstNode()->item.Caption = "Changed";
     document.bModified = true;

@@ -36,6 +36,7 @@ class test_editor : public QObject, private EditorOnDisk {
     void thePreviewShowsTheMenu();
     void theShownPreviewFollowsNewAndOpen();
     void aVisitorCanClickThroughTheMenu();
+    void thePreviewFilesStayAfterTheEnd();
     void cleanupTestCase();
 
   private:
@@ -161,6 +162,13 @@ void test_editor::aVisitorCanClickThroughTheMenu() {
     QVERIFY2(visitor.waitForFinished(kBrowserTimeMs), qPrintable(visitor.errorString()));
     QVERIFY2(visitor.exitStatus() == QProcess::NormalExit && visitor.exitCode() == 0,
              visitor.readAll().constData());
+}
+
+void test_editor::thePreviewFilesStayAfterTheEnd() {
+    QVERIFY(m_window->close());
+    m_window.reset();
+    for (const char* const name : {"site/orlet_temp.js", "site/orlet_temp.html"})
+        QVERIFY2(QFile::exists(m_folder.filePath(name)), name);
 }
 
 void test_editor::cleanupTestCase() {

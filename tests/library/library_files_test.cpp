@@ -14,7 +14,7 @@ TEST(CopyLibraryFileTest, MakesTheDestinationACopyOfTheSource) {
     FakeFileSystem files;
     files.addFile("/program/a.js", "run-time");
     files.addFolder("/site");
-    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js"), CopyResult::Copied);
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::Copied);
     EXPECT_EQ(files.allFiles().at("/site/a.js"), "run-time");
 }
 
@@ -22,32 +22,41 @@ TEST(CopyLibraryFileTest, ReplacesAnOlderDestination) {
     FakeFileSystem files;
     files.addFile("/program/a.js", "new");
     files.addFile("/site/a.js", "old");
-    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js"), CopyResult::Copied);
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::Copied);
     EXPECT_EQ(files.allFiles().at("/site/a.js"), "new");
 }
 
-TEST(CopyLibraryFileTest, DoesNothingWhenBothPathsAreEqualButForCase) {
+TEST(CopyLibraryFileTest, DoesNothingWhenBothPathsNameOneFileOfTheDisk) {
     FakeFileSystem disk;
     disk.addFile("/Program/A.js", "one");
+    disk.addFolderAlias("/Program", "/program");
+    disk.addFolderAlias("/Program", "/link");
     FailingFileSystem files(disk);
-    for (const char* const destination : {"/Program/A.js", "/program/a.JS"}) {
-        EXPECT_EQ(CopyLibraryFile(files, "/Program/A.js", destination), CopyResult::SamePlace)
+    for (const char* const destination : {"/Program/A.js", "/program/A.js", "/link/A.js"}) {
+        EXPECT_EQ(CopyLibraryFile(files, "/Program/A.js", destination).result,
+                  CopyResult::SamePlace)
             << destination;
     }
     EXPECT_EQ(files.operationCount(), 0U);
 }
 
-TEST(CopyLibraryFileTest, OnlyAsciiLettersAreEqualButForCase) {
+TEST(CopyLibraryFileTest, CopiesWhereFoldersOrNamesAreOnlyEqualButForCase) {
     FakeFileSystem files;
-    files.addFile("/[/a.js", "one");
-    files.addFolder("/{");  // "[" and "{" are as far apart as "A" and "a"
-    EXPECT_EQ(CopyLibraryFile(files, "/[/a.js", "/{/a.js"), CopyResult::Copied);
+    files.addFile("/Program/A.js", "one");
+    files.addFolder("/program");
+    for (const char* const destination : {"/program/A.js", "/Program/a.js"}) {
+        EXPECT_EQ(CopyLibraryFile(files, "/Program/A.js", destination).result, CopyResult::Copied)
+            << destination;
+        EXPECT_EQ(files.allFiles().at(destination), "one");
+    }
 }
 
 TEST(CopyLibraryFileTest, SaysThatTheSourceIsMissingAndLeavesTheDestination) {
     FakeFileSystem files;
     files.addFile("/site/a.js", "old");
-    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js"), CopyResult::SourceMissing);
+    const CopyOutcome outcome = CopyLibraryFile(files, "/program/a.js", "/site/a.js");
+    EXPECT_EQ(outcome.result, CopyResult::SourceMissing);
+    EXPECT_EQ(outcome.path, "/program/a.js");
     EXPECT_EQ(files.allFiles().at("/site/a.js"), "old");
 }
 
@@ -57,23 +66,69 @@ TEST(CopyLibraryFileTest, SaysThatTheDestinationWasNotSavedAndLeavesIt) {
     disk.addFile("/site/a.js", "old");
     FailingFileSystem files(disk);
     files.failPath("/site/a.js", kNoPermission);
-    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js"), CopyResult::NotSaved);
+    const CopyOutcome outcome = CopyLibraryFile(files, "/program/a.js", "/site/a.js");
+    EXPECT_EQ(outcome.result, CopyResult::NotSaved);
+    EXPECT_EQ(outcome.path, "/site/a.js");
+    EXPECT_EQ(outcome.reason, "Permission denied");
     EXPECT_EQ(disk.allFiles().at("/site/a.js"), "old");
+}
+
+/// The run-time files but "zevmenu_ns4.js" in "/program", and an empty folder "/site".
+FakeFileSystem programWithoutOneScript() {
+    FakeFileSystem files;
+    for (const char* const name : {"zevmenu_loader.js", "zevmenu_dom.js", "zevmenu.html"})
+        files.addFile(std::string("/program/") + name, name);
+    files.addFolder("/site");
+    return files;
+}
+
+TEST(CopyLibraryTest, CopiesEveryFileAndTellsOfThoseItCouldNot) {
+    FakeFileSystem disk = programWithoutOneScript();
+    FailingFileSystem files(disk);
+    files.failPath("/site/zevmenu_loader.js", kNoPermission);
+    const std::vector<CopyOutcome> problems =
+        copyLibrary(files, Path("/program"), Path("/site"), CopiedFiles::ScriptsAndPreviewPage);
+    ASSERT_EQ(problems.size(), 2U);
+    EXPECT_EQ(problems[0].result, CopyResult::NotSaved);
+    EXPECT_EQ(problems[0].path, "/site/zevmenu_loader.js");
+    EXPECT_EQ(problems[1].result, CopyResult::SourceMissing);
+    EXPECT_EQ(problems[1].path, "/program/zevmenu_ns4.js");
+    EXPECT_EQ(disk.allFiles().at("/site/zevmenu_dom.js"), "zevmenu_dom.js");
+    EXPECT_EQ(disk.allFiles().at("/site/orlet_temp.html"), "zevmenu.html");
+}
+
+TEST(CopyLibraryTest, ThePreviewPageIsCopiedOnlyWhenAskedFor) {
+    FakeFileSystem files = programWithoutOneScript();
+    const std::vector<CopyOutcome> problems =
+        copyLibrary(files, Path("/program"), Path("/site"), CopiedFiles::Scripts);
+    EXPECT_EQ(problems.size(), 1U);
+    EXPECT_FALSE(files.FileExists("/site/orlet_temp.html"));
+}
+
+TEST(CopyLibraryTest, IntoItsOwnFolderItCopiesOnlyThePreviewPage) {
+    FakeFileSystem disk = programWithoutOneScript();
+    FailingFileSystem files(disk);
+    EXPECT_TRUE(
+        copyLibrary(files, Path("/program"), Path("/program"), CopiedFiles::ScriptsAndPreviewPage)
+            .empty());
+    EXPECT_EQ(files.operationCount(), 1U);
+    EXPECT_EQ(disk.allFiles().at("/program/orlet_temp.html"), "zevmenu.html");
 }
 
 TEST(CopyProblemTextTest, NamesTheFileAtFault) {
     struct Case {
-        CopyResult result;
+        CopyOutcome outcome;
         const char* text;
     };
     const Case cases[] = {
-        {CopyResult::Copied, ""},
-        {CopyResult::SamePlace, ""},
-        {CopyResult::SourceMissing, "Error: /from does not exist"},
-        {CopyResult::NotSaved, "Error: /to not saved. Please check path permissions"},
+        {{CopyResult::Copied, "", ""}, ""},
+        {{CopyResult::SamePlace, "", ""}, ""},
+        {{CopyResult::SourceMissing, "/from", ""}, "Error: /from does not exist"},
+        {{CopyResult::NotSaved, "/to", "No space left on device"},
+         "Error: /to not saved. Please check path permissions"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(CopyProblemText(c.result, "/from", "/to"), c.text);
+        EXPECT_EQ(CopyProblemText(c.outcome), c.text);
 }
 
 }  // namespace

@@ -153,6 +153,20 @@ TEST_F(PosixFileSystemTest, TellsFilesFromFolders) {
     EXPECT_FALSE(files.isWritableFolder(folder / "missing"));
 }
 
+TEST_F(PosixFileSystemTest, KnowsOneFolderByAllItsPaths) {
+    std::filesystem::create_directories(folder / "site/sub");
+    std::filesystem::create_directory(folder / "Site");
+    std::filesystem::create_directory_symlink("site", folder / "link");
+    makeFile(folder / "file", "x");
+    const std::string site = folder / "site";
+    for (const char* const same : {"site", "site/", "link", "site/sub/..", "./site"})
+        EXPECT_TRUE(files.isSameFolder(site, folder / same)) << same;
+    for (const char* const other : {"Site", "site/sub", "missing", "file"})
+        EXPECT_FALSE(files.isSameFolder(site, folder / other)) << other;
+    EXPECT_FALSE(files.isSameFolder(folder / "missing", folder / "missing"));
+    EXPECT_FALSE(files.isSameFolder(folder / "file", folder / "file"));
+}
+
 TEST_F(PosixFileSystemTest, KnowsAFolderThatForbidsNewFiles) {
     if (geteuid() == 0)
         GTEST_SKIP() << "root may write everywhere; see platform.as_ordinary_user";

@@ -38,38 +38,6 @@ TEST(SplitPath, CutsAtTheLastSeparator) {
     }
 }
 
-TEST(JoinPath, UsesTheFoldersOwnSeparatorAndNoSecondOne) {
-    struct {
-        std::string_view folder;
-        std::string_view expected;
-    } const kCases[] = {
-        {"/web", "/web/menu.js"},
-        {"/", "/menu.js"},
-        {"/web/", "/web/menu.js"},
-        {R"(/odd\web)", R"(/odd\web/menu.js)"},
-        {R"(C:\web)", R"(C:\web\menu.js)"},
-        {R"(C:\)", R"(C:\menu.js)"},
-        {"C:", R"(C:\menu.js)"},
-        {"C:/web", "C:/web/menu.js"},
-        {"web", "web/menu.js"},
-        {R"(web\sub)", R"(web\sub\menu.js)"},
-        {"", "menu.js"},
-    };
-    for (const auto& c : kCases) {
-        SCOPED_TRACE(c.folder);
-        EXPECT_EQ(JoinPath(c.folder, "menu.js"), c.expected);
-    }
-}
-
-TEST(JoinPath, PutsTogetherWhatSplitPathTookApart) {
-    for (const char* path : {R"(C:\web\menu.js)", R"(C:\menu.js)", "/web/menu.js", "/menu.js",
-                             "web/menu.js", "menu.js", R"(/a/b\c.js)"}) {
-        SCOPED_TRACE(path);
-        const PathParts parts = SplitPath(path);
-        EXPECT_EQ(JoinPath(parts.folder, parts.name), path);
-    }
-}
-
 struct RelativeCase {
     std::string_view base;
     std::string_view path;
