@@ -13,7 +13,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
-#include <thread>
 
 #include "platform/posix/posix_descriptor.h"
 
@@ -148,16 +147,11 @@ bool startDetached(const std::vector<std::string>& arguments) {
     PosixDescriptor nowhere;
     if (program.empty() || openDescriptor("/dev/null", O_WRONLY, 0, nowhere) != 0)
         return false;
-    const pid_t child = spawn(program, arguments, nowhere.get());
-    if (child < 0)
-        return false;
-    // Somebody has to collect it when it ends.
-    try {
-        std::thread([child] { waitFor(child); }).detach();
-    } catch (const std::system_error&) {
-        // Without a thread the ended child stays in the process table as long as this process.
-    }
-    return true;
+    // Forked once more, so that it is nobody's child here when it ends.
+    std::vector<std::string> detached{"/usr/bin/setsid", "--fork", program};
+    detached.insert(detached.end(), arguments.begin() + 1, arguments.end());
+    const pid_t child = spawn(detached.front(), detached, nowhere.get());
+    return child >= 0 && waitFor(child) == 0;
 }
 
 }  // namespace zev
