@@ -3,8 +3,8 @@
 namespace zev {
 
 void CommandState::Button_Update(const MenuDocument& document) {
-    mnuFileSave = tbToolBar[3] = document.bModified;
-    if (document.CurNode == nullptr)
+    mnuFileSave = tbToolBar[3] = document.bModified();
+    if (document.CurNode() == nullptr)
         updateWithoutNode();
     else
         updateForNode(document);
@@ -23,14 +23,14 @@ void CommandState::updateWithoutNode() {
 }
 
 void CommandState::updateForNode(const MenuDocument& document) {
-    const MenuNode& node = *document.CurNode;
+    const MenuNode& node = *document.CurNode();
     mnuEditMoveLeft = tbToolBar[11] = node.parent() != nullptr;
 
-    const bool hasPrevious = document.tree.previousSibling(node) != nullptr;
+    const bool hasPrevious = document.tree().previousSibling(node) != nullptr;
     mnuEditMoveRight = tbToolBar[12] = hasPrevious;
     mnuEditMoveUp = tbToolBar[13] = hasPrevious;
 
-    mnuEditMoveDown = tbToolBar[14] = document.tree.nextSibling(node) != nullptr;
+    mnuEditMoveDown = tbToolBar[14] = document.tree().nextSibling(node) != nullptr;
 
     mnuEditMenuProperties = tbToolBar[6] = true;
     mnuEditAddSubmenuItem = tbToolBar[9] = true;

@@ -221,7 +221,7 @@ QWidget* frmMain::buildMenuTab() {
     TreeView->setObjectName("TreeView");
     TreeView->setAccessibleName(tr("Menu items"));
     connect(TreeView, &MenuTreeView::nodeClicked, this,
-            [this](MenuNode* node) { guard([this, node] { TreeView_NodeClick(node); }); });
+            [this](const MenuNode* node) { guard([this, node] { TreeView_NodeClick(node); }); });
     connect(TreeView, &MenuTreeView::labelEdited, m_panel, &ItemPanel::TreeView_AfterLabelEdit);
 
     auto* splitter = new QSplitter;
@@ -255,12 +255,12 @@ void frmMain::validateFields() {
 }
 
 void frmMain::StoreItem() {
-    m_panel->StoreItem(m_document.CurNode);
+    m_panel->StoreItem(m_document.CurNode());
 }
 
 void frmMain::ShowItem() {
-    if (m_document.CurNode != nullptr)
-        m_panel->ShowItem(m_document.CurNode);
+    if (m_document.CurNode() != nullptr)
+        m_panel->ShowItem(m_document.CurNode());
     else
         m_panel->ClearItemPanel();
     TreeView->showSelection();
@@ -272,8 +272,8 @@ void frmMain::ShowScript(const std::string& script) {
 
 void frmMain::ShowCaption() {
     QString caption = kProgramName;
-    if (!m_document.SaveFile.empty())
-        caption += " (" + QString::fromStdString(m_document.SaveFile) + ")";
+    if (!m_document.SaveFile().empty())
+        caption += " (" + QString::fromStdString(m_document.SaveFile()) + ")";
     setWindowTitle(caption);
 }
 
@@ -354,7 +354,7 @@ void frmMain::mnuEditAddMenuItem_Click() {
 }
 
 void frmMain::mnuEditAddSubmenuItem_Click() {
-    const bool makesCurrent = m_document.selectedNode == nullptr;
+    const bool makesCurrent = m_document.selectedNode() == nullptr;
     if (makesCurrent)
         StoreItem();
     if (edit(AddSubmenuItem) != EditResult::Done)
@@ -394,10 +394,10 @@ void frmMain::mnuToolsIntegrate_Click() {
     HtmlPage parser(m_services.files);
     frmIntegrator wizard({m_services.files, parser, m_services.messages, m_services.dialogs},
                          MountedDrives(), this);
-    if (!m_document.SaveFile.empty())
-        wizard.setDefinition(m_document.SaveFile);
-    if (m_document.CurNode != nullptr)
-        wizard.showSubmenus(ListSubmenus(m_document));
+    if (!m_document.SaveFile().empty())
+        wizard.setDefinition(m_document.SaveFile());
+    if (m_document.CurNode() != nullptr)
+        wizard.showSubmenus(ListSubmenus(m_document.content()));
     wizard.exec();
 }
 
@@ -429,17 +429,17 @@ void frmMain::MenuTab_Click() {
         m_fileCommands.ShowPreview();
     } else if (shownTab() == tr("JavaScript")) {
         StoreItem();
-        ShowScript(GenerateScript(m_document));
+        ShowScript(GenerateScript(m_document.content()));
     }
 }
 
-void frmMain::TreeView_NodeClick(MenuNode* node) {
-    const bool wasModified = m_document.bModified;
+void frmMain::TreeView_NodeClick(const MenuNode* node) {
+    const bool wasModified = m_document.bModified();
     StoreItem();
-    m_document.selectedNode = node;
-    m_document.CurNode = node;
+    m_document.select(node);
     m_panel->ShowItem(node);
-    m_document.bModified = wasModified;
+    if (!wasModified)
+        m_document.markSaved();
     Button_Update();
 }
 
@@ -460,7 +460,7 @@ void frmMain::followDocument() {
     if (shownTab() == tr("Preview"))
         m_fileCommands.UpdatePreview();
     else if (shownTab() == tr("JavaScript"))
-        ShowScript(GenerateScript(m_document));
+        ShowScript(GenerateScript(m_document.content()));
 }
 
 QString frmMain::shownTab() const {

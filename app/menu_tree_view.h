@@ -24,7 +24,7 @@ class MenuTreeView : public QTreeView {
 
   signals:
     /// The person chose this node by mouse or keyboard, or clicked it again.
-    void nodeClicked(MenuNode* node);
+    void nodeClicked(const MenuNode* node);
     /// A label was edited in place; the node already shows it.
     void labelEdited(const QString& text);
 

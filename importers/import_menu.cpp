@@ -11,34 +11,30 @@ namespace zev {
 namespace {
 
 std::vector<ImportWarning> ReadLines(ImportFormat format, DefinitionLines& lines,
-                                     MenuDocument& document) {
+                                     MenuContent& content) {
     switch (format) {
         case ImportFormat::Quillmenu:
-            return ReadQuillmenu(lines, document);
+            return ReadQuillmenu(lines, content);
         case ImportFormat::OrletBar:
-            return ReadOrlet(lines, OrletTopLevel::LinkItems, document);
+            return ReadOrlet(lines, OrletTopLevel::LinkItems, content);
         case ImportFormat::OrletMenu:
-            document.RootMenuProp.Columns = "1";  // a vertical list
-            return ReadOrlet(lines, OrletTopLevel::LinkItems, document);
+            content.RootMenuProp.Columns = "1";  // a vertical list
+            return ReadOrlet(lines, OrletTopLevel::LinkItems, content);
         case ImportFormat::OrletButton:
-            return ReadOrlet(lines, OrletTopLevel::ImageItems, document);
+            return ReadOrlet(lines, OrletTopLevel::ImageItems, content);
     }
     return {};
 }
 
 }  // namespace
 
-ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuDocument& document) {
+ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuContent& content) {
     DefinitionLines lines(bytes);
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 16;
-    document.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
-    ImportResult result{ReadLines(format, lines, document)};
-    document.CurNode = document.tree.firstNode();
-    document.selectedNode = document.CurNode;
-    document.bModified = false;
-    return result;
+    content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
+    return {ReadLines(format, lines, content)};
 }
 
 }  // namespace zev

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 
 namespace zev {
 
@@ -30,12 +30,10 @@ struct ImportResult {
     std::vector<ImportWarning> warnings;
 };
 
-/// Reads the menu of an earlier product into `document`, which must be a new document
-/// (`NewDocument`).
+/// Reads the menu of an earlier product into `content`, which must be that of a new menu.
 ///
 /// `bytes` is the file's whole content, with the encodings and line ends of a definition file.
-/// Lines that mean nothing are skipped. Afterwards the first node is current and selected and
-/// `bModified` is false.
-ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuDocument& document);
+/// Lines that mean nothing are skipped.
+ImportResult ImportMenu(ImportFormat format, std::string_view bytes, MenuContent& content);
 
 }  // namespace zev

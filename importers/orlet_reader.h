@@ -19,9 +19,7 @@ enum class OrletTopLevel {
 ///     :Products|products.html|main
 ///     ::Seeds|seeds.html
 ///     :Contact|~|~                    "~" is an empty field
-///
-/// `CurNode`, `selectedNode` and `bModified` are left to the caller.
 std::vector<ImportWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
-                                     MenuDocument& document);
+                                     MenuContent& content);
 
 }  // namespace zev

@@ -38,7 +38,7 @@ void ReadLook(PieceCutter& pieces, MenuProp& menu) {
 /// Applies the lines of one menu script to a new document, one after the other.
 class QuillmenuReader {
   public:
-    explicit QuillmenuReader(MenuDocument& document) : m_document(document) {}
+    explicit QuillmenuReader(MenuContent& content) : m_content(content) {}
 
     /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
     void readLine(std::string_view line, std::size_t number) {
@@ -47,7 +47,7 @@ class QuillmenuReader {
             return;
         m_lineNumber = number;
         if (matchesPattern(line, "qlm_state.*=*;"))
-            m_document.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
+            m_content.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
         if (matchesPattern(line, "qlmenu1 = new mainMenu('*');"))
             openMainMenu(line);
         if (matchesPattern(line, "qlmenu1 = new subMenu('*');"))
@@ -68,7 +68,7 @@ class QuillmenuReader {
     void openMenu(std::string_view id) {
         m_menuId = id;
         m_itemNumber = 0;
-        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find(LoadedMenuKey(m_menuId));
+        m_menuNode = isTopLevel() ? nullptr : m_content.tree.find(LoadedMenuKey(m_menuId));
     }
 
     void openMainMenu(std::string_view line) {
@@ -76,8 +76,8 @@ class QuillmenuReader {
         PieceCutter pieces(line, '\'');
         std::string_view orientation;
         NextArgument(pieces, orientation);
-        m_document.RootMenuProp.Columns = orientation == "horizontal" ? "20" : "1";
-        ReadLook(pieces, m_document.RootMenuProp);
+        m_content.RootMenuProp.Columns = orientation == "horizontal" ? "20" : "1";
+        ReadLook(pieces, m_content.RootMenuProp);
     }
 
     void openSubmenu(std::string_view line) {
@@ -96,7 +96,7 @@ class QuillmenuReader {
 
     void readProperty(std::string_view line) {
         if (isTopLevel())
-            m_document.RootMenuProp.SetProperty(GetPropName(line), GetPropValue(line));
+            m_content.RootMenuProp.SetProperty(GetPropName(line), GetPropValue(line));
         else if (m_menuNode)
             m_menuNode->item.MenuProperty.edit().SetProperty(GetPropName(line), GetPropValue(line));
         else
@@ -107,9 +107,9 @@ class QuillmenuReader {
     /// count it.
     void readItem(std::string_view line, bool isRollover) {
         ++m_itemNumber;
-        const bool isFull = m_document.ItemCounter == kMaxItemCounter;
+        const bool isFull = m_content.ItemCounter == kMaxItemCounter;
         if (!isFull)
-            ++m_document.ItemCounter;
+            ++m_content.ItemCounter;
         if (!isTopLevel() && !m_menuNode)
             warn(Reason::UnknownMenu);
         else if (isFull)
@@ -126,14 +126,14 @@ class QuillmenuReader {
         else
             item.Set_ItemProperty(line);
         std::string text = isRollover ? item.ImageOut : item.Caption;
-        if (!m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
-                                    std::move(text), std::move(item)))
+        if (!m_content.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
+                                   std::move(text), std::move(item)))
             warn(Reason::DuplicateKey);
     }
 
     void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }
 
-    MenuDocument& m_document;
+    MenuContent& m_content;
     std::vector<ImportWarning> m_warnings;
     std::size_t m_lineNumber = 0;
     std::string m_menuId;            ///< menu of the last creation line; empty before the first
@@ -143,8 +143,8 @@ class QuillmenuReader {
 
 }  // namespace
 
-std::vector<ImportWarning> ReadQuillmenu(DefinitionLines& lines, MenuDocument& document) {
-    QuillmenuReader reader(document);
+std::vector<ImportWarning> ReadQuillmenu(DefinitionLines& lines, MenuContent& content) {
+    QuillmenuReader reader(content);
     std::string_view line;
     while (lines.next(line))
         reader.readLine(line, lines.number());

@@ -16,8 +16,7 @@ namespace zev {
 ///     qlmenu1.addItems('CAPTION', 'URL', 'TARGET');
 ///     qlmenu1.addImages('URL', 'IMAGE OUT', 'IMAGE OVER', 'TARGET');
 ///
-/// A submenu's id spells the positions of the items that lead to it, from 1. `CurNode`,
-/// `selectedNode` and `bModified` are left to the caller.
-std::vector<ImportWarning> ReadQuillmenu(DefinitionLines& lines, MenuDocument& document);
+/// A submenu's id spells the positions of the items that lead to it, from 1.
+std::vector<ImportWarning> ReadQuillmenu(DefinitionLines& lines, MenuContent& content);
 
 }  // namespace zev

@@ -16,7 +16,7 @@ namespace {
 /// Applies the lines of one definition file to a new document, one after the other.
 class ScriptReader {
   public:
-    explicit ScriptReader(MenuDocument& document) : m_document(document) {}
+    explicit ScriptReader(MenuContent& content) : m_content(content) {}
 
     /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
     void readLine(std::string_view line) {
@@ -24,7 +24,7 @@ class ScriptReader {
         if (!line.starts_with("zev"))
             return;
         if (matchesPattern(line, "zev_state.*=*;"))
-            m_document.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
+            m_content.DefaultProp.SetProperty(GetPropName(line), GetPropValue(line));
         if (matchesPattern(line, "zevmenu = new ZEVMenu('*');"))
             openMenu(GetMenuId(line));
         if (matchesPattern(line, "zevmenu.*=*;"))
@@ -43,12 +43,12 @@ class ScriptReader {
     void openMenu(std::string id) {
         m_menuId = std::move(id);
         m_itemNumber = 0;
-        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find(LoadedMenuKey(m_menuId));
+        m_menuNode = isTopLevel() ? nullptr : m_content.tree.find(LoadedMenuKey(m_menuId));
     }
 
     void readProperty(std::string_view line) {
         if (isTopLevel())
-            m_document.RootMenuProp.SetProperty(GetPropName(line), GetPropValue(line));
+            m_content.RootMenuProp.SetProperty(GetPropName(line), GetPropValue(line));
         else if (m_menuNode)
             m_menuNode->item.MenuProperty.edit().SetProperty(GetPropName(line), GetPropValue(line));
         else
@@ -60,7 +60,7 @@ class ScriptReader {
         // follow count it.
         ++m_itemNumber;
         const bool hasMenu = isTopLevel() || m_menuNode;
-        if (!hasMenu || m_document.ItemCounter == kMaxItemCounter) {
+        if (!hasMenu || m_content.ItemCounter == kMaxItemCounter) {
             ++m_errorCount;
             return;
         }
@@ -71,14 +71,14 @@ class ScriptReader {
         else
             item.Set_ItemProperty(line);
         std::string text = isRollover ? item.ImageOut : item.Caption;
-        if (m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
-                                   std::move(text), std::move(item)))
-            ++m_document.ItemCounter;
+        if (m_content.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
+                                  std::move(text), std::move(item)))
+            ++m_content.ItemCounter;
         else
             ++m_errorCount;
     }
 
-    MenuDocument& m_document;
+    MenuContent& m_content;
     std::string m_menuId;            ///< menu of the last creation line; empty before the first
     MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
     std::size_t m_itemNumber = 0;    ///< items of that menu read so far
@@ -87,20 +87,17 @@ class ScriptReader {
 
 }  // namespace
 
-ReadResult ReadScript(std::string_view bytes, MenuDocument& document) {
+ReadResult ReadScript(std::string_view bytes, MenuContent& content) {
     DefinitionLines lines(bytes);
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 32;
-    document.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
-    ScriptReader reader(document);
+    content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
+    ScriptReader reader(content);
     std::string_view line;
     while (lines.next(line))
         reader.readLine(line);
 
-    document.CurNode = document.tree.firstNode();
-    document.selectedNode = document.CurNode;
-    document.bModified = false;
     return {reader.errorCount()};
 }
 

@@ -1,6 +1,6 @@
 #include "script/script_writer.h"
 
-#include <vector>
+#include <span>
 
 #include "script/submenu_walk.h"
 #include "text/text_encoding.h"
@@ -14,7 +14,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 /// Writes one menu: the creation line, its properties and its items, the latter two each closed by
 /// an empty line.
 void WriteMenu(std::string& script, std::string_view id, const std::string& properties,
-               const std::vector<MenuNode*>& items) {
+               std::span<const MenuNode* const> items) {
     script += "zevmenu = new ZEVMenu('";
     script += id;
     script += "');";
@@ -30,9 +30,9 @@ void WriteMenu(std::string& script, std::string_view id, const std::string& prop
 
 }  // namespace
 
-std::string GenerateScript(const MenuDocument& document) {
-    const MenuProp& defaults = document.DefaultProp;
-    const MenuTree& tree = document.tree;
+std::string GenerateScript(const MenuContent& content) {
+    const MenuProp& defaults = content.DefaultProp;
+    const MenuTree& tree = content.tree;
     // About the length of an item's line each; room that is not used costs nothing.
     constexpr std::size_t kUsualLineBytes = 96;
     std::string script;
@@ -42,7 +42,7 @@ std::string GenerateScript(const MenuDocument& document) {
     if (tree.isEmpty())
         return script;
 
-    WriteMenu(script, "0", document.RootMenuProp.GetText(defaults), tree.topLevel());
+    WriteMenu(script, "0", content.RootMenuProp.GetText(defaults), tree.topLevel());
     SubmenuWalk walk(tree);
     while (const MenuNode* node = walk.next())
         WriteMenu(script, walk.id(), node->item.MenuProperty->GetText(defaults), node->children());

@@ -359,7 +359,7 @@ class RebaseAllURLsTest : public testing::Test {
         document.DefaultProp.BgImg = "default.gif";
     }
 
-    MenuDocument document{"/program"};
+    MenuContent document;
 };
 
 TEST_F(RebaseAllURLsTest, RebasesLinkImagesAndSubmenuBackgroundOfEveryItem) {
@@ -396,7 +396,7 @@ TEST_F(RebaseAllURLsTest, TheSameFolderChangesNothing) {
 }
 
 TEST_F(RebaseAllURLsTest, AnEmptyTreeIsFine) {
-    document.NewDocument();
+    document = MenuContent();
     RebaseAllURLs(document, "/web", "/new");
     EXPECT_TRUE(document.tree.isEmpty());
 }

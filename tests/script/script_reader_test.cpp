@@ -20,7 +20,7 @@ using test::TreeTextWithKeys;
 class ReadScriptTest : public testing::Test {
   protected:
     std::size_t read(std::string_view bytes) {
-        document.NewDocument();
+        document = MenuContent();
         const std::size_t errorCount = ReadScript(bytes, document).errorCount;
         test::ExpectSoundTree(document.tree);
         return errorCount;
@@ -30,28 +30,26 @@ class ReadScriptTest : public testing::Test {
         return *document.tree.find(key)->item.MenuProperty;
     }
 
-    MenuDocument document{"/program"};
-    const MenuDocument newDocument{"/program"};
+    MenuContent document;
+    const MenuContent newDocument;
 };
 
 TEST_F(ReadScriptTest, AnEmptyFileGivesAnEmptyDocument) {
     EXPECT_EQ(read(""), 0u);
     EXPECT_EQ(test::DocumentText(document), test::DocumentText(newDocument));
-    EXPECT_EQ(document.CurNode, nullptr);
-    EXPECT_EQ(document.selectedNode, nullptr);
+    EXPECT_TRUE(document.tree.isEmpty());
 }
 
 TEST_F(ReadScriptTest, TheFirstNodeIsCurrentAndSelectedAndNothingIsModified) {
-    document.bModified = true;
     MenuDocument modified("/program");
-    modified.bModified = true;
-    ReadScript(Lines({"zevmenu = new ZEVMenu('0');", "zevmenu.AddItem('A', '', '');",
-                      "zevmenu.AddItem('B', '', '');"}),
-               modified);
-    EXPECT_EQ(modified.CurNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.selectedNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.CurNode->text, "A");
-    EXPECT_FALSE(modified.bModified);
+    modified.markModified();
+    read({"zevmenu = new ZEVMenu('0');", "zevmenu.AddItem('A', '', '');",
+          "zevmenu.AddItem('B', '', '');"});
+    modified.open(std::move(document));
+    EXPECT_EQ(modified.CurNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.selectedNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.CurNode()->text, "A");
+    EXPECT_FALSE(modified.bModified());
 }
 
 TEST_F(ReadScriptTest, DefaultLinesSetTheDefaults) {
@@ -263,8 +261,10 @@ TEST_F(ReadScriptTest, ALineMayBeADefaultLineOnlyAtItsBeginning) {
 TEST_F(ReadScriptTest, ItemsMadeAfterwardsGetNumbersBehindThoseRead) {
     read({"zevmenu = new ZEVMenu('0');", "zevmenu.AddItem('A', '', '');",
           "zevmenu.AddItem('B', '', '');"});
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(document.CurNode->key(), "Key 2");
+    MenuDocument edited("/program");
+    edited.open(std::move(document));
+    EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
+    EXPECT_EQ(edited.CurNode()->key(), "Key 2");
 }
 
 TEST(IsBinary, AFileWithANulByteIsNoText) {
