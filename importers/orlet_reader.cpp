@@ -44,7 +44,7 @@ ItemProp ReadItem(PieceCutter fields, bool hasImage) {
     return item;
 }
 
-/// Places the items of one file in a new document, each relative to the one placed before it.
+/// Places the items of one file in a new menu, each relative to the one placed before it.
 class OrletReader {
   public:
     OrletReader(OrletTopLevel topLevel, MenuContent& content)

@@ -14,7 +14,7 @@ enum class OrletTopLevel {
 };
 
 /// Reads a menu whose items are lines that begin with colons, one for each level, into a new
-/// document; returns the warnings. Other lines are skipped.
+/// menu; returns the warnings. Other lines are skipped.
 ///
 ///     :Products|products.html|main
 ///     ::Seeds|seeds.html

@@ -35,7 +35,7 @@ void ReadLook(PieceCutter& pieces, MenuProp& menu) {
     }
 }
 
-/// Applies the lines of one menu script to a new document, one after the other.
+/// Applies the lines of one menu script to a new menu, one after the other.
 class QuillmenuReader {
   public:
     explicit QuillmenuReader(MenuContent& content) : m_content(content) {}

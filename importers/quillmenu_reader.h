@@ -7,7 +7,7 @@
 
 namespace zev {
 
-/// Replays a menu script, one statement a line, into a new document; returns the warnings.
+/// Replays a menu script, one statement a line, into a new menu; returns the warnings.
 ///
 ///     qlm_state.NAME = VALUE;                                      menu-wide default
 ///     qlmenu1 = new mainMenu('horizontal', 'NBG', 'HBG', 'NFT', 'HFT', 'BGIMG');

@@ -13,7 +13,7 @@ namespace zev {
 
 namespace {
 
-/// Applies the lines of one definition file to a new document, one after the other.
+/// Applies the lines of one definition file to a new menu, one after the other.
 class ScriptReader {
   public:
     explicit ScriptReader(MenuContent& content) : m_content(content) {}

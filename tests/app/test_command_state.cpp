@@ -4,6 +4,7 @@
 
 #include "app/command_state.h"
 #include "model/tree_editing.h"
+#include "tests/support/document_steps.h"
 
 using namespace zev;
 
@@ -31,13 +32,12 @@ QString disabledOnes(const CommandState& state) {
 
 /// a, b (with children b1, b2, b3), c; current is the node named.
 void fill(MenuDocument& document, const std::string& current) {
-    MenuTree& tree = document.tree;
-    tree.append(nullptr, "a", "a");
-    MenuNode* b = tree.append(nullptr, "b", "b");
-    tree.append(nullptr, "c", "c");
+    test::appendNode(document, nullptr, "a", "a");
+    const MenuNode* b = test::appendNode(document, nullptr, "b", "b");
+    test::appendNode(document, nullptr, "c", "c");
     for (const char* key : {"b1", "b2", "b3"})
-        tree.append(b, key, key);
-    document.CurNode = document.selectedNode = tree.find(current);
+        test::appendNode(document, b, key, key);
+    document.select(document.tree().find(current));
 }
 
 }  // namespace
@@ -60,8 +60,8 @@ class test_command_state : public QObject {
         QFETCH(bool, isModified);
         QFETCH(QString, saveFile);
         MenuDocument document("/program");
-        document.SaveFile = saveFile.toStdString();
-        document.bModified = isModified;
+        document.setFile(saveFile.toStdString(), document.SavePath());
+        document.apply(SetModified{isModified});
         CommandState state;
         state.Button_Update(document);
         QCOMPARE(state.mnuFileSave, isModified);
@@ -89,7 +89,7 @@ class test_command_state : public QObject {
         QFETCH(QString, disabled);
         MenuDocument document("/program");
         fill(document, current.toStdString());
-        document.bModified = true;
+        document.markModified();
         CommandState state;
         state.Button_Update(document);
         QCOMPARE(disabledOnes(state), disabled);
@@ -128,7 +128,7 @@ class test_command_state : public QObject {
             fill(document, before.toStdString());
             state.Button_Update(document);
         }
-        document.CurNode = nullptr;
+        document.apply(SetSelection{{document.selectedNode(), nullptr}});
         state.Button_Update(document);
         QCOMPARE(disabledOnes(state), disabled);
     }
@@ -142,7 +142,7 @@ class test_command_state : public QObject {
         AddMenuItem(document);
         state.Button_Update(document);
         QVERIFY(state.tbToolBar[8]);
-        document.CurNode = nullptr;
+        document.apply(SetSelection{{document.selectedNode(), nullptr}});
         state.Button_Update(document);
         QVERIFY(state.tbToolBar[8]);
     }

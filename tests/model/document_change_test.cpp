@@ -294,8 +294,7 @@ TEST_F(DocumentChangeTest, AChangeIsSmallerThanAPropertySet) {
 
 TEST_F(DocumentChangeTest, APropertySetSharedByManyItemsStaysSharedWhenItIsSetAndTakenBack) {
     for (const char* key : {"A", "B"})
-        test::editItem(document, *node(key),
-                       [](ItemProp& item) { item.MenuProperty = NewItemMenuProp(); });
+        test::editItem(document, *node(key))->MenuProperty = NewItemMenuProp();
     const MenuProp* const shared = &*NewItemMenuProp();
     MenuProp own = *shared;
     own.Columns = "4";

@@ -189,18 +189,17 @@ TEST_F(DocumentObserverTest, TheHeirOfARemovedNodeIsToldOnceTheNodeIsGone) {
 }
 
 TEST_F(DocumentObserverTest, AnItemThatChangesIsToldAndItsSubmenuIfThatChanges) {
-    test::editItem(document, node("A"), [](ItemProp&) {});
+    test::editItem(document, node("A"));
     EXPECT_EQ(observer.takeLog(), "");
-    test::editItem(document, node("A"), [](ItemProp& item) { item.URL = "a.html"; });
+    test::editItem(document, node("A"))->URL = "a.html";
     EXPECT_EQ(observer.takeLog(), "item A\n");
-    test::editItem(document, node("A"),
-                   [](ItemProp& item) { item.MenuProperty.edit().Columns = "2"; });
+    test::editItem(document, node("A"))->MenuProperty.edit().Columns = "2";
     EXPECT_EQ(observer.takeLog(), "item A\nmenu of A\n");
 }
 
 TEST_F(DocumentObserverTest, APropertySetThatChangesIsTold) {
     const auto setColumns = [this](const MenuPropOwner& owner) {
-        test::editMenu(document, owner, [](MenuProp& menu) { menu.Columns = "7"; });
+        test::editMenu(document, owner)->Columns = "7";
         return observer.takeLog();
     };
     const MenuPropOwner submenu{MenuPropOwner::Kind::Submenu, &node("B")};

@@ -42,14 +42,10 @@ void FillDocument(MenuDocument& document) {
     AddMenuItem(document);
     AddMenuItem(document);
     document.setFile("/site/menu.js", "/site");
-    editMenu(document, kTopMenu, [](MenuProp& menu) {
-        menu.Columns = "1";
-        menu.Target = "main";
-    });
-    editMenu(document, kDefaults, [](MenuProp& menu) {
-        menu.Columns = "7";
-        menu.FontSet = true;
-    });
+    editMenu(document, kTopMenu)->Columns = "1";
+    editMenu(document, kTopMenu)->Target = "main";
+    editMenu(document, kDefaults)->Columns = "7";
+    editMenu(document, kDefaults)->FontSet = true;
     document.apply(SetSelection{{document.selectedNode(), document.tree().firstNode()}});
     document.markModified();
 }
@@ -187,9 +183,7 @@ TEST(MenuDocumentModified, OnlyTheOperationsThatSaySoSetOrClearTheMark) {
     } const kCases[] = {
         {"select", [](MenuDocument& document) { document.select(nullptr); }, false, true},
         {"setItem",
-         [](MenuDocument& document) {
-             test::editItem(document, *document.CurNode(), [](ItemProp& item) { item.URL = "u"; });
-         },
+         [](MenuDocument& document) { test::editItem(document, *document.CurNode())->URL = "u"; },
          false, true},
         {"setLabel",
          [](MenuDocument& document) { document.setLabel(*document.CurNode(), "label"); }, false,

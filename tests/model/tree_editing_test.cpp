@@ -124,8 +124,8 @@ TEST_F(AddMenuItemTest, ATopLevelItemOpensItsSubmenuBelowWhenTheTopLevelIsHorizo
         SCOPED_TRACE(std::string("root columns '") + c.rootColumns + "', default columns '" +
                      c.defaultColumns + "'");
         document.NewDocument();
-        editMenu(document, kTopMenu, [&c](MenuProp& menu) { menu.Columns = c.rootColumns; });
-        editMenu(document, kDefaults, [&c](MenuProp& menu) { menu.Columns = c.defaultColumns; });
+        editMenu(document, kTopMenu)->Columns = c.rootColumns;
+        editMenu(document, kDefaults)->Columns = c.defaultColumns;
         AddMenuItem(document);
         EXPECT_EQ(document.CurNode()->item.MenuProperty->Position, c.position);
         document.apply(SetSelection{{nullptr, document.CurNode()}});
@@ -237,8 +237,8 @@ TEST_F(MoveTest, LeftPutsTheNodeDirectlyAfterItsParentWithItsSubtree) {
 
 TEST_F(MoveTest, LeftKeepsItemsAndUsesUpOneNumber) {
     growSample();
-    editItem(document, *node("B1"), [](ItemProp& item) { item.URL = "b1.html"; });
-    editItem(document, *node("B11"), [](ItemProp& item) { item.Caption = "b11"; });
+    editItem(document, *node("B1"))->URL = "b1.html";
+    editItem(document, *node("B11"))->Caption = "b11";
     select("B1");
     MoveLeft(document);
     EXPECT_EQ(node("B1")->item.URL, "b1.html");

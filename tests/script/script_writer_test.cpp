@@ -52,7 +52,7 @@ TEST_F(GenerateScriptTest, AnEmptyTreeWritesTheDefaultLinesAndAnEmptyLine) {
 TEST_F(GenerateScriptTest, AMenuOfThreeLevelsAtStartingValues) {
     MenuDocument edited("/program");
     const auto setCaption = [&edited](const MenuNode& node, const char* caption) {
-        test::editItem(edited, node, [caption](ItemProp& item) { item.Caption = caption; });
+        test::editItem(edited, node)->Caption = caption;
     };
     AddMenuItem(edited);
     setCaption(*edited.CurNode(), "Home");

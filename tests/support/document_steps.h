@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -17,20 +18,33 @@ inline const MenuNode* appendNode(MenuDocument& document, const MenuNode* parent
     return node;
 }
 
-/// Has `edit` change a node's item.
-template <typename Edit>
-void editItem(MenuDocument& document, const MenuNode& node, Edit edit) {
-    ItemProp item = node.item;
-    edit(item);
-    document.setItem(node, std::move(item));
+/// A copy of something that a document holds, to be changed and stored at the end of the statement.
+template <typename Value>
+class Edit {
+  public:
+    Edit(Value value, std::function<void(Value)> store)
+        : m_value(std::move(value)), m_store(std::move(store)) {}
+    Edit(const Edit&) = delete;
+    Edit& operator=(const Edit&) = delete;
+    ~Edit() { m_store(std::move(m_value)); }
+
+    Value* operator->() { return &m_value; }
+    Value& operator*() { return m_value; }
+
+  private:
+    Value m_value;
+    std::function<void(Value)> m_store;
+};
+
+inline Edit<ItemProp> editItem(MenuDocument& document, const MenuNode& node) {
+    return {node.item, [&](ItemProp item) { document.setItem(node, std::move(item)); }};
 }
 
-/// Has `edit` change a property set, without marking the document.
-template <typename Edit>
-void editMenu(MenuDocument& document, const MenuPropOwner& owner, Edit edit) {
-    MenuProp properties = document.menuProp(owner);
-    edit(properties);
-    document.setMenuUnmarked(owner, std::move(properties));
+/// Does not mark the document.
+inline Edit<MenuProp> editMenu(MenuDocument& document, const MenuPropOwner& owner) {
+    return {document.menuProp(owner), [&document, owner](MenuProp properties) {
+                document.setMenuUnmarked(owner, std::move(properties));
+            }};
 }
 
 inline constexpr MenuPropOwner kDefaults{MenuPropOwner::Kind::Defaults};
