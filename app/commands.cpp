@@ -15,23 +15,23 @@ namespace zev {
 namespace {
 
 bool isModified(const MenuDocument& document) {
-    return document.bModified;
+    return document.bModified();
 }
 
 bool hasNode(const MenuDocument& document) {
-    return document.CurNode != nullptr;
+    return document.CurNode() != nullptr;
 }
 
 bool hasParent(const MenuDocument& document) {
-    return hasNode(document) && document.CurNode->parent() != nullptr;
+    return hasNode(document) && document.CurNode()->parent() != nullptr;
 }
 
 bool hasPrevious(const MenuDocument& document) {
-    return hasNode(document) && document.tree.previousSibling(*document.CurNode) != nullptr;
+    return hasNode(document) && document.tree().previousSibling(*document.CurNode()) != nullptr;
 }
 
 bool hasNext(const MenuDocument& document) {
-    return hasNode(document) && document.tree.nextSibling(*document.CurNode) != nullptr;
+    return hasNode(document) && document.tree().nextSibling(*document.CurNode()) != nullptr;
 }
 
 /// Buttons and separators are counted from 1.

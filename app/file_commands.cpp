@@ -1,7 +1,5 @@
 #include "app/file_commands.h"
 
-#include <vector>
-
 #include "library/library_files.h"
 #include "messages/library_messages.h"
 #include "script/relative_url.h"
@@ -14,22 +12,6 @@ namespace {
 
 /// Behind "All Files", each filter has the kind of file that is usually wanted.
 constexpr int kUsualKind = 2;
-
-/// Copies of all items in tree order.
-std::vector<ItemProp> itemsOf(const MenuTree& tree) {
-    std::vector<ItemProp> items;
-    items.reserve(tree.size());
-    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node))
-        items.push_back(node->item);
-    return items;
-}
-
-/// Puts back what `itemsOf` took from the same tree.
-void restoreItems(MenuTree& tree, std::vector<ItemProp>&& items) {
-    auto item = items.begin();
-    for (MenuNode* node = tree.firstNode(); node != nullptr; node = tree.nextInTreeOrder(*node))
-        node->item = std::move(*item++);
-}
 
 }  // namespace
 
@@ -58,18 +40,18 @@ void FileCommands::mnuFileOpen_Click() {
         return;  // the menu in memory is still the one being edited, with its changes
     // A cancelled dialog clears the mark too: Open asks nothing about unsaved changes, and Exit
     // after it ends without asking.
-    m_document.bModified = false;
+    m_document.markSaved();
     m_view.Button_Update();
 }
 
 void FileCommands::mnuFileSave_Click() {
-    if (m_document.SaveFile.empty()) {
+    if (m_document.SaveFile().empty()) {
         saveAs();
         return;
     }
-    if (SaveDefinition(m_document.SaveFile)) {
+    if (SaveDefinition(m_document.SaveFile())) {
         // No Button_Update: Save stays available until the next command updates the buttons.
-        m_document.bModified = false;
+        m_document.markSaved();
     }
 }
 
@@ -84,7 +66,7 @@ bool FileCommands::mnuFileExit_Click() {
 /// Asks about unsaved changes before the document is given up. Answered Yes, only a failed write
 /// keeps the document: a cancelled Save As dialog does not.
 bool FileCommands::mayDiscardDocument() {
-    if (!m_document.bModified)
+    if (!m_document.bModified())
         return true;
     MessageRequest question;
     question.text = "Save changes to project?";
@@ -109,7 +91,7 @@ std::string FileCommands::chooseFile(const char* filter, const std::string& fold
 }
 
 std::string FileCommands::definitionFolder() const {
-    return m_document.SaveFile.empty() ? "" : m_document.SavePath;
+    return m_document.SaveFile().empty() ? "" : m_document.SavePath();
 }
 
 FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
@@ -121,11 +103,10 @@ FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
     return content;
 }
 
-void FileCommands::replaceDocument(MenuDocument& other) {
-    m_document.takeFrom(other);
+void FileCommands::showDocument() {
     m_view.ShowCaption();
     m_view.ShowItem();
-    m_view.ShowScript(GenerateScript(m_document));
+    m_view.ShowScript(GenerateScript(m_document.content()));
     m_view.LoadDefaultDialog();
     m_view.Button_Update();
 }
@@ -134,12 +115,10 @@ bool FileCommands::openDefinition(const std::string& path) {
     const FileResult<std::string> content = readTextFile(path);
     if (!content.isOk())
         return false;
-    MenuDocument opened(m_document.programFolder());
-    opened.NewDocument();
-    opened.SaveFile = path;
-    opened.SavePath = SplitPath(path).folder;
+    MenuContent opened;
     const ReadResult result = ReadScript(content.value(), opened);
-    replaceDocument(opened);
+    m_document.open(std::move(opened), path, SplitPath(path).folder);
+    showDocument();
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
                                    " errors encountered during parsing");
@@ -150,7 +129,7 @@ bool FileCommands::openDefinition(const std::string& path) {
 FileCommands::SaveOutcome FileCommands::saveAs() {
     FileDialogRequest request;
     request.title = "Save As";
-    request.fileName = m_document.SaveFile;
+    request.fileName = m_document.SaveFile();
     request.filter = kDefinitionFilter;
     request.filterIndex = kUsualKind;
     request.asksBeforeReplacing = true;
@@ -173,29 +152,26 @@ FileCommands::SaveOutcome FileCommands::saveAs() {
 /// URL survives both ways.
 bool FileCommands::saveDocumentAs(const std::string& path, const std::string& folder,
                                   bool isRebasing) {
-    const std::string oldFile = m_document.SaveFile;
-    const std::string oldFolder = m_document.SavePath;
-    std::vector<ItemProp> oldItems;
+    const std::string oldFile = m_document.SaveFile();
+    const std::string oldFolder = m_document.SavePath();
+    Changes rebasedBack;
     if (isRebasing) {
-        oldItems = itemsOf(m_document.tree);
-        RebaseAllURLs(m_document, oldFolder, folder);
+        rebasedBack = RebaseAllURLs(m_document, oldFolder, folder);
         m_view.ShowItem();
     }
-    m_document.SaveFile = path;
-    m_document.SavePath = folder;
+    m_document.setFile(path, folder);
     m_view.ShowCaption();
     if (SaveDefinition(path)) {
-        m_document.bModified = false;
+        m_document.markSaved();
         m_view.Button_Update();
         return true;
     }
-    m_document.SaveFile = oldFile;
-    m_document.SavePath = oldFolder;
+    m_document.setFile(oldFile, oldFolder);
     m_view.ShowCaption();
     if (isRebasing) {
-        restoreItems(m_document.tree, std::move(oldItems));
+        m_document.apply(std::move(rebasedBack));
         m_view.ShowItem();
-        m_view.ShowScript(GenerateScript(m_document));
+        m_view.ShowScript(GenerateScript(m_document.content()));
     }
     return false;
 }
@@ -204,10 +180,10 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     m_view.StoreItem();
     copyRunTimeFiles();
     // What is written comes from the writer and never back out of the JavaScript tab.
-    const std::string script = GenerateScript(m_document);
+    const std::string script = GenerateScript(m_document.content());
     m_view.ShowScript(script);
     const std::string target =
-        path.empty() ? Path(m_document.SavePath).child(kPreviewScript) : path;
+        path.empty() ? Path(m_document.SavePath()).child(kPreviewScript) : path;
     const FileOutcome failure = m_services.files.writeFile(target, DefinitionFileBytes(script));
     if (failure)
         m_services.messages.notice("Could not save " + target + ": " + failure->reason);
@@ -221,23 +197,23 @@ void FileCommands::ShowPreview() {
 }
 
 void FileCommands::UpdatePreview() {
-    if (GenerateScript(m_document) != m_previewedScript ||
-        m_document.SavePath != m_previewedFolder) {
+    if (GenerateScript(m_document.content()) != m_previewedScript ||
+        m_document.SavePath() != m_previewedFolder) {
         loadPreview();
     }
 }
 
 void FileCommands::loadPreview() {
-    SaveDefinition(Path(m_document.SavePath).child(kPreviewScript));
-    m_previewedScript = GenerateScript(m_document);
-    m_previewedFolder = m_document.SavePath;
+    SaveDefinition(Path(m_document.SavePath()).child(kPreviewScript));
+    m_previewedScript = GenerateScript(m_document.content());
+    m_previewedFolder = m_document.SavePath();
     // Also after a failure: the preview shows whatever is there.
-    m_services.browser.load(Path(m_document.SavePath).child(kPreviewPage));
+    m_services.browser.load(Path(m_document.SavePath()).child(kPreviewPage));
 }
 
 void FileCommands::copyRunTimeFiles() {
     const std::vector<CopyOutcome> problems =
-        copyLibrary(m_services.files, Path(m_document.programFolder()), Path(m_document.SavePath),
+        copyLibrary(m_services.files, Path(m_document.programFolder()), Path(m_document.SavePath()),
                     CopiedFiles::ScriptsAndPreviewPage);
     for (const CopyOutcome& problem : problems)
         m_services.messages.notice(CopyProblemText(problem));

@@ -39,8 +39,8 @@ class FileCommands {
     /// when it cannot be read, is too large for a definition, or is no text.
     FileResult<std::string> readTextFile(const std::string& path);
 
-    /// Puts `other` in place of the document, which is then shown. `other` is empty afterwards.
-    void replaceDocument(MenuDocument& other);
+    /// Brings the view up to a document whose content was replaced.
+    void showDocument();
 
     /// Opens the definition file at `path` (full path). On failure the person is told the path and
     /// the reason, and the document in memory stays as it was. True when it was opened.

@@ -97,7 +97,7 @@ QWidget* frmMain::buildMenuTab() {
     TreeView->setObjectName("TreeView");
     TreeView->setAccessibleName(tr("Menu items"));
     connect(TreeView, &MenuTreeView::nodeClicked, this,
-            [this](MenuNode* node) { guard([this, node] { TreeView_NodeClick(node); }); });
+            [this](const MenuNode* node) { guard([this, node] { TreeView_NodeClick(node); }); });
     connect(TreeView, &MenuTreeView::labelEdited, m_panel, &ItemPanel::TreeView_AfterLabelEdit);
 
     auto* splitter = new QSplitter;
@@ -131,12 +131,12 @@ void frmMain::validateFields() {
 }
 
 void frmMain::StoreItem() {
-    m_panel->StoreItem(m_document.CurNode);
+    m_panel->StoreItem(m_document.CurNode());
 }
 
 void frmMain::ShowItem() {
-    if (m_document.CurNode != nullptr)
-        m_panel->ShowItem(m_document.CurNode);
+    if (m_document.CurNode() != nullptr)
+        m_panel->ShowItem(m_document.CurNode());
     else
         m_panel->ClearItemPanel();
     TreeView->showSelection();
@@ -148,8 +148,8 @@ void frmMain::ShowScript(const std::string& script) {
 
 void frmMain::ShowCaption() {
     QString caption = kProgramName;
-    if (!m_document.SaveFile.empty())
-        caption += " (" + QString::fromStdString(m_document.SaveFile) + ")";
+    if (!m_document.SaveFile().empty())
+        caption += " (" + QString::fromStdString(m_document.SaveFile()) + ")";
     setWindowTitle(caption);
 }
 
@@ -188,7 +188,7 @@ void frmMain::mnuEditAddMenuItem_Click() {
 }
 
 void frmMain::mnuEditAddSubmenuItem_Click() {
-    const bool makesCurrent = m_document.selectedNode == nullptr;
+    const bool makesCurrent = m_document.selectedNode() == nullptr;
     if (makesCurrent)
         StoreItem();
     if (edit(AddSubmenuItem) != EditResult::Done)
@@ -228,10 +228,10 @@ void frmMain::mnuToolsIntegrate_Click() {
     HtmlPage parser(m_services.files);
     frmIntegrator wizard({m_services.files, parser, m_services.messages, m_services.dialogs},
                          MountedDrives(), this);
-    if (!m_document.SaveFile.empty())
-        wizard.setDefinition(m_document.SaveFile);
-    if (m_document.CurNode != nullptr)
-        wizard.showSubmenus(ListSubmenus(m_document));
+    if (!m_document.SaveFile().empty())
+        wizard.setDefinition(m_document.SaveFile());
+    if (m_document.CurNode() != nullptr)
+        wizard.showSubmenus(ListSubmenus(m_document.content()));
     wizard.exec();
 }
 
@@ -259,17 +259,17 @@ void frmMain::MenuTab_Click() {
         m_fileCommands.ShowPreview();
     } else if (MenuTab->currentWidget() == txtJavaScript) {
         StoreItem();
-        ShowScript(GenerateScript(m_document));
+        ShowScript(GenerateScript(m_document.content()));
     }
 }
 
-void frmMain::TreeView_NodeClick(MenuNode* node) {
-    const bool wasModified = m_document.bModified;
+void frmMain::TreeView_NodeClick(const MenuNode* node) {
+    const bool wasModified = m_document.bModified();
     StoreItem();
-    m_document.selectedNode = node;
-    m_document.CurNode = node;
+    m_document.select(node);
     m_panel->ShowItem(node);
-    m_document.bModified = wasModified;
+    if (!wasModified)
+        m_document.markSaved();
     Button_Update();
 }
 
@@ -291,7 +291,7 @@ void frmMain::followDocument() {
     if (MenuTab->currentWidget() == WebBrowser)
         m_fileCommands.UpdatePreview();
     else if (MenuTab->currentWidget() == txtJavaScript)
-        ShowScript(GenerateScript(m_document));
+        ShowScript(GenerateScript(m_document.content()));
 }
 
 /// No exception may reach Qt's event loop; what is still possible is a lack of memory.
@@ -316,7 +316,7 @@ EditResult frmMain::edit(EditResult (*command)(MenuDocument&)) {
         std::string notice =
             "The menu has used all its " + std::to_string(kMaxItemCounter) + " item numbers.";
         // An opened menu has used one number an item.
-        if (m_document.tree.size() < std::size_t(kMaxItemCounter))
+        if (m_document.tree().size() < std::size_t(kMaxItemCounter))
             notice += " Save it and open it again to add more items.";
         m_services.messages.notice(notice);
     }

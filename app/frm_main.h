@@ -75,7 +75,7 @@ class frmMain : public QMainWindow, public EditorView {
     /// Runs the command of the toolbar button with this key; nothing for an unknown key.
     void tbToolBar_ButtonClick(const QString& key);
     void MenuTab_Click();
-    void TreeView_NodeClick(MenuNode* node);
+    void TreeView_NodeClick(const MenuNode* node);
 
   signals:
     /// The program is to end now.

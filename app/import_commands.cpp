@@ -29,7 +29,7 @@ std::string DetailsOf(const std::vector<LineWarning>& warnings) {
 
 }  // namespace
 
-ImportCommands::ImportCommands(const MenuDocument& document, FileCommands& fileCommands,
+ImportCommands::ImportCommands(MenuDocument& document, FileCommands& fileCommands,
                                MessageBox& messages)
     : m_document(document), m_fileCommands(fileCommands), m_messages(messages) {}
 
@@ -64,9 +64,10 @@ void ImportCommands::importFile(const ImportFormat& format, const std::string& p
     const FileResult<std::string> content = m_fileCommands.readTextFile(path);
     if (!content.isOk())
         return;
-    MenuDocument imported(m_document.programFolder());
+    MenuContent imported;
     const ImportResult result = ImportMenu(format, content.value(), imported);
-    m_fileCommands.replaceDocument(imported);
+    m_document.open(std::move(imported));
+    m_fileCommands.showDocument();
 
     MessageRequest notice;
     notice.text = "Finished importing " + path + ". " + std::to_string(result.warnings.size()) +

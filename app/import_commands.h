@@ -14,7 +14,7 @@ namespace zev {
 /// outlives it.
 class ImportCommands {
   public:
-    ImportCommands(const MenuDocument& document, FileCommands& fileCommands, MessageBox& messages);
+    ImportCommands(MenuDocument& document, FileCommands& fileCommands, MessageBox& messages);
 
     void run(const ImportFormat& format);
     void mnuFileImportQuillmenu_Click();
@@ -25,7 +25,7 @@ class ImportCommands {
   private:
     void importFile(const ImportFormat& format, const std::string& path);
 
-    const MenuDocument& m_document;
+    MenuDocument& m_document;
     FileCommands& m_fileCommands;
     MessageBox& m_messages;
 };

@@ -10,6 +10,7 @@
 #include <QToolButton>
 #include <QToolTip>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "app/icons.h"
 #include "model/text_rules.h"
@@ -150,20 +151,21 @@ void ItemPanel::connectHandlers() {
     connect(cmdImgOver, &QToolButton::clicked, this, &ItemPanel::cmdImgOver_Click);
 }
 
-void ItemPanel::StoreItem(MenuNode* node) {
+void ItemPanel::StoreItem(const MenuNode* node) {
     if (node == nullptr)
         return;
     if (optRollover->isChecked())
         optRollover_Click();
     else
         optNormal_Click();
-    ItemProp& item = node->item;
+    ItemProp item = node->item;
     item.IsRollover = optRollover->isChecked();
     item.Caption = m_caption.edit->value();
     item.Target = m_target.edit->value();
     item.ImageOut = m_imgOut.edit->value();
     item.ImageOver = m_imgOver.edit->value();
     item.URL = m_url.edit->value();
+    m_document.setItem(*node, std::move(item));
 }
 
 void ItemPanel::ShowItem(const MenuNode* node) {
@@ -209,9 +211,9 @@ void ItemPanel::validateFocusedField() {
 }
 
 void ItemPanel::TreeView_AfterLabelEdit(const QString& label) {
-    if (m_document.CurNode == nullptr)
+    if (m_document.CurNode() == nullptr)
         return;
-    if (m_document.CurNode->item.IsRollover) {
+    if (m_document.CurNode()->item.IsRollover) {
         m_imgOut.edit->setText(label);
         return;
     }
@@ -277,12 +279,12 @@ void ItemPanel::setRolloverMode(bool isRollover) {
 }
 
 void ItemPanel::setSelectedLabel(const PropertyField& source) {
-    if (m_document.selectedNode != nullptr)
-        m_document.tree.setText(*m_document.selectedNode, source.edit->value());
+    if (m_document.selectedNode() != nullptr)
+        m_document.setLabel(*m_document.selectedNode(), source.edit->value());
 }
 
 void ItemPanel::setModified() {
-    m_document.bModified = true;
+    m_document.markModified();
     emit changed();
 }
 
@@ -367,11 +369,11 @@ bool ItemPanel::browse(QLineEdit& edit, const std::string& filter) {
     FileDialogRequest request;
     request.title = "Browse";
     request.filter = filter;
-    request.folder = m_document.SavePath;
+    request.folder = m_document.SavePath();
     const std::string path = m_services.dialogs.openFile(request);
     if (path.empty())
         return false;
-    edit.setText(QString::fromStdString(ToRelativeURL(m_document.SavePath, path)));
+    edit.setText(QString::fromStdString(ToRelativeURL(m_document.SavePath(), path)));
     return true;
 }
 

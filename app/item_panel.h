@@ -25,7 +25,7 @@ class ItemPanel : public QWidget {
     /// Writes the panel into the item of `node`; nothing when it is null. A field that still shows
     /// what `ShowItem` put there leaves its member alone, so that no text a field cannot hold
     /// (a line break, an overlong caption) is damaged by being looked at.
-    void StoreItem(MenuNode* node);
+    void StoreItem(const MenuNode* node);
     /// Shows the item of `node`, with its mode; empties the fields when it is null. `bModified`
     /// stays as it is.
     void ShowItem(const MenuNode* node);

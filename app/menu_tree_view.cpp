@@ -57,7 +57,7 @@ class LabelDelegate : public QStyledItemDelegate {
 }  // namespace
 
 MenuTreeView::MenuTreeView(MenuDocument& document, QWidget* parent)
-    : QTreeView(parent), m_document(document), m_model(document.tree) {
+    : QTreeView(parent), m_document(document), m_model(document) {
     setModel(&m_model);
     setItemDelegate(new LabelDelegate(this));
     setHeaderHidden(true);
@@ -72,7 +72,7 @@ MenuTreeView::MenuTreeView(MenuDocument& document, QWidget* parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
 
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
-        m_document.tree.setExpanded(*m_model.nodeAt(index), true);
+        m_document.setExpanded(*m_model.nodeAt(index), true);
     });
     connect(this, &QTreeView::collapsed, this, &MenuTreeView::foldBranch);
     connect(&m_model, &TreeViewModel::nodeExpansionChanged, this, &QTreeView::setExpanded);
@@ -84,7 +84,7 @@ MenuTreeView::MenuTreeView(MenuDocument& document, QWidget* parent)
 }
 
 void MenuTreeView::showSelection() {
-    const QModelIndex index = m_model.indexOf(m_document.selectedNode);
+    const QModelIndex index = m_model.indexOf(m_document.selectedNode());
     if (index.isValid()) {
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
         return;
@@ -132,8 +132,8 @@ void MenuTreeView::selectionChanged(const QItemSelection& selected,
     QTreeView::selectionChanged(selected, deselected);
     if (selected.isEmpty() || m_model.isChanging())
         return;
-    MenuNode* node = m_model.nodeAt(selected.indexes().constFirst());
-    if (node != m_document.selectedNode)
+    const MenuNode* node = m_model.nodeAt(selected.indexes().constFirst());
+    if (node != m_document.selectedNode())
         emit nodeClicked(node);
 }
 
@@ -155,7 +155,7 @@ int MenuTreeView::sizeHintForColumn(int column) const {
 
 void MenuTreeView::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
-    if (m_document.tree.firstNode() != nullptr)
+    if (m_document.tree().firstNode() != nullptr)
         return;
     QPainter painter(viewport());
     painter.setOpacity(kHintOpacity);
@@ -167,20 +167,20 @@ void MenuTreeView::paintEvent(QPaintEvent* event) {
 /// The person is never left with a selected node that cannot be seen: the folded one is chosen in
 /// its place. A branch that the tree itself collapsed is its own affair.
 void MenuTreeView::foldBranch(const QModelIndex& index) {
-    MenuNode* folded = m_model.nodeAt(index);
+    const MenuNode* folded = m_model.nodeAt(index);
     if (!folded->isExpanded)
         return;
-    m_document.tree.setExpanded(*folded, false);
-    const MenuNode* node = m_document.selectedNode;
-    while (node != nullptr && node->parent() != folded)
+    m_document.setExpanded(*folded, false);
+    const MenuNode* node = m_document.selectedNode();
+    while (node && node->parent() != folded)
         node = node->parent();
-    if (node != nullptr)
+    if (node)
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
 }
 
 // A reset view has every node collapsed.
 void MenuTreeView::showExpansion() {
-    const MenuTree& tree = m_document.tree;
+    const MenuTree& tree = m_document.tree();
     for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
         if (node->isExpanded)
             setExpanded(m_model.indexOf(node), true);

@@ -25,7 +25,7 @@ class MenuTreeView : public QTreeView {
   signals:
     /// The person chose this node by mouse or keyboard, clicked it again, or folded it over the one
     /// that was selected.
-    void nodeClicked(MenuNode* node);
+    void nodeClicked(const MenuNode* node);
     /// A label was edited in place; the node already shows it.
     void labelEdited(const QString& text);
 

@@ -21,17 +21,17 @@ QString shownLabel(const std::string& text) {
 
 }  // namespace
 
-TreeViewModel::TreeViewModel(MenuTree& tree, QObject* parent)
-    : QAbstractItemModel(parent), m_tree(tree) {
-    m_tree.setObserver(this);
+TreeViewModel::TreeViewModel(MenuDocument& document, QObject* parent)
+    : QAbstractItemModel(parent), m_document(document) {
+    m_document.addObserver(*this);
 }
 
 TreeViewModel::~TreeViewModel() {
-    m_tree.setObserver(nullptr);
+    m_document.removeObserver(*this);
 }
 
-MenuNode* TreeViewModel::nodeAt(const QModelIndex& index) const {
-    return static_cast<MenuNode*>(index.internalPointer());
+const MenuNode* TreeViewModel::nodeAt(const QModelIndex& index) const {
+    return static_cast<const MenuNode*>(index.internalPointer());
 }
 
 QModelIndex TreeViewModel::indexOf(const MenuNode* node) const {
@@ -43,7 +43,8 @@ QModelIndex TreeViewModel::indexOf(const MenuNode* node) const {
 QModelIndex TreeViewModel::index(int row, int column, const QModelIndex& parent) const {
     if (!hasIndex(row, column, parent))
         return {};
-    return createIndex(row, column, m_tree.childrenOf(nodeAt(parent))[static_cast<size_t>(row)]);
+    return createIndex(row, column,
+                       m_document.tree().childrenOf(nodeAt(parent))[static_cast<size_t>(row)]);
 }
 
 QModelIndex TreeViewModel::parent(const QModelIndex& child) const {
@@ -53,7 +54,7 @@ QModelIndex TreeViewModel::parent(const QModelIndex& child) const {
 int TreeViewModel::rowCount(const QModelIndex& parent) const {
     if (parent.column() > 0)
         return 0;
-    return static_cast<int>(m_tree.childrenOf(nodeAt(parent)).size());
+    return static_cast<int>(m_document.tree().childrenOf(nodeAt(parent)).size());
 }
 
 int TreeViewModel::columnCount(const QModelIndex&) const {
@@ -85,7 +86,7 @@ bool TreeViewModel::setData(const QModelIndex& index, const QVariant& value, int
     if (!index.isValid() || role != Qt::EditRole)
         return false;
     const QString label = value.toString();
-    m_tree.setText(*nodeAt(index), label.toStdString());
+    m_document.setLabel(*nodeAt(index), label.toStdString());
     emit labelEdited(label);
     return true;
 }
@@ -125,17 +126,17 @@ void TreeViewModel::moved() {
     m_isChanging = false;
 }
 
-void TreeViewModel::aboutToReset() {
+void TreeViewModel::aboutToReplaceContent() {
     m_isChanging = true;
     beginResetModel();
 }
 
-void TreeViewModel::wasReset() {
+void TreeViewModel::contentReplaced() {
     endResetModel();
     m_isChanging = false;
 }
 
-void TreeViewModel::textChanged(const MenuNode& node) {
+void TreeViewModel::labelChanged(const MenuNode& node) {
     const QModelIndex index = indexOf(&node);
     emit dataChanged(index, index, {Qt::DisplayRole, Qt::EditRole});
 }

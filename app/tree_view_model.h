@@ -2,25 +2,25 @@
 
 #include <QAbstractItemModel>
 
-#include "model/menu_tree.h"
+#include "model/menu_document.h"
 
 namespace zev {
 
-/// Shows a `MenuTree` to Qt's item views: one column, the nodes' labels as plain text. An adapter:
-/// the tree stays the only store, and what happens to it is passed on as it happens.
-class TreeViewModel : public QAbstractItemModel, private MenuTreeObserver {
+/// Shows a document's tree to Qt's item views: one column, the nodes' labels as plain text. An
+/// adapter: the document stays the only store, and what happens to it is passed on as it happens.
+class TreeViewModel : public QAbstractItemModel, private DocumentObserver {
     Q_OBJECT
   public:
     /// Longest label, in UTF-16 units, that is shown in full. A longer one is cut for the eye only;
     /// laying out megabytes of text in one row would stall the window.
     static constexpr qsizetype kMaxShownLabel = 1000;
 
-    /// `tree` is not owned and outlives the model, which is its observer meanwhile.
-    explicit TreeViewModel(MenuTree& tree, QObject* parent = nullptr);
+    /// `document` is not owned and outlives the model, which is its observer meanwhile.
+    explicit TreeViewModel(MenuDocument& document, QObject* parent = nullptr);
     ~TreeViewModel() override;
 
     /// Null for an invalid index.
-    MenuNode* nodeAt(const QModelIndex& index) const;
+    const MenuNode* nodeAt(const QModelIndex& index) const;
     /// Invalid for null.
     QModelIndex indexOf(const MenuNode* node) const;
     /// True while the tree is between two states: what views announce then (a selection moved away
@@ -50,12 +50,12 @@ class TreeViewModel : public QAbstractItemModel, private MenuTreeObserver {
     void removed() override;
     void aboutToMove(const MenuNode& node, const MenuNode* parent, std::size_t row) override;
     void moved() override;
-    void aboutToReset() override;
-    void wasReset() override;
-    void textChanged(const MenuNode& node) override;
+    void aboutToReplaceContent() override;
+    void contentReplaced() override;
+    void labelChanged(const MenuNode& node) override;
     void expansionChanged(const MenuNode& node) override;
 
-    MenuTree& m_tree;
+    MenuDocument& m_document;
     bool m_isChanging = false;
     bool m_isMoving = false;
 };

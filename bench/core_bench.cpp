@@ -19,7 +19,8 @@
 namespace {
 
 /// A site-like menu of four levels, twenty items a menu, filled breadth first.
-void FillDocument(zev::MenuDocument& document, std::size_t itemCount) {
+zev::MenuContent MenuOf(std::size_t itemCount) {
+    zev::MenuContent content;
     constexpr std::size_t kItemsAMenu = 20;
     std::vector<zev::MenuNode*> nodes = {nullptr};
     for (std::size_t number = 0; number < itemCount; ++number) {
@@ -29,17 +30,15 @@ void FillDocument(zev::MenuDocument& document, std::size_t itemCount) {
         item.URL = "pages/section/page" + std::to_string(number) + ".html";
         item.MenuProperty = zev::NewItemMenuProp();
         std::string text = item.Caption;
-        nodes.push_back(document.tree.append(parent, "Key " + std::to_string(number),
-                                             std::move(text), std::move(item)));
+        nodes.push_back(content.tree.append(parent, "Key " + std::to_string(number),
+                                            std::move(text), std::move(item)));
     }
-    document.ItemCounter = static_cast<std::int16_t>(itemCount);
-    document.CurNode = document.selectedNode = document.tree.firstNode();
+    content.ItemCounter = static_cast<std::int16_t>(itemCount);
+    return content;
 }
 
 std::string DefinitionOf(std::size_t itemCount) {
-    zev::MenuDocument document("/program");
-    FillDocument(document, itemCount);
-    return zev::GenerateScript(document);
+    return zev::GenerateScript(MenuOf(itemCount));
 }
 
 void CountBytes(benchmark::State& state, std::size_t bytesARound) {
@@ -63,29 +62,28 @@ void BM_Memcpy(benchmark::State& state) {
 }
 
 void BM_GenerateScript(benchmark::State& state) {
-    zev::MenuDocument document("/program");
-    FillDocument(document, ItemCount(state));
+    const zev::MenuContent content = MenuOf(ItemCount(state));
     std::size_t length = 0;
     for (auto _ : state) {
-        const std::string text = zev::GenerateScript(document);
+        const std::string text = zev::GenerateScript(content);
         length = text.size();
         benchmark::DoNotOptimize(text.data());
     }
     CountBytes(state, length);
 }
 
-/// The document is made and destroyed outside the measured time.
+/// The content is made and destroyed outside the measured time.
 void BM_ReadScript(benchmark::State& state) {
     const std::string text = DefinitionOf(ItemCount(state));
     for (auto _ : state) {
         state.PauseTiming();
-        std::optional<zev::MenuDocument> document("/program");
+        std::optional<zev::MenuContent> content(std::in_place);
         state.ResumeTiming();
-        benchmark::DoNotOptimize(zev::ReadScript(text, *document));
+        benchmark::DoNotOptimize(zev::ReadScript(text, *content));
         state.PauseTiming();
-        if (document->tree.size() != ItemCount(state))
+        if (content->tree.size() != ItemCount(state))
             state.SkipWithError("not all items were read");
-        document.reset();
+        content.reset();
         state.ResumeTiming();
     }
     CountBytes(state, text.size());
@@ -96,12 +94,12 @@ void BM_AddMenuItem(benchmark::State& state) {
     zev::MenuDocument document("/program");
     for (std::size_t i = 0; i < ItemCount(state); ++i)
         zev::AddMenuItem(document);
-    const std::int16_t counter = document.ItemCounter;
+    const std::int16_t counter = document.ItemCounter();
     for (auto _ : state) {
         benchmark::DoNotOptimize(zev::AddMenuItem(document));
         state.PauseTiming();
         zev::DeleteItem(document);
-        document.ItemCounter = counter;
+        document.apply(zev::SetItemCounter{counter});
         state.ResumeTiming();
     }
 }

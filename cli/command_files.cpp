@@ -26,9 +26,9 @@ FileResult<std::string> readStandardInput() {
 
 }  // namespace
 
-MenuDocument& commandDocument() {
-    static MenuDocument* const document = new MenuDocument("");
-    return *document;
+MenuContent& commandContent() {
+    static MenuContent* const content = new MenuContent;
+    return *content;
 }
 
 void printProblem(const std::string& problem) {
@@ -66,21 +66,21 @@ FileResult<std::string> readMenuFile(const FileSystem& files, const std::string&
 }
 
 std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
-                                         MenuDocument& document) {
+                                         MenuContent& content) {
     const FileResult<std::string> bytes = readMenuFile(files, path);
     if (!bytes.isOk()) {
         printProblem(bytes.error());
         return {};
     }
-    const ReadResult result = ReadScript(bytes.value(), document);
+    const ReadResult result = ReadScript(bytes.value(), content);
     if (result.errorCount == 0)
         return ExitStatus::Done;
     std::cerr << result.errorCount << " errors encountered during parsing\n";
     return ExitStatus::Counted;
 }
 
-bool writeDefinition(FileSystem& files, const std::string& path, const MenuDocument& document) {
-    const std::string bytes = DefinitionFileBytes(GenerateScript(document));
+bool writeDefinition(FileSystem& files, const std::string& path, const MenuContent& content) {
+    const std::string bytes = DefinitionFileBytes(GenerateScript(content));
     if (path.empty() || path == "-")
         return writeStandardOutput(bytes);
     if (const FileOutcome error = files.writeFile(path, bytes)) {

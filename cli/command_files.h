@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 #include "platform/file_system.h"
 
 namespace zev {
@@ -17,9 +17,9 @@ enum class ExitStatus {
     FileProblem = 3  ///< a file could not be read or written
 };
 
-/// The one document of this process, new when its command begins. It is never taken apart: node by
+/// The one menu of this process, new when its command begins. It is never taken apart: node by
 /// node that takes a large part of a command's time, and the system gets the memory back anyway.
-MenuDocument& commandDocument();
+MenuContent& commandContent();
 
 /// Prints one line on standard error, after the program's name.
 void printProblem(const std::string& problem);
@@ -34,13 +34,13 @@ bool writeStandardOutput(std::string_view bytes);
 /// in it: it is not text, or too large.
 FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path);
 
-/// Reads the definition `path` ("-": standard input) into a new document and prints the number of
+/// Reads the definition `path` ("-": standard input) into a new menu and prints the number of
 /// errors in it. Nothing, with the problem printed, when it cannot be read; else Done or Counted.
 std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
-                                         MenuDocument& document);
+                                         MenuContent& content);
 
-/// Writes the document as definition file `path`; "-" and an empty path are standard output. False,
+/// Writes the menu as definition file `path`; "-" and an empty path are standard output. False,
 /// with the problem printed, when it cannot be written.
-bool writeDefinition(FileSystem& files, const std::string& path, const MenuDocument& document);
+bool writeDefinition(FileSystem& files, const std::string& path, const MenuContent& content);
 
 }  // namespace zev

@@ -33,9 +33,9 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable, cons
 }  // namespace
 
 ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output) {
-    MenuDocument& document = commandDocument();
-    const std::optional<ExitStatus> status = readDefinition(files, input, document);
-    if (!status || !writeDefinition(files, output, document))
+    MenuContent& content = commandContent();
+    const std::optional<ExitStatus> status = readDefinition(files, input, content);
+    if (!status || !writeDefinition(files, output, content))
         return ExitStatus::FileProblem;
     return *status;
 }
@@ -46,9 +46,9 @@ ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
         printProblem(bytes.error());
         return ExitStatus::FileProblem;
     }
-    MenuDocument& document = commandDocument();
-    const ImportResult result = ImportMenu(*options.format, bytes.value(), document);
-    if (!writeDefinition(files, options.output, document))
+    MenuContent& content = commandContent();
+    const ImportResult result = ImportMenu(*options.format, bytes.value(), content);
+    if (!writeDefinition(files, options.output, content))
         return ExitStatus::FileProblem;
     if (options.isVerbose) {
         for (const LineWarning& warning : result.warnings)
@@ -69,21 +69,21 @@ ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options) {
     const std::optional<std::string> to = fullFolder(options.to);
     if (!from || !to)
         return ExitStatus::FileProblem;
-    MenuDocument& document = commandDocument();
-    const std::optional<ExitStatus> status = readDefinition(files, options.input, document);
+    MenuContent& content = commandContent();
+    const std::optional<ExitStatus> status = readDefinition(files, options.input, content);
     if (!status)
         return ExitStatus::FileProblem;
-    RebaseAllURLs(document, *from, *to);
-    return writeDefinition(files, options.output, document) ? *status : ExitStatus::FileProblem;
+    RebaseAllURLs(content, *from, *to);
+    return writeDefinition(files, options.output, content) ? *status : ExitStatus::FileProblem;
 }
 
 ExitStatus submenusCommand(const FileSystem& files, const std::string& input) {
-    MenuDocument& document = commandDocument();
-    const std::optional<ExitStatus> status = readDefinition(files, input, document);
+    MenuContent& content = commandContent();
+    const std::optional<ExitStatus> status = readDefinition(files, input, content);
     if (!status)
         return ExitStatus::FileProblem;
     std::string lines;
-    for (const std::string& entry : ListSubmenus(document))
+    for (const std::string& entry : ListSubmenus(content))
         lines += entry + "\n";
     return writeStandardOutput(lines) ? *status : ExitStatus::FileProblem;
 }
@@ -99,8 +99,8 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
         printProblem(input + ": has the name of a run-time file that goes beside it");
         return ExitStatus::WrongUse;
     }
-    MenuDocument& document = commandDocument();
-    const std::optional<ExitStatus> status = readDefinition(files, input, document);
+    MenuContent& content = commandContent();
+    const std::optional<ExitStatus> status = readDefinition(files, input, content);
     if (!status)
         return ExitStatus::FileProblem;
     if (!files.isFolder(folder)) {
@@ -110,7 +110,7 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
     const Path target = Path::onThisSystem(folder);
     const ExitStatus libraryStatus = publishLibrary(files, executable, target);
     // As when the editor saves, the definition is written whatever became of the scripts.
-    if (!writeDefinition(files, target.child(name), document))
+    if (!writeDefinition(files, target.child(name), content))
         return ExitStatus::FileProblem;
     return libraryStatus == ExitStatus::Done ? *status : libraryStatus;
 }

@@ -1,16 +1,19 @@
 #pragma once
 
+#include <optional>
+
 #include "model/menu_document.h"
 
 namespace zev {
 
-/// The property set of the menu that `CurNode` stands in: its parent item's submenu, or the top
-/// menu. Null when there is no current node. Valid until the tree changes.
-inline MenuProp* EditedMenu(MenuDocument& document) {
-    if (document.CurNode == nullptr)
-        return nullptr;
-    MenuNode* parent = document.CurNode->parent();
-    return parent != nullptr ? &parent->item.MenuProperty.edit() : &document.RootMenuProp;
+/// The menu that `CurNode` stands in: its parent item's submenu, or the top menu. Nothing when
+/// there is no current node.
+inline std::optional<MenuPropOwner> EditedMenu(const MenuDocument& document) {
+    if (document.CurNode() == nullptr)
+        return {};
+    if (const MenuNode* parent = document.CurNode()->parent())
+        return MenuPropOwner{MenuPropOwner::Kind::Submenu, parent};
+    return MenuPropOwner{MenuPropOwner::Kind::TopMenu};
 }
 
 }  // namespace zev

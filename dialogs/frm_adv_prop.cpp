@@ -154,11 +154,12 @@ std::array<frmAdvProp::Box, frmAdvProp::kBoxes> frmAdvProp::boxes() const {
 }
 
 bool frmAdvProp::fill() {
-    const MenuProp* menu = EditedMenu(m_host.document);
-    if (menu == nullptr)
+    const auto edited = EditedMenu(m_host.document);
+    if (!edited)
         return false;
+    const MenuProp& menu = m_host.document.menuProp(*edited);
     for (const Box& box : boxes())
-        box.edit->showValue(menu->*box.member);
+        box.edit->showValue(menu.*box.member);
     m_divider.edit->setFocus();
     return true;
 }
@@ -225,9 +226,11 @@ void frmAdvProp::cmdPaste_Click() {
 
 void frmAdvProp::cmdOK_Click() {
     leaveFocusedEdit(*this);
-    if (MenuProp* menu = EditedMenu(m_host.document)) {
+    if (const auto edited = EditedMenu(m_host.document)) {
+        MenuProp menu = m_host.document.menuProp(*edited);
         for (const Box& box : boxes())
-            menu->*box.member = box.edit->value();
+            menu.*box.member = box.edit->value();
+        m_host.document.setMenuUnmarked(*edited, std::move(menu));
     }
     accept();
 }

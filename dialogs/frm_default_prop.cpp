@@ -42,7 +42,7 @@ QGroupBox* frmDefaultProp::makeMenuFrame() {
 }
 
 void frmDefaultProp::LoadDefaultDialog() {
-    const MenuProp& prop = m_host.document.DefaultProp;
+    const MenuProp& prop = m_host.document.DefaultProp();
     m_closeDelay.edit->showValue(prop.CloseDelay);
     m_menuOffset.edit->showValue(prop.MenuOffset);
     showBoxes(prop);
@@ -75,14 +75,14 @@ void frmDefaultProp::cmdFont_Click() {
 }
 
 void frmDefaultProp::cmdOK_Click() {
-    MenuProp& prop = m_host.document.DefaultProp;
+    MenuProp prop = m_host.document.DefaultProp();
     storeBoxes(prop);
     prop.MenuOffset = m_menuOffset.edit->value();
     prop.CloseDelay = m_closeDelay.edit->value();
     // Fonts that nobody looked at in the font dialog stay exactly as they are in the file.
     if (!cdFont.name.empty())
         storePreviewFont(prop);
-    m_host.document.bModified = true;
+    m_host.document.setMenu({MenuPropOwner::Kind::Defaults}, std::move(prop));
     m_host.Button_Update();
     accept();
 }

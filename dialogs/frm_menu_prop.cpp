@@ -58,22 +58,23 @@ QGroupBox* frmMenuProp::makeMenuFrame() {
 }
 
 bool frmMenuProp::fill() {
-    const MenuProp* menu = EditedMenu(m_host.document);
-    if (menu == nullptr)
+    const auto edited = EditedMenu(m_host.document);
+    if (!edited)
         return false;
-    const MenuProp& defaults = m_host.document.DefaultProp;
-    showBoxes(*menu);
-    lblFont->setBackColor(ColorOrDefault(menu->HBgColor, defaults.HBgColor));
-    lblFont->setForeColor(ColorOrDefault(menu->HFtColor, defaults.HFtColor));
-    lblPreviewNormal->setBackColor(ColorOrDefault(menu->NBgColor, defaults.NBgColor));
-    lblPreviewNormal->setForeColor(ColorOrDefault(menu->NFtColor, defaults.NFtColor));
-    bFontSet = menu->FontSet;
+    const MenuProp& menu = m_host.document.menuProp(*edited);
+    const MenuProp& defaults = m_host.document.DefaultProp();
+    showBoxes(menu);
+    lblFont->setBackColor(ColorOrDefault(menu.HBgColor, defaults.HBgColor));
+    lblFont->setForeColor(ColorOrDefault(menu.HFtColor, defaults.HFtColor));
+    lblPreviewNormal->setBackColor(ColorOrDefault(menu.NBgColor, defaults.NBgColor));
+    lblPreviewNormal->setForeColor(ColorOrDefault(menu.NFtColor, defaults.NFtColor));
+    bFontSet = menu.FontSet;
     FontChoice font = FontOf(defaults);
-    if (menu->FontSet) {
-        const FontChoice own = FontOf(*menu);
+    if (menu.FontSet) {
+        const FontChoice own = FontOf(menu);
         if (own.name.find_first_not_of(' ') != std::string::npos)
             font.name = own.name;
-        if (!menu->FontSize.empty())
+        if (!menu.FontSize.empty())
             font.points = own.points;
         font.isItalic = own.isItalic;
         font.isBold = own.isBold;
@@ -100,7 +101,7 @@ void frmMenuProp::cmdFont_Click() {
 
 void frmMenuProp::cmdFontClear_Click() {
     bFontSet = false;
-    setPreviewFont(FontOf(m_host.document.DefaultProp));
+    setPreviewFont(FontOf(m_host.document.DefaultProp()));
 }
 
 void frmMenuProp::cmdCopy_Click() {
@@ -131,13 +132,13 @@ void frmMenuProp::cmdAdvanced_Click() {
 }
 
 void frmMenuProp::cmdOK_Click() {
-    MenuProp* menu = EditedMenu(m_host.document);
-    if (menu != nullptr) {
-        storeBoxes(*menu);
-        menu->FontSet = bFontSet;
+    if (const auto edited = EditedMenu(m_host.document)) {
+        MenuProp menu = m_host.document.menuProp(*edited);
+        storeBoxes(menu);
+        menu.FontSet = bFontSet;
         if (bFontSet)
-            storePreviewFont(*menu);
-        m_host.document.bModified = true;
+            storePreviewFont(menu);
+        m_host.document.setMenu(*edited, std::move(menu));
         m_host.Button_Update();
     }
     accept();

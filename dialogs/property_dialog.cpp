@@ -305,11 +305,11 @@ void PropertyDialog::cmdBrowseBgImg_Click() {
     request.title = "Browse";
     request.filter = kImageFilter;
     request.filterIndex = kGifFilter;
-    request.folder = m_host.document.SavePath;
+    request.folder = m_host.document.SavePath();
     const std::string path = m_host.dialogs.openFile(request);
     if (!path.empty())
         m_bgImg.edit->setText(
-            QString::fromStdString(ToRelativeURL(m_host.document.SavePath, path)));
+            QString::fromStdString(ToRelativeURL(m_host.document.SavePath(), path)));
 }
 
 }  // namespace zev

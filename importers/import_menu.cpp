@@ -15,8 +15,8 @@ constexpr const char* kScriptFilter = "All Files (*.*)|*.*|JavaScript (*.js)|*.j
 constexpr const char* kTextFilter = "All Files (*.*)|*.*|Text (*.txt)|*.txt";
 
 template <OrletTopLevel kTopLevel>
-std::vector<LineWarning> readOrletAs(DefinitionLines& lines, MenuDocument& document) {
-    return ReadOrlet(lines, kTopLevel, document);
+std::vector<LineWarning> readOrletAs(DefinitionLines& lines, MenuContent& content) {
+    return ReadOrlet(lines, kTopLevel, content);
 }
 
 constexpr ImportFormat kFormats[] = {
@@ -42,16 +42,13 @@ const ImportFormat* findImportFormat(std::string_view name) {
 }
 
 ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes,
-                        MenuDocument& document) {
+                        MenuContent& content) {
     DefinitionLines lines(bytes);
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 16;
-    document.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
-    ImportResult result{format.read(lines, document)};
-    document.CurNode = document.tree.firstNode();
-    document.selectedNode = document.CurNode;
-    document.bModified = false;
+    content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
+    ImportResult result{format.read(lines, content)};
     return result;
 }
 

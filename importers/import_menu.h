@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 #include "script/definition_lines.h"
 #include "script/line_warning.h"
 
@@ -17,9 +17,8 @@ struct ImportFormat {
     std::string_view title;      ///< for people
     std::string_view menuEntry;  ///< the object name of the editor's command
     const char* fileFilter;      ///< of the dialog that asks for the file
-    /// Reads the lines into a new document; returns the warnings. `CurNode`, `selectedNode` and
-    /// `bModified` are left to the caller.
-    std::vector<LineWarning> (*read)(DefinitionLines& lines, MenuDocument& document);
+    /// Reads the lines into the content of a new menu; returns the warnings.
+    std::vector<LineWarning> (*read)(DefinitionLines& lines, MenuContent& content);
 };
 
 /// The formats, in the order of the menu.
@@ -33,12 +32,11 @@ struct ImportResult {
     std::vector<LineWarning> warnings;
 };
 
-/// Reads the menu of an earlier product into `document`, which must be a new document
-/// (`NewDocument`).
+/// Reads the menu of an earlier product into `content`, which must be that of a new menu.
 ///
 /// `bytes` is the file's whole content, with the encodings and line ends of a definition file.
 /// Lines that mean nothing are skipped. Afterwards the first node is current and selected and
 /// `bModified` is false.
-ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes, MenuDocument& document);
+ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes, MenuContent& content);
 
 }  // namespace zev

@@ -44,11 +44,11 @@ ItemProp ReadItem(PieceCutter fields, bool hasImage) {
     return item;
 }
 
-/// Places the items of one file in a new document, each relative to the one placed before it.
+/// Places the items of one file in a new menu, each relative to the one placed before it.
 class OrletReader {
   public:
-    OrletReader(OrletTopLevel topLevel, MenuDocument& document)
-        : m_topLevel(topLevel), m_document(document) {}
+    OrletReader(OrletTopLevel topLevel, MenuContent& content)
+        : m_topLevel(topLevel), m_content(content) {}
 
     void readLine(std::string_view line, std::size_t number) {
         const std::size_t level = std::min(line.find_first_not_of(':'), line.size());
@@ -60,7 +60,7 @@ class OrletReader {
         const std::size_t climb = m_level > level ? m_level - level : 0;
         if (climb > m_depth)
             warn(Reason::AboveTop);
-        else if (m_document.ItemCounter == kMaxItemCounter)
+        else if (m_content.ItemCounter == kMaxItemCounter)
             warn(Reason::TooManyItems);
         else
             addItem(parentOf(level, climb), level, line.substr(level));
@@ -94,19 +94,19 @@ class OrletReader {
         const bool hasImage = level == 1 && m_topLevel == OrletTopLevel::ImageBar;
         ItemProp item = ReadItem(PieceCutter(fields, '|'), hasImage);
         // The number is new at every item, so the key is never taken.
-        ++m_document.ItemCounter;
+        ++m_content.ItemCounter;
         std::string key =
-            LoadedItemKey(kTopLevelMenuId, static_cast<std::size_t>(m_document.ItemCounter));
+            LoadedItemKey(kTopLevelMenuId, static_cast<std::size_t>(m_content.ItemCounter));
         std::string text = item.Caption;
         m_previous =
-            m_document.tree.append(parent, std::move(key), std::move(text), std::move(item));
+            m_content.tree.append(parent, std::move(key), std::move(text), std::move(item));
         m_level = level;
     }
 
     void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }
 
     OrletTopLevel m_topLevel;
-    MenuDocument& m_document;
+    MenuContent& m_content;
     std::vector<LineWarning> m_warnings;
     std::size_t m_lineNumber = 0;
     MenuNode* m_previous = nullptr;  ///< the item placed last; null before the first
@@ -117,10 +117,10 @@ class OrletReader {
 }  // namespace
 
 std::vector<LineWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
-                                   MenuDocument& document) {
+                                   MenuContent& content) {
     if (topLevel == OrletTopLevel::List)
-        document.RootMenuProp.Columns = "1";
-    OrletReader reader(topLevel, document);
+        content.RootMenuProp.Columns = "1";
+    OrletReader reader(topLevel, content);
     std::string_view line;
     while (lines.next(line))
         reader.readLine(line, lines.number());

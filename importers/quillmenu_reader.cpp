@@ -67,8 +67,8 @@ constexpr ScriptDialect kQuillmenu = {.start = "qlm",
 
 }  // namespace
 
-std::vector<LineWarning> ReadQuillmenu(DefinitionLines& lines, MenuDocument& document) {
-    return readMenuScript(lines, kQuillmenu, document);
+std::vector<LineWarning> ReadQuillmenu(DefinitionLines& lines, MenuContent& content) {
+    return readMenuScript(lines, kQuillmenu, content);
 }
 
 }  // namespace zev

@@ -2,13 +2,13 @@
 
 #include <vector>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 #include "script/definition_lines.h"
 #include "script/line_warning.h"
 
 namespace zev {
 
-/// Replays a menu script, one statement a line, into a new document; returns the warnings.
+/// Replays a menu script, one statement a line, into a new menu; returns the warnings.
 ///
 ///     qlm_state.NAME = VALUE;                                      menu-wide default
 ///     qlmenu1 = new mainMenu('horizontal', 'NBG', 'HBG', 'NFT', 'HFT', 'BGIMG');
@@ -17,8 +17,7 @@ namespace zev {
 ///     qlmenu1.addItems('CAPTION', 'URL', 'TARGET');
 ///     qlmenu1.addImages('URL', 'IMAGE OUT', 'IMAGE OVER', 'TARGET');
 ///
-/// A submenu's id spells the positions of the items that lead to it, from 1. `CurNode`,
-/// `selectedNode` and `bModified` are left to the caller.
-std::vector<LineWarning> ReadQuillmenu(DefinitionLines& lines, MenuDocument& document);
+/// A submenu's id spells the positions of the items that lead to it, from 1.
+std::vector<LineWarning> ReadQuillmenu(DefinitionLines& lines, MenuContent& content);
 
 }  // namespace zev

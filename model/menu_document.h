@@ -2,48 +2,113 @@
 
 #include <cstdint>
 #include <string>
+#include <type_traits>
+#include <vector>
 
-#include "model/menu_prop.h"
-#include "model/menu_tree.h"
+#include "model/document_change.h"
+#include "model/document_observer.h"
+#include "model/menu_content.h"
 
 namespace zev {
 
-/// Everything that one definition file describes, and what the editor knows about that file.
+/// The menu being edited: its content, and what the editor knows of the file it belongs to.
 ///
-/// `selectedNode` is the node selected in the tree, `CurNode` the one shown in the item panel. They
-/// are the same except after Add Submenu Item without a selection.
+/// Everything it gives away is const. Whoever wants it changed calls an operation; all operations
+/// are made of the changes of `apply`, which knows the inverse of each and tells the observers.
 class MenuDocument {
   public:
-    /// `programFolder`: the program's own folder, the `SavePath` of a document never saved.
+    /// A new, empty document. `programFolder`: the program's own folder, the `SavePath` of a
+    /// document never saved.
     explicit MenuDocument(std::string programFolder);
-
-    std::string SaveFile;              ///< full path of the definition file; empty when never saved
-    std::string SavePath;              ///< folder that relative URLs and run-time copies belong to
-    bool bModified = false;            ///< there are changes not yet saved
-    MenuNode* CurNode = nullptr;       ///< node shown in the item panel; null when there is none
-    MenuNode* selectedNode = nullptr;  ///< node selected in the tree; null when there is none
-    MenuProp RootMenuProp;             ///< properties of the top-level menu
-    MenuProp DefaultProp;              ///< menu-wide defaults
-    std::int16_t ItemCounter = 0;      ///< number of the next item made in the editor
-    MenuTree tree;
+    MenuDocument(const MenuDocument&) = delete;
+    MenuDocument& operator=(const MenuDocument&) = delete;
 
     const std::string& programFolder() const { return m_programFolder; }
+    const MenuContent& content() const { return m_content; }
+    const MenuTree& tree() const { return m_content.tree; }
+    const MenuProp& DefaultProp() const { return m_content.DefaultProp; }
+    const MenuProp& RootMenuProp() const { return m_content.RootMenuProp; }
+    std::int16_t ItemCounter() const { return m_content.ItemCounter; }
+    /// The property set of `owner`. Valid until that set is changed or its node removed.
+    const MenuProp& menuProp(const MenuPropOwner& owner) const;
+    /// Full path of the definition file; empty when never saved.
+    const std::string& SaveFile() const { return m_saveFile; }
+    /// Folder that relative URLs and run-time copies belong to.
+    const std::string& SavePath() const { return m_savePath; }
+    /// There are changes not yet saved.
+    bool bModified() const { return m_isModified; }
+    /// Node shown in the item panel; null when there is none. Always a node of the tree.
+    const MenuNode* CurNode() const { return m_selection.current; }
+    /// Node selected in the tree; null when there is none. Always a node of the tree. The same as
+    /// `CurNode` except after Add Submenu Item without a selection.
+    const MenuNode* selectedNode() const { return m_selection.selected; }
 
-    /// Resets to the empty document: no nodes, factory defaults, no file.
+    /// Applies a change and returns the one that takes it back, to be applied to the document as
+    /// this change left it. Neither copies what it holds. A change to what is there already tells
+    /// nobody.
+    Change apply(Change change);
+    /// Applies the changes in their order and returns those that take them all back, in theirs.
+    Changes apply(Changes changes);
+
+    /// Not owned; must outlive its registration, which must not change while observers are told.
+    void addObserver(DocumentObserver& observer) { m_observers.push_back(&observer); }
+    void removeObserver(DocumentObserver& observer) { std::erase(m_observers, &observer); }
+
+    // Operations. Where nothing else is said, `bModified` stays as it is.
+
+    /// Resets to the empty document: no nodes, factory defaults, no file, nothing modified.
     void NewDocument();
-
-    /// Takes the whole state of `other` (tree, properties, file, flags, counter); the observer of
-    /// `tree` stays registered and is told of one reset. `other` is an empty document afterwards.
-    void takeFrom(MenuDocument& other);
+    /// Shows `content`, its first node current and selected, as that of the definition file
+    /// `SaveFile` in the folder `SavePath`. `bModified` is false afterwards.
+    void open(MenuContent content, std::string SaveFile, std::string SavePath);
+    /// The same for content that belongs to no definition file yet.
+    void open(MenuContent content);
+    /// The document belongs to another file and folder from now on.
+    void setFile(std::string SaveFile, std::string SavePath);
+    /// Makes a node, or none, selected and current.
+    void select(const MenuNode* node);
+    void setItem(const MenuNode& node, ItemProp item);
+    void setLabel(const MenuNode& node, std::string text);
+    void setExpanded(const MenuNode& node, bool isExpanded);
+    /// Expands all ancestors of `node`.
+    void makeVisible(const MenuNode& node);
+    /// Sets a property set and `bModified`.
+    void setMenu(const MenuPropOwner& owner, MenuProp properties);
+    /// The same without `bModified`.
+    void setMenuUnmarked(const MenuPropOwner& owner, MenuProp properties);
+    /// Sets `bModified`: something has changed, or was typed and will be stored.
+    void markModified();
+    /// Clears `bModified`: there is nothing that would need saving.
+    void markSaved();
 
   private:
+    Change perform(InsertBranch change);
+    Change perform(RemoveBranch change);
+    Change perform(MoveBranch change);
+    Change perform(SetItem change);
+    Change perform(SetLabel change);
+    Change perform(SetExpanded change);
+    Change perform(SetMenu change);
+    Change perform(SetItemCounter change);
+    Change perform(SetFile change);
+    Change perform(SetSelection change);
+    Change perform(SetModified change);
+    Change perform(ReplaceContent change);
+    const MenuNode* heirOf(const MenuNode& node) const;
+    void tellSelection(const NodeSelection& before);
+
+    template <typename... Parameters>
+    void tell(void (DocumentObserver::*what)(Parameters...),
+              std::type_identity_t<Parameters>... parameters);
+
     std::string m_programFolder;
+    MenuContent m_content;
+    std::string m_saveFile;
+    std::string m_savePath;
+    bool m_isModified = false;
+    NodeSelection m_selection;
+    std::vector<DocumentObserver*> m_observers;
+    bool m_isTelling = false;
 };
-
-/// Largest `ItemCounter`; the counter is 16 bits wide and never wraps.
-inline constexpr std::int16_t kMaxItemCounter = 32767;
-
-/// The submenu property set every new item starts with: usual divider and spaces, all else unset.
-const SharedMenuProp& NewItemMenuProp();
 
 }  // namespace zev

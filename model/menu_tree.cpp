@@ -14,47 +14,69 @@ Siblings::iterator At(Siblings& siblings, std::size_t row) {
     return siblings.begin() + static_cast<std::ptrdiff_t>(row);
 }
 
-[[maybe_unused]] bool IsInSubtree(const MenuNode* node, const MenuNode& top) {
+}  // namespace
+
+bool isInBranch(const MenuNode* node, const MenuNode& top) {
     while (node && node != &top)
         node = node->parent();
     return node != nullptr;
 }
 
-}  // namespace
+// A node is made in an index, as that alone joins it to its key, and taken out of it again.
+MenuBranch::MenuBranch(std::string key, std::string text, ItemProp item) {
+    Nodes index;
+    const auto entry = index.try_emplace(std::move(key), std::move(text), std::move(item)).first;
+    m_top = &entry->second;
+    m_top->m_key = &entry->first;
+    m_nodes.push_back(index.extract(entry));
+}
 
-const std::vector<MenuNode*>& MenuTree::childrenOf(const MenuNode* parent) const {
+MenuTree::MenuTree(MenuTree&& other) noexcept
+    : m_nodes(std::exchange(other.m_nodes, {})), m_topLevel(std::exchange(other.m_topLevel, {})) {}
+
+MenuTree& MenuTree::operator=(MenuTree&& other) noexcept {
+    m_topLevel = std::exchange(other.m_topLevel, {});
+    m_nodes = std::exchange(other.m_nodes, {});
+    return *this;
+}
+
+std::span<const MenuNode* const> MenuTree::childrenOf(const MenuNode* parent) const {
     return parent ? parent->m_children : m_topLevel;
 }
 
-std::vector<MenuNode*>& MenuTree::mutableChildrenOf(MenuNode* parent) {
-    return parent ? parent->m_children : m_topLevel;
+std::vector<MenuNode*>& MenuTree::siblingsUnder(const MenuNode* parent) {
+    return parent ? edit(*parent).m_children : m_topLevel;
 }
 
-const std::vector<MenuNode*>& MenuTree::siblingsOf(const MenuNode& node) const {
+std::span<const MenuNode* const> MenuTree::siblingsOf(const MenuNode& node) const {
     return childrenOf(node.m_parent);
 }
 
-MenuNode* MenuTree::nextSibling(const MenuNode& node) const {
-    const Siblings& siblings = siblingsOf(node);
+const MenuNode* MenuTree::nextSibling(const MenuNode& node) const {
+    const std::span<const MenuNode* const> siblings = siblingsOf(node);
     return node.m_row + 1 < siblings.size() ? siblings[node.m_row + 1] : nullptr;
 }
 
-MenuNode* MenuTree::previousSibling(const MenuNode& node) const {
+const MenuNode* MenuTree::previousSibling(const MenuNode& node) const {
     return node.m_row > 0 ? siblingsOf(node)[node.m_row - 1] : nullptr;
 }
 
-MenuNode* MenuTree::find(const std::string& key) const {
+const MenuNode* MenuTree::find(const std::string& key) const {
     const auto found = m_nodes.find(key);
-    // The tree's constness is that of its shape; what a node carries belongs to whoever finds it.
-    return found == m_nodes.end() ? nullptr : const_cast<MenuNode*>(&found->second);
+    return found == m_nodes.end() ? nullptr : &found->second;
 }
 
-MenuNode* MenuTree::nextInTreeOrder(const MenuNode& node) const {
+MenuNode* MenuTree::find(const std::string& key) {
+    const auto found = m_nodes.find(key);
+    return found == m_nodes.end() ? nullptr : &found->second;
+}
+
+const MenuNode* MenuTree::nextInTreeOrder(const MenuNode& node) const {
     if (node.hasChildren())
         return node.m_children.front();
     const MenuNode* ancestor = &node;
     while (ancestor) {
-        if (MenuNode* next = nextSibling(*ancestor))
+        if (const MenuNode* next = nextSibling(*ancestor))
             return next;
         ancestor = ancestor->m_parent;
     }
@@ -75,117 +97,74 @@ void MenuTree::reserve(std::size_t count) {
     m_nodes.reserve(2 * count);
 }
 
-MenuNode* MenuTree::append(MenuNode* parent, std::string key, std::string text, ItemProp item) {
-    Siblings& siblings = mutableChildrenOf(parent);
-    if (m_observer) {
-        if (m_nodes.contains(key))
-            return nullptr;
-        m_observer->aboutToInsert(parent, siblings.size());
-    }
+MenuNode* MenuTree::append(const MenuNode* parent, std::string key, std::string text,
+                           ItemProp item) {
     const auto [entry, isNew] =
         m_nodes.try_emplace(std::move(key), std::move(text), std::move(item));
     if (!isNew)
         return nullptr;
+    Siblings& siblings = siblingsUnder(parent);
     MenuNode* const node = &entry->second;
     node->m_key = &entry->first;
-    node->m_parent = parent;
+    node->m_parent = parent ? &edit(*parent) : nullptr;
     node->m_row = siblings.size();
     siblings.push_back(node);
-    if (m_observer)
-        m_observer->inserted();
     return node;
 }
 
-void MenuTree::remove(MenuNode& node) {
-    const std::size_t row = node.m_row;
-    Siblings& siblings = mutableChildrenOf(node.m_parent);
-    if (m_observer)
-        m_observer->aboutToRemove(node.m_parent, row);
-    siblings.erase(At(siblings, row));
+void MenuTree::insert(MenuBranch branch, const MenuNode* parent, std::size_t row) {
+    for (MenuBranch::Nodes::node_type& node : branch.m_nodes) {
+        [[maybe_unused]] const auto place = m_nodes.insert(std::move(node));
+        assert(place.inserted);
+    }
+    Siblings& siblings = siblingsUnder(parent);
+    assert(row <= siblings.size());
+    branch.m_top->m_parent = parent ? &edit(*parent) : nullptr;
+    siblings.insert(At(siblings, row), branch.m_top);
     renumber(siblings, row);
+}
 
-    Siblings subtree = {&node};
+MenuBranch MenuTree::take(const MenuNode& node) {
+    MenuBranch branch(edit(node));
+    Siblings& siblings = siblingsUnder(node.m_parent);
+    siblings.erase(At(siblings, node.m_row));
+    renumber(siblings, node.m_row);
+
+    Siblings subtree = {branch.m_top};
     for (std::size_t i = 0; i < subtree.size(); ++i) {
         const Siblings& children = subtree[i]->m_children;
         subtree.insert(subtree.end(), children.begin(), children.end());
     }
-    for (const MenuNode* doomed : subtree)
-        m_nodes.erase(m_nodes.find(doomed->key()));
-    if (m_observer)
-        m_observer->removed();
+    branch.m_nodes.reserve(subtree.size());
+    for (const MenuNode* taken : subtree)
+        branch.m_nodes.push_back(m_nodes.extract(taken->key()));
+    return branch;
 }
 
-void MenuTree::move(MenuNode& node, MenuNode* parent, std::size_t row) {
-    assert(!IsInSubtree(parent, node));
+void MenuTree::move(const MenuNode& node, const MenuNode* parent, std::size_t row) {
+    assert(!isInBranch(parent, node));
     const std::size_t oldRow = node.m_row;
     const bool isSameParent = parent == node.m_parent;
     if (isSameParent && (row == oldRow || row == oldRow + 1))
         return;
 
-    if (m_observer)
-        m_observer->aboutToMove(node, parent, row);
-    Siblings& oldSiblings = mutableChildrenOf(node.m_parent);
+    Siblings& oldSiblings = siblingsUnder(node.m_parent);
     oldSiblings.erase(At(oldSiblings, oldRow));
     renumber(oldSiblings, oldRow);
 
     if (isSameParent && row > oldRow)
         --row;
-    Siblings& newSiblings = mutableChildrenOf(parent);
+    Siblings& newSiblings = siblingsUnder(parent);
     assert(row <= newSiblings.size());
-    node.m_parent = parent;
-    newSiblings.insert(At(newSiblings, row), &node);
+    MenuNode& moved = edit(node);
+    moved.m_parent = parent ? &edit(*parent) : nullptr;
+    newSiblings.insert(At(newSiblings, row), &moved);
     renumber(newSiblings, row);
-    if (m_observer)
-        m_observer->moved();
 }
 
 void MenuTree::renumber(const std::vector<MenuNode*>& siblings, std::size_t firstRow) {
     for (std::size_t row = firstRow; row < siblings.size(); ++row)
         siblings[row]->m_row = row;
-}
-
-void MenuTree::setText(MenuNode& node, std::string_view text) {
-    if (node.text == text)
-        return;
-    node.text = text;
-    if (m_observer)
-        m_observer->textChanged(node);
-}
-
-void MenuTree::setExpanded(MenuNode& node, bool isExpanded) {
-    if (node.isExpanded == isExpanded)
-        return;
-    node.isExpanded = isExpanded;
-    if (m_observer)
-        m_observer->expansionChanged(node);
-}
-
-void MenuTree::makeVisible(const MenuNode& node) {
-    for (MenuNode* ancestor = node.m_parent; ancestor; ancestor = ancestor->m_parent)
-        setExpanded(*ancestor, true);
-}
-
-void MenuTree::clear() {
-    if (m_observer)
-        m_observer->aboutToReset();
-    m_topLevel.clear();
-    m_nodes.clear();
-    if (m_observer)
-        m_observer->wasReset();
-}
-
-void MenuTree::takeFrom(MenuTree& other) {
-    assert(&other != this);
-    for (const MenuTree* tree : {this, &other}) {
-        if (tree->m_observer)
-            tree->m_observer->aboutToReset();
-    }
-    m_topLevel = std::exchange(other.m_topLevel, {});
-    m_nodes = std::exchange(other.m_nodes, {});
-    for (const MenuTree* tree : {this, &other}) {
-        if (tree->m_observer)
-            tree->m_observer->wasReset();
-    }
 }
 
 }  // namespace zev

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -11,10 +11,8 @@
 
 namespace zev {
 
-class MenuTree;
-
 /// One node of the item tree. Owned by its `MenuTree`; the pointer stays valid, also when the node
-/// is moved, until the node is removed or the tree cleared.
+/// is moved, or taken out and put back, until the node is destroyed.
 class MenuNode {
   public:
     std::string text;         ///< label shown in the tree, UTF-8
@@ -24,8 +22,10 @@ class MenuNode {
     /// Unique in the tree; means nothing beyond that.
     const std::string& key() const { return *m_key; }
     /// Null for a top-level node.
-    MenuNode* parent() const { return m_parent; }
-    const std::vector<MenuNode*>& children() const { return m_children; }
+    const MenuNode* parent() const { return m_parent; }
+    MenuNode* parent() { return m_parent; }
+    std::span<const MenuNode* const> children() const { return m_children; }
+    std::span<MenuNode* const> children() { return m_children; }
     /// Position among its siblings, counted from 0. Constant time.
     std::size_t row() const { return m_row; }
     bool hasChildren() const { return !m_children.empty(); }
@@ -37,6 +37,7 @@ class MenuNode {
     MenuNode& operator=(const MenuNode&) = delete;
 
   private:
+    friend class MenuBranch;
     friend class MenuTree;
     const std::string* m_key = nullptr;  ///< lies in the tree's index
     MenuNode* m_parent = nullptr;
@@ -44,90 +45,94 @@ class MenuNode {
     std::size_t m_row = 0;
 };
 
-/// Is told what happens to a tree, before and after, in the terms an item view needs. `parent` is
-/// null for the top level; rows count from 0. An observer must not change the tree while it is
-/// told.
-class MenuTreeObserver {
+/// Keys that differ in their last digit, as those of neighbouring items do, get neighbouring places
+/// in the index. Spread all over it, each would be a cache miss of its own.
+struct MenuKeyHash {
+    std::size_t operator()(const std::string& key) const {
+        std::size_t hash = 0;
+        for (const char c : key)
+            hash = 31 * hash + static_cast<unsigned char>(c);
+        return hash;
+    }
+};
+
+/// A node with its subtree that stands in no tree: not yet, or not any more. Put into a tree, the
+/// nodes are the same as before, with address, key, item and expansion.
+class MenuBranch {
   public:
-    virtual ~MenuTreeObserver() = default;
-    virtual void aboutToInsert(const MenuNode* parent, std::size_t row) = 0;
-    virtual void inserted() = 0;
-    virtual void aboutToRemove(const MenuNode* parent, std::size_t row) = 0;
-    virtual void removed() = 0;
-    /// The node will stand at `row` of `parent` as counted before it is taken from its old place.
-    virtual void aboutToMove(const MenuNode& node, const MenuNode* parent, std::size_t row) = 0;
-    virtual void moved() = 0;
-    virtual void aboutToReset() = 0;
-    virtual void wasReset() = 0;
-    virtual void textChanged(const MenuNode& node) = 0;
-    virtual void expansionChanged(const MenuNode& node) = 0;
+    /// A new node without children.
+    MenuBranch(std::string key, std::string text, ItemProp item = {});
+
+    /// The node that the others lie under. Not to be looked at before the branch is in a tree.
+    const MenuNode* top() const { return m_top; }
+
+  private:
+    friend class MenuTree;
+    using Nodes = std::unordered_map<std::string, MenuNode, MenuKeyHash>;
+
+    explicit MenuBranch(MenuNode& top) : m_top(&top) {}
+
+    MenuNode* m_top;
+    std::vector<Nodes::node_type> m_nodes;
 };
 
 /// An ordered forest of menu items. Nodes are found by key, and by parent and row, without a scan.
 /// No operation recurses per level, so depth is limited by memory alone.
+///
+/// Who has the tree as const gets const nodes only; who may change it names a node to be changed by
+/// a const one, as a container's `erase` takes a const iterator.
 class MenuTree {
   public:
     MenuTree() = default;
-    MenuTree(const MenuTree&) = delete;
-    MenuTree& operator=(const MenuTree&) = delete;
+    /// The nodes themselves move; `other` is empty afterwards.
+    MenuTree(MenuTree&& other) noexcept;
+    MenuTree& operator=(MenuTree&& other) noexcept;
+    ~MenuTree() = default;
 
     bool isEmpty() const { return m_topLevel.empty(); }
     /// Number of nodes on all levels.
     std::size_t size() const { return m_nodes.size(); }
-    const std::vector<MenuNode*>& topLevel() const { return m_topLevel; }
+    std::span<const MenuNode* const> topLevel() const { return m_topLevel; }
     /// Children of `parent`, or the top level when `parent` is null.
-    const std::vector<MenuNode*>& childrenOf(const MenuNode* parent) const;
+    std::span<const MenuNode* const> childrenOf(const MenuNode* parent) const;
     /// The siblings of a node, itself included.
-    const std::vector<MenuNode*>& siblingsOf(const MenuNode& node) const;
-    MenuNode* firstNode() const { return m_topLevel.empty() ? nullptr : m_topLevel.front(); }
-    MenuNode* nextSibling(const MenuNode& node) const;
-    MenuNode* previousSibling(const MenuNode& node) const;
+    std::span<const MenuNode* const> siblingsOf(const MenuNode& node) const;
+    const MenuNode* firstNode() const { return isEmpty() ? nullptr : m_topLevel.front(); }
+    MenuNode* firstNode() { return isEmpty() ? nullptr : m_topLevel.front(); }
+    const MenuNode* nextSibling(const MenuNode& node) const;
+    const MenuNode* previousSibling(const MenuNode& node) const;
     /// Null when no node has that key.
-    MenuNode* find(const std::string& key) const;
+    const MenuNode* find(const std::string& key) const;
+    MenuNode* find(const std::string& key);
     /// The node that follows in depth-first order (a node before its children); null at the end.
-    MenuNode* nextInTreeOrder(const MenuNode& node) const;
+    const MenuNode* nextInTreeOrder(const MenuNode& node) const;
     /// True when all ancestors are expanded.
     bool isVisible(const MenuNode& node) const;
 
+    /// `node`, one of this tree, for changing its text, item or expansion.
+    MenuNode& edit(const MenuNode& node) { return const_cast<MenuNode&>(node); }
     /// Makes room for `count` nodes in all, so that adding them rearranges nothing.
     void reserve(std::size_t count);
     /// Adds a new node as the last child of `parent` (null: top level). Returns null and changes
     /// nothing when the key is taken.
-    MenuNode* append(MenuNode* parent, std::string key, std::string text, ItemProp item = {});
-    /// Removes a node with its subtree.
-    void remove(MenuNode& node);
+    MenuNode* append(const MenuNode* parent, std::string key, std::string text, ItemProp item = {});
+    /// Puts a branch, none of whose keys is taken, before `row` of `parent`.
+    void insert(MenuBranch branch, const MenuNode* parent, std::size_t row);
+    /// Takes a node out with its subtree; the branch can be dropped, or put back.
+    MenuBranch take(const MenuNode& node);
     /// Moves a node with its subtree before `row` of `parent`, `row` counted before the node is
     /// taken away; keys, items and expansion stay. `parent` must not lie in the subtree.
-    void move(MenuNode& node, MenuNode* parent, std::size_t row);
-    void setText(MenuNode& node, std::string_view text);
-    void setExpanded(MenuNode& node, bool isExpanded);
-    /// Expands all ancestors of `node`.
-    void makeVisible(const MenuNode& node);
-    void clear();
-    /// Takes over all nodes of `other`, which is empty afterwards; observers of both are told.
-    void takeFrom(MenuTree& other);
-
-    /// Not owned; must outlive its registration. At most one observer; null removes it.
-    void setObserver(MenuTreeObserver* observer) { m_observer = observer; }
+    void move(const MenuNode& node, const MenuNode* parent, std::size_t row);
 
   private:
-    /// Keys that differ in their last digit, as those of neighbouring items do, get neighbouring
-    /// places in the index. Spread all over it, each would be a cache miss of its own.
-    struct KeyHash {
-        std::size_t operator()(const std::string& key) const {
-            std::size_t hash = 0;
-            for (const char c : key)
-                hash = 31 * hash + static_cast<unsigned char>(c);
-            return hash;
-        }
-    };
-
-    std::vector<MenuNode*>& mutableChildrenOf(MenuNode* parent);
+    std::vector<MenuNode*>& siblingsUnder(const MenuNode* parent);
     static void renumber(const std::vector<MenuNode*>& siblings, std::size_t firstRow);
 
-    std::unordered_map<std::string, MenuNode, KeyHash> m_nodes;  ///< by key; they never move
+    MenuBranch::Nodes m_nodes;  ///< by key; they never move
     std::vector<MenuNode*> m_topLevel;
-    MenuTreeObserver* m_observer = nullptr;
 };
+
+/// True when `node` is `top` or lies under it; not for null.
+bool isInBranch(const MenuNode* node, const MenuNode& top);
 
 }  // namespace zev

@@ -16,11 +16,11 @@ namespace {
 
 using Reason = LineWarning::Reason;
 
-/// Applies the lines of one script to a new document, one after the other.
+/// Applies the lines of one script to a new menu, one after the other.
 class MenuScriptReader {
   public:
-    MenuScriptReader(const ScriptDialect& dialect, MenuDocument& document)
-        : m_dialect(dialect), m_document(document) {}
+    MenuScriptReader(const ScriptDialect& dialect, MenuContent& content)
+        : m_dialect(dialect), m_content(content) {}
 
     /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
     void readLine(std::string_view line, std::size_t number) {
@@ -31,7 +31,7 @@ class MenuScriptReader {
         bool isUnderstood = false;
         if (matchesPattern(line, m_dialect.defaultLine))
             isUnderstood =
-                SetProperty(m_document.DefaultProp, GetPropName(line), GetPropValue(line));
+                SetProperty(m_content.DefaultProp, GetPropName(line), GetPropValue(line));
         for (const CreationLine& creation : m_dialect.creationLines) {
             if (matchesPattern(line, creation.pattern)) {
                 openMenu(creation, line);
@@ -56,13 +56,13 @@ class MenuScriptReader {
     void openMenu(const CreationLine& creation, std::string_view line) {
         m_menuId = creation.idOf ? creation.idOf(line) : std::string(kTopLevelMenuId);
         m_itemNumber = 0;
-        m_menuNode = isTopLevel() ? nullptr : m_document.tree.find(LoadedMenuKey(m_menuId));
+        m_menuNode = isTopLevel() ? nullptr : m_content.tree.find(LoadedMenuKey(m_menuId));
         if (!creation.readLook)
             return;
         // A submenu that no item opens is no warning by itself: what is put into it is. That holds
         // for the id "0" too, though what follows goes to the top-level menu.
         if (!creation.idOf)
-            creation.readLook(line, m_document.RootMenuProp);
+            creation.readLook(line, m_content.RootMenuProp);
         else if (m_menuNode)
             creation.readLook(line, m_menuNode->item.MenuProperty.edit());
     }
@@ -70,7 +70,7 @@ class MenuScriptReader {
     bool readProperty(std::string_view line) {
         const std::string name = GetPropName(line);
         if (isTopLevel())
-            return SetProperty(m_document.RootMenuProp, name, GetPropValue(line));
+            return SetProperty(m_content.RootMenuProp, name, GetPropValue(line));
         if (m_menuNode)
             return SetProperty(m_menuNode->item.MenuProperty.edit(), name, GetPropValue(line));
         warn(Reason::UnknownMenu);
@@ -84,7 +84,7 @@ class MenuScriptReader {
         item.MenuProperty = NewItemMenuProp();
         const bool isWhole = load(item, line);
         ++m_itemNumber;
-        const bool isFull = m_document.ItemCounter == kMaxItemCounter;
+        const bool isFull = m_content.ItemCounter == kMaxItemCounter;
         bool isAdded = false;
         if (!isTopLevel() && !m_menuNode)
             warn(Reason::UnknownMenu);
@@ -93,13 +93,13 @@ class MenuScriptReader {
         else
             isAdded = addItem(std::move(item));
         if (isAdded || (m_dialect.countsRefusedItems && !isFull))
-            ++m_document.ItemCounter;
+            ++m_content.ItemCounter;
         return isWhole;
     }
 
     bool addItem(ItemProp&& item) {
         std::string text = item.IsRollover ? item.ImageOut : item.Caption;
-        if (m_document.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
+        if (m_content.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
                                    std::move(text), std::move(item)))
             return true;
         warn(Reason::DuplicateKey);
@@ -109,7 +109,7 @@ class MenuScriptReader {
     void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }
 
     const ScriptDialect& m_dialect;
-    MenuDocument& m_document;
+    MenuContent& m_content;
     std::vector<LineWarning> m_warnings;
     std::size_t m_lineNumber = 0;
     std::string m_menuId;            ///< menu of the last creation line; empty before the first
@@ -120,8 +120,8 @@ class MenuScriptReader {
 }  // namespace
 
 std::vector<LineWarning> readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                                        MenuDocument& document) {
-    MenuScriptReader reader(dialect, document);
+                                        MenuContent& content) {
+    MenuScriptReader reader(dialect, content);
     std::string_view line;
     while (lines.next(line))
         reader.readLine(line, lines.number());

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 #include "script/definition_lines.h"
 #include "script/line_warning.h"
 
@@ -33,10 +33,9 @@ struct ScriptDialect {
     bool tellsOfLostLines = false;    ///< a line that is not understood is a warning
 };
 
-/// Replays a menu script into `document`, which must be a new document (`NewDocument`); returns the
-/// warnings in the order of the lines. `CurNode`, `selectedNode` and `bModified` are left to the
-/// caller.
+/// Replays a menu script into `content`, which must be that of a new menu; returns the warnings in
+/// the order of the lines.
 std::vector<LineWarning> readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                                        MenuDocument& document);
+                                        MenuContent& content);
 
 }  // namespace zev

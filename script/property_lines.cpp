@@ -5,7 +5,7 @@
 #include <iterator>
 #include <variant>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 #include "model/menu_properties.h"
 #include "text/ascii.h"
 #include "text/pattern.h"

@@ -105,19 +105,40 @@ std::string RebaseURL(std::string_view oldFolder, std::string_view newFolder,
     return ToRelativeURL(newFolder, ToAbsolutePath(oldFolder, url));
 }
 
-void RebaseAllURLs(MenuDocument& document, std::string_view oldFolder, std::string_view newFolder) {
+namespace {
+
+void RebaseItem(ItemProp& item, std::string_view oldFolder, std::string_view newFolder) {
+    for (std::string* url : {&item.URL, &item.ImageOut, &item.ImageOver})
+        *url = RebaseURL(oldFolder, newFolder, *url);
+    if (!item.MenuProperty->BgImg.empty()) {
+        std::string& background = item.MenuProperty.edit().BgImg;
+        background = RebaseURL(oldFolder, newFolder, background);
+    }
+}
+
+}  // namespace
+
+void RebaseAllURLs(MenuContent& content, std::string_view oldFolder, std::string_view newFolder) {
     if (oldFolder == newFolder)
         return;
-    for (MenuNode* node = document.tree.firstNode(); node;
-         node = document.tree.nextInTreeOrder(*node)) {
-        ItemProp& item = node->item;
-        for (std::string* url : {&item.URL, &item.ImageOut, &item.ImageOver})
-            *url = RebaseURL(oldFolder, newFolder, *url);
-        if (!item.MenuProperty->BgImg.empty()) {
-            std::string& background = item.MenuProperty.edit().BgImg;
-            background = RebaseURL(oldFolder, newFolder, background);
-        }
+    MenuTree& tree = content.tree;
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node))
+        RebaseItem(tree.edit(*node).item, oldFolder, newFolder);
+}
+
+Changes RebaseAllURLs(MenuDocument& document, std::string_view oldFolder,
+                      std::string_view newFolder) {
+    Changes changes;
+    if (oldFolder == newFolder)
+        return changes;
+    const MenuTree& tree = document.tree();
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+        SetItem change{node, node->item};
+        RebaseItem(change.item, oldFolder, newFolder);
+        if (change.item != node->item)
+            changes.push_back(std::move(change));
     }
+    return document.apply(std::move(changes));
 }
 
 }  // namespace zev

@@ -30,6 +30,10 @@ std::string RebaseURL(std::string_view oldFolder, std::string_view newFolder, st
 
 /// Rebases link, images and submenu background of every item. The top menu's and the defaults'
 /// background images and all targets stay as they are.
-void RebaseAllURLs(MenuDocument& document, std::string_view oldFolder, std::string_view newFolder);
+void RebaseAllURLs(MenuContent& content, std::string_view oldFolder, std::string_view newFolder);
+
+/// The same in the menu being edited; returns the changes that take it back.
+Changes RebaseAllURLs(MenuDocument& document, std::string_view oldFolder,
+                      std::string_view newFolder);
 
 }  // namespace zev

@@ -21,22 +21,19 @@ constexpr ScriptDialect kDefinition = {.start = "zev",
 
 }  // namespace
 
-ReadResult ReadScript(std::string_view bytes, MenuDocument& document) {
+ReadResult ReadScript(std::string_view bytes, MenuContent& content) {
     DefinitionLines lines(bytes);
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 32;
-    document.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
+    content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
     ReadResult result;
-    result.warnings = readMenuScript(lines, kDefinition, document);
+    result.warnings = readMenuScript(lines, kDefinition, content);
     result.errorCount = static_cast<std::size_t>(std::count_if(
         result.warnings.begin(), result.warnings.end(), [](const LineWarning& warning) {
             return warning.reason != LineWarning::Reason::NotUnderstood;
         }));
 
-    document.CurNode = document.tree.firstNode();
-    document.selectedNode = document.CurNode;
-    document.bModified = false;
     return result;
 }
 

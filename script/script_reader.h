@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 #include "script/line_warning.h"
 
 namespace zev {
@@ -23,12 +23,11 @@ struct ReadResult {
     std::vector<LineWarning> warnings;
 };
 
-/// Replays a definition file into `document`, which must be a new document (`NewDocument`).
+/// Replays a definition file into `content`, which must be that of a new menu.
 ///
 /// `bytes` is the file's whole content: UTF-8 with or without a byte order mark, else Windows-1252.
-/// Lines end at LF; a CR before it is dropped. Unrecognised lines are skipped. Afterwards the first
-/// node is current and selected and `bModified` is false.
-ReadResult ReadScript(std::string_view bytes, MenuDocument& document);
+/// Lines end at LF; a CR before it is dropped. Unrecognised lines are skipped.
+ReadResult ReadScript(std::string_view bytes, MenuContent& content);
 
 /// True when `bytes` cannot be a text file: it holds a NUL byte.
 bool IsBinary(std::string_view bytes);

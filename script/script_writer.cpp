@@ -1,6 +1,6 @@
 #include "script/script_writer.h"
 
-#include <vector>
+#include <span>
 
 #include "script/item_lines.h"
 #include "script/property_lines.h"
@@ -16,7 +16,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 /// Writes one menu: the creation line, its properties and its items, the latter two each closed by
 /// an empty line.
 void WriteMenu(std::string& script, std::string_view id, const std::string& properties,
-               const std::vector<MenuNode*>& items) {
+               std::span<const MenuNode* const> items) {
     script += "zevmenu = new ZEVMenu('";
     script += id;
     script += "');";
@@ -32,9 +32,9 @@ void WriteMenu(std::string& script, std::string_view id, const std::string& prop
 
 }  // namespace
 
-std::string GenerateScript(const MenuDocument& document) {
-    const MenuProp& defaults = document.DefaultProp;
-    const MenuTree& tree = document.tree;
+std::string GenerateScript(const MenuContent& content) {
+    const MenuProp& defaults = content.DefaultProp;
+    const MenuTree& tree = content.tree;
     // About the length of an item's line each; room that is not used costs nothing.
     constexpr std::size_t kUsualLineBytes = 96;
     std::string script;
@@ -44,7 +44,7 @@ std::string GenerateScript(const MenuDocument& document) {
     if (tree.isEmpty())
         return script;
 
-    WriteMenu(script, "0", GetText(document.RootMenuProp, defaults), tree.topLevel());
+    WriteMenu(script, "0", GetText(content.RootMenuProp, defaults), tree.topLevel());
     SubmenuWalk walk(tree);
     while (const MenuNode* node = walk.next())
         WriteMenu(script, walk.id(), GetText(*node->item.MenuProperty, defaults), node->children());

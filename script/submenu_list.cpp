@@ -4,9 +4,9 @@
 
 namespace zev {
 
-std::vector<std::string> ListSubmenus(const MenuDocument& document) {
+std::vector<std::string> ListSubmenus(const MenuContent& content) {
     std::vector<std::string> entries;
-    SubmenuWalk walk(document.tree);
+    SubmenuWalk walk(content.tree);
     while (const MenuNode* node = walk.next())
         entries.push_back(node->text + " (" + walk.id() + ")");
     return entries;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace zev {
 /// example "3i2". The tree must not change during the walk.
 class SubmenuWalk {
   public:
-    explicit SubmenuWalk(const MenuTree& tree) { m_levels.push_back({&tree.topLevel(), 0, 0}); }
+    explicit SubmenuWalk(const MenuTree& tree) { m_levels.push_back({tree.topLevel(), 0, 0}); }
 
     /// The next item that has children; null at the end.
     const MenuNode* next();
@@ -23,7 +24,7 @@ class SubmenuWalk {
 
   private:
     struct Level {
-        const std::vector<MenuNode*>* items;
+        std::span<const MenuNode* const> items;
         std::size_t nextRow;
         std::size_t idLength;  ///< length of the id of the menu that holds `items`
     };

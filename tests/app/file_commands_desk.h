@@ -12,6 +12,7 @@
 #include "model/tree_editing.h"
 #include "platform/fake/fake_file_system.h"
 #include "platform/fake/fake_services.h"
+#include "tests/support/document_steps.h"
 
 namespace zev {
 
@@ -28,7 +29,7 @@ class PlainView : public EditorView {
     std::string panelURL;
     std::string script;
     MenuProp shownDefaults;  ///< what the Default Menu Properties dialog was filled with
-    std::string shownFile;  ///< the file named in the window's caption
+    std::string shownFile;   ///< the file named in the window's caption
     bool isSaveEnabled = false;
     std::vector<std::string> calls;
 
@@ -38,20 +39,21 @@ class PlainView : public EditorView {
     }
     void StoreItem() override {
         calls.push_back("StoreItem");
-        if (m_document.CurNode != nullptr) {
-            m_document.CurNode->item.Caption = panelCaption;
-            m_document.CurNode->item.URL = panelURL;
+        if (m_document.CurNode() != nullptr) {
+            auto item = test::editItem(m_document, *m_document.CurNode());
+            item->Caption = panelCaption;
+            item->URL = panelURL;
         }
     }
     void ShowItem() override {
-        const MenuNode* node = m_document.CurNode;
+        const MenuNode* node = m_document.CurNode();
         panelCaption = node != nullptr ? node->item.Caption : "";
         panelURL = node != nullptr ? node->item.URL : "";
     }
     void ShowScript(const std::string& text) override { script = text; }
-    void ShowCaption() override { shownFile = m_document.SaveFile; }
-    void LoadDefaultDialog() override { shownDefaults = m_document.DefaultProp; }
-    void Button_Update() override { isSaveEnabled = m_document.bModified; }
+    void ShowCaption() override { shownFile = m_document.SaveFile(); }
+    void LoadDefaultDialog() override { shownDefaults = m_document.DefaultProp(); }
+    void Button_Update() override { isSaveEnabled = m_document.bModified(); }
 
   private:
     MenuDocument& m_document;
@@ -90,10 +92,10 @@ struct Desk {
     /// True when the document is as at start-up.
     bool isNewDocument() const {
         const MenuDocument untouched("/program");
-        return document.tree.isEmpty() && document.DefaultProp == untouched.DefaultProp &&
-               document.RootMenuProp == untouched.RootMenuProp && document.SaveFile.empty() &&
-               document.SavePath == "/program" && document.ItemCounter == 0 &&
-               document.CurNode == nullptr && !document.bModified;
+        return document.tree().isEmpty() && document.DefaultProp() == untouched.DefaultProp() &&
+               document.RootMenuProp() == untouched.RootMenuProp() && document.SaveFile().empty() &&
+               document.SavePath() == "/program" && document.ItemCounter() == 0 &&
+               document.CurNode() == nullptr && !document.bModified();
     }
     bool isOnDisk(const std::string& path) const { return disk.allFiles().contains(path); }
     std::string bytesOf(const std::string& path) const {

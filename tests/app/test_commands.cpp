@@ -9,6 +9,7 @@
 
 #include "app/commands.h"
 #include "model/tree_editing.h"
+#include "tests/support/document_steps.h"
 
 using namespace zev;
 
@@ -40,13 +41,12 @@ struct CommandDesk {
 
 /// a, b (with children b1, b2, b3), c; current is the node named.
 void fill(MenuDocument& document, const std::string& current) {
-    MenuTree& tree = document.tree;
-    tree.append(nullptr, "a", "a");
-    MenuNode* b = tree.append(nullptr, "b", "b");
-    tree.append(nullptr, "c", "c");
+    test::appendNode(document, nullptr, "a", "a");
+    const MenuNode* b = test::appendNode(document, nullptr, "b", "b");
+    test::appendNode(document, nullptr, "c", "c");
     for (const char* key : {"b1", "b2", "b3"})
-        tree.append(b, key, key);
-    document.CurNode = document.selectedNode = tree.find(current);
+        test::appendNode(document, b, key, key);
+    document.select(document.tree().find(current));
 }
 
 }  // namespace
@@ -69,8 +69,8 @@ class test_commands : public QObject {
         QFETCH(bool, isModified);
         QFETCH(QString, saveFile);
         MenuDocument document("/program");
-        document.SaveFile = saveFile.toStdString();
-        document.bModified = isModified;
+        document.setFile(saveFile.toStdString(), "/site");
+        document.apply(SetModified{isModified});
         CommandDesk desk;
         desk.commands.Button_Update(document);
         QCOMPARE(desk.window.findChild<QAction*>("mnuFileSave")->isEnabled(), isModified);
@@ -98,7 +98,7 @@ class test_commands : public QObject {
         QFETCH(QString, disabled);
         MenuDocument document("/program");
         fill(document, current.toStdString());
-        document.bModified = true;
+        document.markModified();
         CommandDesk desk;
         desk.commands.Button_Update(document);
         QCOMPARE(desk.disabledOnes(), disabled);
@@ -137,7 +137,7 @@ class test_commands : public QObject {
             fill(document, before.toStdString());
             desk.commands.Button_Update(document);
         }
-        document.CurNode = nullptr;
+        document.select(nullptr);
         desk.commands.Button_Update(document);
         QCOMPARE(desk.disabledOnes(), disabled);
     }
@@ -151,7 +151,7 @@ class test_commands : public QObject {
         AddMenuItem(document);
         desk.commands.Button_Update(document);
         QVERIFY(desk.button(8).isEnabled());
-        document.CurNode = nullptr;
+        document.select(nullptr);
         desk.commands.Button_Update(document);
         QVERIFY(desk.button(8).isEnabled());
     }

@@ -115,7 +115,7 @@ void test_file_commands::newAsksAboutChanges() {
     desk.commands.mnuFileNew_Click();
     QTEST(desk.isNewDocument(), "isReset");
     QTEST(desk.isOnDisk("/site/menu.js"), "isSaved");
-    QCOMPARE(desk.document.bModified, Answer(answer) == Answer::Cancel);
+    QCOMPARE(desk.document.bModified(), Answer(answer) == Answer::Cancel);
 }
 
 void test_file_commands::exitWithoutChangesEndsAtOnce() {
@@ -147,7 +147,7 @@ void test_file_commands::exitAsksAboutChanges() {
     }
     QTEST(desk.commands.mnuFileExit_Click(), "isEnding");
     QCOMPARE(desk.isOnDisk("/site/menu.js"), !chosenFile.isEmpty());
-    QCOMPARE(desk.document.tree.size(), std::size_t{1});  // the document itself is left alone
+    QCOMPARE(desk.document.tree().size(), std::size_t{1});  // the document itself is left alone
 }
 
 void test_file_commands::openAsksForAJavaScriptFile() {
@@ -171,18 +171,18 @@ void test_file_commands::openReplacesTheDocument() {
     desk.addItem("Old");
     desk.dialogs.expectOpenFile("/site/bar.js");
     desk.commands.mnuFileOpen_Click();
-    QCOMPARE(desk.document.SaveFile, std::string("/site/bar.js"));
-    QCOMPARE(desk.document.SavePath, std::string("/site"));
-    QCOMPARE(desk.document.tree.size(), std::size_t{2});
-    QCOMPARE(desk.document.CurNode, desk.document.tree.firstNode());
-    QCOMPARE(desk.document.selectedNode, desk.document.tree.firstNode());
-    QCOMPARE(desk.document.DefaultProp.NBgColor, std::string("#112233"));
-    QCOMPARE(desk.document.RootMenuProp.Columns, std::string("3"));
+    QCOMPARE(desk.document.SaveFile(), std::string("/site/bar.js"));
+    QCOMPARE(desk.document.SavePath(), std::string("/site"));
+    QCOMPARE(desk.document.tree().size(), std::size_t{2});
+    QCOMPARE(desk.document.CurNode(), desk.document.tree().firstNode());
+    QCOMPARE(desk.document.selectedNode(), desk.document.tree().firstNode());
+    QCOMPARE(desk.document.DefaultProp().NBgColor, std::string("#112233"));
+    QCOMPARE(desk.document.RootMenuProp().Columns, std::string("3"));
     QCOMPARE(desk.view.shownFile, std::string("/site/bar.js"));
     QCOMPARE(desk.view.panelCaption, std::string("One"));
     QCOMPARE(desk.view.panelURL, std::string("one.html"));
-    QCOMPARE(desk.view.script, GenerateScript(desk.document));
-    QVERIFY(!desk.document.bModified);
+    QCOMPARE(desk.view.script, GenerateScript(desk.document.content()));
+    QVERIFY(!desk.document.bModified());
     QVERIFY(!desk.view.isSaveEnabled);
 }
 
@@ -193,7 +193,7 @@ void test_file_commands::openAsksNothingAboutChanges() {
     desk.dialogs.expectOpenFile("/site/empty.js");
     desk.commands.mnuFileOpen_Click();
     QVERIFY(desk.messages.recorded().empty());
-    QVERIFY(desk.document.tree.isEmpty());
+    QVERIFY(desk.document.tree().isEmpty());
 }
 
 void test_file_commands::cancelledOpenClearsTheChangesMark() {
@@ -201,9 +201,9 @@ void test_file_commands::cancelledOpenClearsTheChangesMark() {
     desk.addItem("Home");
     desk.dialogs.expectOpenFile("");
     desk.commands.mnuFileOpen_Click();
-    QVERIFY(!desk.document.bModified);
+    QVERIFY(!desk.document.bModified());
     QVERIFY(!desk.view.isSaveEnabled);
-    QCOMPARE(desk.document.tree.size(), std::size_t{1});
+    QCOMPARE(desk.document.tree().size(), std::size_t{1});
     QCOMPARE(desk.view.panelCaption, std::string("Home"));
     QVERIFY(desk.commands.mnuFileExit_Click());  // and nothing is asked
 }
@@ -218,8 +218,8 @@ void test_file_commands::openCountsLinesThatCouldNotBeApplied() {
     desk.messages.expect("2 errors encountered during parsing");
     desk.commands.mnuFileOpen_Click();
     QCOMPARE(desk.messages.recorded().front().buttons, MessageRequest::Buttons::Ok);
-    QCOMPARE(desk.document.tree.size(), std::size_t{1});
-    QVERIFY(!desk.document.bModified);
+    QCOMPARE(desk.document.tree().size(), std::size_t{1});
+    QVERIFY(!desk.document.bModified());
 }
 
 void test_file_commands::resetAndOpenShowTheDefaultProperties() {
@@ -242,7 +242,7 @@ void test_file_commands::openGivesBackWhatWasSaved() {
     desk.commands.Reset();
     desk.dialogs.expectOpenFile("/site/menu.js");
     desk.commands.mnuFileOpen_Click();
-    QCOMPARE(desk.document.tree.size(), std::size_t{2});
+    QCOMPARE(desk.document.tree().size(), std::size_t{2});
     QCOMPARE(desk.view.panelCaption, std::string("It\\'s \xc3\xa9"));
     desk.commands.mnuFileSave_Click();
     QCOMPARE(desk.bytesOf("/site/menu.js"), written);
@@ -254,7 +254,7 @@ void test_file_commands::saveWritesToTheFileOfTheDocument() {
     desk.saveAs("/site/menu.js");
     desk.addItem("Added");
     desk.commands.mnuFileSave_Click();
-    QVERIFY(!desk.document.bModified);
+    QVERIFY(!desk.document.bModified());
     QVERIFY(desk.bytesOf("/site/menu.js").find("'Added'") != std::string::npos);
     QCOMPARE(desk.dialogs.recorded().size(), std::size_t{1});  // only that of Save As
 }
@@ -275,9 +275,9 @@ void test_file_commands::saveOfAMenuNeverSavedAsksForAName() {
     desk.dialogs.expectSaveFile("/site/menu.js");
     desk.messages.expect(Desk::recalculate, Answer::Yes);
     desk.commands.mnuFileSave_Click();
-    QCOMPARE(desk.document.SaveFile, std::string("/site/menu.js"));
+    QCOMPARE(desk.document.SaveFile(), std::string("/site/menu.js"));
     QVERIFY(desk.isOnDisk("/site/menu.js"));
-    QVERIFY(!desk.document.bModified);
+    QVERIFY(!desk.document.bModified());
 }
 
 void test_file_commands::saveAsPresetsTheCurrentFile() {
@@ -300,9 +300,9 @@ void test_file_commands::saveAsCancelledChangesNothing() {
     const auto before = desk.disk.allFiles();
     desk.dialogs.expectSaveFile("");
     desk.commands.mnuFileSaveAs_Click();
-    QVERIFY(desk.document.bModified);
-    QCOMPARE(desk.document.SaveFile, std::string());
-    QCOMPARE(desk.document.SavePath, std::string("/program"));
+    QVERIFY(desk.document.bModified());
+    QCOMPARE(desk.document.SaveFile(), std::string());
+    QCOMPARE(desk.document.SavePath(), std::string("/program"));
     QVERIFY(desk.disk.allFiles() == before);
     QVERIFY(desk.messages.recorded().empty());
 }
@@ -316,7 +316,7 @@ void test_file_commands::saveAsPutsTheRunTimeFilesBesideTheDefinition() {
     }
     QCOMPARE(desk.bytesOf("/site/orlet_temp.html"), std::string("content of zevmenu.html"));
     QVERIFY(!desk.isOnDisk("/site/zevmenu.html"));
-    QCOMPARE(desk.document.SavePath, std::string("/site"));
+    QCOMPARE(desk.document.SavePath(), std::string("/site"));
     QCOMPARE(desk.view.shownFile, std::string("/site/menu.js"));
     QVERIFY(!desk.view.isSaveEnabled);
 }
@@ -346,9 +346,9 @@ void test_file_commands::saveAsRecalculatesWhatWasTypedAMomentAgo() {
     desk.dialogs.expectSaveFile("/site/sub/menu.js");
     desk.messages.expect(Desk::recalculate, Answer::Yes);
     desk.commands.mnuFileSaveAs_Click();
-    QCOMPARE(desk.document.tree.firstNode()->item.URL, std::string("../first.html"));
-    QCOMPARE(desk.document.CurNode->item.URL, std::string("../img/second.html"));
-    QCOMPARE(desk.document.CurNode->item.Caption, std::string("Second"));
+    QCOMPARE(desk.document.tree().firstNode()->item.URL, std::string("../first.html"));
+    QCOMPARE(desk.document.CurNode()->item.URL, std::string("../img/second.html"));
+    QCOMPARE(desk.document.CurNode()->item.Caption, std::string("Second"));
     QCOMPARE(desk.view.panelURL, std::string("../img/second.html"));
     const std::string written = desk.bytesOf("/site/sub/menu.js");
     QVERIFY(written.find("'../first.html'") != std::string::npos);
@@ -361,27 +361,27 @@ void test_file_commands::saveAsWithoutRecalculationKeepsURLs() {
     desk.addItem("First", "first.html");
     desk.saveAs("/site/menu.js");
     desk.saveAs("/site/sub/menu.js");
-    QCOMPARE(desk.document.CurNode->item.URL, std::string("first.html"));
+    QCOMPARE(desk.document.CurNode()->item.URL, std::string("first.html"));
     QVERIFY(desk.bytesOf("/site/sub/menu.js").find("'first.html'") != std::string::npos);
 }
 
 void test_file_commands::saveAsOfAnEmptyMenuRecalculatesNothing() {
     Desk desk;
-    desk.document.RootMenuProp.BgImg = "menu.gif";
-    desk.document.DefaultProp.BgImg = "all.gif";
-    desk.document.bModified = true;
-    const MenuProp root = desk.document.RootMenuProp;
-    const MenuProp defaults = desk.document.DefaultProp;
+    test::editMenu(desk.document, test::kTopMenu)->BgImg = "menu.gif";
+    test::editMenu(desk.document, test::kDefaults)->BgImg = "all.gif";
+    desk.document.markModified();
+    const MenuProp root = desk.document.RootMenuProp();
+    const MenuProp defaults = desk.document.DefaultProp();
     desk.dialogs.expectSaveFile("/site/menu.js");
     desk.messages.expect(Desk::recalculate, Answer::Yes);
     desk.commands.mnuFileSaveAs_Click();
-    QVERIFY(desk.document.RootMenuProp == root);
-    QVERIFY(desk.document.DefaultProp == defaults);
-    QVERIFY(desk.document.tree.isEmpty());
-    QVERIFY(desk.document.CurNode == nullptr);
-    QCOMPARE(desk.document.SaveFile, std::string("/site/menu.js"));
-    QVERIFY(!desk.document.bModified);
-    QCOMPARE(desk.bytesOf("/site/menu.js"), GenerateScript(desk.document) + "\r\n");
+    QVERIFY(desk.document.RootMenuProp() == root);
+    QVERIFY(desk.document.DefaultProp() == defaults);
+    QVERIFY(desk.document.tree().isEmpty());
+    QVERIFY(desk.document.CurNode() == nullptr);
+    QCOMPARE(desk.document.SaveFile(), std::string("/site/menu.js"));
+    QVERIFY(!desk.document.bModified());
+    QCOMPARE(desk.bytesOf("/site/menu.js"), GenerateScript(desk.document.content()) + "\r\n");
 }
 
 void test_file_commands::savingIntoTheProgramsFolderCopiesNoLibraryFile() {
@@ -406,7 +406,7 @@ void test_file_commands::aMissingLibraryFileIsReportedAtEachSave() {
     desk.messages.expect(problem);
     desk.commands.mnuFileSaveAs_Click();
     QVERIFY(desk.isOnDisk("/site/menu.js"));
-    QVERIFY(!desk.document.bModified);
+    QVERIFY(!desk.document.bModified());
     desk.messages.expect(problem);
     desk.commands.mnuFileSave_Click();
     const MessageRequest& notice = desk.messages.recorded().back();
@@ -428,7 +428,7 @@ void test_file_commands::theDefinitionIsWhatTheWriterMakes() {
     Desk desk;
     desk.addItem(caption.toStdString());
     desk.saveAs("/site/menu.js");
-    const std::string script = GenerateScript(desk.document);
+    const std::string script = GenerateScript(desk.document.content());
     QCOMPARE(desk.view.script, script);
     QCOMPARE(desk.bytesOf("/site/menu.js"),
              (hasByteOrderMark ? "\xEF\xBB\xBF" : "") + script + "\r\n");
@@ -439,7 +439,7 @@ void test_file_commands::anEmptyPathMeansThePreviewScript() {
     desk.addItem("Home");
     QVERIFY(desk.commands.SaveDefinition(""));
     QCOMPARE(desk.bytesOf("/program/orlet_temp.js"),
-             DefinitionFileBytes(GenerateScript(desk.document)));
+             DefinitionFileBytes(GenerateScript(desk.document.content())));
 }
 
 void test_file_commands::previewOfAMenuNeverSavedUsesTheProgramsFolder() {
@@ -449,7 +449,7 @@ void test_file_commands::previewOfAMenuNeverSavedUsesTheProgramsFolder() {
     desk.commands.ShowPreview();
     QVERIFY(desk.messages.recorded().empty());
     QCOMPARE(desk.bytesOf("/program/orlet_temp.js"),
-             DefinitionFileBytes(GenerateScript(desk.document)));
+             DefinitionFileBytes(GenerateScript(desk.document.content())));
     QCOMPARE(desk.bytesOf("/program/orlet_temp.html"), std::string("content of zevmenu.html"));
     QCOMPARE(desk.disk.allFiles().size(), filesBefore + 2);
     QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/program/orlet_temp.html"});
@@ -481,7 +481,7 @@ void test_file_commands::previewCleansAndStoresThePanelFirst() {
     desk.commands.ShowPreview();
     QCOMPARE(desk.view.calls.at(0), std::string("validateFields"));
     QCOMPARE(desk.view.calls.at(1), std::string("StoreItem"));
-    QCOMPARE(desk.document.CurNode->item.Caption, std::string("It\\'s"));
+    QCOMPARE(desk.document.CurNode()->item.Caption, std::string("It\\'s"));
     QVERIFY(desk.bytesOf("/program/orlet_temp.js").find("It\\'s") != std::string::npos);
 }
 
@@ -490,10 +490,10 @@ void test_file_commands::previewChangesNeitherFileNorChangesMark() {
         Desk desk;
         desk.addItem("Home");
         desk.saveAs("/site/menu.js");
-        desk.document.bModified = isModified;
+        desk.document.apply(SetModified{isModified});
         desk.commands.ShowPreview();
-        QCOMPARE(desk.document.bModified, isModified);
-        QCOMPARE(desk.document.SaveFile, std::string("/site/menu.js"));
+        QCOMPARE(desk.document.bModified(), isModified);
+        QCOMPARE(desk.document.SaveFile(), std::string("/site/menu.js"));
         QCOMPARE(desk.view.shownFile, std::string("/site/menu.js"));
     }
 }

@@ -19,10 +19,10 @@ const FileError kDiskFull{FileError::Code::NoSpace, "", "No space left on device
 /// Everything about the document and the window that a failure must leave alone.
 struct Snapshot {
     explicit Snapshot(const Desk& desk)
-        : SaveFile(desk.document.SaveFile),
-          SavePath(desk.document.SavePath),
-          bModified(desk.document.bModified),
-          script(GenerateScript(desk.document)),
+        : SaveFile(desk.document.SaveFile()),
+          SavePath(desk.document.SavePath()),
+          bModified(desk.document.bModified()),
+          script(GenerateScript(desk.document.content())),
           panelCaption(desk.view.panelCaption),
           panelURL(desk.view.panelURL),
           shownFile(desk.view.shownFile),
@@ -132,11 +132,11 @@ void test_file_failures::aFailedOpenKeepsTheChangesMark() {
     for (const bool isModified : {false, true}) {
         Desk desk;
         desk.addItem("Home");
-        desk.document.bModified = isModified;
+        desk.document.apply(SetModified{isModified});
         desk.dialogs.expectOpenFile("/site/none.js");
         desk.messages.expect("Could not open /site/none.js: No such file or directory");
         desk.commands.mnuFileOpen_Click();
-        QCOMPARE(desk.document.bModified, isModified);
+        QCOMPARE(desk.document.bModified(), isModified);
     }
 }
 
@@ -166,7 +166,7 @@ void test_file_failures::eachFailureOfASave() {
         QVERIFY(Snapshot(desk) == before);
         desk.commands.mnuFileSave_Click();  // the disk works again
     }
-    QVERIFY(!desk.document.bModified);
+    QVERIFY(!desk.document.bModified());
     QCOMPARE(desk.bytesOf("/site/menu.js"), DefinitionFileBytes(before.script));
 }
 
@@ -190,8 +190,8 @@ void test_file_failures::eachFailureOfASaveAs() {
         QVERIFY(Snapshot(desk) == before);
         QCOMPARE(desk.view.script, before.script);
     } else {
-        QCOMPARE(desk.document.SaveFile, std::string("/site/sub/menu.js"));
-        QVERIFY(!desk.document.bModified);
+        QCOMPARE(desk.document.SaveFile(), std::string("/site/sub/menu.js"));
+        QVERIFY(!desk.document.bModified());
         QVERIFY(desk.bytesOf("/site/sub/menu.js").find("../first.html") != std::string::npos);
     }
 }
@@ -219,12 +219,12 @@ void test_file_failures::aFailedSaveAsTakesBackRecalculatedURLs() {
     Desk desk;
     desk.disk.addFolder("/other");
     makeChangedMenu(desk);
-    MenuNode& first = *desk.document.tree.firstNode();
-    first.item.MenuProperty.edit().BgImg = "img/back.gif";
-    first.item.ImageOut = "../out.gif";
-    first.item.ImageOver = "over.gif";
+    const MenuNode& first = *desk.document.tree().firstNode();
+    test::editItem(desk.document, first)->MenuProperty.edit().BgImg = "img/back.gif";
+    test::editItem(desk.document, first)->ImageOut = "../out.gif";
+    test::editItem(desk.document, first)->ImageOver = "over.gif";
     const ItemProp before = first.item;
-    const ItemProp current = desk.document.CurNode->item;
+    const ItemProp current = desk.document.CurNode()->item;
 
     desk.disk.setWritable("/other", false);
     desk.dialogs.expectSaveFile("/other/menu.js");
@@ -236,10 +236,10 @@ void test_file_failures::aFailedSaveAsTakesBackRecalculatedURLs() {
     desk.commands.mnuFileSaveAs_Click();
     QVERIFY(first.item == before);
     // An address such as this would not come back unchanged from being recalculated twice.
-    QVERIFY(desk.document.CurNode->item == current);
+    QVERIFY(desk.document.CurNode()->item == current);
     QCOMPARE(desk.view.panelURL, std::string("https://zevmenu.example/"));
-    QCOMPARE(desk.document.SavePath, std::string("/site"));
-    QVERIFY(desk.document.bModified);
+    QCOMPARE(desk.document.SavePath(), std::string("/site"));
+    QVERIFY(desk.document.bModified());
 }
 
 void test_file_failures::aFailedSaveAsOfAMenuNeverSavedLeavesItUnnamed() {
@@ -250,10 +250,10 @@ void test_file_failures::aFailedSaveAsOfAMenuNeverSavedLeavesItUnnamed() {
     desk.messages.expect(Desk::recalculate, Answer::No);
     desk.messages.expect("Could not save /site/menu.js: No space left on device");
     desk.commands.mnuFileSave_Click();
-    QCOMPARE(desk.document.SaveFile, std::string());
-    QCOMPARE(desk.document.SavePath, std::string("/program"));
+    QCOMPARE(desk.document.SaveFile(), std::string());
+    QCOMPARE(desk.document.SavePath(), std::string("/program"));
     QCOMPARE(desk.view.shownFile, std::string());
-    QVERIFY(desk.document.bModified);
+    QVERIFY(desk.document.bModified());
     QVERIFY(desk.view.isSaveEnabled);
     QVERIFY(!desk.isOnDisk("/site/menu.js"));
 }
@@ -267,7 +267,7 @@ void test_file_failures::aFolderThatCannotBeWrittenIsReportedForEachFile() {
     }
     desk.messages.expect("Could not save /site/menu.js: Permission denied");
     desk.commands.mnuFileSave_Click();
-    QVERIFY(desk.document.bModified);
+    QVERIFY(desk.document.bModified());
 }
 
 void test_file_failures::aFailedSaveKeepsNewAndExitFromLosingTheMenu() {
@@ -286,7 +286,7 @@ void test_file_failures::aFailedSaveKeepsNewAndExitFromLosingTheMenu() {
             desk.commands.mnuFileNew_Click();
         }
         QVERIFY(Snapshot(desk) == before);
-        QCOMPARE(desk.document.tree.size(), std::size_t{2});
+        QCOMPARE(desk.document.tree().size(), std::size_t{2});
     }
 }
 

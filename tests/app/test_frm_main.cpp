@@ -289,9 +289,9 @@ class test_frm_main : public QObject {
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator");
         QCOMPARE(desk.shownTree(), "");
         QCOMPARE(desk.script().toPlainText(), "");
-        QCOMPARE(desk.document().SaveFile, "");
-        QCOMPARE(desk.document().SavePath, "/program");
-        QVERIFY(!desk.document().bModified);
+        QCOMPARE(desk.document().SaveFile(), "");
+        QCOMPARE(desk.document().SavePath(), "/program");
+        QVERIFY(!desk.document().bModified());
         QStringList disabled;
         for (const QAction* action : desk.window.findChildren<QAction*>()) {
             if (!action->isEnabled() && !action->objectName().isEmpty())
@@ -311,12 +311,12 @@ class test_frm_main : public QObject {
             desk.choose(entry);
         }
         QCOMPARE(desk.shownTree(), "");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void theTopItemThatIsFirstCanOnlyMoveDown() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         QVERIFY(!desk.action("mnuEditMoveDown").isEnabled());
         desk.add("b");
         desk.click(a);
@@ -361,7 +361,7 @@ class test_frm_main : public QObject {
         desk.dialogs.expectSaveFile("/site/menu.js");
         desk.messages.expect(WindowDesk::recalculate, MessageBox::Answer::No);
         desk.clickToolBar(3);
-        QCOMPARE(desk.document().SaveFile, "/site/menu.js");
+        QCOMPARE(desk.document().SaveFile(), "/site/menu.js");
         desk.dialogs.expectOpenFile("");
         desk.clickToolBar(2);
         desk.clickToolBar(1);

@@ -63,7 +63,7 @@ class test_frm_main_commands : public QObject {
         QCOMPARE(desk.shownTree(), tree);
         QCOMPARE(desk.field("txtCaption").text(), tree.isEmpty() ? "" : "It\\'s");
         QCOMPARE(desk.field("txtCaption").isEnabled(), !tree.isEmpty());
-        QCOMPARE(desk.document().bModified, !tree.isEmpty());
+        QCOMPARE(desk.document().bModified(), !tree.isEmpty());
         QCOMPARE(desk.disk.FileExists("/site/menu.js"), !file.isEmpty());
         if (!file.isEmpty())
             QVERIFY(desk.disk.allFiles().at("/site/menu.js").find("'It\\'s'") != std::string::npos);
@@ -89,7 +89,7 @@ class test_frm_main_commands : public QObject {
         QCOMPARE(problems, 5);
         QVERIFY(desk.messages.recorded().back().text.starts_with("Could not save /site/menu.js: "));
         QCOMPARE(desk.disk.allFiles().at("/site/menu.js"), saved);
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         QVERIFY(desk.action("mnuFileSave").isEnabled());
         QCOMPARE(desk.shownPanel(), "normal|a|it\\'s|||");
     }
@@ -99,7 +99,7 @@ class test_frm_main_commands : public QObject {
         desk.add("first");
         desk.type("txtURL", "first.html");
         desk.addChild("child");
-        desk.click(desk.document().tree.firstNode());
+        desk.click(desk.document().tree().firstNode());
         desk.add("second");
         desk.saveAs("/site/menu.js");
         desk.choose("mnuFileNew");
@@ -108,9 +108,9 @@ class test_frm_main_commands : public QObject {
         desk.choose("mnuFileOpen");
         QCOMPARE(desk.shownTree(), "*first\n  child\nsecond\n");
         QCOMPARE(desk.shownPanel(), "normal|first|first.html|||");
-        QCOMPARE(desk.document().CurNode, desk.document().tree.firstNode());
-        QCOMPARE(desk.document().selectedNode, desk.document().tree.firstNode());
-        QVERIFY(!desk.document().bModified);
+        QCOMPARE(desk.document().CurNode(), desk.document().tree().firstNode());
+        QCOMPARE(desk.document().selectedNode(), desk.document().tree().firstNode());
+        QVERIFY(!desk.document().bModified());
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
         QVERIFY(desk.action("mnuEditMoveDown").isEnabled());
         QVERIFY(desk.script().toPlainText().contains("second"));
@@ -123,13 +123,12 @@ class test_frm_main_commands : public QObject {
                           "zevmenu.AddRollover('u', 'o', 'i', 't');\r\n");
         desk.window.openDefinition("/site/menu.js");
         QCOMPARE(desk.shownPanel(), "normal|a|u|t||");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
-        desk.document().CurNode = desk.document().selectedNode =
-            desk.document().tree.nextSibling(*desk.document().CurNode);
+        desk.document().select(desk.document().tree().nextSibling(*desk.document().CurNode()));
         desk.window.ShowItem();
         QCOMPARE(desk.shownPanel(), "rollover||u|t|o|i");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void openingWhileAnotherMenuIsShownCarriesNothingOver() {
@@ -158,13 +157,13 @@ class test_frm_main_commands : public QObject {
         desk.window.openDefinition("/site/none.js");
         QCOMPARE(desk.shownTree(), "*kept\n");
         QCOMPARE(desk.shownPanel(), "normal|kept||||");
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
     }
 
     void saveAsShowsTheRecalculatedLinks() {
         WindowDesk desk;
         desk.add("a");
-        desk.document().SavePath = "/site";
+        desk.document().setFile(desk.document().SaveFile(), "/site");
         desk.type("txtURL", "page.html");
         desk.disk.addFolder("/site/sub");
         desk.dialogs.expectSaveFile("/site/sub/menu.js");
@@ -179,9 +178,9 @@ class test_frm_main_commands : public QObject {
         desk.saveAs("/site/menu.js");
         desk.type("txtURL", "x");
         desk.choose("mnuFileSave");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
         QVERIFY(desk.action("mnuFileSave").isEnabled());
-        desk.click(desk.document().CurNode);
+        desk.click(desk.document().CurNode());
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
     }
 
@@ -189,8 +188,8 @@ class test_frm_main_commands : public QObject {
 
     void aMenuOfAThousandLevelsCanBeEdited() {
         WindowDesk desk;
-        MenuDocument deep("/program");
-        MenuNode* node = nullptr;
+        MenuContent deep;
+        const MenuNode* node = nullptr;
         for (int level = 0; level < 1000; ++level) {
             ItemProp item;
             item.Caption = "Level " + std::to_string(level);
@@ -198,29 +197,29 @@ class test_frm_main_commands : public QObject {
         }
         desk.disk.addFile("/site/deep.js", DefinitionFileBytes(GenerateScript(deep)));
         desk.window.openDefinition("/site/deep.js");
-        QCOMPARE(desk.document().tree.size(), std::size_t(1000));
-        node = desk.document().tree.firstNode();
+        QCOMPARE(desk.document().tree().size(), std::size_t(1000));
+        node = desk.document().tree().firstNode();
         while (node->hasChildren())
             node = node->children().front();
-        desk.document().tree.makeVisible(*node);
+        desk.document().makeVisible(*node);
         desk.click(node);
-        QCOMPARE(desk.document().CurNode, node);
+        QCOMPARE(desk.document().CurNode(), node);
         QCOMPARE(desk.shownPanel(), "normal|Level 999||||");
         desk.choose("mnuEditAddSubmenuItem");
         desk.choose("mnuEditMoveLeft");
-        QCOMPARE(desk.document().CurNode, node);
+        QCOMPARE(desk.document().CurNode(), node);
         QCOMPARE(node->item.Caption, "Level 999");
         desk.clickTab("JavaScript");
         QVERIFY(desk.script().toPlainText().contains("Level 999"));
         desk.clickTab("Menu");
-        desk.click(desk.document().tree.firstNode());
+        desk.click(desk.document().tree().firstNode());
         desk.choose("mnuEditDelete");
         QCOMPARE(desk.shownTree(), "");
     }
 
     void aMenuOfTwentyThousandSiblingsCanBeEdited() {
         WindowDesk desk;
-        MenuDocument wide("/program");
+        MenuContent wide;
         for (int i = 0; i < 20000; ++i) {
             ItemProp item;
             item.Caption = "Item " + std::to_string(i);
@@ -229,8 +228,8 @@ class test_frm_main_commands : public QObject {
         desk.disk.addFile("/site/wide.js", DefinitionFileBytes(GenerateScript(wide)));
         desk.window.openDefinition("/site/wide.js");
         desk.choose("mnuEditAddMenuItem");
-        QCOMPARE(desk.document().tree.size(), std::size_t(20001));
-        QCOMPARE(desk.document().CurNode->row(), std::size_t(20000));
+        QCOMPARE(desk.document().tree().size(), std::size_t(20001));
+        QCOMPARE(desk.document().CurNode()->row(), std::size_t(20000));
         desk.choose("mnuEditMoveUp");
         desk.choose("mnuEditDelete");
         QCOMPARE(desk.shownPanel(), "normal|Item 19999||||");
@@ -247,15 +246,15 @@ class test_frm_main_commands : public QObject {
                                                caption +
                                                "', '', '');\r\nzevmenu.AddItem('b', '', '');\r\n");
         desk.window.openDefinition("/site/long.js");
-        QCOMPARE(desk.document().tree.size(), std::size_t(2));
+        QCOMPARE(desk.document().tree().size(), std::size_t(2));
         desk.clickTab("JavaScript");
         desk.script().repaint();
         QVERIFY(desk.script().toPlainText().contains(QString(1000, 'x')));
         QVERIFY(desk.script().toPlainText().contains(QChar(0x2026)));
         QVERIFY(desk.script().toPlainText().contains("AddItem('b'"));
         desk.clickTab("Menu");
-        MenuNode* first = desk.document().tree.firstNode();
-        desk.click(desk.document().tree.nextSibling(*first));
+        const MenuNode* first = desk.document().tree().firstNode();
+        desk.click(desk.document().tree().nextSibling(*first));
         desk.click(first);
         desk.tree().repaint();
         QVERIFY(first->item.Caption == caption);
@@ -299,7 +298,7 @@ class test_frm_main_commands : public QObject {
             desk.choose("mnuFileExit");
         QCOMPARE(ended.size(), ends ? 1 : 0);
         QCOMPARE(desk.window.isVisible(), !ends);
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         // It counts as leaving the field.
         QCOMPARE(desk.field("txtCaption").text(), "It\\'s");
     }
@@ -333,7 +332,7 @@ class test_frm_main_commands : public QObject {
         WindowDesk desk;
         desk.add("Tea");
         desk.addChild("Green");
-        desk.document().SaveFile = "/site/menu_def.js";
+        desk.document().setFile("/site/menu_def.js", desk.document().SavePath());
         QStringList entries;
         QString definition;
         whenShown<frmIntegrator>([&](frmIntegrator& wizard) {

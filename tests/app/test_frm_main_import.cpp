@@ -81,7 +81,7 @@ class test_frm_main_import : public QObject {
         const ImportedProduct& imported = ImportedProducts()[product];
         WindowDesk desk;
         desk.disk.addFile("/old/menu", imported.file);
-        desk.document().SaveFile = "/site/before.js";
+        desk.document().setFile("/site/before.js", desk.document().SavePath());
         desk.window.ShowCaption();
         desk.dialogs.expectOpenFile("/old/menu");
         desk.messages.expect("Finished importing /old/menu. 0 warnings encountered.");
@@ -89,13 +89,13 @@ class test_frm_main_import : public QObject {
         QCOMPARE(desk.dialogs.recorded().size(), std::size_t{1});
         QCOMPARE(desk.dialogs.recorded().front().request.filter, std::string(imported.filter));
         QCOMPARE(linkTree(desk.document()), QString(kImportedTree));
-        QCOMPARE(desk.document().RootMenuProp.Columns, std::string(imported.columns));
+        QCOMPARE(desk.document().RootMenuProp().Columns, std::string(imported.columns));
         QCOMPARE(desk.shownTree(), "*Home\nProducts\n  Boats\n");
         QCOMPARE(desk.shownPanel(), "normal|Home|home.html|||");
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator");
         QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
         QVERIFY(desk.script().toPlainText().contains("Boats"));
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void theCommandsFitTheImportedMenu() {
@@ -123,7 +123,7 @@ class test_frm_main_import : public QObject {
             chooseByMouse(desk, product);
             QCOMPARE(desk.shownTree(), "*mine\n");
             QCOMPARE(desk.shownPanel(), "normal|mine|mine.html|||");
-            QVERIFY(desk.document().bModified);
+            QVERIFY(desk.document().bModified());
             QVERIFY(desk.action("mnuFileSave").isEnabled());
             QVERIFY(desk.dialogs.recorded().empty());
         }
@@ -155,13 +155,13 @@ class test_frm_main_import : public QObject {
         chooseByMouse(desk, ImportedProducts()[2]);
         QCOMPARE(desk.shownTree(), "");
         QCOMPARE(desk.shownPanel(), "normal|||||");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void theImportedMenuCanBeEditedAndSaved() {
         WindowDesk desk;
         importFile(desk, ImportedProducts()[3]);
-        desk.click(desk.document().tree.topLevel().back());
+        desk.click(desk.document().tree().topLevel().back());
         desk.type("txtCaption", "Goods");
         desk.choose("mnuEditMoveUp");
         desk.dialogs.expectSaveFile("/site/menu.js");
@@ -189,7 +189,7 @@ class test_frm_main_import : public QObject {
         desk.clickTab("Preview");
         QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/program/orlet_temp.html"});
         QCOMPARE(desk.disk.allFiles().at("/program/orlet_temp.js"),
-                 DefinitionFileBytes(GenerateScript(desk.document())));
+                 DefinitionFileBytes(GenerateScript(desk.document().content())));
     }
 
     void importsCanFollowEachOther() {
@@ -197,7 +197,7 @@ class test_frm_main_import : public QObject {
         for (const ImportedProduct& product : ImportedProducts()) {
             importFile(desk, product);
             QCOMPARE(desk.shownTree(), "*Home\nProducts\n  Boats\n");
-            QCOMPARE(desk.document().RootMenuProp.Columns, std::string(product.columns));
+            QCOMPARE(desk.document().RootMenuProp().Columns, std::string(product.columns));
         }
     }
 

@@ -136,7 +136,7 @@ void test_import_commands::aChangedMenuIsAskedAbout() {
     desk.disk.addFile("/old/menu", ImportedProducts()[product].file);
     desk.addItem("Mine", "mine.html");
     desk.view.StoreItem();
-    const std::string script = GenerateScript(desk.document);
+    const std::string script = GenerateScript(desk.document.content());
     desk.messages.expect(
         "Yes, No, Cancel without icon and title",
         [](const MessageRequest& request) {
@@ -164,11 +164,11 @@ void test_import_commands::aChangedMenuIsAskedAbout() {
     desk.messages.verify();
     QCOMPARE(desk.countDialogs(Kind::OpenFile), std::size_t(goesOn ? 1 : 0));
     QCOMPARE(desk.isOnDisk("/site/menu.js"), !savedAs.isEmpty() && !savingFails);
-    QCOMPARE(desk.document.bModified, !goesOn);
+    QCOMPARE(desk.document.bModified(), !goesOn);
     QCOMPARE(desk.view.isSaveEnabled, !goesOn);
-    QCOMPARE(desk.document.SaveFile, std::string());
+    QCOMPARE(desk.document.SaveFile(), std::string());
     if (!goesOn) {
-        QCOMPARE(GenerateScript(desk.document), script);
+        QCOMPARE(GenerateScript(desk.document.content()), script);
         QCOMPARE(desk.view.panelCaption, std::string("Mine"));
     } else if (chosen.isEmpty()) {
         QVERIFY(desk.isNewDocument());
@@ -231,15 +231,15 @@ void test_import_commands::anImportedMenuIsShown() {
     desk.import(ImportedProducts()[product], "/old/menu");
     const MenuDocument& document = desk.document;
     QCOMPARE(linkTree(document), QString(kImportedTree));
-    QCOMPARE(document.CurNode, document.tree.firstNode());
-    QCOMPARE(document.selectedNode, document.tree.firstNode());
-    QCOMPARE(document.RootMenuProp.Columns, std::string(ImportedProducts()[product].columns));
-    QCOMPARE(document.SaveFile, std::string());
-    QCOMPARE(document.SavePath, std::string("/program"));
-    QVERIFY(!document.bModified);
+    QCOMPARE(document.CurNode(), document.tree().firstNode());
+    QCOMPARE(document.selectedNode(), document.tree().firstNode());
+    QCOMPARE(document.RootMenuProp().Columns, std::string(ImportedProducts()[product].columns));
+    QCOMPARE(document.SaveFile(), std::string());
+    QCOMPARE(document.SavePath(), std::string("/program"));
+    QVERIFY(!document.bModified());
     QCOMPARE(desk.view.panelCaption, std::string("Home"));
     QCOMPARE(desk.view.panelURL, std::string("home.html"));
-    QCOMPARE(desk.view.script, GenerateScript(document));
+    QCOMPARE(desk.view.script, GenerateScript(document.content()));
     QCOMPARE(desk.view.shownFile, std::string());
     QVERIFY(!desk.view.isSaveEnabled);
 }
@@ -294,7 +294,7 @@ void test_import_commands::theClosingMessageCountsTheWarnings() {
     ImportDesk desk;
     const MessageRequest message = desk.closingMessageFor(fileWithWarnings(warnings));
     QTEST(QString::fromStdString(message.text), "message");
-    QVERIFY(!desk.document.bModified);
+    QVERIFY(!desk.document.bModified());
 }
 
 void test_import_commands::eachWarningIsADetailWithItsLine() {
@@ -336,10 +336,10 @@ void test_import_commands::aFileWithoutItemsGivesAnEmptyMenu() {
         desk.disk.addFile("/old/menu", content);
         desk.messages.expect(closingText("/old/menu", 0));
         desk.import(ImportedProducts()[product], "/old/menu");
-        QVERIFY(desk.document.tree.isEmpty());
-        QCOMPARE(desk.document.CurNode, nullptr);
+        QVERIFY(desk.document.tree().isEmpty());
+        QCOMPARE(desk.document.CurNode(), nullptr);
         QCOMPARE(desk.view.panelCaption, std::string());
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(!desk.document.bModified());
     }
 }
 
@@ -389,7 +389,8 @@ void test_import_commands::saveAfterAnImportAsksForAName() {
     desk.messages.expect(Desk::recalculate, Answer::No);
     desk.commands.mnuFileSave_Click();
     QCOMPARE(desk.dialogs.recorded().back().request.fileName, std::string());
-    QCOMPARE(desk.bytesOf("/site/menu.js"), DefinitionFileBytes(GenerateScript(desk.document)));
+    QCOMPARE(desk.bytesOf("/site/menu.js"),
+             DefinitionFileBytes(GenerateScript(desk.document.content())));
     QCOMPARE(desk.bytesOf("/old/menu"), ImportedProducts()[product].file);
 }
 
@@ -400,7 +401,7 @@ void test_import_commands::exitAfterAnImportAsksNothing() {
     desk.messages.expect(
         "the closing message", [](const MessageRequest&) { return true; }, Answer::Ok);
     desk.import(ImportedProducts()[product], "/old/menu");
-    QVERIFY(!desk.document.tree.isEmpty());
+    QVERIFY(!desk.document.tree().isEmpty());
     QVERIFY(desk.commands.mnuFileExit_Click());
 }
 

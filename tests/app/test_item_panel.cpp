@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QToolTip>
 
+#include "tests/support/document_steps.h"
 #include "theme_palettes.h"
 #include "window_desk.h"
 
@@ -124,7 +125,7 @@ class test_item_panel : public QObject {
         desk.choose("mnuEditAddMenuItem");
         desk.type("txtCaption", "Ho");
         QCOMPARE(desk.shownTree(), "*Ho\n");
-        QCOMPARE(desk.document().CurNode->item.Caption, "Item 0");
+        QCOMPARE(desk.document().CurNode()->item.Caption, "Item 0");
         QTest::keyClicks(&desk.field("txtCaption"), "me");
         QCOMPARE(desk.shownTree(), "*Home\n");
     }
@@ -145,15 +146,15 @@ class test_item_panel : public QObject {
         desk.forgetChanges();
         desk.click(desk.button("optRollover"));
         QCOMPARE(desk.shownTree(), "*\n");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
         desk.click(desk.button("optNormal"));
         QCOMPARE(desk.shownTree(), "*Home\n");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void theTypeReachesTheItemOnlyWhenThePanelIsStored() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.click(desk.button("optRollover"));
         QVERIFY(!a->item.IsRollover);
         desk.click(a);
@@ -190,7 +191,7 @@ class test_item_panel : public QObject {
         desk.forgetChanges();
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
         desk.type(name, "x");
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         QVERIFY(desk.action("mnuFileSave").isEnabled());
         QVERIFY(desk.action("tbToolBar_3").isEnabled());
     }
@@ -272,7 +273,7 @@ class test_item_panel : public QObject {
         desk.click(desk.button("cmdCaptionImg"));
         QCOMPARE(desk.field("txtCaption").text(),
                  "Ho<img src=\"\" width=\"\" height=\"\" border=\"0\">me");
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         QCOMPARE(desk.shownTree(), "*Ho<img src=\"\" width=\"\" height=\"\" border=\"0\">me\n");
     }
 
@@ -334,14 +335,14 @@ class test_item_panel : public QObject {
         QFETCH(QString, chosen);
         QFETCH(QString, shown);
         WindowDesk desk;
-        desk.document().SavePath = "/site";
+        desk.document().setFile(desk.document().SaveFile(), "/site");
         desk.add("a");
         desk.click(desk.button("optRollover"));
         desk.forgetChanges();
         desk.dialogs.expectOpenFile(chosen.toStdString());
         desk.click(desk.button(button));
         QCOMPARE(desk.field(field).text(), shown);
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         const FileDialogRequest& request = desk.dialogs.recorded().back().request;
         QCOMPARE(request.title, "Browse");
         QCOMPARE(request.fileName, "");
@@ -370,7 +371,7 @@ class test_item_panel : public QObject {
         desk.dialogs.expectOpenFile("");
         desk.click(desk.button(button));
         QCOMPARE(desk.field(field).text(), "it's");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void storedAndShownItemsAreTheSame_data() {
@@ -381,10 +382,11 @@ class test_item_panel : public QObject {
     void storedAndShownItemsAreTheSame() {
         QFETCH(bool, isRollover);
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
         desk.click(a);
-        b->item = {"out.gif", "over.gif", "main", "page.html", isRollover, MenuProp(), "<i>B</i>"};
+        desk.document().setItem(
+            *b, {"out.gif", "over.gif", "main", "page.html", isRollover, MenuProp(), "<i>B</i>"});
         const ItemProp before = b->item;
         desk.click(b);
         QCOMPARE(desk.shownPanel(), QString(isRollover ? "rollover" : "normal") +
@@ -401,10 +403,10 @@ class test_item_panel : public QObject {
     void lookingAtAnItemChangesNothingInIt() {
         QFETCH(QString, caption);
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
         desk.click(a);
-        b->item.Caption = caption.toStdString();
+        test::editItem(desk.document(), *b)->Caption = caption.toStdString();
         desk.click(b);
         desk.click(a);
         QCOMPARE(QString::fromStdString(b->item.Caption), caption);
@@ -446,7 +448,7 @@ class test_item_panel : public QObject {
 
     void pastedLineBreaksDoNotReachALabelBeingEdited() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.doubleClick(a);
         QVERIFY(desk.labelEditor() != nullptr);
         desk.labelEditor()->selectAll();

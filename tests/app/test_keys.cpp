@@ -54,7 +54,7 @@ class test_keys : public QObject {
         QFETCH(QString, tree);
         WindowDesk desk;
         desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.add("c");
         desk.click(b);
         desk.field(field).setFocus();
@@ -83,7 +83,7 @@ class test_keys : public QObject {
 
     void delEditsTextInALabelBeingEdited() {
         WindowDesk desk;
-        MenuNode* a = desk.add("Home");
+        const MenuNode* a = desk.add("Home");
         desk.doubleClick(a);
         desk.labelEditor()->setCursorPosition(0);
         QTest::keyClick(desk.labelEditor(), Qt::Key_Delete);
@@ -128,8 +128,7 @@ class test_keys : public QObject {
         for (const bool byKey : {true, false}) {
             WindowDesk desk;
             desk.add("a");
-            desk.document().SaveFile = "/site/menu.js";
-            desk.document().SavePath = "/site";
+            desk.document().setFile("/site/menu.js", "/site");
             desk.type(field, typed);
             if (byKey)
                 QTest::keyClick(&desk.field(field), Qt::Key_S, Qt::ControlModifier);
@@ -138,8 +137,8 @@ class test_keys : public QObject {
             QCOMPARE(desk.shownPanel(), panel);
             QVERIFY(desk.disk.allFiles()
                         .at("/site/menu.js")
-                        .find(GetText(desk.document().CurNode->item)) != std::string::npos);
-            QVERIFY(!desk.document().bModified);
+                        .find(GetText(desk.document().CurNode()->item)) != std::string::npos);
+            QVERIFY(!desk.document().bModified());
         }
     }
 
@@ -196,7 +195,7 @@ class test_keys : public QObject {
         desk.forgetChanges();
         QTest::keyClick(&desk.tree(), key.key(), key.keyboardModifiers());
         QCOMPARE(desk.shownTree(), "a\n*b\n");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
         QVERIFY(desk.labelEditor() == nullptr);
     }
 
@@ -210,7 +209,7 @@ class test_keys : public QObject {
         QFETCH(Qt::Key, key);
         QFETCH(QString, form);
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.startLabel(a, "It's");
         QString shown;
         dismissNext(shown);
@@ -227,7 +226,7 @@ class test_keys : public QObject {
     void everyCommandTakesTheLabelBeingEdited() {
         QFETCH(QString, entry);
         WindowDesk desk;
-        MenuNode* b = addThree(desk);
+        const MenuNode* b = addThree(desk);
         desk.startLabel(b, "It's");
         QTest::keyClick(desk.labelEditor(), Qt::Key_End);
         run(desk, entry);
@@ -239,21 +238,21 @@ class test_keys : public QObject {
         // Nobody else's text.
         QCOMPARE(desk.shownTree().count("It\\'s"), entry == "mnuEditDelete" ? 0 : 1);
         QCOMPARE(desk.field("txtCaption").text(),
-                 QString::fromStdString(desk.document().CurNode->text));
+                 QString::fromStdString(desk.document().CurNode()->text));
     }
 
     void everyCommandKeepsWhatIsTypedIntoAField_data() { addCommands(); }
     void everyCommandKeepsWhatIsTypedIntoAField() {
         QFETCH(QString, entry);
         WindowDesk desk;
-        MenuNode* b = addThree(desk);
+        const MenuNode* b = addThree(desk);
         desk.click(b);
         desk.type("txtURL", "javascript:f('x\")");
         run(desk, entry);
         desk.clickTab("JavaScript");
         int found = 0;
-        for (MenuNode* node = desk.document().tree.firstNode(); node;
-             node = desk.document().tree.nextInTreeOrder(*node)) {
+        for (const MenuNode* node = desk.document().tree().firstNode(); node;
+             node = desk.document().tree().nextInTreeOrder(*node)) {
             if (node->item.URL == "javascript:f(\\'x)") {
                 QCOMPARE(node->item.Caption, "b");
                 ++found;
@@ -274,7 +273,7 @@ class test_keys : public QObject {
     void aLabelBeingEditedStaysOutOfTheNextMenu() {
         QFETCH(QString, entry);
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.startLabel(a, "Edited");
         desk.disk.addFile("/site/menu.js",
                           "zevmenu = new ZEVMenu('0');\r\nzevmenu.AddItem('Home', '', '');\r\n");
@@ -290,14 +289,14 @@ class test_keys : public QObject {
         desk.choose(entry);
         QVERIFY(desk.labelEditor() == nullptr);
         QVERIFY(!desk.shownTree().contains("Edited"));
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
         QCOMPARE(desk.field("txtCaption").text(), entry == "mnuFileNew" ? "" : "Home");
     }
 
     void aLabelBeingEditedIsAChangeThatExitAsksAbout() {
         WindowDesk desk;
         QSignalSpy ended(&desk.window, &frmMain::ended);
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.forgetChanges();
         desk.startLabel(a, "Edited");
         desk.messages.expect(WindowDesk::saveChanges, Answer::Yes);
@@ -310,9 +309,9 @@ class test_keys : public QObject {
 
     void saveAsRecalculatesTheFieldBeingTyped() {
         WindowDesk desk;
-        desk.document().SavePath = "/site";
+        desk.document().setFile(desk.document().SaveFile(), "/site");
         desk.disk.addFolder("/site/sub");
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.type("txtURL", "it's.html");
         desk.dialogs.expectSaveFile("/site/sub/menu.js");
         desk.messages.expect(WindowDesk::recalculate, Answer::Yes);
@@ -342,9 +341,9 @@ class test_keys : public QObject {
 
     void ctrlZNeverBringsBackTheTextOfAnotherItem() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.type("txtURL", "of-a.html");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.click(a);
         desk.click(b);
         for (const char* name : {"txtCaption", "txtURL"}) {
@@ -442,10 +441,10 @@ class test_keys : public QObject {
     }
 
     /// A parent with three children; all moves are possible for the second one, which is returned.
-    static MenuNode* addThree(WindowDesk& desk) {
+    static const MenuNode* addThree(WindowDesk& desk) {
         desk.add("parent");
         desk.addChild("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.add("c");
         return b;
     }

@@ -27,14 +27,14 @@ class test_property_changes : public QObject {
         WindowDesk desk;
         desk.add("a");
         desk.forgetChanges();
-        const std::string before = GenerateScript(desk.document());
+        const std::string before = GenerateScript(desk.document().content());
         during<QDialog>([&] { desk.choose(entry); },
                         [&](QDialog& form) { press(form, button.toLatin1()); });
-        QCOMPARE(desk.document().bModified, isModified);
+        QCOMPARE(desk.document().bModified(), isModified);
         QCOMPARE(desk.action("mnuFileSave").isEnabled(), isModified);
         QCOMPARE(desk.action("tbToolBar_3").isEnabled(), isModified);
         // Nothing was edited.
-        QCOMPARE(GenerateScript(desk.document()), before);
+        QCOMPARE(GenerateScript(desk.document().content()), before);
     }
 
     void okWithoutTheFontButtonKeepsTheFontsOfTheDefaults() {
@@ -44,8 +44,8 @@ class test_property_changes : public QObject {
                           "zev_state.fontSize = '10.5pt';\r\n");
         desk.window.openDefinition("/site/menu.js");
         inDefaults(desk, [](frmDefaultProp& form) { press(form, "cmdOK"); });
-        QCOMPARE(desk.document().DefaultProp.FontFamily, "No Such Font");
-        QCOMPARE(desk.document().DefaultProp.FontSize, "10.5");
+        QCOMPARE(desk.document().DefaultProp().FontFamily, "No Such Font");
+        QCOMPARE(desk.document().DefaultProp().FontSize, "10.5");
     }
 
     // The fonts are written from the first use of the button on, in every later menu as well.
@@ -59,8 +59,8 @@ class test_property_changes : public QObject {
         desk.disk.addFile("/site/menu.js", "zev_state.fontSize = '10.5pt';\r\n");
         desk.window.openDefinition("/site/menu.js");
         inDefaults(desk, [](frmDefaultProp& form) { press(form, "cmdOK"); });
-        QCOMPARE(desk.document().DefaultProp.FontFamily, "Arial");
-        QCOMPARE(desk.document().DefaultProp.FontSize, "10");
+        QCOMPARE(desk.document().DefaultProp().FontFamily, "Arial");
+        QCOMPARE(desk.document().DefaultProp().FontSize, "10");
     }
 
     void aBackgroundImageIsRelativeToTheMenusFolder_data() {
@@ -72,7 +72,7 @@ class test_property_changes : public QObject {
         QFETCH(QString, entry);
         WindowDesk desk;
         desk.add("a");
-        desk.document().SavePath = "/site/menus";
+        desk.document().setFile(desk.document().SaveFile(), "/site/menus");
         desk.dialogs.expectOpenFile("/site/images/back.gif");
         during<QDialog>([&] { desk.choose(entry); },
                         [](QDialog& form) {
@@ -90,15 +90,15 @@ class test_property_changes : public QObject {
             typeInto(form, "txtTarget", "main");
             press(form, "cmdOK");
         });
-        QCOMPARE(desk.document().RootMenuProp.Target, "main");
-        QVERIFY(!desk.document().bModified);
+        QCOMPARE(desk.document().RootMenuProp().Target, "main");
+        QVERIFY(!desk.document().bModified());
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
         inAdvanced(desk, "cmdOK", [](frmAdvProp& form) {
             QCOMPARE(textOf(form, "txtTarget"), "main");
             press(form, "cmdCancel");
         });
-        QCOMPARE(desk.document().RootMenuProp.Target, "main");
-        QVERIFY(desk.document().bModified);
+        QCOMPARE(desk.document().RootMenuProp().Target, "main");
+        QVERIFY(desk.document().bModified());
         QVERIFY(desk.action("mnuFileSave").isEnabled());
     }
 
@@ -122,13 +122,13 @@ class test_property_changes : public QObject {
             press(form, "cmdCopy");
             press(form, "cmdCancel");
         });
-        const MenuProp root = desk.document().RootMenuProp;
+        const MenuProp root = desk.document().RootMenuProp();
         QCOMPARE(root.Columns, "10");
 
         // Another menu of another file, while the program runs on.
         desk.forgetChanges();
         desk.choose("mnuFileNew");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.addChild("c");
         inMenuProperties(desk, [](frmMenuProp& form) {
             press(form, "cmdPaste");
@@ -149,7 +149,7 @@ class test_property_changes : public QObject {
         expected.FontStyle = true;
         expected.FontWeight = true;
         QVERIFY(*b->item.MenuProperty == expected);
-        QVERIFY(desk.document().RootMenuProp == root);
+        QVERIFY(desk.document().RootMenuProp() == root);
     }
 
     void advancedPropertiesHaveACopyOfTheirOwn() {
@@ -166,7 +166,7 @@ class test_property_changes : public QObject {
             press(form, "cmdCopy");
             press(form, "cmdCancel");
         });
-        MenuNode* b = desk.document().CurNode;
+        const MenuNode* b = desk.document().CurNode();
         desk.addChild("b");
         inAdvanced(desk, "cmdOK", [](frmAdvProp& form) {
             QCOMPARE(textOf(form, "txtDivider"), "&nbsp;");
@@ -174,7 +174,7 @@ class test_property_changes : public QObject {
             press(form, "cmdOK");
         });
         QCOMPARE(b->item.MenuProperty->Divider, "|");
-        QCOMPARE(desk.document().RootMenuProp.Divider, "&nbsp;");
+        QCOMPARE(desk.document().RootMenuProp().Divider, "&nbsp;");
     }
 
     // The tab that is shown

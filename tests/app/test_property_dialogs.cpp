@@ -7,6 +7,7 @@
 
 #include "dialogs/preview_label.h"
 #include "property_dialogs_hands.h"
+#include "tests/support/document_steps.h"
 
 using namespace zev;
 
@@ -180,7 +181,7 @@ class test_property_dialogs : public QObject {
             typeInto(form, "txtHBgColor", "red");
             press(form, "cmdCancel");
         });
-        desk.document().DefaultProp.Columns = "7";
+        test::editMenu(desk.document(), test::kDefaults)->Columns = "7";
         inDefaults(desk, [](frmDefaultProp& form) {
             QCOMPARE(textOf(form, "txtHBgColor"), "#888888");
             QCOMPARE(textOf(form, "txtColumns"), "7");
@@ -207,9 +208,9 @@ class test_property_dialogs : public QObject {
 
     void menuPropertiesEditTheMenuThatTheItemStandsIn() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.addChild("b");
-        MenuNode* c = desk.addChild("c");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.addChild("b");
+        const MenuNode* c = desk.addChild("c");
         const auto setColumns = [&](const MenuNode* node, const char* columns) {
             desk.click(node);
             inMenuProperties(desk, [&](frmMenuProp& form) {
@@ -220,7 +221,7 @@ class test_property_dialogs : public QObject {
         setColumns(c, "3");
         setColumns(b, "2");
         setColumns(a, "1");
-        QCOMPARE(desk.document().RootMenuProp.Columns, "1");
+        QCOMPARE(desk.document().RootMenuProp().Columns, "1");
         QCOMPARE(a->item.MenuProperty->Columns, "2");
         QCOMPARE(b->item.MenuProperty->Columns, "3");
         QCOMPARE(c->item.MenuProperty->Columns, "");

@@ -180,14 +180,14 @@ class test_random_commands : public QObject {
 
 void test_random_commands::saveAndOpen(WindowDesk& desk) {
     desk.saveAs("/site/menu.js");
-    QVERIFY(!desk.document().bModified);
+    QVERIFY(!desk.document().bModified());
     desk.dialogs.expectOpenFile("/site/menu.js");
     desk.choose("mnuFileOpen");
 }
 
 void test_random_commands::handle(WindowDesk& desk, ExpectedMenu& expected, unsigned kind,
                                   const QString& typed) {
-    MenuTree& tree = desk.document().tree;
+    const MenuTree& tree = desk.document().tree();
     switch (kind) {
         case 0:
             expected.setCaption(typed);
@@ -200,8 +200,8 @@ void test_random_commands::handle(WindowDesk& desk, ExpectedMenu& expected, unsi
         case 2: {
             // The editor stays open; what comes next takes the label.
             expected.setCaption(typed);
-            tree.makeVisible(*desk.document().CurNode);
-            desk.startLabel(desk.document().CurNode, typed);
+            desk.document().makeVisible(*desk.document().CurNode());
+            desk.startLabel(desk.document().CurNode(), typed);
             break;
         }
         case 3:
@@ -221,18 +221,18 @@ void test_random_commands::handle(WindowDesk& desk, ExpectedMenu& expected, unsi
             QCOMPARE(storedItems(tree), expected.items());
             break;
         default:
-            if (desk.document().CurNode->parent() != nullptr) {
+            if (const MenuNode* parent = desk.document().CurNode()->parent()) {
                 expected.selectParent();
-                desk.clickBranchMark(desk.document().CurNode->parent());
+                desk.clickBranchMark(parent);
             }
     }
 }
 
 void test_random_commands::compare(WindowDesk& desk, const ExpectedMenu& expected) {
     const MenuDocument& document = desk.document();
-    QCOMPARE(document.selectedNode, document.CurNode);
-    QCOMPARE(document.CurNode == nullptr, expected.size() == 0);
-    if (document.CurNode == nullptr || desk.labelEditor() != nullptr)
+    QCOMPARE(document.selectedNode(), document.CurNode());
+    QCOMPARE(document.CurNode() == nullptr, expected.size() == 0);
+    if (document.CurNode() == nullptr || desk.labelEditor() != nullptr)
         return;
     QCOMPARE(desk.shownTree().remove('*'), expected.labels());
     QCOMPARE(desk.field("txtCaption").text(), expected.caption());
@@ -252,7 +252,7 @@ void test_random_commands::windowAndDocumentStayTogether() {
     int added = 0;
     for (int step = 0; step < 400; ++step) {
         const auto choice = random() % 17;
-        const QString newCaption = QString("Item %1").arg(document.ItemCounter);
+        const QString newCaption = QString("Item %1").arg(document.ItemCounter());
         if (choice < 3) {
             expected.addSibling(newCaption);
             desk.choose("mnuEditAddMenuItem");
@@ -280,13 +280,13 @@ void test_random_commands::windowAndDocumentStayTogether() {
                    QString("typed %1").arg(step));
         } else if (expected.size() > 0) {
             const std::size_t row = random() % expected.size();
-            MenuNode* node = document.tree.firstNode();
+            const MenuNode* node = document.tree().firstNode();
             for (std::size_t i = 0; i < row; ++i)
-                node = document.tree.nextInTreeOrder(*node);
-            document.tree.makeVisible(*node);
+                node = document.tree().nextInTreeOrder(*node);
+            document.makeVisible(*node);
             expected.select(row);
             desk.click(node);
-            QCOMPARE(document.CurNode, node);
+            QCOMPARE(document.CurNode(), node);
         }
         compare(desk, expected);
         if (QTest::currentTestFailed())
@@ -294,7 +294,7 @@ void test_random_commands::windowAndDocumentStayTogether() {
     }
     QVERIFY(added > 40);
     desk.clickTab("JavaScript");
-    QCOMPARE(storedItems(document.tree), expected.items());
+    QCOMPARE(storedItems(document.tree()), expected.items());
     QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
 }
 

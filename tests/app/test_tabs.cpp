@@ -29,7 +29,7 @@ std::string previewScript(WindowDesk& desk, const std::string& folder) {
 }
 
 std::string writtenScript(WindowDesk& desk) {
-    return DefinitionFileBytes(GenerateScript(desk.document()));
+    return DefinitionFileBytes(GenerateScript(desk.document().content()));
 }
 
 }  // namespace
@@ -44,7 +44,7 @@ class test_tabs : public QObject {
         WindowDesk desk;
         desk.add("It's");
         desk.clickTab("JavaScript");
-        QCOMPARE(desk.document().CurNode->item.Caption, "It\\'s");
+        QCOMPARE(desk.document().CurNode()->item.Caption, "It\\'s");
         QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
         QVERIFY(desk.script().toPlainText().contains("It\\'s"));
     }
@@ -82,20 +82,20 @@ class test_tabs : public QObject {
         desk.forgetChanges();
         desk.clickTab("JavaScript");
         desk.clickTab("Menu");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void thePreviewTabWritesItsFilesAndLoadsThePage() {
         WindowDesk desk;
         desk.add("It's");
-        desk.document().SavePath = "/site";
+        desk.document().setFile(desk.document().SaveFile(), "/site");
         desk.clickTab("Preview");
-        QCOMPARE(desk.document().CurNode->item.Caption, "It\\'s");
+        QCOMPARE(desk.document().CurNode()->item.Caption, "It\\'s");
         QCOMPARE(desk.browser.recorded().size(), std::size_t(1));
         QCOMPARE(desk.browser.recorded().front(), "/site/orlet_temp.html");
         QVERIFY(desk.disk.FileExists("/site/orlet_temp.js"));
         QVERIFY(desk.disk.FileExists("/site/zevmenu_loader.js"));
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
     }
 
     void thePreviewOfAMenuNeverSavedCopiesNoLibraryFile() {
@@ -120,7 +120,7 @@ class test_tabs : public QObject {
         desk.add("It's");
         QTest::keyClick(&desk.field("txtCaption"), Qt::Key_Tab, Qt::ControlModifier);
         QCOMPARE(desk.tabs().currentIndex(), 1);
-        QCOMPARE(desk.document().CurNode->item.Caption, "It\\'s");
+        QCOMPARE(desk.document().CurNode()->item.Caption, "It\\'s");
         QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
         QTest::keyClick(desk.window.focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
         QCOMPARE(desk.tabs().currentIndex(), 2);
@@ -142,7 +142,7 @@ class test_tabs : public QObject {
         desk.forgetChanges();
         desk.clickTab("JavaScript");
         desk.choose("mnuFileNew");
-        QVERIFY(desk.document().tree.isEmpty());
+        QVERIFY(desk.document().tree().isEmpty());
         QVERIFY(desk.script().toPlainText().startsWith("zev_state."));
         QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
     }
@@ -158,7 +158,7 @@ class test_tabs : public QObject {
                  (std::vector<std::string>{"/site/orlet_temp.html", "/program/orlet_temp.html"}));
         QCOMPARE(previewScript(desk, "/program"), writtenScript(desk));
         QCOMPARE(previewScript(desk, "/site"), previewOfOld);
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void aCancelledNewLeavesTheShownTab_data() { addTabs(); }
@@ -199,8 +199,8 @@ class test_tabs : public QObject {
         QCOMPARE(desk.browser.recorded().size(), std::size_t(2));
         QCOMPARE(previewScript(desk, "/site"), writtenScript(desk));
         QCOMPARE(previewScript(desk, "/program"), previewOfOld);
-        QCOMPARE(desk.document().CurNode->item.URL, "f(\"x\")");
-        QVERIFY(!desk.document().bModified);
+        QCOMPARE(desk.document().CurNode()->item.URL, "f(\"x\")");
+        QVERIFY(!desk.document().bModified());
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
     }
 
@@ -250,7 +250,7 @@ class test_tabs : public QObject {
         QCOMPARE(desk.script().toPlainText(), desk.expectedScript());
         QVERIFY(desk.script().toPlainText().contains("Boats"));
         QCOMPARE(previewScript(desk, "/site"), previewOfOld);
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
         if (tab == "Preview") {
             QCOMPARE(desk.browser.recorded().back(), "/program/orlet_temp.html");
             QCOMPARE(previewScript(desk, "/program"), writtenScript(desk));
@@ -289,7 +289,7 @@ class test_tabs : public QObject {
             QCOMPARE(desk.browser.recorded().back(), "/site/sub/orlet_temp.html");
             QCOMPARE(previewScript(desk, "/site/sub"), writtenScript(desk));
         }
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void aSaveDoesNotLoadThePreviewAgain() {
@@ -297,7 +297,7 @@ class test_tabs : public QObject {
         desk.add("a");
         desk.saveAs("/site/menu.js");
         desk.clickTab("Preview");
-        desk.document().bModified = true;
+        desk.document().markModified();
         desk.choose("mnuFileSave");
         desk.saveAs("/site/other.js");
         QCOMPARE(desk.browser.recorded().size(), std::size_t(1));
@@ -370,7 +370,7 @@ class test_tabs : public QObject {
         desk.script().moveCursor(QTextCursor::End);
         const int position = desk.script().textCursor().position();
         QVERIFY(position > 0);
-        desk.document().bModified = true;
+        desk.document().markModified();
         desk.choose("mnuFileSave");
         desk.clickTab("Menu");
         desk.clickTab("JavaScript");

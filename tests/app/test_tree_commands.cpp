@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include "tests/support/document_steps.h"
 #include "window_desk.h"
 
 using namespace zev;
@@ -36,16 +37,16 @@ class test_tree_commands : public QObject {
         WindowDesk desk;
         desk.choose("mnuEditAddMenuItem");
         QCOMPARE(desk.shownTree(), "*Item 0\n");
-        const MenuNode* node = desk.document().CurNode;
-        QCOMPARE(node, desk.document().selectedNode);
+        const MenuNode* node = desk.document().CurNode();
+        QCOMPARE(node, desk.document().selectedNode());
         QCOMPARE(node->key(), "Key 0");
         QCOMPARE(node->text, "Item 0");
         QCOMPARE(node->item.Caption, "Item 0");
         QCOMPARE(node->item.MenuProperty->Position, 2);
         QCOMPARE(desk.shownPanel(), "normal|Item 0||||");
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         QVERIFY(desk.action("mnuFileSave").isEnabled());
-        QCOMPARE(desk.document().ItemCounter, 1);
+        QCOMPARE(desk.document().ItemCounter(), 1);
     }
 
     void anEmptyTreeSaysHowToBegin() {
@@ -71,7 +72,7 @@ class test_tree_commands : public QObject {
     void addMenuItemGoesAfterAllSiblings() {
         WindowDesk desk;
         desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.add("c");
         desk.click(b);
         desk.choose("mnuEditAddMenuItem");
@@ -84,7 +85,7 @@ class test_tree_commands : public QObject {
         desk.addChild("a1");
         desk.choose("mnuEditAddMenuItem");
         QCOMPARE(desk.shownTree(), "a\n  a1\n  *Item 2\n");
-        QCOMPARE(desk.document().CurNode->item.MenuProperty->Position, 0);
+        QCOMPARE(desk.document().CurNode()->item.MenuProperty->Position, 0);
     }
 
     void addMenuItemStoresThePanelIntoTheItemShownBefore() {
@@ -112,14 +113,14 @@ class test_tree_commands : public QObject {
 
     void addSubmenuItemLeavesThePanelOnTheParent() {
         WindowDesk desk;
-        MenuNode* parent = desk.add("Parent");
+        const MenuNode* parent = desk.add("Parent");
         desk.type("txtURL", "typed.html");
         desk.choose("mnuEditAddSubmenuItem");
-        QCOMPARE(desk.document().CurNode, parent);
+        QCOMPARE(desk.document().CurNode(), parent);
         QCOMPARE(desk.shownTree(), "*Parent\n  Item 1\n");
         QCOMPARE(desk.shownPanel(), "normal|Parent|typed.html|||");
         QVERIFY(desk.tree().isExpanded(desk.tree().model()->index(0, 0)));
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
     }
 
     void addSubmenuItemKeepsTheModeOfARolloverParent() {
@@ -136,14 +137,14 @@ class test_tree_commands : public QObject {
 
     void addSubmenuItemWithoutASelectionIsCurrentButNotSelected() {
         WindowDesk desk;
-        MenuNode* first = desk.add("First");
+        const MenuNode* first = desk.add("First");
         desk.type("txtURL", "first.html");
-        desk.document().selectedNode = nullptr;
+        desk.document().apply(SetSelection{{nullptr, desk.document().CurNode()}});
         desk.tree().showSelection();
         desk.window.mnuEditAddSubmenuItem_Click();
         QCOMPARE(desk.shownTree(), "First\nItem 1\n");
-        QCOMPARE(desk.document().selectedNode, nullptr);
-        QCOMPARE(desk.document().CurNode, desk.document().tree.nextSibling(*first));
+        QCOMPARE(desk.document().selectedNode(), nullptr);
+        QCOMPARE(desk.document().CurNode(), desk.document().tree().nextSibling(*first));
         QCOMPARE(desk.shownPanel(), "normal|Item 1||||");
         QCOMPARE(first->item.URL, "first.html");
     }
@@ -151,13 +152,13 @@ class test_tree_commands : public QObject {
     void withoutASelectionNoLabelFollowsThePanel() {
         WindowDesk desk;
         desk.window.mnuEditAddSubmenuItem_Click();
-        QCOMPARE(desk.document().selectedNode, nullptr);
+        QCOMPARE(desk.document().selectedNode(), nullptr);
         desk.type("txtCaption", "Typed");
         QCOMPARE(desk.shownTree(), "Item 0\n");
         desk.clickTab("JavaScript");
-        QCOMPARE(desk.document().CurNode->item.Caption, "Typed");
+        QCOMPARE(desk.document().CurNode()->item.Caption, "Typed");
         desk.clickTab("Menu");
-        desk.click(desk.document().CurNode);
+        desk.click(desk.document().CurNode());
         QCOMPARE(desk.shownTree(), "*Typed\n");
     }
 
@@ -170,7 +171,7 @@ class test_tree_commands : public QObject {
 
     void deleteTakesTheWholeBranch() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.addChild("a1");
         desk.addChild("a11");
         desk.click(a);
@@ -178,15 +179,15 @@ class test_tree_commands : public QObject {
         desk.click(a);
         desk.choose("mnuEditDelete");
         QCOMPARE(desk.shownTree(), "*Item 3\n");
-        QCOMPARE(desk.document().tree.size(), std::size_t(1));
+        QCOMPARE(desk.document().tree().size(), std::size_t(1));
     }
 
     void deleteSelectsNextElsePreviousElseParent() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.addChild("a1");
         desk.add("a2");
-        MenuNode* a2 = desk.document().CurNode;
+        const MenuNode* a2 = desk.document().CurNode();
         desk.add("a3");
         desk.click(a2);
         desk.choose("mnuEditDelete");
@@ -196,13 +197,13 @@ class test_tree_commands : public QObject {
         QCOMPARE(desk.shownTree(), "a\n  *a1\n");
         desk.choose("mnuEditDelete");
         QCOMPARE(desk.shownTree(), "*a\n");
-        QCOMPARE(desk.document().CurNode, a);
+        QCOMPARE(desk.document().CurNode(), a);
         QCOMPARE(desk.shownPanel(), "normal|a||||");
     }
 
     void deleteDoesNotCarryTheDeletedItemsTextIntoTheNextOne() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         const MenuNode* b = desk.add("b");
         desk.click(a);
         desk.type("txtURL", "of-a.html");
@@ -217,19 +218,19 @@ class test_tree_commands : public QObject {
         desk.type("txtURL", "a.html");
         desk.choose("mnuEditDelete");
         QCOMPARE(desk.shownTree(), "");
-        QCOMPARE(desk.document().CurNode, nullptr);
+        QCOMPARE(desk.document().CurNode(), nullptr);
         QCOMPARE(desk.shownPanel(), "normal|||||");
         QVERIFY(!desk.field("txtCaption").isEnabled());
         for (const char* name : {"mnuEditMenuProperties", "mnuEditAddSubmenuItem", "mnuEditDelete",
                                  "mnuEditMoveUp", "mnuEditMoveDown"})
             QVERIFY2(!desk.action(name).isEnabled(), name);
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
     }
 
     void delDeletesTheSelectedItem() {
         WindowDesk desk;
         desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.click(b);
         QTest::keyClick(&desk.tree(), Qt::Key_Delete);
         QCOMPARE(desk.shownTree(), "*a\n");
@@ -258,8 +259,8 @@ class test_tree_commands : public QObject {
         desk.add("a");
         desk.add("b");
         desk.addChild("b1");
-        for (MenuNode* at = desk.document().tree.firstNode(); at;
-             at = desk.document().tree.nextInTreeOrder(*at)) {
+        for (const MenuNode* at = desk.document().tree().firstNode(); at;
+             at = desk.document().tree().nextInTreeOrder(*at)) {
             if (at->text == node.toStdString()) {
                 desk.click(at);
                 break;
@@ -271,8 +272,8 @@ class test_tree_commands : public QObject {
         // Also when it is run all the same.
         call(desk.window, entry);
         QCOMPARE(desk.shownTree(), before);
-        QCOMPARE(desk.document().ItemCounter, 3);
-        QVERIFY(!desk.document().bModified);
+        QCOMPARE(desk.document().ItemCounter(), 3);
+        QVERIFY(!desk.document().bModified());
     }
 
     void movesWithoutACurrentItemDoNothing_data() {
@@ -286,30 +287,30 @@ class test_tree_commands : public QObject {
         WindowDesk desk;
         call(desk.window, entry);
         QCOMPARE(desk.shownTree(), "");
-        QVERIFY(!desk.document().bModified);
-        QCOMPARE(desk.document().ItemCounter, 0);
+        QVERIFY(!desk.document().bModified());
+        QCOMPARE(desk.document().ItemCounter(), 0);
     }
 
     void moveLeftKeepsTheBranch() {
         WindowDesk desk;
         desk.add("a");
-        MenuNode* b = desk.addChild("b");
+        const MenuNode* b = desk.addChild("b");
         desk.addChild("b1");
         desk.addChild("b11");
         desk.click(b);
-        b->item.MenuProperty.edit().Position = 0;
+        test::editItem(desk.document(), *b)->MenuProperty.edit().Position = 0;
         desk.choose("mnuEditMoveLeft");
         QCOMPARE(desk.shownTree(), "a\n*b\n  b1\n    b11\n");
-        QCOMPARE(keys(desk.document().tree), "Key 0\nKey 1\n  Key 2\n    Key 3\n");
-        QCOMPARE(desk.document().CurNode->text, "b");
-        QCOMPARE(desk.document().ItemCounter, 5);
-        QCOMPARE(desk.document().CurNode->item.MenuProperty->Position, 0);
-        QVERIFY(desk.document().bModified);
+        QCOMPARE(keys(desk.document().tree()), "Key 0\nKey 1\n  Key 2\n    Key 3\n");
+        QCOMPARE(desk.document().CurNode()->text, "b");
+        QCOMPARE(desk.document().ItemCounter(), 5);
+        QCOMPARE(desk.document().CurNode()->item.MenuProperty->Position, 0);
+        QVERIFY(desk.document().bModified());
     }
 
     void moveLeftGoesRightAfterTheParent() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.addChild("a1");
         desk.click(a);
         desk.add("z");
@@ -320,13 +321,13 @@ class test_tree_commands : public QObject {
 
     void moveRightBecomesTheLastChildOfThePreviousSibling() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.addChild("a1");
         desk.click(a);
         desk.add("b");
         desk.choose("mnuEditMoveRight");
         QCOMPARE(desk.shownTree(), "a\n  a1\n  *b\n");
-        QCOMPARE(desk.document().ItemCounter, 4);
+        QCOMPARE(desk.document().ItemCounter(), 4);
     }
 
     void aMovedItemStaysInSight() {
@@ -340,7 +341,7 @@ class test_tree_commands : public QObject {
     void moveUpThenDownRestoresTheOrder() {
         WindowDesk desk;
         desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.add("c");
         desk.click(b);
         const QString before = desk.shownTree();
@@ -348,9 +349,9 @@ class test_tree_commands : public QObject {
         QCOMPARE(desk.shownTree(), "*b\na\nc\n");
         QTest::keyClick(&desk.tree(), Qt::Key_D, Qt::ControlModifier);
         QCOMPARE(desk.shownTree(), before);
-        QCOMPARE(desk.document().CurNode->text, "b");
-        QCOMPARE(desk.document().selectedNode, desk.document().CurNode);
-        QCOMPARE(desk.document().ItemCounter, 3);
+        QCOMPARE(desk.document().CurNode()->text, "b");
+        QCOMPARE(desk.document().selectedNode(), desk.document().CurNode());
+        QCOMPARE(desk.document().ItemCounter(), 3);
     }
 
     void movesKeepWhatWasTypedInThePanel_data() {
@@ -365,7 +366,7 @@ class test_tree_commands : public QObject {
         desk.add("a");
         desk.addChild("a1");
         desk.add("a2");
-        MenuNode* a2 = desk.document().CurNode;
+        const MenuNode* a2 = desk.document().CurNode();
         desk.add("a3");
         desk.click(a2);
         desk.click(desk.button("optRollover"));
@@ -374,10 +375,10 @@ class test_tree_commands : public QObject {
         desk.choose(entry);
         QCOMPARE(desk.shownPanel(), "rollover|a2|it\\'s||out.gif|");
         QVERIFY(desk.field("txtImgOut").isEnabled());
-        QCOMPARE(desk.document().CurNode->item.URL, "");
+        QCOMPARE(desk.document().CurNode()->item.URL, "");
         desk.clickTab("JavaScript");
-        QCOMPARE(panelOf(desk.document().CurNode->item), "rollover|a2|it\\'s||out.gif|");
-        QCOMPARE(desk.document().CurNode->text, "out.gif");
+        QCOMPARE(panelOf(desk.document().CurNode()->item), "rollover|a2|it\\'s||out.gif|");
+        QCOMPARE(desk.document().CurNode()->text, "out.gif");
     }
 
     void everyChangeOfTheTreeCanBeSaved_data() {
@@ -392,12 +393,12 @@ class test_tree_commands : public QObject {
         WindowDesk desk;
         desk.add("top");
         desk.addChild("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.add("c");
         desk.click(b);
         desk.forgetChanges();
         desk.choose(entry);
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         QVERIFY(desk.action("mnuFileSave").isEnabled());
         QVERIFY(desk.action("tbToolBar_3").isEnabled());
     }
@@ -414,7 +415,7 @@ class test_tree_commands : public QObject {
         desk.add("a");
         desk.addChild("a1");
         desk.add("a2");
-        desk.document().ItemCounter = kMaxItemCounter;
+        desk.document().apply(SetItemCounter{kMaxItemCounter});
         desk.forgetChanges();
         const QString before = desk.shownTree();
         desk.messages.expect(
@@ -422,8 +423,8 @@ class test_tree_commands : public QObject {
             "again to add more items.");
         desk.choose(entry);
         QCOMPARE(desk.shownTree(), before);
-        QCOMPARE(desk.document().ItemCounter, kMaxItemCounter);
-        QVERIFY(!desk.document().bModified);
+        QCOMPARE(desk.document().ItemCounter(), kMaxItemCounter);
+        QVERIFY(!desk.document().bModified());
     }
 
     void openingAgainIsOfferedOnlyWhereItHelps_data() {
@@ -440,22 +441,21 @@ class test_tree_commands : public QObject {
         QFETCH(int, items);
         QFETCH(QString, notice);
         WindowDesk desk;
-        MenuDocument full("/program");
+        MenuContent full;
         for (int i = 0; i < items; ++i)
             full.tree.append(nullptr, std::to_string(i), "x");
         full.ItemCounter = kMaxItemCounter;
-        full.CurNode = full.selectedNode = full.tree.firstNode();
-        desk.document().takeFrom(full);
+        desk.document().open(std::move(full));
         desk.window.Button_Update();
         desk.messages.expect(notice.toStdString());
         desk.choose("mnuEditAddSubmenuItem");
-        QCOMPARE(desk.document().tree.size(), std::size_t(items));
+        QCOMPARE(desk.document().tree().size(), std::size_t(items));
     }
 
     void whatOpeningAgainOffersIsTrue() {
         WindowDesk desk;
         desk.add("a");
-        desk.document().ItemCounter = kMaxItemCounter;
+        desk.document().apply(SetItemCounter{kMaxItemCounter});
         desk.saveAs("/site/menu.js");
         desk.dialogs.expectOpenFile("/site/menu.js");
         desk.choose("mnuFileOpen");
@@ -491,16 +491,15 @@ class test_tree_commands : public QObject {
 
 void test_tree_commands::itemsAreAddedAtTheEndOfAWideMenu() {
     WindowDesk desk;
-    MenuDocument wide("/program");
+    MenuContent wide;
     for (int i = 0; i < 20000; ++i)
         wide.tree.append(nullptr, "k" + std::to_string(i), "Item of a wide menu");
-    wide.selectedNode = wide.CurNode = wide.tree.firstNode();
-    desk.document().takeFrom(wide);
+    desk.document().open(std::move(wide));
     desk.window.ShowItem();
     desk.window.Button_Update();
     desk.choose("mnuEditAddMenuItem");
-    QCOMPARE(desk.document().tree.size(), std::size_t(20001));
-    QCOMPARE(desk.document().CurNode, desk.document().tree.topLevel().back());
+    QCOMPARE(desk.document().tree().size(), std::size_t(20001));
+    QCOMPARE(desk.document().CurNode(), desk.document().tree().topLevel().back());
     QVERIFY(desk.tree().viewport()->rect().contains(
         desk.tree().visualRect(desk.tree().currentIndex()).center()));
 }

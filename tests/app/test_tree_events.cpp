@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 
 #include "dialogs/frm_menu_prop.h"
+#include "tests/support/document_steps.h"
 #include "when_shown.h"
 #include "window_desk.h"
 
@@ -15,7 +16,7 @@ class test_tree_events : public QObject {
   private slots:
     void theLabelsArePainted() {
         WindowDesk desk;
-        MenuNode* a = desk.add("");
+        const MenuNode* a = desk.add("");
         desk.add("b");
         const auto row = [&desk, a] {
             const int height = desk.tree().visualRect(desk.tree().model()->index(0, 0)).height();
@@ -24,7 +25,7 @@ class test_tree_events : public QObject {
             return desk.tree().viewport()->grab(all).toImage();
         };
         const QImage empty = row();
-        desk.document().tree.setText(*a, "WWW");
+        desk.document().setLabel(*a, "WWW");
         const QImage labelled = row();
         QCOMPARE(labelled.size(), empty.size());
         QVERIFY(labelled != empty);
@@ -34,67 +35,67 @@ class test_tree_events : public QObject {
 
     void clickingANodeStoresThePanelAndShowsTheNode() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
         desk.type("txtURL", "b.html");
         desk.click(a);
         QCOMPARE(b->item.URL, "b.html");
-        QCOMPARE(desk.document().CurNode, a);
-        QCOMPARE(desk.document().selectedNode, a);
+        QCOMPARE(desk.document().CurNode(), a);
+        QCOMPARE(desk.document().selectedNode(), a);
         QCOMPARE(desk.shownPanel(), "normal|a||||");
         QVERIFY(desk.action("mnuEditMoveDown").isEnabled());
     }
 
     void theArrowKeysChooseNodesLikeClicks() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
         desk.type("txtURL", "b.html");
         desk.tree().setFocus();
         QTest::keyClick(&desk.tree(), Qt::Key_Up);
-        QCOMPARE(desk.document().CurNode, a);
-        QCOMPARE(desk.document().selectedNode, a);
+        QCOMPARE(desk.document().CurNode(), a);
+        QCOMPARE(desk.document().selectedNode(), a);
         QCOMPARE(desk.shownPanel(), "normal|a||||");
         QCOMPARE(b->item.URL, "b.html");
     }
 
     void clickingNodesNeverMarksTheMenuAsChanged() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.click(desk.button("optRollover"));
         desk.type("txtImgOut", "out.gif");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.click(a);
         desk.forgetChanges();
-        for (MenuNode* node : {b, a, b, b, a})
+        for (const MenuNode* node : {b, a, b, b, a})
             desk.click(node);
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
         QCOMPARE(desk.shownTree(), "*out.gif\nb\n");
     }
 
     void clickingANodeKeepsTheChangesMark() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.add("b");
         desk.click(a);
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
     }
 
     void aLabelEditedInPlaceBecomesTheCaption() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.forgetChanges();
         desk.editLabel(a, "Home & <b>more</b>", Qt::Key_Return);
         QCOMPARE(desk.shownTree(), "*Home & <b>more</b>\n");
         QCOMPARE(desk.field("txtCaption").text(), "Home & <b>more</b>");
-        QVERIFY(desk.document().bModified);
+        QVERIFY(desk.document().bModified());
         QVERIFY(desk.action("mnuFileSave").isEnabled());
     }
 
     void aLabelEditedInPlaceIsCleanedLikeTheCaption() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.editLabel(a, "It's", Qt::Key_Return);
         QCOMPARE(desk.field("txtCaption").text(), "It\\'s");
         QCOMPARE(desk.shownTree(), "*It\\'s\n");
@@ -102,7 +103,7 @@ class test_tree_events : public QObject {
 
     void aLabelOfARolloverItemBecomesItsOutImage() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.click(desk.button("optRollover"));
         desk.type("txtImgOut", "out.gif");
         desk.editLabel(a, "other.gif", Qt::Key_Return);
@@ -112,16 +113,16 @@ class test_tree_events : public QObject {
 
     void escapeLeavesTheLabelAsItWas() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.forgetChanges();
         desk.editLabel(a, "b", Qt::Key_Escape);
         QCOMPARE(desk.shownTree(), "*a\n");
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void aClickOnTheSelectedLabelEditsIt() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.click(a);
         desk.click(a);
         QTRY_VERIFY(desk.labelEditor() != nullptr);
@@ -129,7 +130,7 @@ class test_tree_events : public QObject {
 
     void aCommandTakesTheLabelBeingEdited() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.startLabel(a, "Edited");
         QTest::keyClick(desk.labelEditor(), Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(desk.shownTree(), "Edited\n*Item 1\n");
@@ -138,7 +139,7 @@ class test_tree_events : public QObject {
 
     void aTabSwitchTakesTheLabelBeingEdited() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.startLabel(a, "Edited");
         desk.clickTab("JavaScript");
         QCOMPARE(a->item.Caption, "Edited");
@@ -147,7 +148,7 @@ class test_tree_events : public QObject {
 
     void f2IsMenuPropertiesAndNotLabelEditing() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.click(a);
         bool isShown = false;
         whenShown<frmMenuProp>([&](frmMenuProp& form) {
@@ -160,8 +161,8 @@ class test_tree_events : public QObject {
     }
     void clickingAnotherNodeTakesTheLabelBeingEdited() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
         desk.startLabel(a, "It's");
         desk.click(b);
         QCoreApplication::processEvents();
@@ -174,12 +175,12 @@ class test_tree_events : public QObject {
 
     void theTabKeyTakesTheLabelAndEditsTheNextOne() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
         desk.startLabel(a, "first");
         QTest::keyClick(desk.labelEditor(), Qt::Key_Tab);
         QTRY_VERIFY(desk.labelEditor() != nullptr && desk.labelEditor()->text() == "b");
-        QCOMPARE(desk.document().CurNode, b);
+        QCOMPARE(desk.document().CurNode(), b);
         WindowDesk::pressKeys(*desk.labelEditor(), "second");
         QTest::keyClick(desk.labelEditor(), Qt::Key_Return);
         QCoreApplication::processEvents();
@@ -197,9 +198,9 @@ class test_tree_events : public QObject {
     void aLabelThatIsOnlyLookedAtStays() {
         QFETCH(QString, caption);
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.tree().setFocus();
-        a->item.Caption = caption.toStdString();
+        test::editItem(desk.document(), *a)->Caption = caption.toStdString();
         desk.window.ShowItem();
         desk.forgetChanges();
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
@@ -213,14 +214,14 @@ class test_tree_events : public QObject {
         QVERIFY(desk.labelEditor() == nullptr);
         desk.clickTab("JavaScript");
         QCOMPARE(QString::fromStdString(a->item.Caption), caption);
-        QVERIFY(!desk.document().bModified);
+        QVERIFY(!desk.document().bModified());
     }
 
     void aLongLabelIsEditedInFull() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         const QString caption(50'000, 'x');
-        a->item.Caption = caption.toStdString();
+        test::editItem(desk.document(), *a)->Caption = caption.toStdString();
         desk.window.ShowItem();
         desk.doubleClick(a);
         QTest::keyClick(desk.labelEditor(), Qt::Key_End);
@@ -242,7 +243,7 @@ class test_tree_events : public QObject {
         QFETCH(QString, next);
         WindowDesk desk;
         desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.click(b);
         desk.click(b);
         if (next == "txtURL")
@@ -265,9 +266,9 @@ class test_tree_events : public QObject {
 
     void draggingTheMouseOverTheTreeChoosesWhereItEnds() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
-        MenuNode* c = desk.add("c");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
+        const MenuNode* c = desk.add("c");
         desk.click(a);
         desk.type("txtURL", "it's");
         QWidget* viewport = desk.tree().viewport();
@@ -275,7 +276,7 @@ class test_tree_events : public QObject {
         for (const MenuNode* node : {b, c, b})
             QTest::mouseMove(viewport, desk.placeOf(node));
         QTest::mouseRelease(viewport, Qt::LeftButton, {}, desk.placeOf(b));
-        QCOMPARE(desk.document().CurNode, b);
+        QCOMPARE(desk.document().CurNode(), b);
         QCOMPARE(desk.shownTree(), "a\n*b\nc\n");
         QCOMPARE(desk.shownPanel(), "normal|b||||");
         QCOMPARE(a->item.URL, "it\\'s");
@@ -290,11 +291,11 @@ class test_tree_events : public QObject {
     void everyButtonOfTheMouseChooses() {
         QFETCH(Qt::MouseButton, button);
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.add("b");
         QTest::mouseClick(desk.tree().viewport(), button, {}, desk.placeOf(a));
-        QCOMPARE(desk.document().CurNode, a);
-        QCOMPARE(desk.document().selectedNode, a);
+        QCOMPARE(desk.document().CurNode(), a);
+        QCOMPARE(desk.document().selectedNode(), a);
         QCOMPARE(desk.shownPanel(), "normal|a||||");
         QVERIFY(QApplication::activePopupWidget() == nullptr);
     }
@@ -302,21 +303,21 @@ class test_tree_events : public QObject {
     void typedLettersSearchTheTree() {
         WindowDesk desk;
         desk.add("Home");
-        MenuNode* tea = desk.add("Tea");
+        const MenuNode* tea = desk.add("Tea");
         desk.add("Boats");
         desk.tree().setFocus();
         QTest::keyClicks(&desk.tree(), "te");
-        QCOMPARE(desk.document().CurNode, tea);
+        QCOMPARE(desk.document().CurNode(), tea);
         QCOMPARE(desk.shownPanel(), "normal|Tea||||");
     }
 
     void theItemStaysCurrentWhenItsBranchIsCollapsed() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* child = desk.addChild("child");
-        desk.document().tree.setExpanded(*a, false);
-        QCOMPARE(desk.document().CurNode, child);
-        QCOMPARE(desk.document().selectedNode, child);
+        const MenuNode* a = desk.add("a");
+        const MenuNode* child = desk.addChild("child");
+        desk.document().setExpanded(*a, false);
+        QCOMPARE(desk.document().CurNode(), child);
+        QCOMPARE(desk.document().selectedNode(), child);
         QCOMPARE(desk.shownPanel(), "normal|child||||");
         desk.choose("mnuEditAddMenuItem");
         QCOMPARE(desk.shownTree(), "a\n  child\n  *Item 2\n");
@@ -325,9 +326,9 @@ class test_tree_events : public QObject {
 
     void foldingTheBranchOfTheSelectedItemChoosesTheFoldedOne() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* child = desk.addChild("child");
-        MenuNode* grandchild = desk.addChild("grandchild");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* child = desk.addChild("child");
+        const MenuNode* grandchild = desk.addChild("grandchild");
         desk.add("sibling");
         desk.click(grandchild);
         desk.type("txtURL", "it's.html");
@@ -335,27 +336,27 @@ class test_tree_events : public QObject {
         desk.clickBranchMark(a);
         QVERIFY(!a->isExpanded);
         QVERIFY(child->isExpanded);
-        QCOMPARE(desk.document().CurNode, a);
-        QCOMPARE(desk.document().selectedNode, a);
+        QCOMPARE(desk.document().CurNode(), a);
+        QCOMPARE(desk.document().selectedNode(), a);
         QCOMPARE(desk.shownPanel(), "normal|a||||");
         QCOMPARE(grandchild->item.URL, "it\\'s.html");
         QVERIFY(!desk.action("mnuEditMoveLeft").isEnabled());
         QCOMPARE(desk.shownTree(), "*a\n  child\n    grandchild\n    sibling\n");
         desk.clickBranchMark(a);
-        QCOMPARE(desk.document().CurNode, a);
+        QCOMPARE(desk.document().CurNode(), a);
         QCOMPARE(desk.shownTree(), "*a\n  child\n    grandchild\n    sibling\n");
     }
 
     void foldingNeverMarksTheMenuAsChanged() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.addChild("child");
         for (const bool wasModified : {false, true}) {
             desk.click(a->children().front());
-            desk.document().bModified = wasModified;
+            desk.document().apply(SetModified{wasModified});
             desk.clickBranchMark(a);
-            QCOMPARE(desk.document().CurNode, a);
-            QCOMPARE(desk.document().bModified, wasModified);
+            QCOMPARE(desk.document().CurNode(), a);
+            QCOMPARE(desk.document().bModified(), wasModified);
             desk.clickBranchMark(a);
         }
     }
@@ -363,7 +364,7 @@ class test_tree_events : public QObject {
     void delAfterFoldingDeletesTheItemThatIsShown() {
         WindowDesk desk;
         desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.addChild("child");
         desk.clickBranchMark(b);
         QTest::keyClick(&desk.tree(), Qt::Key_Delete);
@@ -373,31 +374,31 @@ class test_tree_events : public QObject {
 
     void foldingAnotherBranchKeepsTheSelectedItem() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.addChild("of a");
         desk.click(a);
-        MenuNode* b = desk.add("b");
-        MenuNode* child = desk.addChild("of b");
+        const MenuNode* b = desk.add("b");
+        const MenuNode* child = desk.addChild("of b");
         QSignalSpy clicked(&desk.tree(), &MenuTreeView::nodeClicked);
         desk.clickBranchMark(a);
         QVERIFY(!a->isExpanded);
-        QCOMPARE(desk.document().CurNode, child);
+        QCOMPARE(desk.document().CurNode(), child);
         QCOMPARE(desk.shownPanel(), "normal|of b||||");
         desk.click(b);
         clicked.clear();
         desk.clickBranchMark(b);
         QVERIFY(!b->isExpanded);
-        QCOMPARE(desk.document().CurNode, b);
+        QCOMPARE(desk.document().CurNode(), b);
         QVERIFY(clicked.isEmpty());
     }
 
     void aLabelBeingEditedIsTakenWhenItsBranchIsFolded() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* child = desk.addChild("child");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* child = desk.addChild("child");
         desk.startLabel(child, "It's");
         desk.clickBranchMark(a);
-        QCOMPARE(desk.document().CurNode, a);
+        QCOMPARE(desk.document().CurNode(), a);
         QCOMPARE(desk.shownTree(), "*a\n  It\\'s\n");
         QCOMPARE(desk.shownPanel(), "normal|a||||");
     }
@@ -414,7 +415,7 @@ class test_tree_events : public QObject {
         WindowDesk desk;
         desk.add("top");
         desk.addChild("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* b = desk.add("b");
         desk.add("c");
         desk.click(b);
         desk.forgetChanges();
@@ -428,21 +429,21 @@ class test_tree_events : public QObject {
             desk.choose("mnuEditAddMenuItem");
             desk.choose("mnuEditAddMenuItem");
         }
-        const MenuNode* before = desk.document().CurNode;
+        const MenuNode* before = desk.document().CurNode();
         desk.tree().setFocus();
-        const bool isFirst = desk.document().tree.firstNode() == before;
+        const bool isFirst = desk.document().tree().firstNode() == before;
         QTest::keyClick(&desk.tree(), isFirst ? Qt::Key_Down : Qt::Key_Up);
-        QVERIFY(desk.document().CurNode != before);
-        QCOMPARE(desk.document().selectedNode, desk.document().CurNode);
-        QVERIFY(
-            desk.shownTree().contains("*" + QString::fromStdString(desk.document().CurNode->text)));
+        QVERIFY(desk.document().CurNode() != before);
+        QCOMPARE(desk.document().selectedNode(), desk.document().CurNode());
+        QVERIFY(desk.shownTree().contains("*" +
+                                          QString::fromStdString(desk.document().CurNode()->text)));
         QCOMPARE(desk.field("txtCaption").text(),
-                 QString::fromStdString(desk.document().CurNode->item.Caption));
+                 QString::fromStdString(desk.document().CurNode()->item.Caption));
     }
 
     void aDoubleClickLeavesTheBranchAsItIs() {
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
+        const MenuNode* a = desk.add("a");
         desk.addChild("child");
         QVERIFY(a->isExpanded);
         desk.doubleClick(a);
@@ -452,14 +453,14 @@ class test_tree_events : public QObject {
 
     void aThousandLevelsUnfoldByOneKey() {
         WindowDesk desk;
-        MenuNode* node = nullptr;
+        const MenuNode* node = nullptr;
         for (int level = 0; level < 1000; ++level)
-            node = desk.document().tree.append(node, std::to_string(level), "x");
-        desk.click(desk.document().tree.firstNode());
+            node = test::appendNode(desk.document(), node, std::to_string(level), "x");
+        desk.click(desk.document().tree().firstNode());
         QTest::keyClick(&desk.tree(), Qt::Key_Asterisk);
         QVERIFY(node->parent()->isExpanded);
         QTest::keyClick(&desk.tree(), Qt::Key_End);
-        QCOMPARE(desk.document().CurNode, node);
+        QCOMPARE(desk.document().CurNode(), node);
     }
 };
 

@@ -10,8 +10,10 @@
 #include "app/menu_tree_view.h"
 #include "app/tree_view_model.h"
 #include "model/tree_editing.h"
+#include "tests/support/document_steps.h"
 
 using namespace zev;
+using test::appendNode;
 
 namespace {
 
@@ -47,49 +49,50 @@ bool isInside(const MenuNode* node, const MenuNode* branch) {
 /// Random editing of a tree, always the same for the same seed.
 class Editor {
   public:
-    Editor(MenuTree& tree, unsigned seed) : m_tree(tree), m_random(seed) {}
+    Editor(MenuDocument& document, unsigned seed) : m_document(document), m_random(seed) {}
 
     void step() {
-        MenuNode* node = any();
-        MenuNode* other = any();
-        const auto count = static_cast<unsigned>(m_tree.childrenOf(other).size());
+        const MenuNode* node = any();
+        const MenuNode* other = any();
+        const auto count = static_cast<unsigned>(tree().childrenOf(other).size());
         switch (below(6)) {
             case 0:
             case 1: {
                 const std::string key = "k" + std::to_string(m_nextKey++);
-                m_tree.move(*m_tree.append(other, key, key), other, below(count + 1));
+                m_document.apply(InsertBranch{MenuBranch(key, key), other, below(count + 1)});
                 break;
             }
             case 2:
-                if (node != nullptr && m_tree.size() > 20)
-                    m_tree.remove(*node);
+                if (node != nullptr && tree().size() > 20)
+                    m_document.apply(RemoveBranch{node});
                 break;
             case 3:
                 if (node != nullptr && !isInside(other, node))
-                    m_tree.move(*node, other, below(count + 1));
+                    m_document.apply(MoveBranch{node, other, below(count + 1)});
                 break;
             case 4:
                 if (node != nullptr)
-                    m_tree.setText(*node, "t" + std::to_string(m_nextKey++));
+                    m_document.setLabel(*node, "t" + std::to_string(m_nextKey++));
                 break;
             default:
                 if (node != nullptr)
-                    m_tree.setExpanded(*node, below(2) == 0);
+                    m_document.setExpanded(*node, below(2) == 0);
         }
     }
 
   private:
+    const MenuTree& tree() const { return m_document.tree(); }
     unsigned below(unsigned limit) { return static_cast<unsigned>(m_random() % limit); }
     /// Null, for the top level, now and then.
-    MenuNode* any() {
-        MenuNode* node = m_tree.firstNode();
-        for (unsigned steps = below(static_cast<unsigned>(m_tree.size()) + 1); node && steps;
+    const MenuNode* any() {
+        const MenuNode* node = tree().firstNode();
+        for (unsigned steps = below(static_cast<unsigned>(tree().size()) + 1); node && steps;
              --steps)
-            node = m_tree.nextInTreeOrder(*node);
+            node = tree().nextInTreeOrder(*node);
         return node;
     }
 
-    MenuTree& m_tree;
+    MenuDocument& m_document;
     std::minstd_rand m_random;
     int m_nextKey = 0;
 };
@@ -101,11 +104,11 @@ class test_tree_view_model : public QObject {
 
   private slots:
     void indexesAndNodesStandForEachOther() {
-        MenuTree tree;
-        MenuNode* first = tree.append(nullptr, "1", "first");
-        MenuNode* second = tree.append(nullptr, "2", "second");
-        MenuNode* child = tree.append(second, "3", "child");
-        TreeViewModel model(tree);
+        MenuDocument document("/program");
+        const MenuNode* first = appendNode(document, nullptr, "1", "first");
+        const MenuNode* second = appendNode(document, nullptr, "2", "second");
+        const MenuNode* child = appendNode(document, second, "3", "child");
+        TreeViewModel model(document);
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(model.columnCount(), 1);
         QCOMPARE(model.indexOf(second), model.index(1, 0));
@@ -129,27 +132,27 @@ class test_tree_view_model : public QObject {
     }
     void labelsAreTheNodesTextCharacterForCharacter() {
         QFETCH(QString, text);
-        MenuTree tree;
-        tree.append(nullptr, "1", text.toStdString());
-        TreeViewModel model(tree);
+        MenuDocument document("/program");
+        appendNode(document, nullptr, "1", text.toStdString());
+        TreeViewModel model(document);
         QCOMPARE(model.index(0, 0).data(Qt::DisplayRole).toString(), text);
         QCOMPARE(model.index(0, 0).data(Qt::EditRole).toString(), text);
     }
 
     void anOverlongLabelIsCutForTheEyeOnly() {
         const QString longText(TreeViewModel::kMaxShownLabel + 1, 'x');
-        MenuTree tree;
-        tree.append(nullptr, "1", longText.toStdString());
-        TreeViewModel model(tree);
+        MenuDocument document("/program");
+        appendNode(document, nullptr, "1", longText.toStdString());
+        TreeViewModel model(document);
         const QString shown = model.index(0, 0).data(Qt::DisplayRole).toString();
         QCOMPARE(shown, longText.left(TreeViewModel::kMaxShownLabel) + QChar(0x2026));
         QCOMPARE(model.index(0, 0).data(Qt::EditRole).toString(), longText);
     }
 
     void editingALabelChangesTheNodeAndIsAnnounced() {
-        MenuTree tree;
-        const MenuNode* node = tree.append(nullptr, "1", "old");
-        TreeViewModel model(tree);
+        MenuDocument document("/program");
+        const MenuNode* node = appendNode(document, nullptr, "1", "old");
+        TreeViewModel model(document);
         QSignalSpy edited(&model, &TreeViewModel::labelEdited);
         QSignalSpy changed(&model, &TreeViewModel::dataChanged);
         QVERIFY(model.setData(model.index(0, 0), "new", Qt::EditRole));
@@ -162,19 +165,19 @@ class test_tree_view_model : public QObject {
     }
 
     void theModelKeepsQtsRulesUnderRandomEditing() {
-        MenuTree tree;
-        TreeViewModel model(tree);
+        MenuDocument document("/program");
+        TreeViewModel model(document);
         const QAbstractItemModelTester tester(
             &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        Editor editor(tree, 20261121);
+        Editor editor(document, 20261121);
         for (int i = 0; i < 1500; ++i)
             editor.step();
-        QVERIFY(tree.size() > 20);
-        MenuTree other;
-        other.append(nullptr, "x", "x");
-        tree.takeFrom(other);
+        QVERIFY(document.tree().size() > 20);
+        MenuContent other;
+        other.tree.append(nullptr, "x", "x");
+        document.open(std::move(other));
         QCOMPARE(model.rowCount(), 1);
-        tree.clear();
+        document.NewDocument();
         QCOMPARE(model.rowCount(), 0);
     }
 
@@ -182,31 +185,31 @@ class test_tree_view_model : public QObject {
         MenuDocument document("/program");
         MenuTreeView view(document);
         view.show();
-        Editor editor(document.tree, 42);
+        Editor editor(document, 42);
         for (int i = 0; i < 400; ++i) {
             editor.step();
             if (i % 20 == 0)
                 QCoreApplication::processEvents();
-            QCOMPARE(viewText(view), treeText(document.tree));
+            QCOMPARE(viewText(view), treeText(document.tree()));
         }
     }
 
     void aDocumentThatIsSwappedInShowsItsExpansion() {
         MenuDocument document("/program");
         MenuTreeView view(document);
-        MenuDocument other("/program");
+        MenuContent other;
         MenuNode* a = other.tree.append(nullptr, "a", "a");
         MenuNode* b = other.tree.append(a, "b", "b");
         other.tree.append(b, "c", "c");
-        other.tree.setExpanded(*a, true);
-        document.takeFrom(other);
+        a->isExpanded = true;
+        document.open(std::move(other));
         QCOMPARE(viewText(view), "+a\n  b\n    c\n");
     }
 
     void expandingInTheViewReachesTheNode() {
         MenuDocument document("/program");
-        MenuNode* a = document.tree.append(nullptr, "a", "a");
-        document.tree.append(a, "b", "b");
+        const MenuNode* a = appendNode(document, nullptr, "a", "a");
+        appendNode(document, a, "b", "b");
         MenuTreeView view(document);
         view.show();
         view.setCurrentIndex(view.model()->index(0, 0));
@@ -218,13 +221,13 @@ class test_tree_view_model : public QObject {
 
     void theSelectionFollowsTheDocument() {
         MenuDocument document("/program");
-        MenuNode* a = document.tree.append(nullptr, "a", "a");
+        const MenuNode* a = appendNode(document, nullptr, "a", "a");
         MenuTreeView view(document);
         QSignalSpy clicked(&view, &MenuTreeView::nodeClicked);
-        document.selectedNode = a;
+        document.select(a);
         view.showSelection();
         QCOMPARE(view.selectionModel()->selectedIndexes().size(), 1);
-        document.selectedNode = nullptr;
+        document.select(nullptr);
         view.showSelection();
         QVERIFY(view.selectionModel()->selectedIndexes().isEmpty());
         QVERIFY(clicked.isEmpty());
@@ -232,10 +235,10 @@ class test_tree_view_model : public QObject {
 
     void theSelectionCannotBeTakenAwayByHand() {
         MenuDocument document("/program");
-        MenuNode* a = document.tree.append(nullptr, "a", "a");
+        const MenuNode* a = appendNode(document, nullptr, "a", "a");
         MenuTreeView view(document);
         view.show();
-        document.selectedNode = a;
+        document.select(a);
         view.showSelection();
         const QModelIndex index = view.model()->index(0, 0);
         QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::ControlModifier,
@@ -250,20 +253,20 @@ class test_tree_view_model : public QObject {
 
     void aNodeAThousandLevelsDownScrollsIntoView() {
         MenuDocument document("/program");
-        MenuNode* node = nullptr;
+        const MenuNode* node = nullptr;
         for (int level = 0; level < 1000; ++level)
-            node = document.tree.append(node, std::to_string(level), "Level");
+            node = appendNode(document, node, std::to_string(level), "Level");
         MenuTreeView view(document);
         view.resize(300, 200);
         view.show();
-        document.tree.makeVisible(*node);
-        document.selectedNode = node;
+        document.makeVisible(*node);
+        document.select(node);
         view.showSelection();
         QCoreApplication::processEvents();
         const QRect place =
             view.visualRect(static_cast<TreeViewModel*>(view.model())->indexOf(node));
         QVERIFY(view.viewport()->rect().contains(place.topLeft() + QPoint(5, 5)));
-        document.selectedNode = document.tree.firstNode();
+        document.select(document.tree().firstNode());
         view.showSelection();
         QCOMPARE(view.horizontalScrollBar()->value(), 0);
     }

@@ -49,13 +49,13 @@ struct WindowDesk {
         choose("mnuFileSaveAs");
     }
     /// Adds an item with the keyboard and gives it a caption.
-    MenuNode* add(const QString& caption) { return addBy("mnuEditAddMenuItem", caption); }
+    const MenuNode* add(const QString& caption) { return addBy("mnuEditAddMenuItem", caption); }
     /// Adds a child to the selected item, goes to it and gives it a caption.
-    MenuNode* addChild(const QString& caption) {
+    const MenuNode* addChild(const QString& caption) {
         choose("mnuEditAddSubmenuItem");
-        click(document().selectedNode->children().back());
+        click(document().selectedNode()->children().back());
         type("txtCaption", caption);
-        return document().CurNode;
+        return document().CurNode();
     }
 
     void click(QAbstractButton& target) {
@@ -142,7 +142,7 @@ struct WindowDesk {
     QString shownTree() { return shownBranch(QModelIndex(), QString()); }
     /// The menu's script as the JavaScript tab is to show it.
     QString expectedScript() {
-        return QString::fromStdString(GenerateScript(document())).replace("\r\n", "\n");
+        return QString::fromStdString(GenerateScript(document().content())).replace("\r\n", "\n");
     }
     /// What the panel's fields show.
     QString shownPanel() {
@@ -153,7 +153,7 @@ struct WindowDesk {
     }
     /// Clears the mark as a save does, and brings the commands up to date.
     void forgetChanges() {
-        document().bModified = false;
+        document().markSaved();
         window.Button_Update();
     }
 
@@ -177,10 +177,10 @@ struct WindowDesk {
             qFatal("no object named %s", qPrintable(name));
         return *object;
     }
-    MenuNode* addBy(const QString& entry, const QString& caption) {
+    const MenuNode* addBy(const QString& entry, const QString& caption) {
         choose(entry);
         type("txtCaption", caption);
-        return document().CurNode;
+        return document().CurNode();
     }
     QModelIndex indexOf(const MenuNode* node) {
         return static_cast<TreeViewModel*>(tree().model())->indexOf(node);

@@ -48,8 +48,8 @@ struct AdvDesk : DialogDesk {
         QVERIFY(form().fill());
         show(form());
     }
-    void open(MenuNode* node) {
-        document.CurNode = node;
+    void open(const MenuNode* node) {
+        document.apply(SetSelection{{document.selectedNode(), node}});
         open();
     }
     frmAdvProp& form() { return *dialog; }

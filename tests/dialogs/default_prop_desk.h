@@ -8,11 +8,12 @@ namespace zev {
 /// The dialog, filled from the factory defaults and shown.
 struct DefaultsDesk : DialogDesk {
     explicit DefaultsDesk(const std::function<void(MenuProp&)>& prepare = [](MenuProp&) {}) {
-        prepare(document.DefaultProp);
+        prepare(*editProp());
         dialog.LoadDefaultDialog();
         form.show();
     }
-    MenuProp& prop() { return document.DefaultProp; }
+    const MenuProp& prop() { return document.DefaultProp(); }
+    test::Edit<MenuProp> editProp() { return test::editMenu(document, test::kDefaults); }
 
     frmDefaultProp dialog{host()};
     Form form{dialog};

@@ -11,6 +11,7 @@
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 #include "platform/fake/fake_services.h"
+#include "tests/support/document_steps.h"
 
 namespace zev {
 
@@ -24,16 +25,14 @@ struct DialogDesk {
     DialogDesk() {
         document.NewDocument();
         AddMenuItem(document);
-        a = document.CurNode;
+        a = document.CurNode();
         AddSubmenuItem(document);
         a1 = a->children().front();
-        document.CurNode = a;
-        document.selectedNode = a;
+        document.select(a);
         AddMenuItem(document);
-        b = document.CurNode;
-        document.CurNode = a;
-        document.selectedNode = a;
-        document.bModified = false;
+        b = document.CurNode();
+        document.select(a);
+        document.markSaved();
     }
 
     DialogHost host() {
@@ -74,13 +73,18 @@ struct DialogDesk {
                                                       : "(nothing)";
     }
 
+    test::Edit<MenuProp> editTopMenu() { return test::editMenu(document, test::kTopMenu); }
+    test::Edit<MenuProp> editSubmenuOf(const MenuNode* node) {
+        return test::editMenu(document, {MenuPropOwner::Kind::Submenu, node});
+    }
+
     MenuDocument document{"/program"};
     FakeMessageBox messages{failDialogTest};
     FakeCommonDialogs dialogs{failDialogTest};
     int updates = 0;  ///< calls of `Button_Update`
-    MenuNode* a = nullptr;
-    MenuNode* a1 = nullptr;
-    MenuNode* b = nullptr;
+    const MenuNode* a = nullptr;
+    const MenuNode* a1 = nullptr;
+    const MenuNode* b = nullptr;
 };
 
 }  // namespace zev

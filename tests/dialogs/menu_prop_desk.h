@@ -13,7 +13,7 @@ inline const FontChoice kOwnFont = {"DejaVu Serif", 15, false, true};
 /// The dialog and the two it works with, over defaults with colours and a font.
 struct MenuDesk : DialogDesk {
     MenuDesk() {
-        MenuProp& prop = document.DefaultProp;
+        MenuProp prop = document.DefaultProp();
         prop.HBgColor = "#010000";
         prop.HFtColor = "#020000";
         prop.NBgColor = "#030000";
@@ -22,15 +22,16 @@ struct MenuDesk : DialogDesk {
         prop.FontSize = "12";
         prop.FontStyle = true;
         prop.FontWeight = false;
+        document.setMenuUnmarked(test::kDefaults, prop);
         defaults.LoadDefaultDialog();
     }
 
-    MenuProp& topMenu() { return document.RootMenuProp; }
-    MenuProp& submenuOfA() { return a->item.MenuProperty.edit(); }
+    const MenuProp& topMenu() { return document.RootMenuProp(); }
+    const MenuProp& submenuOfA() { return *a->item.MenuProperty; }
+    test::Edit<MenuProp> editSubmenuOfA() { return editSubmenuOf(a); }
     /// Opens the dialog for the menu that `node` stands in.
-    void open(MenuNode* node) {
-        document.CurNode = node;
-        document.selectedNode = node;
+    void open(const MenuNode* node) {
+        document.select(node);
         if (!dialog.fill())
             failDialogTest("the dialog was not filled");
         form.show();

@@ -14,17 +14,17 @@ class test_frm_adv_prop : public QObject {
 
     void fillingShowsTheStoredTexts() {
         AdvDesk desk;
-        desk.document.RootMenuProp = signedSet('7');
+        *desk.editTopMenu() = signedSet('7');
         desk.open();
         QCOMPARE(desk.shown(), AdvDesk::textsOf(signedSet('7')));
     }
 
     void aTopLevelItemStandsForTheTopMenuAndOthersForTheirParentsSubmenu() {
         AdvDesk desk;
-        desk.document.RootMenuProp = signedSet('1');
-        desk.a->item.MenuProperty.edit() = signedSet('2');
-        desk.a1->item.MenuProperty.edit() = signedSet('3');
-        desk.b->item.MenuProperty.edit() = signedSet('4');
+        *desk.editTopMenu() = signedSet('1');
+        *desk.editSubmenuOf(desk.a) = signedSet('2');
+        *desk.editSubmenuOf(desk.a1) = signedSet('3');
+        *desk.editSubmenuOf(desk.b) = signedSet('4');
         desk.open(desk.a);
         QCOMPARE(desk.text("txtTarget"), QString("1txtTarget"));
         desk.open(desk.b);
@@ -36,15 +36,15 @@ class test_frm_adv_prop : public QObject {
     void withoutACurrentItemNothingHappens() {
         AdvDesk desk;
         desk.type("txtTarget", "edited");
-        desk.document.CurNode = nullptr;
-        desk.document.RootMenuProp = signedSet('1');
+        desk.document.apply(SetSelection{{desk.document.selectedNode(), nullptr}});
+        *desk.editTopMenu() = signedSet('1');
         QVERIFY(!desk.form().fill());
         QCOMPARE(desk.text("txtTarget"), QString("edited"));
     }
 
     void openingTwiceWithoutOKShowsTheStoredTextsEachTime() {
         AdvDesk desk;
-        desk.document.RootMenuProp = signedSet('1');
+        *desk.editTopMenu() = signedSet('1');
         for (int times = 0; times < 2; ++times) {
             desk.open();
             QCOMPARE(desk.shown(), AdvDesk::textsOf(signedSet('1')));
@@ -55,11 +55,10 @@ class test_frm_adv_prop : public QObject {
 
     void storedTextsAreShownWithoutAMessageWhateverTheyAre() {
         AdvDesk desk;
-        MenuProp& root = desk.document.RootMenuProp;
-        root.CellPadding = "11";
-        root.FilterFade = "x";
-        root.FilterOpacity = "0";
-        root.MenuBorder = "it's";
+        desk.editTopMenu()->CellPadding = "11";
+        desk.editTopMenu()->FilterFade = "x";
+        desk.editTopMenu()->FilterOpacity = "0";
+        desk.editTopMenu()->MenuBorder = "it's";
         desk.open();
         QCOMPARE(desk.text("txtCellPadding"), QString("11"));
         QCOMPARE(desk.text("txtFade"), QString("x"));
@@ -90,7 +89,7 @@ class test_frm_adv_prop : public QObject {
     void okWritesEachBoxIntoItsMember() {
         QFETCH(QString, typed);
         AdvDesk desk;
-        desk.document.RootMenuProp = signedSet('1');
+        *desk.editTopMenu() = signedSet('1');
         desk.open();
         desk.type(QTest::currentDataTag(), typed);
         desk.click("cmdOK");
@@ -100,49 +99,49 @@ class test_frm_adv_prop : public QObject {
                 expected.*box.member = typed.toStdString();
         }
         QVERIFY(!desk.form().isVisible());
-        QVERIFY(desk.document.RootMenuProp == expected);
+        QVERIFY(desk.document.RootMenuProp() == expected);
     }
 
     void emptyTextIsStoredEverywhere() {
         AdvDesk desk;
-        desk.document.RootMenuProp = signedSet('1');
+        *desk.editTopMenu() = signedSet('1');
         desk.open();
         for (const BoxOf& box : kBoxes)
             desk.type(box.name, "");
         desk.click("cmdOK");
-        QVERIFY(desk.document.RootMenuProp == MenuProp());
+        QVERIFY(desk.document.RootMenuProp() == MenuProp());
         QVERIFY(desk.messages.recorded().empty());
     }
 
     void okWritesToTheMenuOfTheItemThatIsCurrentThen() {
         AdvDesk desk;
-        const MenuProp before = desk.document.RootMenuProp;
+        const MenuProp before = desk.document.RootMenuProp();
         desk.type("txtTarget", "frame");
-        desk.document.CurNode = desk.a1;
+        desk.document.apply(SetSelection{{desk.document.selectedNode(), desk.a1}});
         desk.click("cmdOK");
         QCOMPARE(desk.a->item.MenuProperty->Target, std::string("frame"));
-        QVERIFY(desk.document.RootMenuProp == before);
+        QVERIFY(desk.document.RootMenuProp() == before);
     }
 
     void okNeitherMarksTheDocumentNorUpdatesTheWindow() {
         AdvDesk desk;
         desk.type("txtTarget", "frame");
         desk.click("cmdOK");
-        QCOMPARE(desk.document.RootMenuProp.Target, std::string("frame"));
-        QVERIFY(!desk.document.bModified);
+        QCOMPARE(desk.document.RootMenuProp().Target, std::string("frame"));
+        QVERIFY(!desk.document.bModified());
         QCOMPARE(desk.updates, 0);
     }
 
     void textsThatABoxCannotShowSurviveOKAndPaste() {
         const std::string breaks = "<b>\r\nlong\n</b>" + std::string(100'001, 'x');
         AdvDesk desk;
-        desk.document.RootMenuProp.HTMLBefore = breaks;
+        desk.editTopMenu()->HTMLBefore = breaks;
         desk.open();
         QVERIFY(!desk.text("txtHTMLBefore").contains('\n'));
         desk.click("cmdCopy");
         desk.type("txtTarget", "frame");
         desk.click("cmdOK");
-        QVERIFY(desk.document.RootMenuProp.HTMLBefore == breaks);
+        QVERIFY(desk.document.RootMenuProp().HTMLBefore == breaks);
         desk.open(desk.a1);
         desk.click("cmdPaste");
         desk.click("cmdOK");
@@ -157,7 +156,7 @@ class test_frm_adv_prop : public QObject {
     void cancelHidesAndWritesNothing() {
         QFETCH(QString, way);
         AdvDesk desk;
-        const MenuProp before = desk.document.RootMenuProp;
+        const MenuProp before = desk.document.RootMenuProp();
         desk.type("txtTarget", "frame");
         desk.type("txtShadow", "#123456");
         // Would bring a message if the box were left.
@@ -171,8 +170,8 @@ class test_frm_adv_prop : public QObject {
         else
             desk.form().close();
         QTRY_VERIFY(!desk.form().isVisible());
-        QVERIFY(desk.document.RootMenuProp == before);
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(desk.document.RootMenuProp() == before);
+        QVERIFY(!desk.document.bModified());
         QCOMPARE(desk.updates, 0);
     }
 
@@ -183,7 +182,7 @@ class test_frm_adv_prop : public QObject {
         desk.box(QTest::currentDataTag()).setFocus();
         desk.press(Qt::Key_Return);
         QVERIFY(!desk.form().isVisible());
-        QCOMPARE(desk.document.RootMenuProp.Target, std::string("frame"));
+        QCOMPARE(desk.document.RootMenuProp().Target, std::string("frame"));
     }
 
     // Shadow colour
@@ -196,7 +195,7 @@ class test_frm_adv_prop : public QObject {
         QCOMPARE(desk.dialogs.recordedColors(), std::vector<std::int32_t>{0x0080FF});
         QCOMPARE(desk.text("txtShadow"), QString("#ABCDEF"));
         desk.click("cmdOK");
-        QCOMPARE(desk.document.RootMenuProp.FilterShadow, std::string("#ABCDEF"));
+        QCOMPARE(desk.document.RootMenuProp().FilterShadow, std::string("#ABCDEF"));
     }
 
     void aCancelledColorDialogLeavesTheShadowAsItIs() {
@@ -210,7 +209,7 @@ class test_frm_adv_prop : public QObject {
     void theSwatchShowsTheShadowOfEachMenu() {
         AdvDesk desk;
         auto& swatch = *desk.form().findChild<ColorSwatch*>();
-        desk.document.RootMenuProp.FilterShadow = "#123456";
+        desk.editTopMenu()->FilterShadow = "#123456";
         desk.open();
         QCOMPARE(swatch.accessibleDescription(), QString("#123456"));
         desk.open(desk.a1);
@@ -230,16 +229,17 @@ class test_frm_adv_prop : public QObject {
 
     void copyTakesWhatTheBoxesShowIntoAnyMenu() {
         AdvDesk desk;
-        const MenuProp root = desk.document.RootMenuProp = signedSet('1');
+        const MenuProp root = signedSet('1');
+        *desk.editTopMenu() = root;
         const MenuProp submenu = signedSet('2');
-        desk.a->item.MenuProperty.edit() = submenu;
+        *desk.editSubmenuOf(desk.a) = submenu;
         desk.open();
         desk.type("txtTarget", "not confirmed");
         desk.click("cmdCopy");
         const QStringList copied = desk.shown();
         desk.type("txtTarget", "typed after copying");
         desk.click("cmdCancel");
-        QVERIFY(desk.document.RootMenuProp == root);
+        QVERIFY(desk.document.RootMenuProp() == root);
 
         desk.open(desk.a1);
         QCOMPARE(desk.shown(), AdvDesk::textsOf(submenu));
@@ -250,15 +250,15 @@ class test_frm_adv_prop : public QObject {
         MenuProp expected = root;
         expected.Target = "not confirmed";
         QVERIFY(*desk.a->item.MenuProperty == expected);
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(!desk.document.bModified());
     }
 
     void theCopyIsKeptForFurtherPastes() {
         AdvDesk desk;
-        desk.document.RootMenuProp = signedSet('1');
+        *desk.editTopMenu() = signedSet('1');
         desk.open();
         desk.click("cmdCopy");
-        for (MenuNode* node : {desk.a1, desk.b}) {
+        for (const MenuNode* node : {desk.a1, desk.b}) {
             desk.open(node);
             desk.type("txtTarget", "x");
             desk.click("cmdPaste");
@@ -269,11 +269,10 @@ class test_frm_adv_prop : public QObject {
 
     void pastedTextIsCheckedOnlyWhenItsBoxIsChangedOrLeft() {
         AdvDesk desk;
-        MenuProp& root = desk.document.RootMenuProp;
-        root.CellPadding = "11";
-        root.FilterFade = "9";
-        root.MenuBorder = "it's";
-        root.Divider = "it's";
+        desk.editTopMenu()->CellPadding = "11";
+        desk.editTopMenu()->FilterFade = "9";
+        desk.editTopMenu()->MenuBorder = "it's";
+        desk.editTopMenu()->Divider = "it's";
         desk.open();
         desk.box("txtShadow").setFocus();
         desk.click("cmdCopy");

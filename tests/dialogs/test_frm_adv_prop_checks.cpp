@@ -55,7 +55,7 @@ class test_frm_adv_prop_checks : public QObject {
 
     void aStoredMenuBorderIsNotTouchedByLeaving() {
         AdvDesk desk;
-        desk.document.RootMenuProp.MenuBorder = "it's";
+        desk.editTopMenu()->MenuBorder = "it's";
         desk.open();
         desk.box("txtMenuBorder").setFocus();
         desk.press(Qt::Key_Tab);
@@ -98,7 +98,7 @@ class test_frm_adv_prop_checks : public QObject {
         QTRY_COMPARE(desk.text("txtTarget"), QString("It\\'s"));
         const bool isOK = way == "Enter" || way == "cmdOK" || way == "Alt+K";
         QTRY_COMPARE(desk.form().isVisible(), !isOK);
-        QCOMPARE(desk.document.RootMenuProp.Target, std::string(isOK ? "It\\'s" : ""));
+        QCOMPARE(desk.document.RootMenuProp().Target, std::string(isOK ? "It\\'s" : ""));
     }
 
     void anotherWindowAndAMenuDoNotLeaveTheBox() {
@@ -131,7 +131,7 @@ class test_frm_adv_prop_checks : public QObject {
         QFETCH(QString, typed);
         QFETCH(bool, isRefused);
         AdvDesk desk;
-        desk.document.RootMenuProp.CellPadding = "4";
+        desk.editTopMenu()->CellPadding = "4";
         desk.open();
         if (isRefused || typed == "+3")
             desk.messages.expect(kPaddingRange);
@@ -198,13 +198,13 @@ class test_frm_adv_prop_checks : public QObject {
 
     void okAfterABadNumberStoresItEmpty() {
         AdvDesk desk;
-        desk.document.RootMenuProp.FilterFade = "1";
+        desk.editTopMenu()->FilterFade = "1";
         desk.open();
         desk.type("txtFade", "5.1");
         desk.messages.expect(kFadeRange);
         desk.press(Qt::Key_Return);
         QVERIFY(!desk.form().isVisible());
-        QCOMPARE(desk.document.RootMenuProp.FilterFade, std::string());
+        QCOMPARE(desk.document.RootMenuProp().FilterFade, std::string());
     }
 
     void theRealMessageBoxNeitherHoldsTheFocusNorSwallowsTheClick() {
@@ -232,7 +232,7 @@ class test_frm_adv_prop_checks : public QObject {
         desk.type("txtOpacity", "0");
         desk.click("cmdOK");
         QVERIFY(!desk.form().isVisible());
-        QCOMPARE(desk.document.RootMenuProp.FilterOpacity, std::string());
+        QCOMPARE(desk.document.RootMenuProp().FilterOpacity, std::string());
     }
 };
 

@@ -34,7 +34,7 @@ class test_frm_default_prop : public QObject {
 
     void fillingLeavesTheDocumentAsItIs() {
         DefaultsDesk desk;
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(!desk.document.bModified());
         QCOMPARE(desk.updates, 0);
     }
 
@@ -88,7 +88,7 @@ class test_frm_default_prop : public QObject {
         DefaultsDesk desk;
         const MenuProp before = desk.prop();
         desk.form.click("cmdOK");
-        QVERIFY(desk.document.bModified);
+        QVERIFY(desk.document.bModified());
         QCOMPARE(desk.updates, 1);
         QVERIFY(desk.prop() == before);
         QVERIFY(!desk.dialog.isVisible());
@@ -98,7 +98,7 @@ class test_frm_default_prop : public QObject {
         DefaultsDesk desk;
         bool wasModified = false;
         frmDefaultProp dialog({desk.document, desk.messages, desk.dialogs,
-                               [&] { wasModified = desk.document.bModified; }});
+                               [&] { wasModified = desk.document.bModified(); }});
         dialog.LoadDefaultDialog();
         Form form(dialog);
         form.show();
@@ -118,7 +118,7 @@ class test_frm_default_prop : public QObject {
         DefaultsDesk desk;
         desk.form.named<QWidget>(name).setFocus();
         desk.form.press(Qt::Key_Return);
-        QVERIFY(desk.document.bModified);
+        QVERIFY(desk.document.bModified());
         QVERIFY(!desk.dialog.isVisible());
     }
 
@@ -140,7 +140,7 @@ class test_frm_default_prop : public QObject {
             desk.form.press(Qt::Key(key));
         QVERIFY(!desk.dialog.isVisible());
         QVERIFY(desk.prop() == before);
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(!desk.document.bModified());
         QCOMPARE(desk.updates, 0);
         // Menu Properties takes its preview colours from these boxes.
         QCOMPARE(desk.form.field("txtHBgColor").text(), "#123456");
@@ -237,7 +237,7 @@ class test_frm_default_prop : public QObject {
         desk.form.click("cmdFont");
         desk.form.click("cmdCancel");
         QCOMPARE(desk.prop().FontSize, "13");
-        desk.prop().FontSize = "10.5";
+        desk.editProp()->FontSize = "10.5";
         desk.dialog.LoadDefaultDialog();
         desk.form.show();
         desk.form.click("cmdOK");

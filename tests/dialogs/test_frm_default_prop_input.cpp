@@ -253,7 +253,7 @@ class test_frm_default_prop_input : public QObject {
 
     void browseTakesThePathRelativeToTheDocumentsFolder() {
         DefaultsDesk desk;
-        desk.document.SavePath = "/site";
+        desk.document.setFile(desk.document.SaveFile(), "/site");
         desk.form.type("txtBgImg", "old.gif");
         desk.dialogs.expectOpenFile("/site/images/back.gif");
         desk.form.click("cmdBrowseBgImg");

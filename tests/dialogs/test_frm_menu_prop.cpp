@@ -12,8 +12,8 @@ class test_frm_menu_prop : public QObject {
   private slots:
     void aTopLevelItemsMenuIsTheTopMenu() {
         MenuDesk desk;
-        desk.topMenu().BgImg = "top.gif";
-        desk.submenuOfA().BgImg = "a.gif";
+        desk.editTopMenu()->BgImg = "top.gif";
+        desk.editSubmenuOfA()->BgImg = "a.gif";
         desk.open(desk.b);
         QCOMPARE(desk.text("txtBgImg"), "top.gif");
         desk.form.type("txtBgImg", "new.gif");
@@ -24,9 +24,9 @@ class test_frm_menu_prop : public QObject {
 
     void anItemOfASubmenuEditsItsParentsSet() {
         MenuDesk desk;
-        desk.topMenu().BgImg = "top.gif";
-        desk.submenuOfA().BgImg = "a.gif";
-        desk.a1->item.MenuProperty.edit().BgImg = "a1.gif";
+        desk.editTopMenu()->BgImg = "top.gif";
+        desk.editSubmenuOfA()->BgImg = "a.gif";
+        desk.editSubmenuOf(desk.a1)->BgImg = "a1.gif";
         desk.openSubmenuOfA();
         QCOMPARE(desk.text("txtBgImg"), "a.gif");
         desk.form.type("txtBgImg", "new.gif");
@@ -38,8 +38,8 @@ class test_frm_menu_prop : public QObject {
 
     void withoutACurrentItemNothingIsFilled() {
         MenuDesk desk;
-        desk.topMenu().BgImg = "top.gif";
-        desk.document.CurNode = nullptr;
+        desk.editTopMenu()->BgImg = "top.gif";
+        desk.document.apply(SetSelection{{desk.document.selectedNode(), nullptr}});
         QVERIFY(!desk.dialog.fill());
         QCOMPARE(desk.text("txtBgImg"), "");
     }
@@ -49,7 +49,7 @@ class test_frm_menu_prop : public QObject {
         desk.openTopMenu();
         const MenuProp top = desk.topMenu();
         desk.form.type("txtBgImg", "new.gif");
-        desk.document.CurNode = desk.a1;
+        desk.document.apply(SetSelection{{desk.document.selectedNode(), desk.a1}});
         desk.form.click("cmdOK");
         QCOMPARE(desk.submenuOfA().BgImg, "new.gif");
         QVERIFY(desk.topMenu() == top);
@@ -57,7 +57,7 @@ class test_frm_menu_prop : public QObject {
 
     void fillingShowsWhatIsStored() {
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         QCOMPARE(desk.form.list("cboPosition").currentIndex(), 4);
         QCOMPARE(desk.text("txtColumns"), "3");
@@ -72,7 +72,7 @@ class test_frm_menu_prop : public QObject {
                                                           {"lblFont fore", 0x908070},
                                                           {"lblPreviewNormal back", 0x605040},
                                                           {"lblPreviewNormal fore", 0xC0B0A0}}));
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(!desk.document.bModified());
     }
 
     void fillingShowsTheDefaultsColoursWhereTheMenuHasNone() {
@@ -88,8 +88,8 @@ class test_frm_menu_prop : public QObject {
 
     void storedValuesThatNoCheckWouldPassAreShownWithoutAMessage() {
         MenuDesk desk;
-        desk.topMenu().Columns = "many";
-        desk.topMenu().Spacing = "-1";
+        desk.editTopMenu()->Columns = "many";
+        desk.editTopMenu()->Spacing = "-1";
         desk.openTopMenu();
         QCOMPARE(desk.text("txtColumns"), "many");
         QCOMPARE(desk.text("txtSpacing"), "-1");
@@ -101,8 +101,8 @@ class test_frm_menu_prop : public QObject {
 
     void aMenuWithoutAFontShowsTheDefaultsFont() {
         MenuDesk desk;
-        GiveOwnFont(desk.topMenu());
-        desk.topMenu().FontSet = false;
+        GiveOwnFont(*desk.editTopMenu());
+        desk.editTopMenu()->FontSet = false;
         desk.openTopMenu();
         QVERIFY(!desk.dialog.bFontSet);
         QVERIFY(desk.previewsHave(kDefaultFont));
@@ -135,9 +135,9 @@ class test_frm_menu_prop : public QObject {
         QFETCH(QString, shownFamily);
         QFETCH(float, shownPoints);
         MenuDesk desk;
-        GiveOwnFont(desk.topMenu());
-        desk.topMenu().FontFamily = family.toStdString();
-        desk.topMenu().FontSize = size.toStdString();
+        GiveOwnFont(*desk.editTopMenu());
+        desk.editTopMenu()->FontFamily = family.toStdString();
+        desk.editTopMenu()->FontSize = size.toStdString();
         desk.openTopMenu();
         QVERIFY(desk.dialog.bFontSet);
         QVERIFY(desk.previewsHave({shownFamily.toStdString(), shownPoints, false, true}));
@@ -166,14 +166,14 @@ class test_frm_menu_prop : public QObject {
         expected.HFtColor = "red";
         expected.NFtColor = "x";
         QVERIFY(desk.topMenu() == expected);
-        QVERIFY(desk.document.bModified);
+        QVERIFY(desk.document.bModified());
         QCOMPARE(desk.updates, 1);
         QVERIFY(!desk.dialog.isVisible());
     }
 
     void emptyBoxesAreStoredEmpty() {
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         for (const char* name : {"txtColumns", "txtSpacing", "txtBgImg", "txtHBgColor",
                                  "txtNBgColor", "txtHFtColor", "txtNFtColor"})
@@ -188,10 +188,10 @@ class test_frm_menu_prop : public QObject {
 
     void okWithNothingChangedMarksTheDocumentAsModified() {
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         desk.form.press(Qt::Key_Return);
-        QVERIFY(desk.document.bModified);
+        QVERIFY(desk.document.bModified());
         QCOMPARE(desk.updates, 1);
         QVERIFY(desk.topMenu() == FilledProp());
         QVERIFY(!desk.dialog.isVisible());
@@ -205,7 +205,7 @@ class test_frm_menu_prop : public QObject {
     void cancelWritesNothing() {
         QFETCH(bool, byKey);
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         desk.form.click("cmdFontClear");
         desk.form.type("txtSpacing", "9");
@@ -215,13 +215,13 @@ class test_frm_menu_prop : public QObject {
             desk.form.click("cmdCancel");
         QVERIFY(!desk.dialog.isVisible());
         QVERIFY(desk.topMenu() == FilledProp());
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(!desk.document.bModified());
         QCOMPARE(desk.updates, 0);
     }
 
     void pasteBeforeAnyCopyChangesNothing() {
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         const Form::Colors colors = desk.form.previewColors();
         QVERIFY(desk.form.button("cmdPaste").isEnabled());
@@ -233,9 +233,9 @@ class test_frm_menu_prop : public QObject {
 
     void whatIsCopiedInOneMenuIsPastedInAnother() {
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
-        desk.submenuOfA() = MenuProp();
-        desk.submenuOfA().Target = "its own";
+        *desk.editTopMenu() = FilledProp();
+        *desk.editSubmenuOfA() = MenuProp();
+        desk.editSubmenuOfA()->Target = "its own";
         desk.openTopMenu();
         desk.form.click("cmdCopy");
         QVERIFY(desk.topMenu() == FilledProp());
@@ -296,7 +296,7 @@ class test_frm_menu_prop : public QObject {
         desk.form.click("cmdCancel");
         for (const char* name : {"txtHBgColor", "txtHFtColor", "txtNBgColor", "txtNFtColor"})
             desk.defaults.findChild<QLineEdit*>(name)->setText("#0A0B0C");
-        desk.submenuOfA() = FilledProp();
+        *desk.editSubmenuOfA() = FilledProp();
         desk.openSubmenuOfA();
         desk.form.click("cmdPaste");
         QCOMPARE(desk.form.previewColors(), (Form::Colors{{"lblFont back", 0x0C0B0A},
@@ -310,7 +310,7 @@ class test_frm_menu_prop : public QObject {
         desk.openTopMenu();
         desk.form.click("cmdCopy");
         desk.form.click("cmdCancel");
-        desk.submenuOfA() = FilledProp();
+        *desk.editSubmenuOfA() = FilledProp();
         desk.openSubmenuOfA();
         desk.form.click("cmdPaste");
         QVERIFY(desk.previewsHave(kDefaultFont));
@@ -323,12 +323,12 @@ class test_frm_menu_prop : public QObject {
 
     void advancedPropertiesAreNotCopied() {
         MenuDesk desk;
-        desk.topMenu().Target = "top";
-        desk.topMenu().ItemBorder = "1px";
+        desk.editTopMenu()->Target = "top";
+        desk.editTopMenu()->ItemBorder = "1px";
         desk.openTopMenu();
         desk.form.click("cmdCopy");
         desk.form.click("cmdCancel");
-        desk.submenuOfA() = MenuProp();
+        *desk.editSubmenuOfA() = MenuProp();
         desk.openSubmenuOfA();
         desk.form.click("cmdPaste");
         desk.form.click("cmdOK");
@@ -338,13 +338,13 @@ class test_frm_menu_prop : public QObject {
 
     void aCopiedMissingPositionIsPastedAsMissing() {
         MenuDesk desk;
-        desk.topMenu().Position = 9;
+        desk.editTopMenu()->Position = 9;
         desk.openTopMenu();
         QCOMPARE(desk.form.list("cboPosition").currentIndex(), -1);
         desk.form.click("cmdCopy");
         desk.form.click("cmdOK");
         QCOMPARE(int(desk.topMenu().Position), -1);
-        desk.submenuOfA().Position = 2;
+        desk.editSubmenuOfA()->Position = 2;
         desk.openSubmenuOfA();
         desk.form.click("cmdPaste");
         QCOMPARE(desk.form.list("cboPosition").currentIndex(), -1);
@@ -352,7 +352,7 @@ class test_frm_menu_prop : public QObject {
 
     void advancedShowsTheSameMenusStoredProperties() {
         MenuDesk desk;
-        desk.submenuOfA().Target = "frame";
+        desk.editSubmenuOfA()->Target = "frame";
         desk.openSubmenuOfA();
         QString shown;
         whenShown<frmAdvProp>([&](frmAdvProp& advanced) {
@@ -374,14 +374,14 @@ class test_frm_menu_prop : public QObject {
         desk.form.click("cmdAdvanced");
         desk.form.click("cmdCancel");
         QCOMPARE(desk.topMenu().Target, "frame");
-        QVERIFY(!desk.document.bModified);
+        QVERIFY(!desk.document.bModified());
         QCOMPARE(desk.updates, 0);
     }
 
     void advancedWithoutACurrentItemDoesNothing() {
         MenuDesk desk;
         desk.openTopMenu();
-        desk.document.CurNode = nullptr;
+        desk.document.apply(SetSelection{{desk.document.selectedNode(), nullptr}});
         desk.form.click("cmdAdvanced");
         QVERIFY(!desk.advanced.isVisible());
     }
@@ -389,8 +389,8 @@ class test_frm_menu_prop : public QObject {
     void textsABoxCannotShowSurviveOKAndCopying() {
         const std::string text = "a\r\nb";
         MenuDesk desk;
-        desk.topMenu().BgImg = text;
-        desk.topMenu().HFtColor = text;
+        desk.editTopMenu()->BgImg = text;
+        desk.editTopMenu()->HFtColor = text;
         const MenuProp before = desk.topMenu();
         desk.openTopMenu();
         desk.form.click("cmdCopy");

@@ -51,7 +51,7 @@ class test_frm_menu_prop_input : public QObject {
         QFETCH(QString, name);
         QFETCH(QString, changed);
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         Form::Colors colors = desk.form.previewColors();
         desk.form.type("txt" + name, "#010203");
@@ -66,7 +66,7 @@ class test_frm_menu_prop_input : public QObject {
         QFETCH(QString, name);
         QFETCH(QString, changed);
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         // What the other dialog's box holds counts, confirmed there or not.
         desk.defaults.findChild<QLineEdit*>("txt" + name)->setText("#0A0B0C");
@@ -84,7 +84,7 @@ class test_frm_menu_prop_input : public QObject {
         QFETCH(QString, name);
         QFETCH(QString, changed);
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         Form::Colors colors = desk.form.previewColors();
         desk.form.type("txt" + name, "#FF8000");
@@ -108,7 +108,7 @@ class test_frm_menu_prop_input : public QObject {
 
     void browseTakesThePathRelativeToTheDocumentsFolder() {
         MenuDesk desk;
-        desk.document.SavePath = "/site";
+        desk.document.setFile(desk.document.SaveFile(), "/site");
         desk.openTopMenu();
         desk.dialogs.expectOpenFile("/other/back.gif");
         desk.form.click("cmdBrowseBgImg");
@@ -137,7 +137,7 @@ class test_frm_menu_prop_input : public QObject {
         QVERIFY(desk.dialogs.recordedFonts().back() == first);
         desk.form.click("cmdCancel");
         // A menu with a font of its own.
-        GiveOwnFont(desk.submenuOfA());
+        GiveOwnFont(*desk.editSubmenuOfA());
         desk.openSubmenuOfA();
         desk.dialogs.expectChooseFont(std::nullopt);
         desk.form.click("cmdFont");
@@ -180,7 +180,7 @@ class test_frm_menu_prop_input : public QObject {
 
     void clearFontShowsTheDefaultsFontAndKeepsTheStoredOne() {
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         QVERIFY(desk.previewsHave(kOwnFont));
         desk.form.click("cmdFontClear");
@@ -194,7 +194,7 @@ class test_frm_menu_prop_input : public QObject {
 
     void clearFontAndCancelLeaveTheMenusFont() {
         MenuDesk desk;
-        desk.topMenu() = FilledProp();
+        *desk.editTopMenu() = FilledProp();
         desk.openTopMenu();
         desk.form.click("cmdFontClear");
         desk.form.click("cmdCancel");

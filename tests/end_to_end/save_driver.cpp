@@ -12,6 +12,7 @@
 
 #include "app/file_commands.h"
 #include "platform/posix/posix_file_system.h"
+#include "tests/support/document_steps.h"
 #include "text/path.h"
 
 using namespace zev;
@@ -89,10 +90,10 @@ int main(int argc, char** argv) {
     MenuDocument document(Path(folder).child("program"));
     FileCommands commands(document, view, {files, messages, dialogs, shell, help, browser});
 
-    if (!commands.openDefinition(Path(folder).child("in.js")) || document.tree.isEmpty())
+    if (!commands.openDefinition(Path(folder).child("in.js")) || document.tree().isEmpty())
         return 3;
-    document.tree.firstNode()->item.Caption = "Changed";
-    document.bModified = true;
+    test::editItem(document, *document.tree().firstNode())->Caption = "Changed";
+    document.markModified();
     if (command == "save")
         commands.mnuFileSave_Click();
     else if (command == "saveas")

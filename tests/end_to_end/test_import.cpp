@@ -88,8 +88,8 @@ void test_import::anImportedMenuIsLikeAnyOther() {
     importFile(entry, ZEV_SAMPLES_FOLDER "/import/" + file, warnings);
     const QString imported = linkTree(document);
     QVERIFY(!imported.isEmpty());
-    QCOMPARE(document.CurNode, document.tree.firstNode());
-    QVERIFY(!document.bModified);
+    QCOMPARE(document.CurNode(), document.tree().firstNode());
+    QVERIFY(!document.bModified());
     QCOMPARE(m_window->windowTitle(), QString("ZEVMenu Creator"));
     lookAtPreview("program");
     if (QTest::currentTestFailed())
@@ -103,7 +103,7 @@ void test_import::anImportedMenuIsLikeAnyOther() {
     QVERIFY(saved.contains("zevmenu.AddItem("));
 
     clickButton("New");
-    QVERIFY(document.tree.isEmpty());
+    QVERIFY(document.tree().isEmpty());
     m_dialogs.expectOpenFile(m_menuFile.toStdString());
     pressShortcut(Qt::Key_O);
     m_dialogs.verify();

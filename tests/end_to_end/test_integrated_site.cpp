@@ -139,7 +139,7 @@ void test_integrated_site::aMenuIsMadeAndSaved() {
     fillIn("Products", "../products/list.htm");
     clickButton("Add Menu Item");
     fillIn("Team", "../about/us/team.htm");
-    const MenuNode* products = m_window->document().tree.topLevel().at(1);
+    const MenuNode* products = m_window->document().tree().topLevel()[1];
     clickNode(products);
     clickButton("Add Submenu Item");
     clickButton("Add Submenu Item");

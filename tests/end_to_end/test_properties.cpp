@@ -149,7 +149,7 @@ class test_properties : public QObject, private EditorOnDisk {
     void cleanupTestCase();
 
   private:
-    MenuNode* addItem(const char* button, const QString& caption);
+    const MenuNode* addItem(const char* button, const QString& caption);
     template <typename Form>
     void fillIn(const std::function<void()>& open, const std::function<void(Form&)>& step);
     void inMenuProperties(const MenuNode* node, const std::function<void(frmMenuProp&)>& step);
@@ -162,19 +162,19 @@ class test_properties : public QObject, private EditorOnDisk {
     QStringList savedLines();
     QVariant inPage(const QString& script);
 
-    MenuNode* m_two = nullptr;
-    MenuNode* m_three = nullptr;
+    const MenuNode* m_two = nullptr;
+    const MenuNode* m_three = nullptr;
 };
 
 /// Adds an item by a button of the toolbar, makes it current and gives it caption and link.
-MenuNode* test_properties::addItem(const char* button, const QString& caption) {
-    const MenuNode* before = m_window->document().CurNode;
+const MenuNode* test_properties::addItem(const char* button, const QString& caption) {
+    const MenuNode* before = m_window->document().CurNode();
     clickButton(button);
-    if (m_window->document().CurNode == before)
+    if (m_window->document().CurNode() == before)
         clickNode(before->children().back());
     type("txtCaption", caption);
     type("txtURL", caption.toLower().remove(' ') + ".html");
-    return m_window->document().CurNode;
+    return m_window->document().CurNode();
 }
 
 /// Runs `open`, which is to show a dialog, takes `step` in it, and presses OK.
@@ -364,7 +364,7 @@ void test_properties::theSavedFileHoldsThemAll() {
     while (expected.last().isEmpty())
         expected.removeLast();
     QCOMPARE(savedLines(), expected);
-    QVERIFY(!m_window->document().bModified);
+    QVERIFY(!m_window->document().bModified());
 }
 
 void test_properties::thePreviewShowsThoseOfTheTopMenu() {
@@ -443,7 +443,7 @@ void test_properties::openBringsThemBack() {
     const QStringList saved = savedLines();
     clickTab("Menu");
     clickButton("New");
-    QVERIFY(m_window->document().tree.isEmpty());
+    QVERIFY(m_window->document().tree().isEmpty());
     m_dialogs.expectOpenFile(m_menuFile.toStdString());
     pressShortcut(Qt::Key_O);
     m_dialogs.verify();
@@ -469,7 +469,7 @@ void test_properties::theDialogsShowWhatWasOpened() {
         [&](frmDefaultProp& form) {
             QCOMPARE(read(form), "Left|2|4|images/defaults.png|#E0A030|#204060|#101112|#F0F1E0");
         });
-    inMenuProperties(m_window->document().tree.firstNode(), [&](frmMenuProp& form) {
+    inMenuProperties(m_window->document().tree().firstNode(), [&](frmMenuProp& form) {
         QCOMPARE(read(form), "Right|4|12|images/top.png|#FFFF80|#E0E8F0|#800000|#203040");
         fillIn<frmAdvProp>([&] { press(form, "cmdAdvanced"); },
                            [](frmAdvProp& advanced) {

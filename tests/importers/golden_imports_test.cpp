@@ -68,7 +68,7 @@ TEST_P(GoldenImports, GiveTheExpectedDefinitionAndWarnings) {
     const Group* const group = groupOf(GetParam());
     ASSERT_NE(group, nullptr) << "no such format: " << GetParam();
     const std::string folder = kCases + "/" + GetParam();
-    MenuDocument document("/program");
+    MenuContent document;
     const ImportResult result =
         ImportMenu(*findImportFormat(group->folder), inputOf(GetParam(), *group), document);
     EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), caseFile(folder + "/expected.js"));
@@ -79,7 +79,7 @@ TEST_P(GoldenImports, GiveTheExpectedDefinitionAndWarnings) {
 
 TEST_P(GoldenImports, OpenAgainAsTheyWereSaved) {
     const std::string expected = caseFile(kCases + "/" + GetParam() + "/expected.js");
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadScript(expected, document).errorCount, 0u);
     EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), expected);
 }

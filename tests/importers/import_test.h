@@ -10,6 +10,7 @@
 
 #include "importers/import_menu.h"
 #include "messages/import_messages.h"
+#include "model/menu_document.h"
 #include "tests/script/document_text.h"
 
 namespace zev {
@@ -27,7 +28,7 @@ using Warnings = std::vector<LineWarning>;
 class ImportTest : public testing::Test {
   protected:
     Warnings importMenu(std::string_view format, std::string_view bytes) {
-        document.NewDocument();
+        document = MenuContent();
         const Warnings warnings = ImportMenu(*findImportFormat(format), bytes, document).warnings;
         ExpectSoundTree(document.tree);
         return warnings;
@@ -41,8 +42,8 @@ class ImportTest : public testing::Test {
     std::string tree() const { return TreeText(document.tree); }
     std::string keys() const { return TreeTextWithKeys(document.tree); }
 
-    MenuDocument document{"/program"};
-    const MenuDocument newDocument{"/program"};
+    MenuContent document;
+    const MenuContent newDocument;
     const Warnings none;
 };
 

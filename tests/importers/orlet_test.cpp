@@ -25,21 +25,20 @@ TEST_P(OrletTest, AFileWithoutItemLinesGivesAnEmptyDocument) {
     for (const char* const bytes : {"", "\n", "Home|a.html\nx :Home\n\t:Home\n|:Home\n"}) {
         EXPECT_EQ(importMenu(GetParam(), bytes), none);
         EXPECT_TRUE(document.tree.isEmpty());
-        EXPECT_EQ(document.CurNode, nullptr);
-        EXPECT_EQ(document.selectedNode, nullptr);
         EXPECT_EQ(document.ItemCounter, 0);
     }
 }
 
 TEST_P(OrletTest, TheFirstNodeIsCurrentAndSelectedAndNothingIsModified) {
     MenuDocument modified("/program");
-    modified.bModified = true;
-    ImportMenu(*findImportFormat(GetParam()), ":A\n::A1\n:B\n", modified);
-    EXPECT_EQ(modified.CurNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.selectedNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.CurNode->text, "A");
-    EXPECT_FALSE(modified.bModified);
-    EXPECT_EQ(modified.SaveFile, "");
+    modified.markModified();
+    importMenu(GetParam(), ":A\n::A1\n:B\n");
+    modified.open(std::move(document));
+    EXPECT_EQ(modified.CurNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.selectedNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.CurNode()->text, "A");
+    EXPECT_FALSE(modified.bModified());
+    EXPECT_EQ(modified.SaveFile(), "");
 }
 
 TEST_P(OrletTest, OnlyFormatOrletMenuMakesTheTopLevelOneColumn) {
@@ -119,8 +118,11 @@ TEST_P(OrletTest, KeysAreNumberedInTheOrderOfTheItemsAdded) {
 
 TEST_P(OrletTest, ItemsMadeAfterwardsHaveKeysOfTheirOwn) {
     EXPECT_EQ(read({":A", ":B"}), none);
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(keys(), "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
+    MenuDocument edited("/program");
+    edited.open(std::move(document));
+    EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
+    EXPECT_EQ(TreeTextWithKeys(edited.tree()),
+              "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
 }
 
 TEST_P(OrletTest, EveryItemIsATextItemWithTheUsualSpacing) {

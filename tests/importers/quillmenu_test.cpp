@@ -21,22 +21,20 @@ TEST_F(QuillmenuTest, AFileWithoutMenuLinesGivesAnEmptyDocument) {
     for (const char* const bytes : {"", "\n", "// a script\nvar menu = 1;\n", ":Home|a.html\n"}) {
         EXPECT_EQ(importMenu("quillmenu", bytes), none);
         EXPECT_EQ(DocumentText(document), DocumentText(newDocument));
-        EXPECT_EQ(document.CurNode, nullptr);
-        EXPECT_EQ(document.selectedNode, nullptr);
-        EXPECT_EQ(document.SaveFile, "");
+        EXPECT_TRUE(document.tree.isEmpty());
     }
 }
 
 TEST_F(QuillmenuTest, TheFirstNodeIsCurrentAndSelectedAndNothingIsModified) {
     MenuDocument modified("/program");
-    modified.bModified = true;
-    ImportMenu(*findImportFormat("quillmenu"),
-               Lines({kMain, "qlmenu1.addItems('A');", "qlmenu1.addItems('B');"}), modified);
-    EXPECT_EQ(modified.CurNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.selectedNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.CurNode->text, "A");
-    EXPECT_FALSE(modified.bModified);
-    EXPECT_EQ(modified.SaveFile, "");
+    modified.markModified();
+    read({kMain, "qlmenu1.addItems('A');", "qlmenu1.addItems('B');"});
+    modified.open(std::move(document));
+    EXPECT_EQ(modified.CurNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.selectedNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.CurNode()->text, "A");
+    EXPECT_FALSE(modified.bModified());
+    EXPECT_EQ(modified.SaveFile(), "");
 }
 
 TEST_F(QuillmenuTest, StateLinesSetTheDefaults) {
@@ -158,7 +156,7 @@ TEST_F(QuillmenuTest, LinesBeforeTheFirstCreationLineBelongToNoMenu) {
               (Warnings{{1, Reason::UnknownMenu}, {2, Reason::UnknownMenu}}));
     EXPECT_EQ(document.RootMenuProp, newDocument.RootMenuProp);
     EXPECT_TRUE(document.tree.isEmpty());
-    EXPECT_EQ(document.CurNode, nullptr);
+    EXPECT_TRUE(document.tree.isEmpty());
 }
 
 TEST_F(QuillmenuTest, AnEmptySubmenuIdIsAMenuThatNoItemOpens) {
@@ -283,8 +281,11 @@ TEST_F(QuillmenuTest, ARefusedItemCountsAllTheSame) {
 
 TEST_F(QuillmenuTest, ItemsMadeAfterwardsHaveKeysOfTheirOwn) {
     EXPECT_EQ(read({kMain, "qlmenu1.addItems('A');", "qlmenu1.addItems('B');"}), none);
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(keys(), "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
+    MenuDocument edited("/program");
+    edited.open(std::move(document));
+    EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
+    EXPECT_EQ(TreeTextWithKeys(edited.tree()),
+              "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
 }
 
 }  // namespace

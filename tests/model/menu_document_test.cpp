@@ -2,46 +2,52 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+
 #include "model/tree_editing.h"
 #include "tests/model/tree_text.h"
 
 namespace zev {
 namespace {
 
+using test::editMenu;
+using test::kDefaults;
+using test::kTopMenu;
+
 void ExpectEmptyDocument(const MenuDocument& document, const std::string& programFolder) {
-    EXPECT_EQ(document.SaveFile, "");
-    EXPECT_EQ(document.SavePath, programFolder);
+    EXPECT_EQ(document.SaveFile(), "");
+    EXPECT_EQ(document.SavePath(), programFolder);
     EXPECT_EQ(document.programFolder(), programFolder);
-    EXPECT_FALSE(document.bModified);
-    EXPECT_EQ(document.CurNode, nullptr);
-    EXPECT_EQ(document.selectedNode, nullptr);
-    EXPECT_EQ(document.ItemCounter, 0);
-    EXPECT_TRUE(document.tree.isEmpty());
+    EXPECT_FALSE(document.bModified());
+    EXPECT_EQ(document.CurNode(), nullptr);
+    EXPECT_EQ(document.selectedNode(), nullptr);
+    EXPECT_EQ(document.ItemCounter(), 0);
+    EXPECT_TRUE(document.tree().isEmpty());
 
     MenuProp defaults;
     defaults.SetDefault();
-    EXPECT_EQ(document.DefaultProp, defaults);
+    EXPECT_EQ(document.DefaultProp(), defaults);
     MenuProp root;
     root.Columns = "10";
     root.Position = 2;
     root.Divider = "&nbsp;";
     root.HTMLAfter = "&nbsp;&nbsp;";
     root.HTMLBefore = "&nbsp;&nbsp;";
-    EXPECT_EQ(document.RootMenuProp, root);
+    EXPECT_EQ(document.RootMenuProp(), root);
 }
 
 /// Changes everything that a document holds.
 void FillDocument(MenuDocument& document) {
     AddMenuItem(document);
     AddMenuItem(document);
-    document.SaveFile = "/site/menu.js";
-    document.SavePath = "/site";
-    document.RootMenuProp.Columns = "1";
-    document.RootMenuProp.Target = "main";
-    document.DefaultProp.Columns = "7";
-    document.DefaultProp.FontSet = true;
-    document.CurNode = document.tree.firstNode();
-    document.bModified = true;
+    document.setFile("/site/menu.js", "/site");
+    editMenu(document, kTopMenu)->Columns = "1";
+    editMenu(document, kTopMenu)->Target = "main";
+    editMenu(document, kDefaults)->Columns = "7";
+    editMenu(document, kDefaults)->FontSet = true;
+    document.apply(SetSelection{{document.selectedNode(), document.tree().firstNode()}});
+    document.markModified();
 }
 
 TEST(MenuDocument, ANewOneIsEmptyWithTheStartingValues) {
@@ -59,10 +65,10 @@ TEST(MenuDocument, NewDocumentStartsTheNumbersAgain) {
     MenuDocument document("/program");
     AddMenuItem(document);
     AddMenuItem(document);
-    EXPECT_EQ(document.CurNode->key(), "Key 1");
+    EXPECT_EQ(document.CurNode()->key(), "Key 1");
     document.NewDocument();
     AddMenuItem(document);
-    EXPECT_EQ(document.CurNode->key(), "Key 0");
+    EXPECT_EQ(document.CurNode()->key(), "Key 0");
 }
 
 TEST(MenuDocument, TheSubmenuOfANewItemStartsWithTheUsualDividerAndSpaces) {
@@ -73,36 +79,61 @@ TEST(MenuDocument, TheSubmenuOfANewItemStartsWithTheUsualDividerAndSpaces) {
     EXPECT_EQ(*NewItemMenuProp(), expected);
 }
 
-TEST(MenuDocumentTakeFrom, TakesTheWholeStateAndLeavesAnEmptyDocument) {
-    MenuDocument source("/program of source");
-    FillDocument(source);
-    const MenuProp root = source.RootMenuProp;
-    const MenuProp defaults = source.DefaultProp;
-    MenuNode* const first = source.tree.firstNode();
-    MenuNode* const last = source.tree.topLevel().back();
+/// Two items, X and its child Y, and values of their own everywhere.
+MenuContent SampleContent() {
+    MenuContent content;
+    test::Grow(content.tree, {{0, "X"}, {1, "Y"}});
+    content.DefaultProp.Columns = "7";
+    content.RootMenuProp.Target = "main";
+    content.ItemCounter = 2;
+    return content;
+}
+
+TEST(MenuDocumentOpen, TakesTheWholeContentAndShowsItsFirstNode) {
+    MenuContent content = SampleContent();
+    const MenuProp root = content.RootMenuProp;
+    const MenuProp defaults = content.DefaultProp;
+    const MenuNode* const first = content.tree.firstNode();
 
     MenuDocument document("/program");
-    AddMenuItem(document);
-    document.takeFrom(source);
+    FillDocument(document);
+    document.open(std::move(content), "/site/menu.js", "/site");
 
-    EXPECT_EQ(test::TreeTextWithKeys(document.tree), "Item 0 [Key 0]\nItem 1 [Key 1]\n");
-    EXPECT_EQ(document.tree.firstNode(), first) << "the nodes themselves move";
-    EXPECT_EQ(document.CurNode, first);
-    EXPECT_EQ(document.selectedNode, last);
-    EXPECT_EQ(document.SaveFile, "/site/menu.js");
-    EXPECT_EQ(document.SavePath, "/site");
-    EXPECT_EQ(document.RootMenuProp, root);
-    EXPECT_EQ(document.DefaultProp, defaults);
-    EXPECT_EQ(document.ItemCounter, 2);
-    EXPECT_TRUE(document.bModified);
+    EXPECT_EQ(test::TreeTextWithKeys(document.tree()), "X [X]\n  Y [Y]\n");
+    EXPECT_EQ(document.tree().firstNode(), first) << "the nodes themselves move";
+    EXPECT_EQ(document.CurNode(), first);
+    EXPECT_EQ(document.selectedNode(), first);
+    EXPECT_EQ(document.SaveFile(), "/site/menu.js");
+    EXPECT_EQ(document.SavePath(), "/site");
+    EXPECT_EQ(document.RootMenuProp(), root);
+    EXPECT_EQ(document.DefaultProp(), defaults);
+    EXPECT_EQ(document.ItemCounter(), 2);
+    EXPECT_FALSE(document.bModified());
     EXPECT_EQ(document.programFolder(), "/program");
 
-    ExpectEmptyDocument(source, "/program of source");
     document.NewDocument();
     ExpectEmptyDocument(document, "/program");
 }
 
-class ResetCounter : public MenuTreeObserver {
+TEST(MenuDocumentOpen, ContentWithoutItemsHasNoCurrentNode) {
+    MenuDocument document("/program");
+    FillDocument(document);
+    document.open(MenuContent(), "/site/menu.js", "/site");
+    EXPECT_EQ(document.CurNode(), nullptr);
+    EXPECT_EQ(document.selectedNode(), nullptr);
+    EXPECT_FALSE(document.bModified());
+}
+
+TEST(MenuDocumentOpen, ContentThatBelongsToNoFileIsThatOfADocumentNeverSaved) {
+    MenuDocument document("/program");
+    FillDocument(document);
+    document.open(SampleContent());
+    EXPECT_EQ(document.SaveFile(), "");
+    EXPECT_EQ(document.SavePath(), "/program");
+    EXPECT_FALSE(document.bModified());
+}
+
+class ResetCounter : public DocumentObserver {
   public:
     explicit ResetCounter(const MenuDocument& document) : m_document(document) {}
     void aboutToInsert(const MenuNode*, std::size_t) override { ADD_FAILURE(); }
@@ -111,14 +142,14 @@ class ResetCounter : public MenuTreeObserver {
     void removed() override { ADD_FAILURE(); }
     void aboutToMove(const MenuNode&, const MenuNode*, std::size_t) override { ADD_FAILURE(); }
     void moved() override { ADD_FAILURE(); }
-    void aboutToReset() override { ++m_beginnings; }
-    void wasReset() override {
+    void aboutToReplaceContent() override { ++m_beginnings; }
+    void contentReplaced() override {
         ++m_ends;
-        if (m_document.CurNode) {
-            EXPECT_EQ(m_document.tree.find(m_document.CurNode->key()), m_document.CurNode);
+        if (m_document.CurNode()) {
+            EXPECT_EQ(m_document.tree().find(m_document.CurNode()->key()), m_document.CurNode());
         }
     }
-    void textChanged(const MenuNode&) override { ADD_FAILURE(); }
+    void labelChanged(const MenuNode&) override { ADD_FAILURE(); }
     void expansionChanged(const MenuNode&) override { ADD_FAILURE(); }
 
     int beginnings() const { return m_beginnings; }
@@ -130,18 +161,68 @@ class ResetCounter : public MenuTreeObserver {
     int m_ends = 0;
 };
 
-TEST(MenuDocumentTakeFrom, TheObserverIsToldOfOneResetAndFindsTheNewCurrentNode) {
-    MenuDocument source("/program");
-    FillDocument(source);
+TEST(MenuDocumentOpen, TheObserverIsToldOfOneResetAndFindsTheNewCurrentNode) {
     MenuDocument document("/program");
+    FillDocument(document);
     ResetCounter observer(document);
-    document.tree.setObserver(&observer);
-    document.takeFrom(source);
+    document.addObserver(observer);
+    document.open(SampleContent());
     EXPECT_EQ(observer.beginnings(), 1);
     EXPECT_EQ(observer.ends(), 1);
     document.NewDocument();
     EXPECT_EQ(observer.ends(), 2) << "stays registered";
-    document.tree.setObserver(nullptr);
+    document.removeObserver(observer);
+}
+
+TEST(MenuDocumentModified, OnlyTheOperationsThatSaySoSetOrClearTheMark) {
+    struct {
+        const char* name;
+        void (*operation)(MenuDocument&);
+        bool isSet;    ///< afterwards, when it was not set before
+        bool isStill;  ///< afterwards, when it was set before
+    } const kCases[] = {
+        {"select", [](MenuDocument& document) { document.select(nullptr); }, false, true},
+        {"setItem",
+         [](MenuDocument& document) { test::editItem(document, *document.CurNode())->URL = "u"; },
+         false, true},
+        {"setLabel",
+         [](MenuDocument& document) { document.setLabel(*document.CurNode(), "label"); }, false,
+         true},
+        {"setExpanded",
+         [](MenuDocument& document) { document.setExpanded(*document.CurNode(), true); }, false,
+         true},
+        {"setFile", [](MenuDocument& document) { document.setFile("/a/b.js", "/a"); }, false, true},
+        {"setMenu", [](MenuDocument& document) { document.setMenu(kTopMenu, MenuProp()); }, true,
+         true},
+        {"setMenu to the same",
+         [](MenuDocument& document) { document.setMenu(kTopMenu, document.RootMenuProp()); }, true,
+         true},
+        {"setMenuUnmarked",
+         [](MenuDocument& document) { document.setMenuUnmarked(kTopMenu, MenuProp()); }, false,
+         true},
+        {"markModified", [](MenuDocument& document) { document.markModified(); }, true, true},
+        {"markSaved", [](MenuDocument& document) { document.markSaved(); }, false, false},
+        {"open", [](MenuDocument& document) { document.open(SampleContent()); }, false, false},
+        {"NewDocument", [](MenuDocument& document) { document.NewDocument(); }, false, false},
+        {"AddMenuItem", [](MenuDocument& document) { AddMenuItem(document); }, true, true},
+        {"AddSubmenuItem", [](MenuDocument& document) { AddSubmenuItem(document); }, true, true},
+        {"DeleteItem", [](MenuDocument& document) { DeleteItem(document); }, true, true},
+        {"MoveRight", [](MenuDocument& document) { MoveRight(document); }, true, true},
+        {"MoveLeft at the top", [](MenuDocument& document) { MoveLeft(document); }, false, true},
+        {"MoveUp", [](MenuDocument& document) { MoveUp(document); }, true, true},
+        {"MoveDown at the end", [](MenuDocument& document) { MoveDown(document); }, false, true},
+    };
+    for (const auto& c : kCases) {
+        for (const bool wasSet : {false, true}) {
+            SCOPED_TRACE(std::string(c.name) + (wasSet ? " when set" : " when not set"));
+            MenuDocument document("/program");
+            AddMenuItem(document);
+            AddMenuItem(document);
+            document.apply(SetModified{wasSet});
+            c.operation(document);
+            EXPECT_EQ(document.bModified(), wasSet ? c.isStill : c.isSet);
+        }
+    }
 }
 
 }  // namespace

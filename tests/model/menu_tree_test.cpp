@@ -50,7 +50,7 @@ TEST_F(MenuTreeTest, NeighboursParentsAndChildren) {
     EXPECT_EQ(node("B").parent(), nullptr);
     EXPECT_EQ(tree.childrenOf(nullptr).size(), 3u);
     EXPECT_EQ(tree.childrenOf(&node("B")).size(), 2u);
-    EXPECT_EQ(&tree.siblingsOf(node("B2")), &node("B").children());
+    EXPECT_EQ(tree.siblingsOf(node("B2")).data(), node("B").children().data());
     EXPECT_TRUE(node("B").hasChildren());
     EXPECT_FALSE(node("A").hasChildren());
 }
@@ -76,7 +76,7 @@ TEST_F(MenuTreeTest, AKeyThatIsTakenIsRefused) {
 }
 
 TEST_F(MenuTreeTest, RemoveTakesTheSubtreeAndItsKeysAlong) {
-    tree.remove(node("B"));
+    tree.take(node("B"));
     EXPECT_EQ(TreeText(tree), "A\nC\n");
     EXPECT_EQ(tree.size(), 2u);
     for (const char* key : {"B", "B1", "B11", "B2"})
@@ -88,7 +88,7 @@ TEST_F(MenuTreeTest, RemoveTakesTheSubtreeAndItsKeysAlong) {
 TEST_F(MenuTreeTest, MoveKeepsPointerKeyItemChildrenAndExpansion) {
     MenuNode* const moved = &node("B1");
     moved->item.URL = "kept.html";
-    tree.setExpanded(*moved, true);
+    moved->isExpanded = true;
     tree.move(*moved, nullptr, 1);
     EXPECT_EQ(TreeText(tree), "A\nB1\n  B11\nB\n  B2\nC\n");
     EXPECT_EQ(tree.find("B1"), moved);
@@ -126,31 +126,51 @@ TEST_F(MenuTreeTest, MoveUnderAnotherParent) {
 TEST_F(MenuTreeTest, ANodeIsVisibleWhenAllItsAncestorsAreExpanded) {
     EXPECT_TRUE(tree.isVisible(node("B")));
     EXPECT_FALSE(tree.isVisible(node("B11")));
-    tree.setExpanded(node("B1"), true);
+    node("B1").isExpanded = true;
     EXPECT_FALSE(tree.isVisible(node("B11")));
-    tree.setExpanded(node("B"), true);
+    node("B").isExpanded = true;
     EXPECT_TRUE(tree.isVisible(node("B11")));
 }
 
-TEST_F(MenuTreeTest, MakeVisibleExpandsTheAncestorsButNotTheNode) {
-    tree.makeVisible(node("B1"));
-    EXPECT_TRUE(node("B").isExpanded);
-    EXPECT_FALSE(node("B1").isExpanded);
-    EXPECT_FALSE(node("A").isExpanded);
+TEST_F(MenuTreeTest, TheNodesOfABranchTakenOutAndPutBackAreTheSame) {
+    const MenuNode* const b1 = &node("B1");
+    const MenuNode* const b11 = &node("B11");
+    node("B1").isExpanded = true;
+    MenuBranch branch = tree.take(node("B1"));
+    EXPECT_EQ(TreeText(tree), "A\nB\n  B2\nC\n");
+    EXPECT_EQ(tree.find("B11"), nullptr);
+    tree.insert(std::move(branch), nullptr, 1);
+    EXPECT_EQ(TreeText(tree), "A\nB1\n  B11\nB\n  B2\nC\n");
+    EXPECT_EQ(tree.find("B1"), b1);
+    EXPECT_EQ(tree.find("B11"), b11);
+    EXPECT_TRUE(b1->isExpanded);
+    ExpectSoundTree(tree);
 }
 
-TEST_F(MenuTreeTest, ClearRemovesEveryNode) {
-    tree.clear();
+TEST_F(MenuTreeTest, ANewBranchIsANodeWithTextAndItem) {
+    ItemProp item;
+    item.URL = "new.html";
+    MenuBranch branch("key", "text", item);
+    const MenuNode* const node = branch.top();
+    tree.insert(std::move(branch), tree.find("B"), 1);
+    EXPECT_EQ(TreeText(tree), "A\nB\n  B1\n    B11\n  text\n  B2\nC\n");
+    EXPECT_EQ(tree.find("key"), node);
+    EXPECT_EQ(node->item, item);
+    ExpectSoundTree(tree);
+}
+
+TEST_F(MenuTreeTest, AnEmptyTreeInItsPlaceRemovesEveryNode) {
+    tree = MenuTree();
     EXPECT_TRUE(tree.isEmpty());
     EXPECT_EQ(tree.size(), 0u);
     EXPECT_EQ(tree.find("A"), nullptr);
 }
 
-TEST_F(MenuTreeTest, TakeFromMovesTheNodesThemselves) {
+TEST_F(MenuTreeTest, MovingATreeMovesTheNodesThemselves) {
     MenuTree target;
     Grow(target, {{0, "old"}});
     MenuNode* const b11 = &node("B11");
-    target.takeFrom(tree);
+    target = std::move(tree);
     EXPECT_EQ(TreeText(target), "A\nB\n  B1\n    B11\n  B2\nC\n");
     EXPECT_EQ(target.find("B11"), b11);
     EXPECT_EQ(target.find("old"), nullptr);
@@ -160,143 +180,6 @@ TEST_F(MenuTreeTest, TakeFromMovesTheNodesThemselves) {
     ExpectSoundTree(target);
     ExpectSoundTree(tree);
     EXPECT_NE(tree.append(nullptr, "A", "A"), nullptr) << "the emptied tree works on";
-}
-
-/// Writes down what it is told, together with what the tree looks like at that moment.
-class RecordingObserver : public MenuTreeObserver {
-  public:
-    explicit RecordingObserver(const MenuTree& tree) : m_tree(tree) {}
-
-    void aboutToInsert(const MenuNode* parent, std::size_t row) override {
-        begin("insert", place(parent, row));
-    }
-    void inserted() override { end("inserted"); }
-    void aboutToRemove(const MenuNode* parent, std::size_t row) override {
-        begin("remove", place(parent, row));
-    }
-    void removed() override { end("removed"); }
-    void aboutToMove(const MenuNode& node, const MenuNode* parent, std::size_t row) override {
-        begin("move", node.text + " to " + place(parent, row));
-    }
-    void moved() override { end("moved"); }
-    void aboutToReset() override { begin("reset", ""); }
-    void wasReset() override { end("was reset"); }
-    void textChanged(const MenuNode& node) override { note("text " + node.text); }
-    void expansionChanged(const MenuNode& node) override {
-        note((node.isExpanded ? "expanded " : "collapsed ") + node.text);
-    }
-
-    std::string takeLog() { return std::exchange(m_log, {}); }
-    bool isOpen() const { return m_isOpen; }
-
-  private:
-    static std::string place(const MenuNode* parent, std::size_t row) {
-        return (parent ? parent->text : "top") + " " + std::to_string(row);
-    }
-    void begin(const std::string& what, const std::string& detail) {
-        EXPECT_FALSE(m_isOpen) << what << " inside another change";
-        m_isOpen = true;
-        m_log += what + " " + detail + "; " + std::to_string(m_tree.size());
-    }
-    void end(const std::string& what) {
-        EXPECT_TRUE(m_isOpen) << what << " without a beginning";
-        m_isOpen = false;
-        m_log += " -> " + std::to_string(m_tree.size()) + " " + what + "\n";
-    }
-    void note(const std::string& what) {
-        EXPECT_FALSE(m_isOpen) << what << " inside another change";
-        m_log += what + "\n";
-    }
-
-    const MenuTree& m_tree;
-    std::string m_log;
-    bool m_isOpen = false;
-};
-
-class MenuTreeObserverTest : public MenuTreeTest {
-  protected:
-    void SetUp() override {
-        MenuTreeTest::SetUp();
-        tree.setObserver(&observer);
-    }
-    void TearDown() override {
-        EXPECT_FALSE(observer.isOpen());
-        EXPECT_EQ(observer.takeLog(), "") << "calls nobody expected";
-        tree.setObserver(nullptr);
-    }
-    RecordingObserver observer{tree};
-};
-
-TEST_F(MenuTreeObserverTest, AnInsertionIsBracketed) {
-    tree.append(nullptr, "new", "new");
-    EXPECT_EQ(observer.takeLog(), "insert top 3; 6 -> 7 inserted\n");
-    tree.append(&node("B"), "last", "last");
-    EXPECT_EQ(observer.takeLog(), "insert B 2; 7 -> 8 inserted\n");
-}
-
-TEST_F(MenuTreeObserverTest, ARefusedInsertionIsNotAnnounced) {
-    tree.append(nullptr, "A", "twin");
-}
-
-TEST_F(MenuTreeObserverTest, ARemovalIsAnnouncedOnceForTheRootOfTheSubtree) {
-    tree.remove(node("B"));
-    EXPECT_EQ(observer.takeLog(), "remove top 1; 6 -> 2 removed\n");
-}
-
-TEST_F(MenuTreeObserverTest, AMoveIsAnnouncedWithTheRowAsCountedBefore) {
-    tree.move(node("A"), nullptr, 2);
-    EXPECT_EQ(observer.takeLog(), "move A to top 2; 6 -> 6 moved\n");
-    tree.move(node("B1"), nullptr, 0);
-    EXPECT_EQ(observer.takeLog(), "move B1 to top 0; 6 -> 6 moved\n");
-}
-
-TEST_F(MenuTreeObserverTest, AMoveToWhereTheNodeStandsIsNotAnnounced) {
-    tree.move(node("B"), nullptr, 1);
-    tree.move(node("B"), nullptr, 2);
-    EXPECT_EQ(TreeText(tree), "A\nB\n  B1\n    B11\n  B2\nC\n");
-}
-
-TEST_F(MenuTreeObserverTest, OnlyATextThatChangesIsTold) {
-    tree.setText(node("A"), "A");
-    EXPECT_EQ(observer.takeLog(), "");
-    tree.setText(node("A"), "Home");
-    EXPECT_EQ(observer.takeLog(), "text Home\n");
-    EXPECT_EQ(node("A").text, "Home");
-}
-
-TEST_F(MenuTreeObserverTest, OnlyAnExpansionThatChangesIsTold) {
-    tree.setExpanded(node("B"), false);
-    EXPECT_EQ(observer.takeLog(), "");
-    tree.setExpanded(node("B"), true);
-    EXPECT_EQ(observer.takeLog(), "expanded B\n");
-    tree.makeVisible(node("B11"));
-    EXPECT_EQ(observer.takeLog(), "expanded B1\n");
-    tree.setExpanded(node("B"), false);
-    EXPECT_EQ(observer.takeLog(), "collapsed B\n");
-}
-
-TEST_F(MenuTreeObserverTest, ClearIsOneReset) {
-    tree.clear();
-    EXPECT_EQ(observer.takeLog(), "reset ; 6 -> 0 was reset\n");
-}
-
-TEST_F(MenuTreeObserverTest, TakeFromIsOneResetForBothTrees) {
-    MenuTree source;
-    Grow(source, {{0, "X"}, {1, "Y"}});
-    RecordingObserver sourceObserver(source);
-    source.setObserver(&sourceObserver);
-    tree.takeFrom(source);
-    EXPECT_EQ(observer.takeLog(), "reset ; 6 -> 2 was reset\n");
-    EXPECT_EQ(sourceObserver.takeLog(), "reset ; 2 -> 0 was reset\n");
-    source.setObserver(nullptr);
-    tree.append(nullptr, "Z", "Z");
-    EXPECT_EQ(observer.takeLog(), "insert top 1; 2 -> 3 inserted\n") << "stays registered";
-}
-
-TEST_F(MenuTreeObserverTest, RemovingTheObserverEndsTheCalls) {
-    tree.setObserver(nullptr);
-    tree.append(nullptr, "new", "new");
-    tree.clear();
 }
 
 // A call per level would overflow the stack long before.
@@ -314,13 +197,14 @@ TEST(MenuTreeSize, AHundredThousandLevelsAreBuiltWalkedMovedAndRemoved) {
     EXPECT_EQ(count, kLevels);
 
     EXPECT_FALSE(tree.isVisible(*deepest));
-    tree.makeVisible(*deepest);
+    for (MenuNode* ancestor = deepest->parent(); ancestor; ancestor = ancestor->parent())
+        ancestor->isExpanded = true;
     EXPECT_TRUE(tree.isVisible(*deepest));
     MenuNode* const other = tree.append(nullptr, "other", "other");
     tree.move(*top, other, 0);
     EXPECT_EQ(tree.topLevel().size(), 1u);
 
-    tree.remove(*top);
+    tree.take(*top);
     EXPECT_EQ(tree.size(), 1u);
 }
 
@@ -340,7 +224,7 @@ TEST(MenuTreeSize, TwentyThousandSiblingsAreFoundByKeyAndByRow) {
     ExpectSoundTree(tree);
     EXPECT_EQ(tree.find("Key 12345")->row(), 12345u);
     tree.move(*tree.find("Key 19999"), nullptr, 0);
-    tree.remove(*tree.find("Key 5"));
+    tree.take(*tree.find("Key 5"));
     EXPECT_EQ(tree.find("Key 12345")->row(), 12345u);
     ExpectSoundTree(tree);
 }

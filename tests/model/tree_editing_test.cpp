@@ -9,8 +9,12 @@
 namespace zev {
 namespace {
 
+using test::editItem;
+using test::editMenu;
 using test::ExpectSoundTree;
 using test::Grow;
+using test::kDefaults;
+using test::kTopMenu;
 using test::TreeText;
 using test::TreeTextWithKeys;
 
@@ -20,33 +24,32 @@ class TreeEditing : public testing::Test {
   protected:
     /// A, B and C; B has the children B1 and B2; B1 has B11. Nothing is selected.
     void growSample() {
-        Grow(document.tree, {{0, "A"}, {0, "B"}, {1, "B1"}, {2, "B11"}, {1, "B2"}, {0, "C"}});
+        Grow(document, {{0, "A"}, {0, "B"}, {1, "B1"}, {2, "B11"}, {1, "B2"}, {0, "C"}});
     }
-    MenuNode* node(const std::string& key) { return document.tree.find(key); }
+    const MenuNode* node(const std::string& key) { return document.tree().find(key); }
     void select(const std::string& key) {
-        document.selectedNode = node(key);
-        document.CurNode = document.selectedNode;
-        ASSERT_NE(document.CurNode, nullptr) << key;
+        document.select(node(key));
+        ASSERT_NE(document.CurNode(), nullptr) << key;
     }
     void expectSelected(const MenuNode* expected) {
-        EXPECT_EQ(document.selectedNode, expected);
-        EXPECT_EQ(document.CurNode, expected);
+        EXPECT_EQ(document.selectedNode(), expected);
+        EXPECT_EQ(document.CurNode(), expected);
     }
     /// Runs a command that must change nothing at all.
     void expectRefused(Command command, EditResult result) {
-        const std::string before = TreeTextWithKeys(document.tree);
-        const auto counter = document.ItemCounter;
-        MenuNode* const current = document.CurNode;
-        MenuNode* const selected = document.selectedNode;
-        document.bModified = false;
+        const std::string before = TreeTextWithKeys(document.tree());
+        const auto counter = document.ItemCounter();
+        const MenuNode* const current = document.CurNode();
+        const MenuNode* const selected = document.selectedNode();
+        document.markSaved();
         EXPECT_EQ(command(document), result);
-        EXPECT_EQ(TreeTextWithKeys(document.tree), before);
-        EXPECT_EQ(document.ItemCounter, counter);
-        EXPECT_EQ(document.CurNode, current);
-        EXPECT_EQ(document.selectedNode, selected);
-        EXPECT_FALSE(document.bModified);
-        for (const MenuNode* n = document.tree.firstNode(); n;
-             n = document.tree.nextInTreeOrder(*n))
+        EXPECT_EQ(TreeTextWithKeys(document.tree()), before);
+        EXPECT_EQ(document.ItemCounter(), counter);
+        EXPECT_EQ(document.CurNode(), current);
+        EXPECT_EQ(document.selectedNode(), selected);
+        EXPECT_FALSE(document.bModified());
+        for (const MenuNode* n = document.tree().firstNode(); n;
+             n = document.tree().nextInTreeOrder(*n))
             EXPECT_FALSE(n->isExpanded) << n->text;
     }
 
@@ -60,11 +63,11 @@ using MoveTest = TreeEditing;
 
 TEST_F(AddMenuItemTest, TheFirstItemOfANewDocument) {
     EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(TreeTextWithKeys(document.tree), "Item 0 [Key 0]\n");
-    const MenuNode& added = *document.tree.firstNode();
+    EXPECT_EQ(TreeTextWithKeys(document.tree()), "Item 0 [Key 0]\n");
+    const MenuNode& added = *document.tree().firstNode();
     expectSelected(&added);
-    EXPECT_TRUE(document.bModified);
-    EXPECT_EQ(document.ItemCounter, 1);
+    EXPECT_TRUE(document.bModified());
+    EXPECT_EQ(document.ItemCounter(), 1);
 
     ItemProp expected;
     expected.Caption = "Item 0";
@@ -74,10 +77,10 @@ TEST_F(AddMenuItemTest, TheFirstItemOfANewDocument) {
 }
 
 TEST_F(AddMenuItemTest, GoesAfterTheLastSiblingOfTheSelectedNode) {
-    Grow(document.tree, {{0, "A"}, {0, "B"}, {0, "C"}});
+    Grow(document, {{0, "A"}, {0, "B"}, {0, "C"}});
     select("B");
     EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(TreeText(document.tree), "A\nB\nC\nItem 0\n");
+    EXPECT_EQ(TreeText(document.tree()), "A\nB\nC\nItem 0\n");
     expectSelected(node("Key 0"));
 }
 
@@ -85,8 +88,8 @@ TEST_F(AddMenuItemTest, InASubmenuGoesToItsEndAndIsMadeVisible) {
     growSample();
     select("B1");
     EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(TreeText(document.tree), "A\nB\n  B1\n    B11\n  B2\n  Item 0\nC\n");
-    EXPECT_TRUE(document.tree.isVisible(*node("Key 0")));
+    EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\n  Item 0\nC\n");
+    EXPECT_TRUE(document.tree().isVisible(*node("Key 0")));
     EXPECT_FALSE(node("B1")->isExpanded);
     EXPECT_EQ(node("Key 0")->item.MenuProperty->Position, 0);
     expectSelected(node("Key 0"));
@@ -94,9 +97,9 @@ TEST_F(AddMenuItemTest, InASubmenuGoesToItsEndAndIsMadeVisible) {
 
 TEST_F(AddMenuItemTest, WithoutASelectionGoesToTheEndOfTheTopLevelAndIsSelected) {
     growSample();
-    document.CurNode = node("B11");
+    document.apply(SetSelection{{nullptr, node("B11")}});
     EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(TreeText(document.tree), "A\nB\n  B1\n    B11\n  B2\nC\nItem 0\n");
+    EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\nC\nItem 0\n");
     expectSelected(node("Key 0"));
 }
 
@@ -105,7 +108,7 @@ TEST_F(AddMenuItemTest, NumbersRunOnAndAreNotUsedAgainAfterADeletion) {
     AddMenuItem(document);
     DeleteItem(document);
     AddMenuItem(document);
-    EXPECT_EQ(TreeTextWithKeys(document.tree), "Item 0 [Key 0]\nItem 2 [Key 2]\n");
+    EXPECT_EQ(TreeTextWithKeys(document.tree()), "Item 0 [Key 0]\nItem 2 [Key 2]\n");
 }
 
 TEST_F(AddMenuItemTest, ATopLevelItemOpensItsSubmenuBelowWhenTheTopLevelIsHorizontal) {
@@ -121,13 +124,13 @@ TEST_F(AddMenuItemTest, ATopLevelItemOpensItsSubmenuBelowWhenTheTopLevelIsHorizo
         SCOPED_TRACE(std::string("root columns '") + c.rootColumns + "', default columns '" +
                      c.defaultColumns + "'");
         document.NewDocument();
-        document.RootMenuProp.Columns = c.rootColumns;
-        document.DefaultProp.Columns = c.defaultColumns;
+        editMenu(document, kTopMenu)->Columns = c.rootColumns;
+        editMenu(document, kDefaults)->Columns = c.defaultColumns;
         AddMenuItem(document);
-        EXPECT_EQ(document.CurNode->item.MenuProperty->Position, c.position);
-        document.selectedNode = nullptr;
+        EXPECT_EQ(document.CurNode()->item.MenuProperty->Position, c.position);
+        document.apply(SetSelection{{nullptr, document.CurNode()}});
         AddSubmenuItem(document);
-        EXPECT_EQ(document.CurNode->item.MenuProperty->Position, c.position);
+        EXPECT_EQ(document.CurNode()->item.MenuProperty->Position, c.position);
     }
 }
 
@@ -135,10 +138,10 @@ TEST_F(AddSubmenuItemTest, GoesAfterTheLastChildOfTheSelectedNodeWhichStaysSelec
     growSample();
     select("B");
     EXPECT_EQ(AddSubmenuItem(document), EditResult::Done);
-    EXPECT_EQ(TreeText(document.tree), "A\nB\n  B1\n    B11\n  B2\n  Item 0\nC\n");
+    EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\n  Item 0\nC\n");
     expectSelected(node("B"));
-    EXPECT_TRUE(document.bModified);
-    EXPECT_EQ(document.ItemCounter, 1);
+    EXPECT_TRUE(document.bModified());
+    EXPECT_EQ(document.ItemCounter(), 1);
 }
 
 TEST_F(AddSubmenuItemTest, TheNewChildIsMadeVisibleAndKeepsPositionZero) {
@@ -147,7 +150,7 @@ TEST_F(AddSubmenuItemTest, TheNewChildIsMadeVisibleAndKeepsPositionZero) {
     EXPECT_EQ(AddSubmenuItem(document), EditResult::Done);
     const MenuNode& child = *node("Key 0");
     EXPECT_EQ(child.parent(), node("B11"));
-    EXPECT_TRUE(document.tree.isVisible(child));
+    EXPECT_TRUE(document.tree().isVisible(child));
     EXPECT_EQ(child.item.Caption, "Item 0");
     EXPECT_EQ(child.item.MenuProperty, NewItemMenuProp());
     expectSelected(node("B11"));
@@ -156,15 +159,15 @@ TEST_F(AddSubmenuItemTest, TheNewChildIsMadeVisibleAndKeepsPositionZero) {
 TEST_F(AddSubmenuItemTest, WithoutASelectionBecomesCurrentButNotSelected) {
     growSample();
     EXPECT_EQ(AddSubmenuItem(document), EditResult::Done);
-    EXPECT_EQ(TreeText(document.tree), "A\nB\n  B1\n    B11\n  B2\nC\nItem 0\n");
-    EXPECT_EQ(document.CurNode, node("Key 0"));
-    EXPECT_EQ(document.selectedNode, nullptr);
-    EXPECT_TRUE(document.bModified);
+    EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\nC\nItem 0\n");
+    EXPECT_EQ(document.CurNode(), node("Key 0"));
+    EXPECT_EQ(document.selectedNode(), nullptr);
+    EXPECT_TRUE(document.bModified());
 }
 
 TEST_F(DeleteItemTest, WithoutASelectionDoesNothing) {
     growSample();
-    document.CurNode = node("A");
+    document.apply(SetSelection{{nullptr, node("A")}});
     expectRefused(DeleteItem, EditResult::NothingToDo);
 }
 
@@ -184,20 +187,20 @@ TEST_F(DeleteItemTest, TheNextSiblingElseThePreviousElseTheParentIsSelected) {
         growSample();
         select(c.key);
         EXPECT_EQ(DeleteItem(document), EditResult::Done);
-        EXPECT_EQ(TreeText(document.tree), c.tree);
+        EXPECT_EQ(TreeText(document.tree()), c.tree);
         expectSelected(node(c.heir));
-        EXPECT_TRUE(document.bModified);
-        EXPECT_EQ(document.ItemCounter, 0);
-        ExpectSoundTree(document.tree);
+        EXPECT_TRUE(document.bModified());
+        EXPECT_EQ(document.ItemCounter(), 0);
+        ExpectSoundTree(document.tree());
     }
 }
 
 TEST_F(DeleteItemTest, TheLastNodeLeavesNoCurrentNode) {
     AddMenuItem(document);
     EXPECT_EQ(DeleteItem(document), EditResult::Done);
-    EXPECT_TRUE(document.tree.isEmpty());
+    EXPECT_TRUE(document.tree().isEmpty());
     expectSelected(nullptr);
-    EXPECT_TRUE(document.bModified);
+    EXPECT_TRUE(document.bModified());
 }
 
 TEST_F(MoveTest, WithoutACurrentNodeNothingMoves) {
@@ -225,22 +228,22 @@ TEST_F(MoveTest, LeftPutsTheNodeDirectlyAfterItsParentWithItsSubtree) {
     growSample();
     select("B1");
     EXPECT_EQ(MoveLeft(document), EditResult::Done);
-    EXPECT_EQ(TreeTextWithKeys(document.tree),
+    EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "A [A]\nB [B]\n  B2 [B2]\nB1 [B1]\n  B11 [B11]\nC [C]\n");
     expectSelected(node("B1"));
-    EXPECT_TRUE(document.bModified);
-    ExpectSoundTree(document.tree);
+    EXPECT_TRUE(document.bModified());
+    ExpectSoundTree(document.tree());
 }
 
 TEST_F(MoveTest, LeftKeepsItemsAndUsesUpOneNumber) {
     growSample();
-    node("B1")->item.URL = "b1.html";
-    node("B11")->item.Caption = "b11";
+    editItem(document, *node("B1"))->URL = "b1.html";
+    editItem(document, *node("B11"))->Caption = "b11";
     select("B1");
     MoveLeft(document);
     EXPECT_EQ(node("B1")->item.URL, "b1.html");
     EXPECT_EQ(node("B11")->item.Caption, "b11");
-    EXPECT_EQ(document.ItemCounter, 1);
+    EXPECT_EQ(document.ItemCounter(), 1);
     AddMenuItem(document);
     EXPECT_NE(node("Key 1"), nullptr) << "number 0 is used up";
     EXPECT_EQ(node("Key 0"), nullptr);
@@ -251,7 +254,7 @@ TEST_F(MoveTest, LeftToTheTopLevelKeepsTheSubmenusPosition) {
     AddSubmenuItem(document);
     select("Key 1");
     MoveLeft(document);
-    EXPECT_EQ(TreeText(document.tree), "Item 0\nItem 1\n");
+    EXPECT_EQ(TreeText(document.tree()), "Item 0\nItem 1\n");
     EXPECT_EQ(node("Key 1")->item.MenuProperty->Position, 0);
 }
 
@@ -259,33 +262,33 @@ TEST_F(MoveTest, LeftFromTheThirdLevelStaysUnderTheGrandparent) {
     growSample();
     select("B11");
     MoveLeft(document);
-    EXPECT_EQ(TreeText(document.tree), "A\nB\n  B1\n  B11\n  B2\nC\n");
+    EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n  B11\n  B2\nC\n");
 }
 
 TEST_F(MoveTest, RightPutsTheNodeAfterTheLastChildOfItsPreviousSibling) {
     growSample();
     select("C");
     EXPECT_EQ(MoveRight(document), EditResult::Done);
-    EXPECT_EQ(TreeTextWithKeys(document.tree),
+    EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "A [A]\nB [B]\n  B1 [B1]\n    B11 [B11]\n  B2 [B2]\n  C [C]\n");
     expectSelected(node("C"));
-    EXPECT_EQ(document.ItemCounter, 1);
-    EXPECT_TRUE(document.bModified);
-    ExpectSoundTree(document.tree);
+    EXPECT_EQ(document.ItemCounter(), 1);
+    EXPECT_TRUE(document.bModified());
+    ExpectSoundTree(document.tree());
 }
 
 TEST_F(MoveTest, RightTakesTheSubtreeAlong) {
     growSample();
     select("B");
     MoveRight(document);
-    EXPECT_EQ(TreeText(document.tree), "A\n  B\n    B1\n      B11\n    B2\nC\n");
+    EXPECT_EQ(TreeText(document.tree()), "A\n  B\n    B1\n      B11\n    B2\nC\n");
 }
 
 TEST_F(MoveTest, RightKeepsAVisibleNodeVisible) {
     growSample();
     select("C");
     MoveRight(document);
-    EXPECT_TRUE(document.tree.isVisible(*node("C")));
+    EXPECT_TRUE(document.tree().isVisible(*node("C")));
     EXPECT_TRUE(node("B")->isExpanded);
 }
 
@@ -293,40 +296,40 @@ TEST_F(MoveTest, RightAndLeftLeaveAHiddenNodeHidden) {
     growSample();
     select("B2");
     MoveRight(document);
-    EXPECT_FALSE(document.tree.isVisible(*node("B2")));
+    EXPECT_FALSE(document.tree().isVisible(*node("B2")));
     MoveLeft(document);
-    EXPECT_FALSE(document.tree.isVisible(*node("B2")));
+    EXPECT_FALSE(document.tree().isVisible(*node("B2")));
 }
 
 TEST_F(MoveTest, UpExchangesTheNodeWithItsPreviousSibling) {
     growSample();
     select("B");
     EXPECT_EQ(MoveUp(document), EditResult::Done);
-    EXPECT_EQ(TreeTextWithKeys(document.tree),
+    EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "B [B]\n  B1 [B1]\n    B11 [B11]\n  B2 [B2]\nA [A]\nC [C]\n");
     expectSelected(node("B"));
-    EXPECT_EQ(document.ItemCounter, 0);
-    EXPECT_TRUE(document.bModified);
-    ExpectSoundTree(document.tree);
+    EXPECT_EQ(document.ItemCounter(), 0);
+    EXPECT_TRUE(document.bModified());
+    ExpectSoundTree(document.tree());
 }
 
 TEST_F(MoveTest, DownExchangesTheNodeWithItsNextSibling) {
     growSample();
     select("A");
     EXPECT_EQ(MoveDown(document), EditResult::Done);
-    EXPECT_EQ(TreeTextWithKeys(document.tree),
+    EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "B [B]\n  B1 [B1]\n    B11 [B11]\n  B2 [B2]\nA [A]\nC [C]\n");
     expectSelected(node("A"));
-    EXPECT_EQ(document.ItemCounter, 0);
-    EXPECT_TRUE(document.bModified);
-    ExpectSoundTree(document.tree);
+    EXPECT_EQ(document.ItemCounter(), 0);
+    EXPECT_TRUE(document.bModified());
+    ExpectSoundTree(document.tree());
 }
 
 TEST_F(MoveTest, DownMakesTheNodeVisible) {
     growSample();
     select("B1");
     MoveDown(document);
-    EXPECT_TRUE(document.tree.isVisible(*node("B1")));
+    EXPECT_TRUE(document.tree().isVisible(*node("B1")));
 }
 
 TEST_F(MoveTest, UpAndThenDownRestoreTheOrderWithTheSameNodeSelected) {
@@ -336,26 +339,26 @@ TEST_F(MoveTest, UpAndThenDownRestoreTheOrderWithTheSameNodeSelected) {
         select(key);
         EXPECT_EQ(MoveUp(document), EditResult::Done);
         EXPECT_EQ(MoveDown(document), EditResult::Done);
-        EXPECT_EQ(TreeText(document.tree), "A\nB\n  B1\n    B11\n  B2\nC\n");
+        EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\nC\n");
         expectSelected(node(key));
     }
 }
 
 TEST_F(MoveTest, ExpansionOfTheMovedSubtreeStays) {
     growSample();
-    document.tree.makeVisible(*node("B11"));
+    document.makeVisible(*node("B11"));
     for (const Command move : {MoveUp, MoveDown}) {
         select("B");
         move(document);
-        EXPECT_TRUE(document.tree.isVisible(*node("B11")));
+        EXPECT_TRUE(document.tree().isVisible(*node("B11")));
     }
     MoveRight(document);
-    EXPECT_TRUE(document.tree.isVisible(*node("B11")));
+    EXPECT_TRUE(document.tree().isVisible(*node("B11")));
 }
 
 TEST_F(TreeEditing, ACounterUsedUpRefusesNewPlacesAndChangesNothing) {
     growSample();
-    document.ItemCounter = kMaxItemCounter;
+    document.apply(SetItemCounter{kMaxItemCounter});
     for (const char* key : {"B1", "B2"}) {
         SCOPED_TRACE(key);
         select(key);
@@ -364,50 +367,41 @@ TEST_F(TreeEditing, ACounterUsedUpRefusesNewPlacesAndChangesNothing) {
         expectRefused(MoveLeft, EditResult::CounterExhausted);
     }
     expectRefused(MoveRight, EditResult::CounterExhausted);
-    document.selectedNode = nullptr;
+    document.apply(SetSelection{{nullptr, document.CurNode()}});
     expectRefused(AddMenuItem, EditResult::CounterExhausted);
     expectRefused(AddSubmenuItem, EditResult::CounterExhausted);
 }
 
 TEST_F(TreeEditing, ACounterUsedUpStillAllowsVerticalMovesAndDeletion) {
     growSample();
-    document.ItemCounter = kMaxItemCounter;
+    document.apply(SetItemCounter{kMaxItemCounter});
     select("B");
     EXPECT_EQ(MoveUp(document), EditResult::Done);
     EXPECT_EQ(MoveDown(document), EditResult::Done);
     EXPECT_EQ(DeleteItem(document), EditResult::Done);
-    EXPECT_EQ(document.ItemCounter, kMaxItemCounter);
+    EXPECT_EQ(document.ItemCounter(), kMaxItemCounter);
 }
 
 TEST_F(TreeEditing, TheLastNumberIsStillUsed) {
-    document.ItemCounter = kMaxItemCounter - 1;
+    document.apply(SetItemCounter{kMaxItemCounter - 1});
     EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(document.CurNode->key(), "Key 32766");
-    EXPECT_EQ(document.ItemCounter, kMaxItemCounter);
+    EXPECT_EQ(document.CurNode()->key(), "Key 32766");
+    EXPECT_EQ(document.ItemCounter(), kMaxItemCounter);
     EXPECT_EQ(AddMenuItem(document), EditResult::CounterExhausted);
-    EXPECT_EQ(document.tree.size(), 1u);
+    EXPECT_EQ(document.tree().size(), 1u);
 }
 
 /// Looks at the document's nodes while it is told of a removal.
-class RemovalWatcher : public MenuTreeObserver {
+class RemovalWatcher : public DocumentObserver {
   public:
     explicit RemovalWatcher(const MenuDocument& document) : m_document(document) {}
-    void aboutToInsert(const MenuNode*, std::size_t) override {}
-    void inserted() override {}
-    void aboutToRemove(const MenuNode*, std::size_t) override {}
     void removed() override {
         ++m_removals;
-        for (const MenuNode* node : {m_document.CurNode, m_document.selectedNode}) {
+        for (const MenuNode* node : {m_document.CurNode(), m_document.selectedNode()}) {
             ASSERT_NE(node, nullptr);
-            EXPECT_EQ(m_document.tree.find(node->key()), node);
+            EXPECT_EQ(m_document.tree().find(node->key()), node);
         }
     }
-    void aboutToMove(const MenuNode&, const MenuNode*, std::size_t) override {}
-    void moved() override {}
-    void aboutToReset() override {}
-    void wasReset() override {}
-    void textChanged(const MenuNode&) override {}
-    void expansionChanged(const MenuNode&) override {}
 
     int removals() const { return m_removals; }
 
@@ -419,11 +413,11 @@ class RemovalWatcher : public MenuTreeObserver {
 TEST_F(DeleteItemTest, AnObserverNeverMeetsADeadCurrentNode) {
     growSample();
     RemovalWatcher watcher(document);
-    document.tree.setObserver(&watcher);
+    document.addObserver(watcher);
     select("B");
     DeleteItem(document);
     EXPECT_EQ(watcher.removals(), 1);
-    document.tree.setObserver(nullptr);
+    document.removeObserver(watcher);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/menu_tree.h"
+#include "tests/support/document_steps.h"
 
 namespace zev::test {
 
@@ -35,17 +36,32 @@ inline std::string TreeTextWithKeys(const MenuTree& tree) {
     return TreeText(tree, [](const MenuNode& node) { return node.text + " [" + node.key() + "]"; });
 }
 
-/// Builds nodes from (level, text) pairs in tree order; the text serves as the key.
-inline void Grow(MenuTree& tree,
-                 std::initializer_list<std::pair<std::size_t, std::string_view>> nodes) {
-    std::vector<MenuNode*> path;
+using Levels = std::initializer_list<std::pair<std::size_t, std::string_view>>;
+
+/// Gives `append` parent and text of each node.
+template <typename Append>
+void Grow(Levels nodes, Append append) {
+    std::vector<const MenuNode*> path;
     for (const auto& [level, text] : nodes) {
         ASSERT_LE(level, path.size());
         path.resize(level);
-        MenuNode* const parent = path.empty() ? nullptr : path.back();
-        path.push_back(tree.append(parent, std::string(text), std::string(text)));
+        path.push_back(append(path.empty() ? nullptr : path.back(), std::string(text)));
         ASSERT_NE(path.back(), nullptr) << text;
     }
+}
+
+/// Builds nodes from (level, text) pairs in tree order; the text serves as the key.
+inline void Grow(MenuTree& tree, Levels nodes) {
+    Grow(nodes, [&tree](const MenuNode* parent, const std::string& text) {
+        return tree.append(parent, text, text);
+    });
+}
+
+/// The same in a document, whose selection stays.
+inline void Grow(MenuDocument& document, Levels nodes) {
+    Grow(nodes, [&document](const MenuNode* parent, const std::string& text) {
+        return appendNode(document, parent, text, text);
+    });
 }
 
 /// Checks what must hold for every tree: rows, parents, look-up by key and the number of nodes.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/menu_document.h"
+#include "model/menu_content.h"
 #include "model/menu_properties.h"
 #include "script/item_lines.h"
 #include "tests/model/tree_text.h"
@@ -44,8 +44,8 @@ inline std::string ItemText(const ItemProp& item) {
            PropText(*item.MenuProperty);
 }
 
-/// All that a definition file brings into a document, as text: equal texts, equal documents.
-inline std::string DocumentText(const MenuDocument& document) {
+/// All that a definition file brings into a menu, as text: equal texts, equal menus.
+inline std::string DocumentText(const MenuContent& document) {
     return "defaults" + PropText(document.DefaultProp) + "\nroot" +
            PropText(document.RootMenuProp) + "\ncounter " + std::to_string(document.ItemCounter) +
            "\n" + TreeText(document.tree, [](const MenuNode& node) {

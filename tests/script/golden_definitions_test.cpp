@@ -22,7 +22,7 @@ class GoldenDefinitions : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenDefinitions, ReadAndWrittenAgainGiveTheExpectedBytes) {
     const std::string folder = kCases + "/" + GetParam();
-    MenuDocument document("/program");
+    MenuContent document;
     const ReadResult result = ReadScript(caseFile(folder + "/input.js"), document);
     EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), caseFile(folder + "/expected.js"));
 
@@ -34,7 +34,7 @@ TEST_P(GoldenDefinitions, ReadAndWrittenAgainGiveTheExpectedBytes) {
 
 TEST_P(GoldenDefinitions, TheExpectedBytesComeBackUnchanged) {
     const std::string expected = caseFile(kCases + "/" + GetParam() + "/expected.js");
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadScript(expected, document).errorCount, 0u);
     EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), expected);
 }

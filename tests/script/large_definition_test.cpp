@@ -17,33 +17,33 @@ namespace {
 
 constexpr std::size_t kHugeLength = 50'000'000;
 
-std::string DefinitionBytes(const MenuDocument& document) {
+std::string DefinitionBytes(const MenuContent& document) {
     return DefinitionFileBytes(GenerateScript(document));
 }
 
 /// Reads one line inside the top-level menu.
-std::size_t ReadLine(const std::string& line, MenuDocument& document) {
+std::size_t ReadLine(const std::string& line, MenuContent& document) {
     return ReadScript("zevmenu = new ZEVMenu('0');\r\n" + line + "\r\n", document).errorCount;
 }
 
 TEST(LargeDefinition, AHugeLineOfAnyCharacterIsSkipped) {
     for (const char c : {'x', '=', '\'', '"', '*', ' ', '\\', '\0', '\xC3', '\r'}) {
         SCOPED_TRACE(static_cast<int>(c));
-        MenuDocument document("/program");
+        MenuContent document;
         EXPECT_EQ(ReadScript(std::string(kHugeLength, c), document).errorCount, 0u);
         EXPECT_TRUE(document.tree.isEmpty());
     }
 }
 
 TEST(LargeDefinition, AHugeNumberOfEmptyLinesIsSkipped) {
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadScript(std::string(kHugeLength / 10, '\n'), document).errorCount, 0u);
 }
 
 TEST(LargeDefinition, AHugePropertyLineIsRead) {
     for (const char c : {'=', ';', '\'', '"', '.'}) {
         SCOPED_TRACE(c);
-        MenuDocument document("/program");
+        MenuContent document;
         EXPECT_EQ(ReadLine("zevmenu.divider = '" + std::string(kHugeLength, c) + "';", document),
                   0u);
         EXPECT_EQ(document.RootMenuProp.Divider.size(), kHugeLength);
@@ -51,29 +51,29 @@ TEST(LargeDefinition, AHugePropertyLineIsRead) {
 }
 
 TEST(LargeDefinition, AHugeCaptionComesBack) {
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadLine("zevmenu.AddItem('" + std::string(kHugeLength, 'x') + "', 'a.html', '');",
                        document),
               0u);
     ASSERT_FALSE(document.tree.isEmpty());
-    EXPECT_EQ(document.CurNode->item.Caption.size(), kHugeLength);
-    EXPECT_EQ(document.CurNode->item.URL, "a.html");
+    EXPECT_EQ(document.tree.firstNode()->item.Caption.size(), kHugeLength);
+    EXPECT_EQ(document.tree.firstNode()->item.URL, "a.html");
 }
 
 TEST(LargeDefinition, AHugeCaptionOfEscapedApostrophesComesBack) {
     std::string caption;
     while (caption.size() < kHugeLength)
         caption += "\\'~||~";
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadLine("zevmenu.AddItem('" + caption + "', '', '');", document), 0u);
     // Each placeholder comes back as an escaped apostrophe, three bytes shorter.
-    EXPECT_EQ(document.CurNode->item.Caption.size(), caption.size() / 6 * 4);
+    EXPECT_EQ(document.tree.firstNode()->item.Caption.size(), caption.size() / 6 * 4);
 }
 
 TEST(LargeDefinition, AHugeItemLineOfBareQuotesIsRead) {
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadLine("zevmenu.AddItem(" + std::string(kHugeLength, '\'') + ");", document), 0u);
-    EXPECT_EQ(document.CurNode->item.Caption, "");
+    EXPECT_EQ(document.tree.firstNode()->item.Caption, "");
 }
 
 TEST(LargeDefinition, AThousandLevelsAreReadWrittenListedAndRebased) {
@@ -85,12 +85,12 @@ TEST(LargeDefinition, AThousandLevelsAreReadWrittenListedAndRebased) {
         script += "zevmenu.AddItem('x', 'a.html', '');\r\n";
         id += "i1";
     }
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadScript(script, document).errorCount, 0u);
     EXPECT_EQ(document.tree.size(), kLevels);
 
     const std::string bytes = DefinitionBytes(document);
-    MenuDocument again("/program");
+    MenuContent again;
     EXPECT_EQ(ReadScript(bytes, again).errorCount, 0u);
     EXPECT_EQ(DefinitionBytes(again), bytes);
 
@@ -110,10 +110,12 @@ TEST(LargeDefinition, TwentyThousandSiblingsAreReadWrittenAndEdited) {
     std::string script = "zevmenu = new ZEVMenu('0');\r\n";
     for (std::size_t i = 0; i < kCount; ++i)
         script += "zevmenu.AddItem('Item', 'a.html', '');\r\n";
-    MenuDocument document("/program");
-    EXPECT_EQ(ReadScript(script, document).errorCount, 0u);
-    EXPECT_EQ(document.tree.topLevel().size(), kCount);
+    MenuContent read;
+    EXPECT_EQ(ReadScript(script, read).errorCount, 0u);
+    EXPECT_EQ(read.tree.topLevel().size(), kCount);
 
+    MenuDocument document("/program");
+    document.open(std::move(read));
     for (int i = 0; i < 500; ++i) {
         EXPECT_EQ(AddMenuItem(document), EditResult::Done);
         EXPECT_EQ(MoveUp(document), EditResult::Done);
@@ -121,12 +123,13 @@ TEST(LargeDefinition, TwentyThousandSiblingsAreReadWrittenAndEdited) {
     }
     for (int i = 0; i < 500; ++i)
         EXPECT_EQ(DeleteItem(document), EditResult::Done);
-    test::ExpectSoundTree(document.tree);
-    EXPECT_EQ(document.tree.size(), kCount);
+    test::ExpectSoundTree(document.tree());
+    EXPECT_EQ(document.tree().size(), kCount);
 
-    MenuDocument again("/program");
-    EXPECT_EQ(ReadScript(DefinitionBytes(document), again).errorCount, 0u);
-    EXPECT_EQ(DefinitionBytes(again), DefinitionBytes(document));
+    const std::string bytes = DefinitionBytes(document.content());
+    MenuContent again;
+    EXPECT_EQ(ReadScript(bytes, again).errorCount, 0u);
+    EXPECT_EQ(DefinitionBytes(again), bytes);
 }
 
 TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
@@ -141,7 +144,7 @@ TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
     script += "zevmenu = new ZEVMenu('32768');\r\nzevmenu.columns = 5;\r\n";
     script += "zev_state.columns = 6;\r\n";
 
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadScript(script, document).errorCount, kCount - kLimit + 1);
     EXPECT_EQ(document.tree.size(), kLimit);
     EXPECT_EQ(document.ItemCounter, kMaxItemCounter);
@@ -150,8 +153,10 @@ TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
     EXPECT_EQ(document.tree.find("KeyLoad 32768"), nullptr);
     EXPECT_EQ(document.DefaultProp.Columns, "6");
 
-    EXPECT_EQ(AddMenuItem(document), EditResult::CounterExhausted);
-    EXPECT_EQ(document.tree.size(), kLimit);
+    MenuDocument edited("/program");
+    edited.open(std::move(document));
+    EXPECT_EQ(AddMenuItem(edited), EditResult::CounterExhausted);
+    EXPECT_EQ(edited.tree().size(), kLimit);
 }
 
 TEST(LargeDefinition, AtTheLimitASubmenusItemsAreErrorsAndItsPropertiesAreRead) {
@@ -161,7 +166,7 @@ TEST(LargeDefinition, AtTheLimitASubmenusItemsAreErrorsAndItsPropertiesAreRead) 
     script += "zevmenu = new ZEVMenu('2');\r\nzevmenu.columns = 3;\r\n";
     script += "zevmenu.AddItem('a', '', '');\r\nzevmenu.AddItem('b', '', '');\r\n";
     script += "zevmenu = new ZEVMenu('2i2');\r\nzevmenu.AddItem('c', '', '');\r\n";
-    MenuDocument document("/program");
+    MenuContent document;
     EXPECT_EQ(ReadScript(script, document).errorCount, 3u);
     EXPECT_EQ(document.tree.find("KeyLoad 2")->item.MenuProperty->Columns, "3");
     EXPECT_FALSE(document.tree.find("KeyLoad 2")->hasChildren());

@@ -43,20 +43,20 @@ void setOtherValue(MenuProp& prop, const MenuPropertyRow& row) {
     prop.FontSet = prop.FontSet || row.special == Special::Font;
 }
 
-std::string written(const MenuDocument& document) {
+std::string written(const MenuContent& document) {
     return DefinitionFileBytes(GenerateScript(document));
 }
 
 class EachProperty : public testing::TestWithParam<MenuPropertyRow> {
   protected:
-    void SetUp() override { document.CurNode = document.tree.append(nullptr, "Key 0", "A"); }
+    void SetUp() override { document.tree.append(nullptr, "Key 0", "A"); }
 
     std::string line(const char* object) const {
         return "\r\n" + std::string(object) + std::string(GetParam().name) + " = ";
     }
     /// Writes the document, reads what is written and writes that: the same bytes. Returns what was
     /// read.
-    MenuDocument& readBack() {
+    MenuContent& readBack() {
         const std::string bytes = written(document);
         EXPECT_TRUE(ReadScript(bytes, copy).warnings.empty()) << bytes;
         if (GetParam().special != Special::NotReadBack) {
@@ -65,9 +65,9 @@ class EachProperty : public testing::TestWithParam<MenuPropertyRow> {
         return copy;
     }
 
-    MenuDocument document{"/program"};
-    MenuDocument copy{"/program"};
-    const MenuDocument newDocument{"/program"};
+    MenuContent document;
+    MenuContent copy;
+    const MenuContent newDocument;
 };
 
 INSTANTIATE_TEST_SUITE_P(Row, EachProperty, testing::ValuesIn(kMenuProperties),
@@ -89,7 +89,7 @@ TEST_P(EachProperty, OfTheDefaultsComesBackWhereItIsWritten) {
 }
 
 TEST_P(EachProperty, OfTheTopMenuAndOfASubmenuComesBackWhereItIsWritten) {
-    MenuNode* const node = document.CurNode;
+    MenuNode* const node = document.tree.firstNode();
     node->item.MenuProperty = NewItemMenuProp();
     document.tree.append(node, "Key 1", "A1");
     setOtherValue(document.RootMenuProp, GetParam());

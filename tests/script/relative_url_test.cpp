@@ -4,6 +4,9 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
+
+#include "tests/script/document_text.h"
 
 namespace zev {
 namespace {
@@ -327,7 +330,7 @@ class RebaseAllURLsTest : public testing::Test {
         document.DefaultProp.BgImg = "default.gif";
     }
 
-    MenuDocument document{"/program"};
+    MenuContent document;
 };
 
 TEST_F(RebaseAllURLsTest, RebasesLinkImagesAndSubmenuBackgroundOfEveryItem) {
@@ -363,8 +366,26 @@ TEST_F(RebaseAllURLsTest, TheSameFolderChangesNothing) {
     EXPECT_EQ(document.tree.firstNode()->item.URL, R"(C:\x.html)");
 }
 
+TEST_F(RebaseAllURLsTest, InADocumentItGivesTheChangesThatTakeItBack) {
+    MenuDocument edited("/program");
+    edited.open(std::move(document));
+    edited.apply(InsertBranch{MenuBranch("5", ""), nullptr, 0});
+    // Not every URL survives both ways.
+    const MenuNode& odd = *edited.tree().find("2");
+    test::editItem(edited, odd)->URL = "../web/./x.html";
+    const std::string before = test::DocumentText(edited.content());
+    Changes back = RebaseAllURLs(edited, "/web", "/web/new");
+    EXPECT_EQ(back.size(), 4u) << "an item without URLs is not touched";
+    EXPECT_EQ(odd.item.URL, ".././x.html");
+    EXPECT_EQ(edited.tree().find("3")->item.MenuProperty->BgImg, "../bg.gif");
+    EXPECT_FALSE(edited.bModified());
+    edited.apply(std::move(back));
+    EXPECT_EQ(test::DocumentText(edited.content()), before);
+    EXPECT_TRUE(RebaseAllURLs(edited, "/web", "/web").empty());
+}
+
 TEST_F(RebaseAllURLsTest, AnEmptyTreeIsFine) {
-    document.NewDocument();
+    document = MenuContent();
     RebaseAllURLs(document, "/web", "/new");
     EXPECT_TRUE(document.tree.isEmpty());
 }

@@ -21,7 +21,7 @@ using test::TreeTextWithKeys;
 class ReadScriptTest : public testing::Test {
   protected:
     std::size_t read(std::string_view bytes) {
-        document.NewDocument();
+        document = MenuContent();
         const std::size_t errorCount = ReadScript(bytes, document).errorCount;
         test::ExpectSoundTree(document.tree);
         return errorCount;
@@ -31,28 +31,26 @@ class ReadScriptTest : public testing::Test {
         return *document.tree.find(key)->item.MenuProperty;
     }
 
-    MenuDocument document{"/program"};
-    const MenuDocument newDocument{"/program"};
+    MenuContent document;
+    const MenuContent newDocument;
 };
 
 TEST_F(ReadScriptTest, AnEmptyFileGivesAnEmptyDocument) {
     EXPECT_EQ(read(""), 0u);
     EXPECT_EQ(test::DocumentText(document), test::DocumentText(newDocument));
-    EXPECT_EQ(document.CurNode, nullptr);
-    EXPECT_EQ(document.selectedNode, nullptr);
+    EXPECT_TRUE(document.tree.isEmpty());
 }
 
 TEST_F(ReadScriptTest, TheFirstNodeIsCurrentAndSelectedAndNothingIsModified) {
-    document.bModified = true;
     MenuDocument modified("/program");
-    modified.bModified = true;
-    ReadScript(Lines({"zevmenu = new ZEVMenu('0');", "zevmenu.AddItem('A', '', '');",
-                      "zevmenu.AddItem('B', '', '');"}),
-               modified);
-    EXPECT_EQ(modified.CurNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.selectedNode, modified.tree.firstNode());
-    EXPECT_EQ(modified.CurNode->text, "A");
-    EXPECT_FALSE(modified.bModified);
+    modified.markModified();
+    read({"zevmenu = new ZEVMenu('0');", "zevmenu.AddItem('A', '', '');",
+          "zevmenu.AddItem('B', '', '');"});
+    modified.open(std::move(document));
+    EXPECT_EQ(modified.CurNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.selectedNode(), modified.tree().firstNode());
+    EXPECT_EQ(modified.CurNode()->text, "A");
+    EXPECT_FALSE(modified.bModified());
 }
 
 TEST_F(ReadScriptTest, DefaultLinesSetTheDefaults) {
@@ -264,14 +262,16 @@ TEST_F(ReadScriptTest, ALineMayBeADefaultLineOnlyAtItsBeginning) {
 TEST_F(ReadScriptTest, ItemsMadeAfterwardsGetNumbersBehindThoseRead) {
     read({"zevmenu = new ZEVMenu('0');", "zevmenu.AddItem('A', '', '');",
           "zevmenu.AddItem('B', '', '');"});
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-    EXPECT_EQ(document.CurNode->key(), "Key 2");
+    MenuDocument edited("/program");
+    edited.open(std::move(document));
+    EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
+    EXPECT_EQ(edited.CurNode()->key(), "Key 2");
 }
 
 /// "3 UnknownMenu" for each warning.
 std::vector<std::string> WarningsOf(std::initializer_list<std::string_view> lines) {
     using Reason = LineWarning::Reason;
-    MenuDocument document("/program");
+    MenuContent document;
     std::vector<std::string> texts;
     for (const LineWarning& warning : ReadScript(Lines(lines), document).warnings) {
         const char* const reason = warning.reason == Reason::UnknownMenu     ? " UnknownMenu"
@@ -320,7 +320,7 @@ TEST(ReadScriptWarnings, ALineThatBeginsAsThoseOfAMenuAndSaysNothingIsToldButNot
         SCOPED_TRACE(line);
         EXPECT_EQ(WarningsOf({"zevmenu = new ZEVMenu('0');", line}),
                   std::vector<std::string>{"2 NotUnderstood"});
-        MenuDocument document("/program");
+        MenuContent document;
         EXPECT_EQ(ReadScript(Lines({"zevmenu = new ZEVMenu('0');", line}), document).errorCount,
                   0u);
     }

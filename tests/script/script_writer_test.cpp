@@ -32,9 +32,7 @@ class GenerateScriptTest : public testing::Test {
         ItemProp item;
         item.Caption = caption;
         item.MenuProperty = NewItemMenuProp();
-        MenuNode* const node = document.tree.append(parent, caption, caption, item);
-        document.CurNode = document.tree.firstNode();
-        return node;
+        return document.tree.append(parent, caption, caption, item);
     }
     /// The script behind the default lines.
     std::string menus() {
@@ -43,7 +41,7 @@ class GenerateScriptTest : public testing::Test {
         return script.substr(kFactoryDefaults.size());
     }
 
-    MenuDocument document{"/program"};
+    MenuContent document;
 };
 
 TEST_F(GenerateScriptTest, AnEmptyTreeWritesTheDefaultLinesAndAnEmptyLine) {
@@ -52,24 +50,28 @@ TEST_F(GenerateScriptTest, AnEmptyTreeWritesTheDefaultLinesAndAnEmptyLine) {
 }
 
 TEST_F(GenerateScriptTest, AMenuOfThreeLevelsAtStartingValues) {
-    AddMenuItem(document);
-    document.tree.firstNode()->item.Caption = "Home";
-    AddMenuItem(document);
-    MenuNode* const products = document.CurNode;
-    products->item.Caption = "Products";
-    AddMenuItem(document);
-    document.CurNode->item.Caption = "Contact";
-    document.selectedNode = document.CurNode = products;
-    AddSubmenuItem(document);
-    products->children()[0]->item.Caption = "A";
-    AddSubmenuItem(document);
-    MenuNode* const b = products->children()[1];
-    b->item.Caption = "B";
-    document.selectedNode = document.CurNode = b;
-    AddSubmenuItem(document);
-    b->children()[0]->item.Caption = "B1";
+    MenuDocument edited("/program");
+    const auto setCaption = [&edited](const MenuNode& node, const char* caption) {
+        test::editItem(edited, node)->Caption = caption;
+    };
+    AddMenuItem(edited);
+    setCaption(*edited.CurNode(), "Home");
+    AddMenuItem(edited);
+    const MenuNode& products = *edited.CurNode();
+    setCaption(products, "Products");
+    AddMenuItem(edited);
+    setCaption(*edited.CurNode(), "Contact");
+    edited.select(&products);
+    AddSubmenuItem(edited);
+    setCaption(*products.children()[0], "A");
+    AddSubmenuItem(edited);
+    const MenuNode& b = *products.children()[1];
+    setCaption(b, "B");
+    edited.select(&b);
+    AddSubmenuItem(edited);
+    setCaption(*b.children()[0], "B1");
 
-    EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)),
+    EXPECT_EQ(DefinitionFileBytes(GenerateScript(edited.content())),
               kFactoryDefaults + Lines({
                                      "zevmenu = new ZEVMenu('0');",
                                      "zevmenu.columns = 10;",

@@ -10,17 +10,17 @@ namespace {
 using Entries = std::vector<std::string>;
 
 TEST(ListSubmenus, AnEmptyTreeHasNone) {
-    EXPECT_EQ(ListSubmenus(MenuDocument("/program")), Entries());
+    EXPECT_EQ(ListSubmenus(MenuContent()), Entries());
 }
 
 TEST(ListSubmenus, ItemsWithoutChildrenAreCountedButNotListed) {
-    MenuDocument document("/program");
+    MenuContent document;
     test::Grow(document.tree, {{0, "Home"}, {0, "Menu"}, {1, "x"}, {0, "Last"}});
     EXPECT_EQ(ListSubmenus(document), Entries({"Menu (2)"}));
 }
 
 TEST(ListSubmenus, EntriesComeInTreeOrderWithTheIdOfTheirPath) {
-    MenuDocument document("/program");
+    MenuContent document;
     test::Grow(document.tree, {{0, "Menu"},
                                {1, "First"},
                                {1, "Products"},
@@ -37,7 +37,7 @@ TEST(ListSubmenus, EntriesComeInTreeOrderWithTheIdOfTheirPath) {
 }
 
 TEST(ListSubmenus, ShowsTheNodesTextAsItStands) {
-    MenuDocument document("/program");
+    MenuContent document;
     test::Grow(document.tree, {{0, "<b>It\\'s</b> (1)"}, {1, "x"}});
     EXPECT_EQ(ListSubmenus(document), Entries({"<b>It\\'s</b> (1) (1)"}));
 }

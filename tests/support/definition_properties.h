@@ -49,7 +49,7 @@ inline bool isSettledLevel(const MenuProp& prop, const MenuProp& defaults) {
 }
 
 /// True when writing, reading and writing a document must give the same bytes.
-inline bool isSettled(const MenuDocument& document) {
+inline bool isSettled(const MenuContent& document) {
     const MenuProp& defaults = document.DefaultProp;
     const MenuProp& root = document.RootMenuProp;
     // Without their lines the top menu has ten columns and opens at the bottom.
@@ -68,7 +68,7 @@ inline bool isSettled(const MenuDocument& document) {
 }
 
 /// The tree, each item as its depth and its line.
-inline std::string itemsOf(const MenuDocument& document) {
+inline std::string itemsOf(const MenuContent& document) {
     std::string text;
     const MenuTree& tree = document.tree;
     for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
@@ -87,14 +87,14 @@ inline std::string itemsOf(const MenuDocument& document) {
 /// number has characters, and three more: a default comes back as the factory's, a menu's position
 /// is then equal to it and left out, and comes back as a new menu's.
 inline std::string problemOfDefinition(std::string_view bytes) {
-    MenuDocument document("/program");
+    MenuContent document;
     ReadScript(bytes, document);
     const std::string items = itemsOf(document);
     std::string written = DefinitionFileBytes(GenerateScript(document));
     for (std::size_t readings = 0; !isSettled(document); ++readings) {
         if (readings > bytes.size() + 3)
             return "it is another at each reading";
-        document.NewDocument();
+        document = MenuContent();
         if (!ReadScript(written, document).warnings.empty())
             return "a line that is written is not understood";
         if (itemsOf(document) != items)
@@ -103,7 +103,7 @@ inline std::string problemOfDefinition(std::string_view bytes) {
     }
     if (!IsValidUtf8(written))
         return "what is written is not UTF-8";
-    MenuDocument again("/program");
+    MenuContent again;
     if (!ReadScript(written, again).warnings.empty())
         return "a line that is written is not understood";
     if (itemsOf(again) != items || again.ItemCounter != document.ItemCounter)

@@ -49,16 +49,13 @@ inline std::string problemOfWarnings(const std::vector<LineWarning>& warnings,
 }
 
 /// What is wrong with a document after an import, whatever was imported; empty when nothing is.
-inline std::string problemOfDocument(const MenuDocument& document) {
-    if (document.CurNode != document.tree.firstNode() || document.selectedNode != document.CurNode)
-        return "the first node is not the current one";
-    if (document.bModified || !document.SaveFile.empty())
-        return "the document is modified or has a file";
+inline std::string problemOfDocument(const MenuContent& document) {
     std::size_t count = 0;
     const MenuTree& tree = document.tree;
     for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
         ++count;
-        if (tree.find(node->key()) != node || tree.siblingsOf(*node).at(node->row()) != node)
+        if (tree.find(node->key()) != node || node->row() >= tree.siblingsOf(*node).size() ||
+            tree.siblingsOf(*node)[node->row()] != node)
             return "a node is not where it can be found";
         if (node->text != (node->item.IsRollover ? node->item.ImageOut : node->item.Caption))
             return "a node is not shown under its caption or image";
@@ -69,7 +66,7 @@ inline std::string problemOfDocument(const MenuDocument& document) {
 }
 
 /// What is wrong with a document of one of the three formats with colons; empty when nothing is.
-inline std::string problemOfOrletDocument(const MenuDocument& document,
+inline std::string problemOfOrletDocument(const MenuContent& document,
                                           const std::vector<LineWarning>& warnings,
                                           std::string_view bytes) {
     const auto refused = static_cast<std::size_t>(
@@ -102,11 +99,11 @@ inline bool endsInBackslash(const ItemProp& item) {
 
 /// What is wrong with saving a document and opening it again; empty when nothing is. Of the
 /// properties of its menus nothing is asked: those equal to the defaults are not written.
-inline std::string problemOfSaving(const MenuDocument& document) {
+inline std::string problemOfSaving(const MenuContent& document) {
     const std::string bytes = DefinitionFileBytes(GenerateScript(document));
     if (!IsValidUtf8(bytes))
         return "what is written is not UTF-8";
-    MenuDocument again("/program");
+    MenuContent again;
     if (ReadScript(bytes, again).errorCount != 0)
         return "what is written cannot be read without errors";
     const MenuNode* node = document.tree.firstNode();
@@ -123,7 +120,7 @@ inline std::string problemOfSaving(const MenuDocument& document) {
 }
 
 /// True when two documents hold the same menu under the same keys.
-inline bool isSameMenu(const MenuDocument& left, const MenuDocument& right) {
+inline bool isSameMenu(const MenuContent& left, const MenuContent& right) {
     const MenuNode* node = left.tree.firstNode();
     const MenuNode* other = right.tree.firstNode();
     while (node && other && node->key() == other->key() && node->item == other->item &&
@@ -137,7 +134,7 @@ inline bool isSameMenu(const MenuDocument& left, const MenuDocument& right) {
 
 /// Imports the bytes and says the first thing wrong with what comes of it; empty when nothing is.
 inline std::string problemOfImport(std::string_view format, std::string_view bytes) {
-    MenuDocument document("/program");
+    MenuContent document;
     const std::vector<LineWarning> warnings =
         ImportMenu(*findImportFormat(format), bytes, document).warnings;
     std::string problem = problemOfWarnings(warnings, bytes);
@@ -149,7 +146,7 @@ inline std::string problemOfImport(std::string_view format, std::string_view byt
         problem = problemOfSaving(document);
     if (!problem.empty())
         return problem;
-    MenuDocument again("/program");
+    MenuContent again;
     if (ImportMenu(*findImportFormat(format), bytes, again).warnings != warnings ||
         !isSameMenu(again, document))
         return "imported again it is another menu";
