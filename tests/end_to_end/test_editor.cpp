@@ -67,9 +67,9 @@ void test_editor::aMenuIsMadeWithKeysAndMouse() {
     clickButton("Add Submenu Item");
     pressShortcut(Qt::Key_W);
     QCOMPARE(products->children().size(), std::size_t{2});
-    clickNode(products->children().at(0));
+    clickNode(products->children()[0]);
     fillIn("Boats", "boats.html");
-    clickNode(products->children().at(1));
+    clickNode(products->children()[1]);
     fillIn(QString::fromUtf8("Oars"), "oars.html");
     QVERIFY(m_window->document().bModified());
 }
