@@ -56,7 +56,7 @@ void MenuDocument::tell(void (DocumentObserver::*what)(Parameters...),
     m_isTelling = false;
 }
 
-Change MenuDocument::perform(InsertBranch change) {
+Change MenuDocument::perform(InsertBranch&& change) {
     RemoveBranch inverse{change.branch.top(), m_selection};
     tell(&DocumentObserver::aboutToInsert, change.parent, change.row);
     m_content.tree.insert(std::move(change.branch), change.parent, change.row);
@@ -66,7 +66,7 @@ Change MenuDocument::perform(InsertBranch change) {
     return inverse;
 }
 
-Change MenuDocument::perform(RemoveBranch change) {
+Change MenuDocument::perform(RemoveBranch&& change) {
     const MenuNode& doomed = *change.node;
     NodeSelection selection = change.selection.value_or(NodeSelection{&doomed, &doomed});
     for (const MenuNode** node : {&selection.selected, &selection.current}) {
@@ -84,7 +84,7 @@ Change MenuDocument::perform(RemoveBranch change) {
     return inverse;
 }
 
-Change MenuDocument::perform(MoveBranch change) {
+Change MenuDocument::perform(MoveBranch&& change) {
     const MenuNode& node = *change.node;
     const MenuNode* const oldParent = node.parent();
     const std::size_t oldRow = node.row();
@@ -98,7 +98,7 @@ Change MenuDocument::perform(MoveBranch change) {
     return MoveBranch{&node, oldParent, standsBefore ? oldRow + 1 : oldRow};
 }
 
-Change MenuDocument::perform(SetItem change) {
+Change MenuDocument::perform(SetItem&& change) {
     const ItemProp& item = change.node->item;
     if (!hasExchanged(m_content.tree.edit(*change.node).item, change.item))
         return change;
@@ -109,19 +109,19 @@ Change MenuDocument::perform(SetItem change) {
     return change;
 }
 
-Change MenuDocument::perform(SetLabel change) {
+Change MenuDocument::perform(SetLabel&& change) {
     if (hasExchanged(m_content.tree.edit(*change.node).text, change.text))
         tell(&DocumentObserver::labelChanged, *change.node);
     return change;
 }
 
-Change MenuDocument::perform(SetExpanded change) {
+Change MenuDocument::perform(SetExpanded&& change) {
     if (hasExchanged(m_content.tree.edit(*change.node).isExpanded, change.isExpanded))
         tell(&DocumentObserver::expansionChanged, *change.node);
     return change;
 }
 
-Change MenuDocument::perform(SetMenu change) {
+Change MenuDocument::perform(SetMenu&& change) {
     if (menuProp(change.owner) == *change.properties)
         return change;
     if (change.owner.kind == MenuPropOwner::Kind::Defaults)
@@ -134,31 +134,31 @@ Change MenuDocument::perform(SetMenu change) {
     return change;
 }
 
-Change MenuDocument::perform(SetItemCounter change) {
+Change MenuDocument::perform(SetItemCounter&& change) {
     std::swap(m_content.ItemCounter, change.ItemCounter);
     return change;
 }
 
-Change MenuDocument::perform(SetFile change) {
+Change MenuDocument::perform(SetFile&& change) {
     const bool hasNewFile = hasExchanged(m_saveFile, change.SaveFile);
     if (hasExchanged(m_savePath, change.SavePath) || hasNewFile)
         tell(&DocumentObserver::fileChanged);
     return change;
 }
 
-Change MenuDocument::perform(SetSelection change) {
+Change MenuDocument::perform(SetSelection&& change) {
     const NodeSelection before = std::exchange(m_selection, change.selection);
     tellSelection(before);
     return SetSelection{before};
 }
 
-Change MenuDocument::perform(SetModified change) {
+Change MenuDocument::perform(SetModified&& change) {
     if (hasExchanged(m_isModified, change.bModified))
         tell(&DocumentObserver::modifiedChanged);
     return change;
 }
 
-Change MenuDocument::perform(ReplaceContent change) {
+Change MenuDocument::perform(ReplaceContent&& change) {
     tell(&DocumentObserver::aboutToReplaceContent);
     std::swap(m_content, *change.content);
     std::swap(m_selection, change.selection);

@@ -82,18 +82,18 @@ class MenuDocument {
     void markSaved();
 
   private:
-    Change perform(InsertBranch change);
-    Change perform(RemoveBranch change);
-    Change perform(MoveBranch change);
-    Change perform(SetItem change);
-    Change perform(SetLabel change);
-    Change perform(SetExpanded change);
-    Change perform(SetMenu change);
-    Change perform(SetItemCounter change);
-    Change perform(SetFile change);
-    Change perform(SetSelection change);
-    Change perform(SetModified change);
-    Change perform(ReplaceContent change);
+    Change perform(InsertBranch&& change);
+    Change perform(RemoveBranch&& change);
+    Change perform(MoveBranch&& change);
+    Change perform(SetItem&& change);
+    Change perform(SetLabel&& change);
+    Change perform(SetExpanded&& change);
+    Change perform(SetMenu&& change);
+    Change perform(SetItemCounter&& change);
+    Change perform(SetFile&& change);
+    Change perform(SetSelection&& change);
+    Change perform(SetModified&& change);
+    Change perform(ReplaceContent&& change);
     const MenuNode* heirOf(const MenuNode& node) const;
     void tellSelection(const NodeSelection& before);
 

@@ -143,13 +143,13 @@ void test_integrated_site::aMenuIsMadeAndSaved() {
     clickNode(products);
     clickButton("Add Submenu Item");
     clickButton("Add Submenu Item");
-    clickNode(products->children().at(0));
+    clickNode(products->children()[0]);
     fillIn("Boats", "");
-    clickNode(products->children().at(1));
+    clickNode(products->children()[1]);
     fillIn("Oars", "");
-    clickNode(products->children().at(0));
+    clickNode(products->children()[0]);
     clickButton("Add Submenu Item");
-    clickNode(products->children().at(0)->children().at(0));
+    clickNode(products->children()[0]->children()[0]);
     fillIn("Canoes", "../products/list.htm");
     saveAs([this] { m_window->mnuFileSaveAs_Click(); });
     QVERIFY(QFile::exists(m_menuFile));
