@@ -11,9 +11,9 @@ inline void rollWheel(QWidget& widget) {
     const QPoint place = widget.rect().center();
     QWheelEvent event(place, widget.mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
-    // Only what comes from the system moves the focus.
+    // Only what comes from the system moves the focus; `sendEvent` would deny that it does.
     QSpontaneKeyEvent::setSpontaneous(&event);
-    QApplication::sendEvent(&widget, &event);
+    QCoreApplication::instance()->notify(&widget, &event);
 }
 
 }  // namespace zev
