@@ -17,6 +17,7 @@
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
 #include "dialogs/frm_path.h"
+#include "dialogs/property_edit.h"
 #include "html/html_page.h"
 #include "integrator/wizard/frm_integrator.h"
 #include "script/script_writer.h"
@@ -131,14 +132,20 @@ void frmMain::validateFields() {
 }
 
 void frmMain::StoreItem() {
+    if (m_document.CurNode() == nullptr)
+        return;
+    // A label edited in the tree stands for the item as it was stored, perhaps with another type.
+    m_panel->labelSelectedNode();
     m_panel->StoreItem(m_document.CurNode());
 }
 
 void frmMain::ShowItem() {
-    if (m_document.CurNode() != nullptr)
+    if (m_document.CurNode() != nullptr) {
         m_panel->ShowItem(m_document.CurNode());
-    else
+        m_panel->labelSelectedNode();
+    } else {
         m_panel->ClearItemPanel();
+    }
     TreeView->showSelection();
 }
 
@@ -268,6 +275,7 @@ void frmMain::TreeView_NodeClick(const MenuNode* node) {
     StoreItem();
     m_document.select(node);
     m_panel->ShowItem(node);
+    m_panel->labelSelectedNode();
     if (!wasModified)
         m_document.markSaved();
     Button_Update();
@@ -306,7 +314,7 @@ void frmMain::guard(const std::function<void()>& work) {
 
 void frmMain::leaveField() {
     TreeView->commitEditor();
-    m_panel->validateFocusedField();
+    leaveFocusedEdit(*this);
 }
 
 /// Runs a tree editing command and shows the tree that it leaves.

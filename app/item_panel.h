@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/editor_services.h"
 #include "dialogs/property_edit.h"
 #include "model/menu_document.h"
 
-class QGroupBox;
+class QGridLayout;
+class QLabel;
 class QLineEdit;
 class QRadioButton;
 class QToolButton;
@@ -22,20 +25,21 @@ class ItemPanel : public QWidget {
     /// `document` and `services` are not owned and outlive the panel.
     ItemPanel(MenuDocument& document, const EditorServices& services, QWidget* parent = nullptr);
 
-    /// Writes the panel into the item of `node`; nothing when it is null. A field that still shows
-    /// what `ShowItem` put there leaves its member alone, so that no text a field cannot hold
-    /// (a line break, an overlong caption) is damaged by being looked at.
+    /// Writes the panel into the item of `node`, and does nothing else; nothing when it is null. A
+    /// field that still shows what `ShowItem` put there leaves its member alone, so that no text a
+    /// field cannot hold (a line break, an overlong caption) is damaged by being looked at.
     void StoreItem(const MenuNode* node);
-    /// Shows the item of `node`, with its mode; empties the fields when it is null. `bModified`
+    /// Shows the item of `node`, with its mode; empties the fields when it is null. The document
     /// stays as it is.
     void ShowItem(const MenuNode* node);
     /// Empties and disables the panel. `cmdCaptionImg` is left as it is.
     void ClearItemPanel();
+    /// Gives the selected node, if there is one, the label that the panel shows: the caption, or
+    /// the mouse-out image of a rollover item.
+    void labelSelectedNode();
 
     /// Runs the rules of the caption, URL and target fields, in this order.
     void validateFields();
-    /// Runs the rule of the field that has the focus, if it has one, as leaving it would.
-    void validateFocusedField();
     /// Takes a label that was edited in the tree into the field it stands for.
     void TreeView_AfterLabelEdit(const QString& label);
 
@@ -48,25 +52,48 @@ class ItemPanel : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
+    /// The type of item that has a field.
+    enum Type { kAnyType, kText, kRollover };
+
+    /// The button beside a field.
+    struct ButtonRow {
+        QString name;
+        QString icon;
+        QString tooltip;
+        QString spoken;  ///< for assistive technology
+        void (ItemPanel::*click)() = nullptr;
+    };
+    /// A row of the panel's table: the field of one attribute.
+    struct FieldRow {
+        PropertyEdit* ItemPanel::*edit = nullptr;
+        QString name;     ///< of its widgets, behind "lbl" and "txt"
+        QString caption;  ///< with its access key
+        QString tooltip;
+        std::string ItemProp::*member = nullptr;
+        Type type = kAnyType;
+        TextCheck check = {};  ///< run when the field is left
+        std::optional<ButtonRow> button = std::nullopt;
+    };
+    /// What was made of a row.
+    struct Field {
+        QLabel* label;
+        PropertyEdit* edit;
+        std::string ItemProp::*member;
+        Type type;
+        QToolButton* button;  ///< null for none
+    };
+
     QWidget* makeTypeFrame();
     QWidget* makeAttributeFrame();
-    PropertyField makeField(const QString& name, const QString& caption, const QString& tooltip);
-    QToolButton* makeButton(const QString& name, const QString& tooltip, const QString& icon,
-                            const QString& accessibleName);
-    void connectHandlers();
+    void addField(QGridLayout* grid, const FieldRow& row);
     void showFaceColour();
     void setRolloverMode(bool isRollover);
-    void setSelectedLabel(const PropertyField& source);
-    void setModified();
+    const PropertyEdit& labelSource() const;
+    void fieldChanged(const PropertyEdit& edit);
     bool browse(QLineEdit& edit, const std::string& filter);
 
     void optNormal_Click();
     void optRollover_Click();
-    void txtCaption_Change();
-    void txtURL_Change();
-    void txtTarget_Change();
-    void txtImgOut_Change();
-    void txtImgOver_Change();
     void txtCaption_Validate();
     void txtURL_Validate();
     void txtTarget_Validate();
@@ -82,15 +109,13 @@ class ItemPanel : public QWidget {
 
     QRadioButton* optRollover = nullptr;
     QRadioButton* optNormal = nullptr;
-    PropertyField m_caption;
-    PropertyField m_url;
-    PropertyField m_target;
-    PropertyField m_imgOut;
-    PropertyField m_imgOver;
+    std::vector<Field> m_fields;
+    PropertyEdit* txtCaption = nullptr;
+    PropertyEdit* txtURL = nullptr;
+    PropertyEdit* txtTarget = nullptr;
+    PropertyEdit* txtImgOut = nullptr;
+    PropertyEdit* txtImgOver = nullptr;
     QToolButton* cmdCaptionImg = nullptr;
-    QToolButton* cmdURL = nullptr;
-    QToolButton* cmdImgOut = nullptr;
-    QToolButton* cmdImgOver = nullptr;
 
     /// Selection of the caption field when it was left.
     struct {

@@ -9,15 +9,13 @@
 
 namespace zev {
 
-ColorField ColorField::make(const QString& name, const QString& caption,
-                            const QString& buttonCaption, const QString& accessibleName,
-                            const QString& tooltip, QWidget* parent) {
-    ColorField field{PropertyField::make(name, caption, accessibleName, tooltip, parent)};
+ColorField ColorField::make(const QString& name, const ColorTexts& texts, QWidget* parent) {
+    ColorField field{PropertyField::make(name, texts.caption, texts.tooltip, parent)};
+    field.edit->setAccessibleName(texts.spoken);
     field.swatch = new ColorSwatch(parent);
-    field.swatch->setAccessibleName(QObject::tr("%1 as shown").arg(accessibleName));
-    field.button = makeDialogButton("cmd" + name, buttonCaption, parent);
-    field.button->setAccessibleName(
-        QObject::tr("Select %1").arg(accessibleName.left(1).toLower() + accessibleName.mid(1)));
+    field.swatch->setAccessibleName(QObject::tr("%1 as shown").arg(texts.spoken));
+    field.button = makeDialogButton("cmd" + name, texts.button, parent);
+    field.button->setAccessibleName(texts.spokenButton);
     QObject::connect(field.edit, &QLineEdit::textChanged, field.swatch,
                      [swatch = field.swatch](const QString& colorText) {
                          swatch->setColor(ColorOf(colorText.toStdString()));

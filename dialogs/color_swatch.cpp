@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "model/input_rules.h"
+#include "platform/common_dialogs.h"
 
 namespace zev {
 
@@ -28,7 +29,7 @@ void ColorSwatch::paintEvent(QPaintEvent*) {
     const QRect area = rect().adjusted(0, 0, -1, -1);
     const QColor ink = palette().color(QPalette::WindowText);
     if (m_color.has_value()) {
-        painter.fillRect(area, QColor(QString::fromStdString(ColorToHex(*m_color))));
+        painter.fillRect(area, colorAs<QColor>(*m_color));
     } else {
         painter.fillRect(area, palette().brush(QPalette::Base));
         painter.fillRect(area, QBrush(ink, Qt::BDiagPattern));

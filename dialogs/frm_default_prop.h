@@ -16,15 +16,8 @@ class frmDefaultProp : public PropertyDialog {
 
   private:
     QGroupBox* makeMenuFrame();
-    void txtCloseDelay_Change();
-    void txtColumns_Change();
-    void txtMenuOffset_Change();
-    void txtSpacing_Change();
     void cmdFont_Click() override;
     void cmdOK_Click() override;
-
-    PropertyField m_closeDelay;
-    PropertyField m_menuOffset;
 };
 
 }  // namespace zev

@@ -3,22 +3,13 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "dialogs/edited_menu.h"
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
-#include "dialogs/preview_label.h"
-#include "model/input_rules.h"
 
 namespace zev {
-
-namespace {
-
-std::int32_t ColorOrDefault(const std::string& own, const std::string& byDefault) {
-    return HexToColor(own.empty() ? byDefault : own);
-}
-
-}  // namespace
 
 frmMenuProp::frmMenuProp(const DialogHost& host, const frmDefaultProp& defaults,
                          frmAdvProp& advanced, QWidget* parent)
@@ -48,12 +39,17 @@ frmMenuProp::frmMenuProp(const DialogHost& host, const frmDefaultProp& defaults,
 QGroupBox* frmMenuProp::makeMenuFrame() {
     QGroupBox* frame = makeFrame("FrameMenu", tr("Menu Settings"));
     addPosition(frame, tr("Menu P&osition:"), QString());
-    m_columns = addField(frame, "Columns", tr("Col&umns:"),
-                         tr("Number of menu columns. Set to 1 for vertical menus and a large "
-                            "number for horizontal menus"));
-    m_spacing = addField(frame, "Spacing", tr("&Spacing:"), tr("Spacing between menu items"));
-    connect(m_columns.edit, &PropertyEdit::edited, this, &frmMenuProp::txtColumns_Change);
-    connect(m_spacing.edit, &PropertyEdit::edited, this, &frmMenuProp::txtSpacing_Change);
+    using enum PropertyEdit::CheckedWhen;
+    const PropertyBox boxes[] = {
+        // A single menu may have no columns, the defaults may not.
+        {"Columns", tr("Col&umns:"),
+         tr("Number of menu columns. Set to 1 for vertical menus and a large number for "
+            "horizontal menus"),
+         &MenuProp::Columns, range(0, 100), Changed},
+        {"Spacing", tr("&Spacing:"), tr("Spacing between menu items"), &MenuProp::Spacing,
+         range(0, 1000), Changed},
+    };
+    addBoxes(frame, boxes);
     return frame;
 }
 
@@ -64,10 +60,7 @@ bool frmMenuProp::fill() {
     const MenuProp& menu = m_host.document.menuProp(*edited);
     const MenuProp& defaults = m_host.document.DefaultProp();
     showBoxes(menu);
-    lblFont->setBackColor(ColorOrDefault(menu.HBgColor, defaults.HBgColor));
-    lblFont->setForeColor(ColorOrDefault(menu.HFtColor, defaults.HFtColor));
-    lblPreviewNormal->setBackColor(ColorOrDefault(menu.NBgColor, defaults.NBgColor));
-    lblPreviewNormal->setForeColor(ColorOrDefault(menu.NFtColor, defaults.NFtColor));
+    previewColors(menu, defaults);
     bFontSet = menu.FontSet;
     FontChoice font = FontOf(defaults);
     if (menu.FontSet) {
@@ -83,18 +76,9 @@ bool frmMenuProp::fill() {
     return true;
 }
 
-// A single menu may have no columns, the defaults may not.
-void frmMenuProp::txtColumns_Change() {
-    CheckRange(*m_columns.edit, 0, 100, m_host.messages);
-}
-
-void frmMenuProp::txtSpacing_Change() {
-    CheckRange(*m_spacing.edit, 0, 1000, m_host.messages);
-}
-
 void frmMenuProp::cmdFont_Click() {
     if (bFontSet)
-        cdFont = lblFont->fontChoice();
+        cdFont = previewFont();
     if (chooseFont())
         bFontSet = true;
 }
@@ -105,20 +89,16 @@ void frmMenuProp::cmdFontClear_Click() {
 }
 
 void frmMenuProp::cmdCopy_Click() {
-    MenuProp& copy = m_copied.emplace();
-    storeBoxes(copy);
-    copy.FontSet = bFontSet;
-    storePreviewFont(copy);
+    m_copied = shown();
+    m_copied->FontSet = bFontSet;
+    storePreviewFont(*m_copied);
 }
 
 void frmMenuProp::cmdPaste_Click() {
     if (!m_copied.has_value())
         return;
     showBoxes(*m_copied);
-    txtNBgColor_LostFocus();
-    txtHBgColor_LostFocus();
-    txtHFtColor_LostFocus();
-    txtNFtColor_LostFocus();
+    previewShownColors();
     bFontSet = m_copied->FontSet;
     if (bFontSet)
         setPreviewFont(FontOf(*m_copied));

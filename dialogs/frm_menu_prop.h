@@ -26,8 +26,6 @@ class frmMenuProp : public PropertyDialog {
 
   private:
     QGroupBox* makeMenuFrame();
-    void txtColumns_Change();
-    void txtSpacing_Change();
     void cmdFont_Click() override;
     void cmdFontClear_Click();
     void cmdCopy_Click();

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "dialogs/combo_wheel.h"
 #include "dialogs/dialog_button.h"
 #include "dialogs/single_line.h"
 #include "library/library_files.h"
@@ -93,6 +94,7 @@ frmPath::frmPath(FileSystem& files, MessageBox& messages, const QStringList& dri
     keepSingleLine(*txtPath);
     listDrv = new QComboBox(this);
     listDrv->setObjectName("listDrv");
+    keepWheelForFocus(*listDrv);
     const QIcon driveIcon = style()->standardIcon(QStyle::SP_DriveHDIcon);
     for (const QString& drive : drives)
         listDrv->addItem(driveIcon, QDir::toNativeSeparators(drive), drive);

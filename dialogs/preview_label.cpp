@@ -4,8 +4,6 @@
 #include <QPalette>
 #include <algorithm>
 
-#include "model/input_rules.h"
-
 namespace zev {
 
 namespace {
@@ -26,10 +24,6 @@ QStringList FamiliesOf(const QString& name) {
             families.append(family);
     }
     return families;
-}
-
-QColor ColorOnScreen(std::int32_t color) {
-    return QColor(QString::fromStdString(ColorToHex(color)));
 }
 
 }  // namespace
@@ -72,8 +66,8 @@ void PreviewLabel::setForeColor(std::int32_t color) {
 
 void PreviewLabel::showColors() {
     QPalette colors = palette();
-    colors.setColor(QPalette::Window, ColorOnScreen(m_back));
-    colors.setColor(QPalette::WindowText, ColorOnScreen(m_fore));
+    colors.setColor(QPalette::Window, colorAs<QColor>(m_back));
+    colors.setColor(QPalette::WindowText, colorAs<QColor>(m_fore));
     setPalette(colors);
 }
 

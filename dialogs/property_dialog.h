@@ -1,19 +1,12 @@
 #pragma once
 
-#include <QDialog>
 #include <cstdint>
-#include <functional>
+#include <vector>
 
-#include "dialogs/color_field.h"
-#include "dialogs/dialog_host.h"
-#include "dialogs/property_edit.h"
-#include "model/menu_prop.h"
+#include "dialogs/property_form.h"
 #include "platform/common_dialogs.h"
 
-class QBoxLayout;
 class QComboBox;
-class QGroupBox;
-class QPushButton;
 
 namespace zev {
 
@@ -21,9 +14,7 @@ class PreviewLabel;
 
 /// What the dialogs for the defaults and for one menu have in common: position, columns, spacing,
 /// background, colours, font, and the two labels that preview them.
-///
-/// A form is made once and only hidden; its controls keep what they hold until it is filled again.
-class PropertyDialog : public QDialog {
+class PropertyDialog : public PropertyForm {
     Q_OBJECT
   public:
     /// Puts the description of its own font into `lblFont`: "Arial 10pt italic bold".
@@ -35,37 +26,29 @@ class PropertyDialog : public QDialog {
     PropertyDialog(const DialogHost& host, const QString& name, const QString& title,
                    const PropertyDialog* defaults, QWidget* parent);
 
-    /// A frame for rows of a label and what it stands for.
-    QGroupBox* makeFrame(const QString& name, const QString& title);
     void addPosition(QGroupBox* frame, const QString& caption, const QString& tooltip);
-    /// A row with a text box. `caption` carries the access key and ends with a colon.
-    static PropertyField addField(QGroupBox* frame, const QString& name, const QString& caption,
-                                  const QString& tooltip);
     QGroupBox* makeBackgroundFrame();
     /// Begins the frame of the font; `addPreviews` completes it.
     QGroupBox* makeFontFrame(const QString& tooltip);
     static void addRow(QGroupBox* frame, QPushButton* button);
     void addPreviews(QGroupBox* frame);
-    /// A button that runs `click` after the box being edited was left.
-    QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent,
-                            const std::function<void()>& click);
-    /// Puts `left` beside `right`, and `cmdOK` and `cmdCancel` below them. Enter stands for OK,
-    /// Escape for Cancel.
+    /// Puts `left` beside `right`, and `cmdOK` and `cmdCancel` below them.
     void arrange(QBoxLayout* left, QBoxLayout* right);
 
-    /// Fills the boxes and the list; no check runs. The previews stay as they are.
-    void showBoxes(const MenuProp& prop);
-    /// Writes what the boxes and the list hold; the font is left out.
-    void storeBoxes(MenuProp& prop) const;
+    /// Fills the list as well. The previews stay as they are.
+    void showBoxes(const MenuProp& prop) override;
+    /// Writes what the list holds as well; the font is left out.
+    void storeBoxes(MenuProp& prop) const override;
 
-    void txtHBgColor_LostFocus();
-    void txtNBgColor_LostFocus();
-    void txtHFtColor_LostFocus();
-    void txtNFtColor_LostFocus();
+    /// Shows the colours of a property set in the previews; those of `defaults` where it has none.
+    void previewColors(const MenuProp& prop, const MenuProp& defaults);
+    /// The same with the colours in the boxes.
+    void previewShownColors();
 
     /// The font of a property set. A size that is none, or that no font has, is 10 points.
     static FontChoice FontOf(const MenuProp& prop);
     void setPreviewFont(const FontChoice& font);
+    const FontChoice& previewFont() const;
     /// Writes the font of `lblFont`, its size as a whole number.
     void storePreviewFont(MenuProp& prop) const;
     /// Shows the font dialog with what `cdFont` holds. True when the person chose a font, which
@@ -73,39 +56,34 @@ class PropertyDialog : public QDialog {
     bool chooseFont();
 
     virtual void cmdFont_Click() = 0;
-    virtual void cmdOK_Click() = 0;
 
     void showEvent(QShowEvent* event) override;
 
-    DialogHost m_host;
     FontChoice cdFont;  ///< what the font dialog last held; no name before its first use
-    PropertyField m_bgImg;
-    ColorField m_hBgColor;
-    ColorField m_nBgColor;
-    ColorField m_hFtColor;
-    ColorField m_nFtColor;
-    PropertyField m_columns;
-    PropertyField m_spacing;
-    QComboBox* cboPosition = nullptr;
-    PreviewLabel* lblPreviewNormal = nullptr;
-    PreviewLabel* lblFont = nullptr;
 
   private:
-    using ColorHandler = void (PropertyDialog::*)();
+    /// A colour, and the part of the previews that shows it.
+    struct PreviewedColor {
+        std::string MenuProp::*member;
+        PreviewLabel* label;
+        void (PreviewLabel::*show)(std::int32_t color);
 
-    ColorField addColor(QGroupBox* frame, const QString& name, const QString& caption,
-                        const QString& buttonCaption, const QString& accessibleName,
-                        ColorHandler lostFocus, ColorHandler click);
-    std::int32_t previewColor(ColorField PropertyDialog::*field) const;
+        void preview(const MenuProp& prop, const MenuProp& defaults) const;
+    };
+
+    /// Adds a row whose colour is previewed when its box is left.
+    void addPreviewedColor(QGroupBox* frame, const QString& name, const PreviewedColor& color,
+                           ColorTexts texts);
+    MenuProp shownDefaults() const;
 
     void cmdBrowseBgImg_Click();
-    void cmdCancel_Click();
-    void cmdHBgColor_Click();
-    void cmdNBgColor_Click();
-    void cmdHFtColor_Click();
-    void cmdNFtColor_Click();
 
     const PropertyDialog* m_defaults;
+    std::vector<PreviewedColor> m_colors;
+    PropertyEdit* txtBgImg = nullptr;
+    QComboBox* cboPosition = nullptr;
+    PreviewLabel* lblPreviewNormal;
+    PreviewLabel* lblFont;
 };
 
 }  // namespace zev

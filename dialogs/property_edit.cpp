@@ -4,10 +4,18 @@
 #include <QLabel>
 
 #include "dialogs/single_line.h"
-#include "model/input_rules.h"
+#include "model/text_rules.h"
 #include "platform/message_box.h"
 
 namespace zev {
+
+TextCheck range(double lower, double upper) {
+    return [lower, upper](std::string_view text) { return CheckRange(text, lower, upper); };
+}
+
+CheckedText escaped(std::string_view text) {
+    return {EscapeApostrophes(text), ""};
+}
 
 PropertyEdit::PropertyEdit(const QString& name, QWidget* parent) : QLineEdit(parent) {
     setObjectName("txt" + name);
@@ -16,6 +24,13 @@ PropertyEdit::PropertyEdit(const QString& name, QWidget* parent) : QLineEdit(par
         if (!m_isShowing)
             emit edited();
     });
+}
+
+void PropertyEdit::setCheck(TextCheck check, CheckedWhen when, MessageBox& messages) {
+    m_check = std::move(check);
+    m_messages = &messages;
+    connect(this, when == CheckedWhen::Left ? &PropertyEdit::left : &PropertyEdit::edited, this,
+            &PropertyEdit::check);
 }
 
 void PropertyEdit::showValue(const std::string& value) {
@@ -31,13 +46,16 @@ std::string PropertyEdit::value() const {
     return text() == m_shownText ? m_shownValue : text().toStdString();
 }
 
-void PropertyEdit::applyRule(std::string (*rule)(const std::string&)) {
-    const QString replaced = QString::fromStdString(rule(text().toStdString()));
+void PropertyEdit::check() {
+    const CheckedText checked = m_check(text().toStdString());
+    if (!checked.message.empty())
+        m_messages->notice(checked.message);
+    const QString replaced = QString::fromStdString(checked.text);
     if (replaced == text())
         return;
-    const QString before = text().left(cursorPosition());
+    const std::string before = text().left(cursorPosition()).toStdString();
     setText(replaced);
-    setCursorPosition(static_cast<int>(QString::fromStdString(rule(before.toStdString())).size()));
+    setCursorPosition(static_cast<int>(QString::fromStdString(m_check(before).text).size()));
 }
 
 void PropertyEdit::focusOutEvent(QFocusEvent* event) {
@@ -47,34 +65,14 @@ void PropertyEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 PropertyField PropertyField::make(const QString& name, const QString& caption,
-                                  const QString& accessibleName, const QString& tooltip,
-                                  QWidget* parent) {
+                                  const QString& tooltip, QWidget* parent) {
     PropertyField field{new QLabel(caption, parent), new PropertyEdit(name, parent)};
     field.label->setObjectName("lbl" + name);
     field.label->setTextFormat(Qt::PlainText);
     field.label->setBuddy(field.edit);
-    field.edit->setAccessibleName(accessibleName);
+    field.edit->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
     field.edit->setToolTip(tooltip);
     return field;
-}
-
-namespace {
-
-void Apply(const CheckedText& checked, PropertyEdit& edit, MessageBox& messages) {
-    if (checked.message.empty())
-        return;
-    messages.notice(checked.message);
-    edit.setText(QString::fromStdString(checked.text));
-}
-
-}  // namespace
-
-void CheckRange(PropertyEdit& edit, double lower, double upper, MessageBox& messages) {
-    Apply(CheckRange(edit.text().toStdString(), lower, upper), edit, messages);
-}
-
-void CheckInteger(PropertyEdit& edit, MessageBox& messages) {
-    Apply(CheckInteger(edit.text().toStdString()), edit, messages);
 }
 
 void leaveFocusedEdit(QWidget& window) {

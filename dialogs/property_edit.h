@@ -1,7 +1,11 @@
 #pragma once
 
 #include <QLineEdit>
+#include <functional>
 #include <string>
+#include <string_view>
+
+#include "model/input_rules.h"
 
 class QLabel;
 
@@ -9,20 +13,37 @@ namespace zev {
 
 class MessageBox;
 
+/// What a box is to hold instead of a text, and what the person is told about it.
+using TextCheck = std::function<CheckedText(std::string_view)>;
+
+/// `CheckRange` with these bounds.
+TextCheck range(double lower, double upper);
+
+/// `EscapeApostrophes`.
+CheckedText escaped(std::string_view text);
+
 /// The text box of one property. It is not the property: a value reaches it by `showValue` and is
 /// fetched back by `value`.
 class PropertyEdit : public QLineEdit {
     Q_OBJECT
   public:
+    /// When a box checks its text by itself.
+    enum class CheckedWhen { Left, Changed };
+
     PropertyEdit(const QString& name, QWidget* parent);
+
+    /// Gives the box its check; one without a check takes every text. `messages` is not owned and
+    /// outlives the box.
+    void setCheck(TextCheck check, CheckedWhen when, MessageBox& messages);
 
     /// Shows a stored value (UTF-8); `edited` is not emitted.
     void showValue(const std::string& value);
     /// The text (UTF-8). While the box still shows what `showValue` put there, this is that very
     /// value, so that no text a box cannot hold (a line break) is damaged by being looked at.
     std::string value() const;
-    /// Replaces the text by what `rule` makes of it; the caret stays between the same characters.
-    void applyRule(std::string (*rule)(const std::string&));
+    /// Runs the check: shows its message, and replaces the text by what the check makes of it; the
+    /// caret stays between the same characters.
+    void check();
 
   signals:
     /// The text was changed by anything but `showValue`.
@@ -35,6 +56,8 @@ class PropertyEdit : public QLineEdit {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    TextCheck m_check;
+    MessageBox* m_messages = nullptr;
     QString m_shownText;       ///< what the box made of `m_shownValue`
     std::string m_shownValue;  ///< as `showValue` was told
     bool m_isShowing = false;
@@ -45,22 +68,15 @@ struct PropertyField {
     QLabel* label = nullptr;       ///< "lbl" + name, buddy of `edit`
     PropertyEdit* edit = nullptr;  ///< "txt" + name
 
-    /// Creates the two widgets as children of `parent`. `caption` carries the access key;
-    /// `accessibleName` tells this field from others with the same caption in the window.
-    static PropertyField make(const QString& name, const QString& caption,
-                              const QString& accessibleName, const QString& tooltip,
+    /// Creates the two widgets as children of `parent`. `caption` carries the access key; without
+    /// it and a colon it is what assistive technology reads.
+    static PropertyField make(const QString& name, const QString& caption, const QString& tooltip,
                               QWidget* parent);
 };
 
-/// Shows the message of `CheckRange` when there is one, and then clears the box.
-void CheckRange(PropertyEdit& edit, double lower, double upper, MessageBox& messages);
-
-/// The same with `CheckInteger`.
-void CheckInteger(PropertyEdit& edit, MessageBox& messages);
-
-/// Emits `left` for the box of `window` that has the focus, if one has. For the handlers of
-/// buttons: Enter, an access key and a click leave the focus where it was, but the person is done
-/// with the box.
+/// Emits `left` for the box of `window` that has the focus, if one has. For what a person does
+/// without leaving the box: Enter, an access key, a shortcut and a click leave the focus where it
+/// was, but the person is done with the box.
 void leaveFocusedEdit(QWidget& window);
 
 }  // namespace zev

@@ -1,5 +1,4 @@
 #include "model/input_rules.h"
-#include "text/ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +8,8 @@
 #include <cstdio>
 #include <limits>
 #include <system_error>
+
+#include "text/ascii.h"
 
 namespace zev {
 
@@ -20,49 +21,25 @@ bool isContinuationByte(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-/// Where the digits that begin at `start` end.
-std::size_t DigitsEnd(std::string_view text, std::size_t start) {
-    std::size_t end = start;
-    while (end < text.size() && isAsciiDigit(text[end]))
-        ++end;
-    return end;
-}
-
-/// Length of the longest number that `text` begins with; 0 when it begins with none.
-std::size_t NumberLength(std::string_view text) {
-    const auto signLength = [&](std::size_t at) -> std::size_t {
-        return at < text.size() && (text[at] == '-' || text[at] == '+') ? 1 : 0;
-    };
-    const std::size_t digits = signLength(0);
-    std::size_t end = DigitsEnd(text, digits);
-    if (end == digits)
-        return 0;
-    if (end < text.size() && text[end] == '.')
-        end = DigitsEnd(text, end + 1);
-    if (end < text.size() && (text[end] == 'e' || text[end] == 'E')) {
-        const std::size_t exponent = end + 1 + signLength(end + 1);
-        const std::size_t exponentEnd = DigitsEnd(text, exponent);
-        if (exponentEnd > exponent)
-            end = exponentEnd;
-    }
-    return end;
-}
-
-/// The value of a number as `NumberLength` finds it; nothing when a double cannot hold it.
-std::optional<double> ValueOf(std::string_view number) {
+/// Takes the number that `text` begins with off it; nothing when there is none, or none that a
+/// double can hold.
+std::optional<double> TakeNumber(std::string_view& text) {
     // std::from_chars knows no plus sign.
-    if (number.starts_with('+'))
-        number.remove_prefix(1);
+    if (text.starts_with('+') && !text.starts_with("+-"))
+        text.remove_prefix(1);
     double value = 0;
-    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (number.empty() || result.ec != std::errc())
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    // It knows infinity as well.
+    if (result.ec != std::errc() || !std::isfinite(value))
         return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
     return value;
 }
 
 /// The value of a text that is a number and nothing else.
 std::optional<double> NumberOf(std::string_view text) {
-    return NumberLength(text) == text.size() ? ValueOf(text) : std::nullopt;
+    const std::optional<double> value = TakeNumber(text);
+    return text.empty() ? value : std::nullopt;
 }
 
 /// The shortest decimal text, without an exponent, that stands for `number`.
@@ -111,27 +88,33 @@ std::string ColorToHex(std::int32_t color) {
 CheckedText CheckRange(std::string_view text, double lower, double upper) {
     if (text.empty())
         return {};
-    const std::optional<double> value = NumberOf(text);
+    const std::string_view number = trimSpaces(text);
+    const std::optional<double> value = NumberOf(number);
     if (value.has_value() && lower <= *value && *value <= upper)
-        return {std::string(text), ""};
+        return {std::string(number), ""};
     return {"", "Please enter a value between " + TextOf(lower) + " and " + TextOf(upper)};
 }
 
 CheckedText CheckInteger(std::string_view text) {
     if (text.empty())
         return {};
-    if (const std::optional<double> value = NumberOf(text)) {
+    const std::string_view number = trimSpaces(text);
+    if (const std::optional<double> value = NumberOf(number)) {
         // Half to even, the rounding mode every program starts with.
         const double rounded = std::nearbyint(*value);
         if (rounded >= std::numeric_limits<std::int16_t>::min() &&
             rounded <= std::numeric_limits<std::int16_t>::max())
-            return {std::string(text), ""};
+            return {std::string(number), ""};
     }
     return {"", "Please enter an integer value: 0 - 65535"};
 }
 
 double LeadingNumber(std::string_view text) {
-    return ValueOf(text.substr(0, NumberLength(text))).value_or(0);
+    // What begins with a point would be written as a size of 0.
+    const std::size_t first = text.find_first_not_of("+-");
+    if (first == std::string_view::npos || !isAsciiDigit(text[first]))
+        return 0;
+    return TakeNumber(text).value_or(0);
 }
 
 std::string WholePoints(float points) {

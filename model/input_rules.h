@@ -8,9 +8,8 @@
 namespace zev {
 
 // Rules between the text of a field and what it stands for. Text is UTF-8. Numbers are written as
-// in C source, whatever the system's language: an optional sign, digits, an optional point with
-// digits after it or not yet, an optional exponent ("-2", "0.25", "3.", "1e2"), and nothing around
-// them.
+// in C source, whatever the system's language: an optional sign, digits with a point before, among
+// or behind them or none, an optional exponent ("-2", "0.25", ".5", "3.", "1e2").
 
 /// The colour value of a colour text: red in bits 0 to 7, green in 8 to 15, blue in 16 to 23. The
 /// first character is skipped whatever it is; a short text is filled up with zeros on the right;
@@ -31,19 +30,21 @@ std::string ColorToHex(std::int32_t color);
 
 /// What a check makes of a field's text.
 struct CheckedText {
-    std::string text;     ///< what the field is to hold: the text as it was, or nothing
+    std::string text;     ///< what the field is to hold
     std::string message;  ///< for the person; empty when there is nothing to say
     bool operator==(const CheckedText&) const = default;
 };
 
-/// Accepts an empty text and a number from `lower` to `upper`, both included.
+/// Accepts an empty text and a number from `lower` to `upper`, both included. Spaces around a
+/// number are dropped; a refused text is replaced by none.
 CheckedText CheckRange(std::string_view text, double lower, double upper);
 
-/// Accepts an empty text and a number that rounds (half to even) to a signed 16-bit integer. The
-/// message names another range; that is how the program has always put it.
+/// The same with a number that rounds (half to even) to a signed 16-bit integer. The message names
+/// another range, and is meant to: its wording is fixed.
 CheckedText CheckInteger(std::string_view text);
 
-/// The number at the beginning of `text`, or 0 when there is none: "10pt" is 10.
+/// The number at the beginning of `text`, or 0 when there is none: "10pt" is 10. It begins with a
+/// sign or a digit.
 double LeadingNumber(std::string_view text);
 
 /// A size in points as a whole number, rounded half to even: 10.5 is "10", 11.5 is "12".

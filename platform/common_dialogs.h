@@ -33,6 +33,13 @@ struct FontChoice {
     bool operator==(const FontChoice&) const = default;
 };
 
+/// A colour value (red in bits 0 to 7, green in 8 to 15, blue in 16 to 23) as the toolkit's own
+/// type of colour, which is made of red, green and blue.
+template <typename Color>
+Color colorAs(std::int32_t value) {
+    return Color(value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF);
+}
+
 /// The system's common dialogs. An empty result means that the person cancelled.
 class CommonDialogs {
   public:
@@ -43,8 +50,8 @@ class CommonDialogs {
     virtual ChosenFiles openFiles(const FileDialogRequest& request) = 0;
     /// Full path of the file to write.
     virtual std::string saveFile(const FileDialogRequest& request) = 0;
-    /// A colour value (red in bits 0 to 7, green in 8 to 15, blue in 16 to 23), preselected with
-    /// `initial`. The part for mixing colours is open from the start.
+    /// A colour value, preselected with `initial`. The part for mixing colours is open from the
+    /// start.
     virtual std::optional<std::int32_t> chooseColor(std::int32_t initial) = 0;
     /// A font that exists on this system, preselected with `initial` as far as that does.
     virtual std::optional<FontChoice> chooseFont(const FontChoice& initial) = 0;

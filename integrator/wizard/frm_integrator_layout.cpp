@@ -19,6 +19,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "dialogs/combo_wheel.h"
 #include "dialogs/dialog_button.h"
 #include "dialogs/property_edit.h"
 #include "dialogs/single_line.h"
@@ -107,6 +108,7 @@ void frmIntegrator::makePagesFrame() {
                     "menu. Multiple files can be selected"),
                  this));
     comboFiles = MakeNamed<QComboBox>("comboFiles", this);
+    keepWheelForFocus(*comboFiles);
     QPushButton* BtnInputFile =
         makeButton("BtnInputFile", tr("B&rowse"), &frmIntegrator::BtnInputFile_Click);
     BtnInputFile->setAccessibleName(tr("Browse for web pages"));
@@ -189,12 +191,14 @@ void frmIntegrator::makeMenuFrame() {
     layout->addWidget(
         MakeText("lblFrm6", tr("Select how you want the menu to appear on your web page"), this));
     cboIntegration = MakeNamed<QComboBox>("cboIntegration", this);
+    keepWheelForFocus(*cboIntegration);
     cboIntegration->setToolTip(tr("Horizontal or vertical menu"));
     cboIntegration->addItems(
         {tr("Horizontal or vertical menu"), tr("Popup menu appearing on mouse events!")});
     connect(cboIntegration, &QComboBox::currentIndexChanged, this,
             &frmIntegrator::cboIntegration_Click);
     cboMenuList = MakeNamed<QComboBox>("cboMenuList", this);
+    keepWheelForFocus(*cboMenuList);
     cboMenuList->setToolTip(tr("Select submenu"));
     optMouse = MakeNamed<QRadioButton>("optMouse", this);
     optMouse->setText(tr("Menu appears &beside mouse cursor"));
@@ -217,11 +221,10 @@ void frmIntegrator::makeMenuFrame() {
     auto* position = new QHBoxLayout;
     position->addSpacing(24);
     for (const auto& [name, field] : {std::pair("X", &txtX), std::pair("Y", &txtY)}) {
-        const PropertyField made = PropertyField::make(name, QString("&%1:").arg(name), name,
+        const PropertyField made = PropertyField::make(name, QString("&%1:").arg(name),
                                                        tr("Position on the page in pixels"), this);
         *field = made.edit;
-        connect(made.edit, &PropertyEdit::left, this,
-                [this, edit = made.edit] { CheckInteger(*edit, m_services.messages); });
+        made.edit->setCheck(CheckInteger, PropertyEdit::CheckedWhen::Left, m_services.messages);
         position->addWidget(made.label);
         position->addWidget(made.edit);
     }

@@ -100,11 +100,6 @@ bool MayReplace(QWidget* parent, const QString& path) {
     return question.exec() == QMessageBox::Yes;
 }
 
-/// Red is in the lowest byte.
-QColor ColorOfValue(std::int32_t value) {
-    return {value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF};
-}
-
 /// The name that a family has for a style, such as "Book" or "Bold Oblique"; empty when it has no
 /// such style. Of several, the one of the usual weight and width.
 QString StyleName(const QString& family, const FontChoice& choice) {
@@ -219,7 +214,7 @@ std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
 }
 
 std::optional<std::int32_t> QtCommonDialogs::chooseColor(std::int32_t initial) {
-    QColorDialog dialog(ColorOfValue(initial), ParentWindow());
+    QColorDialog dialog(colorAs<QColor>(initial), ParentWindow());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const QColor color = dialog.selectedColor();

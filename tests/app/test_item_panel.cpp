@@ -172,6 +172,53 @@ class test_item_panel : public QObject {
         QCOMPARE(desk.shownTree(), "*\n");
     }
 
+    void theTabKeyEntersTheTypeAtTheOptionThatIsSet_data() {
+        QTest::addColumn<bool>("isRollover");
+        QTest::newRow("text") << false;
+        QTest::newRow("rollover") << true;
+    }
+    void theTabKeyEntersTheTypeAtTheOptionThatIsSet() {
+        QFETCH(bool, isRollover);
+        WindowDesk desk;
+        MenuNode* a = desk.add("a");
+        MenuNode* b = desk.add("b");
+        desk.click(a);
+        b->item.IsRollover = isRollover;
+        // The option of the other item has the focus last.
+        desk.click(desk.button(isRollover ? "optNormal" : "optRollover"));
+        desk.click(b);
+        const QString set = isRollover ? "optRollover" : "optNormal";
+        const QString other = isRollover ? "optNormal" : "optRollover";
+        // Round the window with the Tab key.
+        QStringList reached;
+        desk.tree().setFocus();
+        do {
+            QTest::keyClick(desk.window.focusWidget(), Qt::Key_Tab);
+            reached.append(desk.window.focusWidget()->objectName());
+        } while (!desk.tree().hasFocus() && reached.size() < 50);
+        QCOMPARE(reached.count(set), 1);
+        QCOMPARE(reached.count(other), 0);
+        desk.field("txtURL").setFocus();
+        for (int i = 0; i < 5 && !desk.window.focusWidget()->objectName().startsWith("opt"); ++i)
+            QTest::keyClick(desk.window.focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(desk.window.focusWidget()->objectName(), set);
+        QCOMPARE(a->item.IsRollover, !isRollover);
+        QCOMPARE(b->item.IsRollover, isRollover);
+    }
+
+    void theFirstTabIntoTheTypeGoesToTheOptionThatIsSet() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.tree().setFocus();
+        QStringList reached;
+        do {
+            QTest::keyClick(desk.window.focusWidget(), Qt::Key_Tab);
+            reached.append(desk.window.focusWidget()->objectName());
+        } while (!desk.tree().hasFocus() && reached.size() < 50);
+        QVERIFY2(reached.contains("optNormal"), qPrintable(reached.join(' ')));
+        QVERIFY2(!reached.contains("optRollover"), qPrintable(reached.join(' ')));
+    }
+
     void everyFieldMarksTheMenuAsChanged_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("isRollover");

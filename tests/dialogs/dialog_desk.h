@@ -11,6 +11,7 @@
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 #include "platform/fake/fake_services.h"
+#include "roll_wheel.h"
 #include "tests/support/document_steps.h"
 
 namespace zev {

@@ -28,8 +28,11 @@ struct ColorDesk : DialogDesk {
     QString described() const { return field.swatch->accessibleDescription(); }
 
     QWidget window;
-    ColorField field = ColorField::make("HBgColor", "&Highlight Color:", "Select &Color",
-                                        "Background highlight color", "Tooltip", &window);
+    ColorField field =
+        ColorField::make("HBgColor",
+                         {"&Highlight Color:", "Select &Color", "Background highlight color",
+                          "Select background highlight color", "Tooltip"},
+                         &window);
 };
 
 /// The colours that are painted inside the swatch's border.

@@ -161,9 +161,9 @@ class test_frm_adv_prop_checks : public QObject {
         const auto row = [](const char* name, const char* typed, const char* message) {
             QTest::addRow("%s '%s'", name, typed) << name << typed << message;
         };
-        for (const char* typed : {"0.2", "5", "0", "5.0", ""})
+        for (const char* typed : {"0.2", ".2", "5", "0", "5.0", ""})
             row("txtFade", typed, "");
-        for (const char* typed : {"5.1", "-1", ".2", "fast", " "})
+        for (const char* typed : {"5.1", "-1", ".", "fast", " "})
             row("txtFade", typed, kFadeRange);
         for (const char* typed : {"1", "100", "99.5", ""})
             row("txtOpacity", typed, "");
@@ -184,6 +184,14 @@ class test_frm_adv_prop_checks : public QObject {
         QCOMPARE(desk.text(name), message.isEmpty() ? typed : QString());
         // The focus is not held in the box.
         QCOMPARE(desk.focused(), QString(name == "txtFade" ? "txtOpacity" : "txtShadow"));
+    }
+
+    void spacesAroundANumberAreDroppedWhenItsBoxIsLeft() {
+        AdvDesk desk;
+        desk.type("txtFade", " .2 ");
+        QCOMPARE(desk.text("txtFade"), QString(" .2 "));
+        desk.press(Qt::Key_Return);
+        QCOMPARE(desk.document.RootMenuProp().FilterFade, std::string(".2"));
     }
 
     void theRangeMessageIsAPlainOneWithTheProgramsTitle() {

@@ -103,6 +103,7 @@ class test_frm_adv_prop_look : public QObject {
             names.insert(widget->accessibleName());
         }
         QCOMPARE(names.size(), 16);
+        QVERIFY(names.contains("Select Shadow Color"));
     }
 
     void tabGoesThroughTheControlsAsTheyAreRead() {

@@ -102,14 +102,22 @@ class test_frm_default_prop_input : public QObject {
                                   << "1e3"
                                   << ""
                                   << "1e3";
+        QTest::newRow("leading point") << "txtSpacing"
+                                       << ".5"
+                                       << ""
+                                       << ".5";
         QTest::newRow("spaces around") << "txtColumns"
                                        << " 1 "
-                                       << "1 and 100"
-                                       << "";
+                                       << ""
+                                       << "1";
+        QTest::newRow("spaces around, outside") << "txtColumns"
+                                                << " 101 "
+                                                << "1 and 100"
+                                                << "";
         QTest::newRow("line break") << "txtColumns"
                                     << "1\n"
-                                    << "1 and 100"
-                                    << "";
+                                    << ""
+                                    << "1";
     }
     void aPastedNumberIsCheckedAsAWhole() {
         QFETCH(QString, name);
@@ -122,6 +130,33 @@ class test_frm_default_prop_input : public QObject {
         desk.form.paste(name, pasted);
         QCOMPARE(desk.form.field(name).text(), shown);
         desk.messages.verify();
+    }
+
+    void aSpaceTypedBesideANumberLeavesTheCaretWhereItWas() {
+        DefaultsDesk desk;
+        QLineEdit& spacing = desk.form.field("txtSpacing");
+        desk.form.type("txtSpacing", "25 ");
+        QCOMPARE(spacing.text(), "25");
+        QCOMPARE(spacing.cursorPosition(), 2);
+        spacing.setCursorPosition(0);
+        desk.form.press(Qt::Key_Space);
+        QCOMPARE(spacing.text(), "25");
+        QCOMPARE(spacing.cursorPosition(), 0);
+        desk.form.click("cmdOK");
+        QCOMPARE(desk.prop().Spacing, "25");
+    }
+
+    void theWheelChangesTheListOnlyWhileItHasTheFocus() {
+        DefaultsDesk desk;
+        QComboBox& list = desk.form.list("cboPosition");
+        const auto roll = [&list] { rollWheel(list); };
+        desk.form.click("txtColumns");
+        roll();
+        QCOMPARE(list.currentIndex(), 1);
+        QVERIFY(desk.form.field("txtColumns").hasFocus());
+        list.setFocus();
+        roll();
+        QCOMPARE(list.currentIndex(), 2);
     }
 
     void theRangeMessageHasAnOKButtonAndTheProgramsTitle() {

@@ -75,6 +75,18 @@ class test_frm_path : public QObject {
     Q_OBJECT
 
   private slots:
+    void theWheelChangesTheDriveOnlyWhileTheListHasTheFocus() {
+        PathDesk desk;
+        QComboBox& drives = desk.form->list("listDrv");
+        desk.folders().setFocus();
+        rollWheel(drives);
+        QCOMPARE(drives.currentIndex(), 0);
+        QVERIFY(desk.folders().hasFocus());
+        drives.setFocus();
+        rollWheel(drives);
+        QCOMPARE(drives.currentIndex(), 1);
+    }
+
     void itHasItsControls() {
         PathDesk desk;
         QCOMPARE(desk.dialog->objectName(), QString("frmPath"));

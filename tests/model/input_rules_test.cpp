@@ -108,12 +108,23 @@ TEST(CheckRange, LetsNumbersInsideTheRangePassUnchanged) {
         {"10000", 0, 10000}, {"0", 0, 10000},  {"-50", -50, 50},     {"50", -50, 50},
         {"+7", -50, 50},     {"007", 0, 10},   {"0.2", 0, 5},        {"5", 0, 5},
         {"5.0", 0, 5},       {"-0", 0, 10},    {"1e2", 1, 100},      {"1E+1", 0, 10},
-        {"100e-2", 1, 100},  {"99.5", 1, 100}, {"4.99999999", 0, 5},
+        {"100e-2", 1, 100},  {"99.5", 1, 100}, {"4.99999999", 0, 5}, {".5", 0, 5},
+        {"-.5", -50, 50},    {"+.5", 0, 5},    {".5e1", 0, 5},
     };
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.text);
         EXPECT_EQ(CheckRange(c.text, c.lower, c.upper), (CheckedText{std::string(c.text), ""}));
     }
+}
+
+TEST(CheckRange, DropsTheSpacesAroundANumber) {
+    for (const std::string_view text : {" 5", "5 ", "  5   "}) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(CheckRange(text, 0, 10), (CheckedText{"5", ""}));
+    }
+    EXPECT_EQ(CheckRange(" -.5 ", -1, 10), (CheckedText{"-.5", ""}));
+    EXPECT_EQ(CheckRange(" 11 ", 0, 10).text, "");
+    EXPECT_EQ(CheckInteger(" 7 "), (CheckedText{"7", ""}));
 }
 
 // Checked on each key, "1.5" could not be typed otherwise.
@@ -155,8 +166,8 @@ TEST(CheckRange, WritesItsBoundsAsShortDecimals) {
 
 /// Texts that are no numbers, however lenient the range is.
 constexpr std::string_view kNoNumbers[] = {
-    "-",   "+",   ".",    ".5",    "-.5",       "x",        "1x",    "x1",   " 1",
-    "1 ",  "1 2", " ",    "--1",   "+-1",       "1,5",      "1,000", "0x10", "1e",
+    "-",   "+",   ".",    "-.",    "+.",        "x",        "1x",    "x1",   "- 1",
+    ".e1", "1 2", " ",    "--1",   "+-1",       "1,5",      "1,000", "0x10", "1e",
     "1e+", "e5",  "1e5.", "1.2.3", "inf",       "nan",      "-inf",  "INF",  "infinity",
     "NaN", "1f",  "1\n",  "\t1",   "1\xC2\xA0", "\xD9\xA1", "1_0",   "1e 5",
 };

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "dialogs/frm_path.h"
+#include "tests/dialogs/roll_wheel.h"
 #include "wizard_desk.h"
 
 using namespace zev;
@@ -22,6 +23,24 @@ class test_frm_integrator_fields : public QObject {
     Q_OBJECT
 
   private slots:
+    void theWheelChangesAListOnlyWhileItHasTheFocus_data() {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"comboFiles", "cboIntegration", "cboMenuList"})
+            QTest::newRow(name) << name;
+    }
+    void theWheelChangesAListOnlyWhileItHasTheFocus() {
+        QFETCH(QString, name);
+        WizardDesk desk;
+        QComboBox& list = desk.list(name);
+        desk.wizard.findChild<QWidget*>("btnNext")->setFocus();
+        list.setEnabled(true);
+        list.addItems({"one more", "and one more"});
+        list.setCurrentIndex(0);
+        rollWheel(list);
+        QCOMPARE(list.currentIndex(), 0);
+        QVERIFY(!list.hasFocus());
+    }
+
     // Step 1
 
     void chosenPagesAreListedInTheDialogsOrder() {

@@ -1,0 +1,107 @@
+#include "dialogs/property_form.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "dialogs/color_swatch.h"
+#include "dialogs/dialog_button.h"
+
+namespace zev {
+
+PropertyForm::PropertyForm(const DialogHost& host, const QString& name, const QString& title,
+                           QWidget* parent)
+    : QDialog(parent), m_host(host) {
+    setObjectName(name);
+    setWindowTitle(title);
+}
+
+QGroupBox* PropertyForm::makeFrame(const QString& name, const QString& title) {
+    auto* frame = new QGroupBox(title, this);
+    frame->setObjectName(name);
+    auto* grid = new QGridLayout(frame);
+    grid->setColumnStretch(kBoxColumn, 1);
+    return frame;
+}
+
+QGridLayout* PropertyForm::gridOf(const QGroupBox* frame) {
+    return static_cast<QGridLayout*>(frame->layout());
+}
+
+PropertyEdit* PropertyForm::addBox(QGroupBox* frame, const PropertyBox& box, int end) {
+    const PropertyField field = PropertyField::make(box.name, box.caption, box.tooltip, frame);
+    const int row = gridOf(frame)->rowCount();
+    gridOf(frame)->addWidget(field.label, row, kLabelColumn);
+    gridOf(frame)->addWidget(field.edit, row, kBoxColumn, 1, end - kBoxColumn);
+    if (box.check)
+        field.edit->setCheck(box.check, box.checkedWhen, m_host.messages);
+    m_boxes.push_back({field.edit, box.member});
+    return field.edit;
+}
+
+void PropertyForm::addBoxes(QGroupBox* frame, std::span<const PropertyBox> boxes) {
+    for (const PropertyBox& box : boxes)
+        addBox(frame, box);
+}
+
+PropertyEdit* PropertyForm::addColor(QGroupBox* frame, const QString& name,
+                                     std::string MenuProp::*member, const ColorTexts& texts) {
+    const ColorField field = ColorField::make(name, texts, frame);
+    const int row = gridOf(frame)->rowCount();
+    gridOf(frame)->addWidget(field.label, row, kLabelColumn);
+    gridOf(frame)->addWidget(field.edit, row, kBoxColumn);
+    gridOf(frame)->addWidget(field.swatch, row, kSwatchColumn);
+    gridOf(frame)->addWidget(field.button, row, kButtonColumn);
+    connect(field.button, &QPushButton::clicked, this, [this, field] {
+        leaveFocusedEdit(*this);
+        field.Color_Pick(m_host.dialogs);
+        emit field.edit->left();
+    });
+    m_boxes.push_back({field.edit, member});
+    return field.edit;
+}
+
+QPushButton* PropertyForm::makeButton(const QString& name, const QString& caption, QWidget* parent,
+                                      const std::function<void()>& click) {
+    QPushButton* button = makeDialogButton(name, caption, parent);
+    connect(button, &QPushButton::clicked, this, [this, click] {
+        leaveFocusedEdit(*this);
+        click();
+    });
+    return button;
+}
+
+void PropertyForm::addClosingButtons(QBoxLayout* row) {
+    QPushButton* cmdOK = makeButton("cmdOK", tr("O&K"), this, [this] { cmdOK_Click(); });
+    cmdOK->setDefault(true);
+    // The box being edited is not left first: nobody wants to hear about values that are thrown
+    // away.
+    QPushButton* cmdCancel = makeDialogButton("cmdCancel", tr("&Cancel"), this);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    row->addStretch();
+    row->addWidget(cmdOK);
+    row->addWidget(cmdCancel);
+}
+
+void PropertyForm::showBoxes(const MenuProp& prop) {
+    for (const Box& box : m_boxes)
+        box.edit->showValue(prop.*box.member);
+}
+
+void PropertyForm::storeBoxes(MenuProp& prop) const {
+    for (const Box& box : m_boxes)
+        prop.*box.member = box.edit->value();
+}
+
+MenuProp PropertyForm::shown() const {
+    MenuProp prop;
+    storeBoxes(prop);
+    return prop;
+}
+
+PropertyEdit* PropertyForm::firstBox() const {
+    return m_boxes.front().edit;
+}
+
+}  // namespace zev
