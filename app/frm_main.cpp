@@ -23,7 +23,6 @@
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
 #include "dialogs/frm_path.h"
-#include "html/html_page.h"
 #include "integrator/wizard/frm_integrator.h"
 #include "script/relative_url.h"
 #include "script/script_writer.h"
@@ -391,8 +390,7 @@ void frmMain::mnuEditMoveDown_Click() {
 }
 
 void frmMain::mnuToolsIntegrate_Click() {
-    HtmlPage parser(m_services.files);
-    frmIntegrator wizard({m_services.files, parser, m_services.messages, m_services.dialogs},
+    frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs},
                          MountedDrives(), this);
     if (!m_document.SaveFile.empty())
         wizard.setDefinition(m_document.SaveFile);

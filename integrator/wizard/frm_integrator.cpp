@@ -103,9 +103,10 @@ void frmIntegrator::setDefinition(const std::string& path) {
         m_pathForm->openFolder(QFileInfo(file).path());
 }
 
-void frmIntegrator::showSubmenus(const std::vector<std::string>& entries) {
-    for (const std::string& entry : entries)
-        cboMenuList->addItem(QString::fromStdString(entry));
+void frmIntegrator::showSubmenus(const std::vector<Submenu>& submenus) {
+    for (const Submenu& submenu : submenus)
+        cboMenuList->addItem(QString::fromStdString(submenuEntry(submenu)),
+                             QString::fromStdString(submenu.id));
     cboMenuList->setCurrentIndex(-1);
 }
 
@@ -126,7 +127,7 @@ void frmIntegrator::NextStep() {
             ++CurStep;
             break;
         case 1:
-            if (InputFiles.size() > 1)
+            if (!InputFiles.names.empty())
                 ++CurStep;
             else
                 m_services.messages.notice("Please select at least one file to continue");
@@ -210,12 +211,10 @@ void frmIntegrator::BtnInputFile_Click() {
     const ChosenFiles files = m_services.dialogs.openFiles(request);
     if (files.names.empty())
         return;
-    InputFiles = {files.folder};
+    InputFiles = files;
     comboFiles->clear();
-    for (const std::string& name : files.names) {
-        InputFiles.push_back(name);
+    for (const std::string& name : files.names)
         comboFiles->addItem(QString::fromStdString(name));
-    }
     txtPathname->setText(QString::fromStdString(files.folder));
     countScripts();
     showHints();
@@ -235,8 +234,8 @@ void frmIntegrator::countScripts() {
     m_scriptCount = 0;
     m_countedPages = 0;
     while (m_countedPages < pageCount && !progress.wasCanceled()) {
-        const std::string& name = InputFiles[static_cast<std::size_t>(m_countedPages) + 1];
-        const auto count = CountDroppedScripts(m_services.parser, PagePath(InputFiles[0], name));
+        const std::string& name = InputFiles.names[static_cast<std::size_t>(m_countedPages)];
+        const auto count = CountDroppedScripts(m_services.files, PagePath(InputFiles.folder, name));
         if (count.isOk())
             m_scriptCount += count.value();
         progress.setValue(++m_countedPages);
@@ -275,7 +274,7 @@ void frmIntegrator::btnMenuDef_Click() {
 }
 
 void frmIntegrator::showHints() {
-    const IntegrationURLs urls = CalculateURL(InputFiles[0], txtMenuDef->text().toStdString(),
+    const IntegrationURLs urls = CalculateURL(InputFiles.folder, txtMenuDef->text().toStdString(),
                                               txtPath->text().toStdString());
     const QString library = QString::fromStdString(urls.library);
     const QString definition = QString::fromStdString(urls.definition);
@@ -329,13 +328,13 @@ void frmIntegrator::optXY_Change() {
 }
 
 void frmIntegrator::Integrate() {
-    const IntegrationURLs urls = CalculateURL(InputFiles[0], txtMenuDef->text().toStdString(),
+    const IntegrationURLs urls = CalculateURL(InputFiles.folder, txtMenuDef->text().toStdString(),
                                               txtPath->text().toStdString());
     showCode(urls.definition);
     IntegrationOptions options;
     options.rewrite = {urls.library, chkKeepScripts->isChecked()};
     options.hasBackups = chkBackup->isChecked();
-    PageIntegrator integrator(m_services.files, m_services.parser, options);
+    PageIntegrator integrator(m_services.files, options);
     setRunning(true);
     integrator.IntegratePages(InputFiles, [this](std::size_t doneCount, std::size_t totalCount) {
         pbProgress->setMaximum(static_cast<int>(totalCount));
@@ -352,7 +351,7 @@ void frmIntegrator::Integrate() {
 void frmIntegrator::setRunning(bool isRunning) {
     m_isRunning = isRunning;
     m_isCancelled = false;
-    const bool hasManyPages = InputFiles.size() > 2;
+    const bool hasManyPages = InputFiles.names.size() > 1;
     pbProgress->setVisible(isRunning && hasManyPages);
     btnCancel->setVisible(isRunning && hasManyPages);
     for (QPushButton* button : {btnBack, btnNext, btnExit, btnSaveReport})
@@ -370,7 +369,7 @@ void frmIntegrator::showCode(const std::string& definitionURL) {
     std::string linkCode;
     if (isPopup())
         linkCode = PopupLinkCode(
-            cboMenuList->currentText().toStdString(),
+            cboMenuList->currentData().toString().toStdString(),
             {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()});
     txtCode->setPlainText(QString::fromStdString(code));
     txtLinkCode->setPlainText(QString::fromStdString(linkCode));

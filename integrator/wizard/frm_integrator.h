@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "integrator/page_rewriter.h"
+#include "platform/common_dialogs.h"
+#include "script/submenu_list.h"
 
 class QCheckBox;
 class QComboBox;
@@ -21,9 +23,7 @@ class QVBoxLayout;
 
 namespace zev {
 
-class CommonDialogs;
 class FileSystem;
-class HtmlParse;
 class MessageBox;
 class PropertyEdit;
 class frmPath;
@@ -31,7 +31,6 @@ class frmPath;
 /// What the wizard needs. Nothing is owned; all outlives it.
 struct IntegratorServices {
     FileSystem& files;
-    HtmlParse& parser;
     MessageBox& messages;
     CommonDialogs& dialogs;
 };
@@ -47,8 +46,8 @@ class frmIntegrator : public QDialog {
 
     /// Presets the full path of the definition file.
     void setDefinition(const std::string& path);
-    /// Fills the list of popup menus. Entries are those of `ListSubmenus`.
-    void showSubmenus(const std::vector<std::string>& entries);
+    /// Fills the list of popup menus.
+    void showSubmenus(const std::vector<Submenu>& submenus);
 
     /// The work of the Next button.
     void NextStep();
@@ -94,10 +93,10 @@ class frmIntegrator : public QDialog {
 
     IntegratorServices m_services;
     std::int16_t CurStep = 0;
-    std::vector<std::string> InputFiles{std::string()};  ///< the pages' folder, then their names
-    IntegrationStatus m_status;                          ///< of the page last processed
-    std::string m_report;                                ///< as it is saved
-    int m_countedPages = 0;  ///< the first of the chosen pages, less when counting was skipped
+    ChosenFiles InputFiles;
+    IntegrationStatus m_status;  ///< of the page last processed
+    std::string m_report;        ///< as it is saved
+    int m_countedPages = 0;      ///< the first of the chosen pages, less when counting was skipped
     std::size_t m_scriptCount = 0;  ///< scripts that integration drops from those
     bool m_isRunning = false;
     bool m_isCancelled = false;

@@ -5,9 +5,8 @@
 #include <string_view>
 
 #include "html/html_characters.h"
-#include "html/html_page.h"
+#include "html/html_parse.h"
 #include "html/html_tokenizer.h"
-#include "platform/fake/fake_file_system.h"
 #include "text/ascii.h"
 
 namespace zev {
@@ -44,7 +43,7 @@ inline std::string problemOfToken(const HtmlToken& token, bool isLast) {
 
 /// What is wrong with setting an attribute of the page's current tag, which has its ">"; empty when
 /// nothing is.
-inline std::string problemOfSetAttribute(HtmlPage& page, const std::string& name) {
+inline std::string problemOfSetAttribute(HtmlParse& page, const std::string& name) {
     const std::string before(page.TagText());
     const std::string oldValue(page.Attribute(name));
     page.SetAttribute(name, "set();");
@@ -76,10 +75,8 @@ inline std::string problemOfSetAttribute(HtmlPage& page, const std::string& name
 /// nothing is: the sources joined are the page, the offsets fit, each token's parts fit its source,
 /// a tag by itself is the same tag, attributes can be set, and the parser steps as the tokenizer.
 inline std::string problemOfPage(const std::string& bytes) {
-    FakeFileSystem files;
-    files.addFile("/page.htm", bytes);
-    HtmlPage page(files);
-    page.LoadFile("/page.htm");
+    HtmlParse page;
+    page.Load(bytes);
 
     HtmlTokenizer tokenizer(bytes);
     HtmlToken token;
@@ -99,7 +96,8 @@ inline std::string problemOfPage(const std::string& bytes) {
         if (isText && wasText) {
             return "a text is in two parts" + at;
         }
-        if (page.Source() != token.source || page.IsTag() == isText || page.IsLast() != isLast) {
+        if (page.Source() != token.source || page.offset() != token.offset ||
+            page.IsTag() == isText || page.IsLast() != isLast) {
             return "parser and tokenizer differ" + at;
         }
         if (!equalsIgnoringCase(page.TagName(), token.name) ||

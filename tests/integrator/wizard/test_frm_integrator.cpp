@@ -335,7 +335,7 @@ class test_frm_integrator : public QObject {
 
     void aPopupMenuWithoutAChoiceStaysAtStep3() {
         WizardDesk desk;
-        desk.wizard.showSubmenus({"Products (1i2)"});
+        desk.wizard.showSubmenus({{"Products", "1i2"}});
         desk.goToMenuFrame();
         desk.choose("cboIntegration", 1);
         desk.messages.expect("Please select a popup menu");

@@ -1,10 +1,7 @@
-#include "html/html_page.h"
+#include "html/html_parse.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <limits>
-#include <utility>
 
 #include "html/html_attributes.h"
 #include "html/html_characters.h"
@@ -79,30 +76,18 @@ std::string withAddedAttribute(std::string_view tagText, std::size_t nameEnd, st
 
 }  // namespace
 
-HtmlPage::HtmlPage(const FileSystem& files) : m_files(files) {
-    m_current = m_last = m_batch.data();
-}
-
-FileOutcome HtmlPage::LoadFile(const std::string& path) {
+void HtmlParse::Load(std::string_view page) {
     Close();
-    m_file.emplace(m_files.readFile(path, std::numeric_limits<std::uint64_t>::max()));
-    if (!m_file->isOk()) {
-        FileError error = m_file->error();
-        Close();
-        return error;
-    }
-    m_tokenizer.emplace(m_file->value());
-    if (!m_tokenizer->isAtEnd()) {
+    m_tokenizer.emplace(page);
+    if (!m_tokenizer->isAtEnd())
         readBatch();
-    }
-    return {};
 }
 
-std::string_view HtmlPage::TagText() const {
+std::string_view HtmlParse::TagText() const {
     return m_changed == m_current ? std::string_view(m_changedText) : m_current->inside;
 }
 
-std::string_view HtmlPage::Attribute(std::string_view name) const {
+std::string_view HtmlParse::Attribute(std::string_view name) const {
     HtmlAttribute attribute;
     if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute)) {
         return {};
@@ -110,7 +95,7 @@ std::string_view HtmlPage::Attribute(std::string_view name) const {
     return TagText().substr(attribute.valueBegin, attribute.valueEnd - attribute.valueBegin);
 }
 
-void HtmlPage::SetAttribute(std::string_view name, std::string_view value) {
+void HtmlParse::SetAttribute(std::string_view name, std::string_view value) {
     if (!hasAttributes()) {
         return;
     }
@@ -121,7 +106,7 @@ void HtmlPage::SetAttribute(std::string_view name, std::string_view value) {
     m_changed = m_current;
 }
 
-void HtmlPage::readBatch() {
+void HtmlParse::readBatch() {
     std::size_t count = 0;
     while (count < m_batch.size() && m_tokenizer->next(m_batch[count])) {
         ++count;
@@ -133,12 +118,12 @@ void HtmlPage::readBatch() {
 }
 
 /// Comments and text have none.
-bool HtmlPage::hasAttributes() const {
+bool HtmlParse::hasAttributes() const {
     return m_current->kind == HtmlToken::Kind::StartTag ||
            m_current->kind == HtmlToken::Kind::EndTag;
 }
 
-std::string_view HtmlPage::lowerCaseName() const {
+std::string_view HtmlParse::lowerCaseName() const {
     m_lowerCaseName.clear();
     for (const char character : m_current->name) {
         m_lowerCaseName += asciiLower(character);
@@ -146,9 +131,8 @@ std::string_view HtmlPage::lowerCaseName() const {
     return m_lowerCaseName;
 }
 
-void HtmlPage::Close() {
+void HtmlParse::Close() {
     m_tokenizer.reset();
-    m_file.reset();
     m_batch[0] = {};
     m_current = m_last = m_batch.data();
     m_changed = nullptr;
