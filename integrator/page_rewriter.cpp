@@ -61,6 +61,7 @@ class PageRewriter {
     PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status)
         : m_options(options), m_status(status) {
         m_parser.Load(page);
+        m_edits.reserve(8);  // most pages need no more
     }
 
     std::vector<PageEdit> edits() {

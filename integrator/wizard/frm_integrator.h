@@ -2,13 +2,10 @@
 
 #include <QDialog>
 #include <QStringList>
-#include <cstdint>
 #include <string>
 #include <vector>
 
-#include "integrator/page_rewriter.h"
-#include "platform/common_dialogs.h"
-#include "script/submenu_list.h"
+#include "integrator/wizard_flow.h"
 
 class QCheckBox;
 class QComboBox;
@@ -23,6 +20,7 @@ class QVBoxLayout;
 
 namespace zev {
 
+class CommonDialogs;
 class FileSystem;
 class MessageBox;
 class PropertyEdit;
@@ -35,9 +33,7 @@ struct IntegratorServices {
     CommonDialogs& dialogs;
 };
 
-/// The wizard that puts the menu into pages that exist already: which pages, where the definition
-/// and the run-time files are, which kind of menu; then the report, and the code that is left to be
-/// pasted by hand. What happens to a page is the engine's work (`page_integration.h`).
+/// The window of the Menu Integrator: shows the steps of `WizardFlow` and tells it what is entered.
 class frmIntegrator : public QDialog {
     Q_OBJECT
   public:
@@ -49,16 +45,16 @@ class frmIntegrator : public QDialog {
     /// Fills the list of popup menus.
     void showSubmenus(const std::vector<Submenu>& submenus);
 
-    /// The work of the Next button.
-    void NextStep();
-
     void reject() override;
+    /// Keeps the second press of a double click from the Next button.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
     bool event(QEvent* event) override;
 
   private:
     void Initialize();
+    void btnNext_Click();
     void btnBack_Click();
     void btnExit_Click();
     void BtnInputFile_Click();
@@ -79,27 +75,20 @@ class frmIntegrator : public QDialog {
     QPushButton* makeButton(const QString& name, const QString& caption,
                             void (frmIntegrator::*click)());
 
-    bool canLeaveMenuFrame();
+    WizardAnswers answers() const;
+    void showNotice(WizardNotice notice);
     void countScripts();
     void showScriptCount();
     void showHints();
     void Integrate();
-    void showCode(const std::string& definitionURL);
     void ShowResultMessage();
-    void setReport(const std::string& report);
+    void showReport();
     void setRunning(bool isRunning);
     void updateFrames();
     bool isPopup() const;
 
     IntegratorServices m_services;
-    std::int16_t CurStep = 0;
-    ChosenFiles InputFiles;
-    IntegrationStatus m_status;  ///< of the page last processed
-    std::string m_report;        ///< as it is saved
-    int m_countedPages = 0;      ///< the first of the chosen pages, less when counting was skipped
-    std::size_t m_scriptCount = 0;  ///< scripts that integration drops from those
-    bool m_isRunning = false;
-    bool m_isCancelled = false;
+    WizardFlow m_flow;
 
     QStackedWidget* m_frames = nullptr;
     QComboBox* comboFiles = nullptr;
