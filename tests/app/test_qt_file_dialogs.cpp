@@ -1,5 +1,6 @@
 // The real file dialogs of Qt, answered with real keys.
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
