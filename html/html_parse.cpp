@@ -41,9 +41,8 @@ std::string withChangedValue(std::string_view tagText, const HtmlAttribute& attr
     // The page's end can cut the closing quote off.
     const std::size_t end = std::min(attribute.valueEnd + (hasQuotes ? 1 : 0), tagText.size());
     std::string text(tagText.substr(0, begin));
-    if (!attribute.hasEqualsSign) {
+    if (!attribute.hasEqualsSign)
         text += '=';
-    }
     text += quoted(value, hasQuotes ? attribute.quote : '"');
     return text += tagText.substr(end);
 }
@@ -54,20 +53,17 @@ std::string withAddedAttribute(std::string_view tagText, std::size_t nameEnd, st
     ServerBlocks blocks(tagText);
     HtmlAttributeReader reader(tagText, blocks, nameEnd);
     std::size_t lastEnd = nameEnd;
-    while (reader.next(last)) {
+    while (reader.next(last))
         lastEnd = reader.position();
-    }
     // A "/" that ends an unquoted value does not close the tag.
     const bool hasSlash = tagText.size() > lastEnd && tagText.back() == '/';
     const std::size_t place = tagText.size() - (hasSlash ? 1 : 0);
     std::string text(tagText.substr(0, place));
     if (lastEnd > nameEnd && last.hasEqualsSign && last.quote == '\0' &&
-        last.valueBegin == last.valueEnd) {
+        last.valueBegin == last.valueEnd)
         text += "\"\"";  // an equals sign without a value would take the new attribute for it
-    }
-    if (!isHtmlSpace(text.back())) {
+    if (!isHtmlSpace(text.back()))
         text += ' ';
-    }
     text += name;
     text += '=';
     text += quoted(value, '"');
@@ -89,16 +85,14 @@ std::string_view HtmlParse::TagText() const {
 
 std::string_view HtmlParse::Attribute(std::string_view name) const {
     HtmlAttribute attribute;
-    if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute)) {
+    if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute))
         return {};
-    }
     return TagText().substr(attribute.valueBegin, attribute.valueEnd - attribute.valueBegin);
 }
 
 void HtmlParse::SetAttribute(std::string_view name, std::string_view value) {
-    if (!hasAttributes()) {
+    if (!hasAttributes())
         return;
-    }
     HtmlAttribute attribute;
     m_changedText = findHtmlAttribute(TagText(), nameEnd(), name, attribute)
                         ? withChangedValue(TagText(), attribute, value)
@@ -108,9 +102,8 @@ void HtmlParse::SetAttribute(std::string_view name, std::string_view value) {
 
 void HtmlParse::readBatch() {
     std::size_t count = 0;
-    while (count < m_batch.size() && m_tokenizer->next(m_batch[count])) {
+    while (count < m_batch.size() && m_tokenizer->next(m_batch[count]))
         ++count;
-    }
     m_current = m_batch.data();
     m_batchEnd = m_current + count;
     m_last = m_tokenizer->isAtEnd() ? m_batchEnd - 1 : nullptr;
@@ -125,9 +118,8 @@ bool HtmlParse::hasAttributes() const {
 
 std::string_view HtmlParse::lowerCaseName() const {
     m_lowerCaseName.clear();
-    for (const char character : m_current->name) {
+    for (const char character : m_current->name)
         m_lowerCaseName += asciiLower(character);
-    }
     return m_lowerCaseName;
 }
 

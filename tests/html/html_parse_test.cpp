@@ -46,9 +46,8 @@ TEST(HtmlParseTest, StepsThroughThePage) {
         {true, "/html", "/html", "", "</html>"},
     };
     std::string bytes;
-    for (const Step& step : steps) {
+    for (const Step& step : steps)
         bytes += step.source;
-    }
     LoadedPage loaded(bytes);
     for (const Step& step : steps) {
         EXPECT_EQ(loaded.page.IsTag(), step.isTag) << step.source;
@@ -67,9 +66,8 @@ TEST(HtmlParseTest, StepsThroughThePage) {
 TEST(HtmlParseTest, ALongPageIsSteppedThroughTokenByToken) {
     constexpr int kTags = 500;
     std::string bytes;
-    for (int i = 0; i < kTags; ++i) {
+    for (int i = 0; i < kTags; ++i)
         bytes += "<Tag" + std::to_string(i) + " a=" + std::to_string(i) + ">";
-    }
     LoadedPage loaded(bytes);
     for (int i = 0; i < kTags; ++i) {
         const std::string number = std::to_string(i);
@@ -193,9 +191,8 @@ TEST(HtmlAttributeTest, AChangedValueKeepsItsQuotesAndAllOtherBytes) {
              {"<body onload=\"\">", "<body onload=\"new\">"},
              {"<body onload=x onload=y>", "<body onload=\"new\" onload=y>"},
              {"<body <? a ?> onload='<? \"' ?>' <% b %>>", "<body <? a ?> onload='new' <% b %>>"},
-         }) {
+         })
         EXPECT_EQ(withAttribute(test.tag, "onload", "new"), test.changed) << test.tag;
-    }
 }
 
 TEST(HtmlAttributeTest, AnAddedOneGoesBeforeTheClosingBracket) {
@@ -220,9 +217,8 @@ TEST(HtmlAttributeTest, AnAddedOneGoesBeforeTheClosingBracket) {
              {"<body <? b ?>>", "<body <? b ?> onload=\"new\">"},
              {"<body<? b ?>>", "<body<? b ?> onload=\"new\">"},
              {"<body xonload=b>", "<body xonload=b onload=\"new\">"},
-         }) {
+         })
         EXPECT_EQ(withAttribute(test.tag, "onload", "new"), test.changed) << test.tag;
-    }
 }
 
 TEST(HtmlAttributeTest, ItsQuoteInTheValueIsWrittenAsAReference) {
