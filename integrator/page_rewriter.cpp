@@ -178,7 +178,8 @@ std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits)
         bytes += edit.text;
         done = edit.offset + edit.length;
     }
-    return bytes += page.substr(done);
+    bytes += page.substr(done);
+    return bytes;
 }
 
 std::string RewritePage(std::string_view page, const RewriteOptions& options,
