@@ -18,7 +18,6 @@
 #include "dialogs/frm_menu_prop.h"
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
-#include "html/html_page.h"
 #include "integrator/wizard/frm_integrator.h"
 #include "script/script_writer.h"
 #include "script/submenu_list.h"
@@ -232,8 +231,7 @@ void frmMain::mnuEditMoveDown_Click() {
 }
 
 void frmMain::mnuToolsIntegrate_Click() {
-    HtmlPage parser(m_services.files);
-    frmIntegrator wizard({m_services.files, parser, m_services.messages, m_services.dialogs},
+    frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs},
                          MountedDrives(), this);
     if (!m_document.SaveFile().empty())
         wizard.setDefinition(m_document.SaveFile());

@@ -10,6 +10,7 @@
 #include "cli/commands.h"
 #include "cli/integrator_commands.h"
 #include "platform/posix/posix_process.h"
+#include "script/submenu_list.h"
 #include "text/program_name.h"
 
 namespace zev {
@@ -170,11 +171,7 @@ std::string refuseNoPosition(const std::string& text) {
 }
 
 std::string refuseNoEntry(const std::string& text) {
-    const std::size_t open = text.rfind('(');
-    const std::size_t close = text.rfind(')');
-    const bool isEntry =
-        open != std::string::npos && close != std::string::npos && open + 1 < close;
-    return isEntry ? "" : "must be an entry as \"zevmenu submenus\" prints it";
+    return submenuIdOf(text).empty() ? "must be an entry as \"zevmenu submenus\" prints it" : "";
 }
 
 /// What the options of a popup menu were given as.
@@ -188,12 +185,14 @@ struct PopupArguments {
     std::optional<PopupOptions> options() const {
         if (entryOption->empty())
             return {};
+        const std::string submenuId(submenuIdOf(entry));
         if (isAtMouse)
-            return PopupOptions{entry, {}};
+            return PopupOptions{submenuId, {}};
         if (position.empty())
             throw CLI::ValidationError("--popup", "requires --mouse or --at");
         const std::size_t comma = position.find(',');
-        return PopupOptions{entry, {false, position.substr(0, comma), position.substr(comma + 1)}};
+        return PopupOptions{submenuId,
+                            {false, position.substr(0, comma), position.substr(comma + 1)}};
     }
 };
 

@@ -83,8 +83,8 @@ ExitStatus submenusCommand(const FileSystem& files, const std::string& input) {
     if (!status)
         return ExitStatus::FileProblem;
     std::string lines;
-    for (const std::string& entry : ListSubmenus(content))
-        lines += entry + "\n";
+    for (const Submenu& submenu : ListSubmenus(content))
+        lines += submenuEntry(submenu) + "\n";
     return writeStandardOutput(lines) ? *status : ExitStatus::FileProblem;
 }
 

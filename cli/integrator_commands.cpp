@@ -4,7 +4,6 @@
 #include <set>
 
 #include "cli/command_paths.h"
-#include "html/html_page.h"
 #include "integrator/page_integration.h"
 #include "script/relative_url.h"
 #include "text/ascii.h"
@@ -21,7 +20,7 @@ std::string withUnixLineEnds(std::string_view text) {
 std::string codeToPaste(const std::string& definitionURL,
                         const std::optional<PopupOptions>& popup) {
     const std::string code = popup ? DefinitionReference(definitionURL) + "\r\n" +
-                                         PopupLinkCode(popup->entry, popup->placement)
+                                         PopupLinkCode(popup->submenuId, popup->placement)
                                    : MenuCode(definitionURL);
     return withUnixLineEnds(code) + "\n";
 }
@@ -33,7 +32,7 @@ std::optional<std::string> fullPathOrAddress(const std::string& path) {
 
 /// Neighbouring pages of one folder.
 struct PageGroup {
-    std::vector<std::string> inputFiles;  ///< the folder, then the names
+    ChosenFiles files;
     IntegrationURLs urls;
 };
 
@@ -49,9 +48,10 @@ std::optional<std::vector<PageGroup>> groupPages(const IntegrateOptions& options
         if (!path)
             return {};
         const PathParts parts = SplitPath(*path);
-        if (groups.empty() || groups.back().inputFiles[0] != parts.folder)
-            groups.push_back({{parts.folder}, CalculateURL(parts.folder, *definition, *library)});
-        groups.back().inputFiles.push_back(parts.name);
+        if (groups.empty() || groups.back().files.folder != parts.folder)
+            groups.push_back(
+                {{parts.folder, {}}, CalculateURL(parts.folder, *definition, *library)});
+        groups.back().files.names.push_back(parts.name);
     }
     return groups;
 }
@@ -60,7 +60,7 @@ std::optional<std::vector<PageGroup>> groupPages(const IntegrateOptions& options
 std::string codeOfAll(const std::vector<PageGroup>& groups, const IntegrateOptions& options) {
     std::map<std::string, std::set<std::string>> foldersOfURLs;
     for (const PageGroup& group : groups)
-        foldersOfURLs[group.urls.definition].insert(group.inputFiles[0]);
+        foldersOfURLs[group.urls.definition].insert(group.files.folder);
     std::string text;
     for (const auto& [url, folders] : foldersOfURLs) {
         for (const std::string& folder : folders)
@@ -83,15 +83,13 @@ ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) 
     const std::optional<std::vector<PageGroup>> groups = groupPages(options);
     if (!groups)
         return ExitStatus::FileProblem;
-    HtmlPage parser(files);
     std::string report;
     bool hasFailed = false;
     for (const PageGroup& group : *groups) {
-        PageIntegrator integrator(files, parser,
-                                  {{group.urls.library, options.keepsOtherScripts},
-                                   options.hasBackups,
-                                   options.isDryRun});
-        integrator.IntegratePages(group.inputFiles);
+        PageIntegrator integrator(files, {{group.urls.library, options.keepsOtherScripts},
+                                          options.hasBackups,
+                                          options.isDryRun});
+        integrator.IntegratePages(group.files);
         report += integrator.report();
         hasFailed = hasFailed || integrator.hasFailed();
     }

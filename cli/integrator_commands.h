@@ -14,7 +14,7 @@ namespace zev {
 
 /// A popup menu instead of a horizontal or vertical one.
 struct PopupOptions {
-    std::string entry;  ///< as `submenus` prints it
+    std::string submenuId;
     PopupPlacement placement;
 };
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QStorageInfo>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -104,10 +105,16 @@ frmPath::frmPath(FileSystem& files, MessageBox& messages, const QStringList& dri
     arrange();
 
     openFolder(QDir::currentPath());
+    connect(txtPath, &QLineEdit::editingFinished, this, &frmPath::followTypedPath);
     connect(listDrv, &QComboBox::currentIndexChanged, this, &frmPath::listDrv_Change);
     connect(listDir, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         listDir_Change(item->data(kFolderRole).toString());
     });
+}
+
+// A form that goes while it is shown takes the focus from the box, which would then still report.
+frmPath::~frmPath() {
+    disconnect(txtPath, nullptr, this, nullptr);
 }
 
 void frmPath::arrange() {
@@ -145,8 +152,13 @@ std::string frmPath::path() const {
     return txtPath->text().toStdString();
 }
 
-/// Lists what a folder holds, and makes it the current one of its drive.
 void frmPath::showFolder(const QString& folder) {
+    listFolder(folder);
+    txtPath->setText(QDir::toNativeSeparators(folder));
+}
+
+/// Lists what a folder holds, and makes it the current one of its drive.
+void frmPath::listFolder(const QString& folder) {
     const QDir dir(folder);
     const QIcon folderIcon = style()->standardIcon(QStyle::SP_DirIcon);
     const auto add = [&](const QString& text, const QString& target) {
@@ -160,7 +172,20 @@ void frmPath::showFolder(const QString& folder) {
         add(name, dir.filePath(name));
     listDir->setCurrentRow(0);
     listDrv->setItemData(listDrv->currentIndex(), folder, kFolderRole);
-    txtPath->setText(QDir::toNativeSeparators(folder));
+}
+
+/// The lists go where the typed path leads; the path stays as it was typed.
+void frmPath::followTypedPath() {
+    if (!txtPath->isModified())
+        return;
+    txtPath->setModified(false);
+    const QDir dir(QDir::fromNativeSeparators(txtPath->text()));
+    if (!dir.isAbsolute() || !dir.exists() || !dir.isReadable())
+        return;
+    const QString folder = QDir::cleanPath(dir.path());
+    const QSignalBlocker blocker(listDrv);
+    listDrv->setCurrentIndex(DriveOf(folder, *listDrv));
+    listFolder(folder);
 }
 
 void frmPath::listDrv_Change() {

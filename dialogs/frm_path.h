@@ -24,6 +24,7 @@ class frmPath : public QDialog {
     /// `drives`: root folders, not empty. What the references refer to is not owned and outlives
     /// the form.
     frmPath(FileSystem& files, MessageBox& messages, const QStringList& drives, QWidget* parent);
+    ~frmPath() override;
 
     /// Goes to a folder, so that the person finds it listed. Does nothing when there is none.
     void openFolder(const QString& folder);
@@ -38,6 +39,8 @@ class frmPath : public QDialog {
 
     void arrange();
     void showFolder(const QString& folder);
+    void listFolder(const QString& folder);
+    void followTypedPath();
 
     FileSystem& m_files;
     MessageBox& m_messages;

@@ -9,9 +9,8 @@ bool findHtmlAttribute(std::string_view tag, std::size_t position, std::string_v
     HtmlAttributeReader reader(tag, blocks, position);
     while (reader.next(attribute)) {
         if (equalsIgnoringCase(
-                tag.substr(attribute.nameBegin, attribute.nameEnd - attribute.nameBegin), name)) {
+                tag.substr(attribute.nameBegin, attribute.nameEnd - attribute.nameBegin), name))
             return true;
-        }
     }
     return false;
 }

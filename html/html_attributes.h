@@ -66,9 +66,8 @@ bool findHtmlAttribute(std::string_view tag, std::size_t position, std::string_v
 // one function of them and of whoever reads.
 
 inline bool HtmlAttributeReader::next(HtmlAttribute& attribute) {
-    if (!beforeAttributeNameState()) {
+    if (!beforeAttributeNameState())
         return false;
-    }
     attribute.nameBegin = m_position;
     attributeNameState();
     attribute.nameEnd = m_position;
@@ -87,20 +86,16 @@ inline bool HtmlAttributeReader::next(HtmlAttribute& attribute) {
 inline bool HtmlAttributeReader::beforeAttributeNameState() {
     for (; !isAtEnd(); ++m_position) {
         const char character = m_page[m_position];
-        if (character == '>') {
+        if (character == '>')
             return false;
-        }
-        if (isHtmlSpace(character) || character == '/') {
+        if (isHtmlSpace(character) || character == '/')
             continue;
-        }
-        if (character != '<') {
+        if (character != '<')
             return true;
-        }
         const std::size_t end = m_blocks.endOf(m_position);
         // A block that stands for a name ends at the equals sign.
-        if (end == m_position || (end < m_page.size() && m_page[end] == '=')) {
+        if (end == m_position || (end < m_page.size() && m_page[end] == '='))
             return true;
-        }
         m_position = end - 1;
     }
     return false;
@@ -108,9 +103,8 @@ inline bool HtmlAttributeReader::beforeAttributeNameState() {
 
 inline void HtmlAttributeReader::attributeNameState() {
     // An equals sign that comes first is part of the name.
-    if (m_page[m_position] == '=') {
+    if (m_page[m_position] == '=')
         ++m_position;
-    }
     passUntil(html_character::kEqualsSign | html_character::kGreaterThan | html_character::kSlash |
               html_character::kSpace);
 }
@@ -118,9 +112,8 @@ inline void HtmlAttributeReader::attributeNameState() {
 /// True when an equals sign follows; it is passed then.
 inline bool HtmlAttributeReader::afterAttributeNameState() {
     skipSpace();
-    if (isAtEnd() || m_page[m_position] != '=') {
+    if (isAtEnd() || m_page[m_position] != '=')
         return false;
-    }
     ++m_position;
     return true;
 }
@@ -140,9 +133,8 @@ inline void HtmlAttributeReader::attributeValueQuotedState(HtmlAttribute& attrib
     attribute.valueBegin = m_position;
     passUntil(htmlCharacter(attribute.quote));
     attribute.valueEnd = m_position;
-    if (!isAtEnd()) {
+    if (!isAtEnd())
         ++m_position;
-    }
 }
 
 inline void HtmlAttributeReader::attributeValueUnquotedState(HtmlAttribute& attribute) {
@@ -152,9 +144,8 @@ inline void HtmlAttributeReader::attributeValueUnquotedState(HtmlAttribute& attr
 }
 
 inline void HtmlAttributeReader::skipSpace() {
-    while (!isAtEnd() && isHtmlSpace(m_page[m_position])) {
+    while (!isAtEnd() && isHtmlSpace(m_page[m_position]))
         ++m_position;
-    }
 }
 
 /// Goes to the next such character outside of blocks, or to the page's end.
@@ -162,9 +153,8 @@ inline void HtmlAttributeReader::passUntil(unsigned ends) {
     ends |= html_character::kLessThan;
     for (;;) {
         m_position = findHtmlCharacter(m_page, m_position, ends);
-        if (isAtEnd() || m_page[m_position] != '<') {
+        if (isAtEnd() || m_page[m_position] != '<')
             return;
-        }
         m_position = std::max(m_position + 1, m_blocks.endOf(m_position));
     }
 }

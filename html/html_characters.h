@@ -60,9 +60,8 @@ inline bool isHtmlSpace(char character) {
 /// The offset of the first character of these kinds from `position` on; the text's size without
 /// one.
 inline std::size_t findHtmlCharacter(std::string_view text, std::size_t position, unsigned kinds) {
-    while (position < text.size() && (htmlCharacter(text[position]) & kinds) == 0) {
+    while (position < text.size() && (htmlCharacter(text[position]) & kinds) == 0)
         ++position;
-    }
     return position;
 }
 

@@ -32,11 +32,10 @@ HtmlTokenizer::HtmlTokenizer(std::string_view page)
 void HtmlTokenizer::rawTextState(HtmlToken& token) {
     const std::size_t end = endOfRawText(m_position);
     m_rawElement = {};
-    if (end > m_position) {
+    if (end > m_position)
         takeText(token, end);
-    } else {
+    else
         dataState(token);
-    }
 }
 
 /// What "<" begins when it is neither a tag nor text.
@@ -72,9 +71,8 @@ void HtmlTokenizer::afterStartTagState(HtmlToken& token) {
     const auto* const element =
         std::find_if(kRawElements.begin(), kRawElements.end(),
                      [&](std::string_view name) { return equalsIgnoringCase(token.name, name); });
-    if (element != kRawElements.end()) {
+    if (element != kRawElements.end())
         m_rawElement = *element;
-    }
 }
 
 void HtmlTokenizer::markupDeclarationOpenState(HtmlToken& token) {
@@ -86,9 +84,8 @@ void HtmlTokenizer::markupDeclarationOpenState(HtmlToken& token) {
         commentStartState(token);
     } else {
         bogusCommentState(token, content);
-        if (equalsIgnoringCase(m_page.substr(content, 7), "doctype")) {
+        if (equalsIgnoringCase(m_page.substr(content, 7), "doctype"))
             token.text = {};
-        }
     }
 }
 
@@ -116,11 +113,10 @@ void HtmlTokenizer::processingInstructionState(HtmlToken& token) {
     // one: all the rest of the page is in it.
     const std::string_view start = m_page.substr(content, 3);
     if (equalsIgnoringCase(start, "php") || start.starts_with('=') ||
-        (!start.empty() && isHtmlSpace(start.front()))) {
+        (!start.empty() && isHtmlSpace(start.front())))
         serverBlockState(token, m_page.size());
-    } else {
+    else
         bogusCommentState(token, m_position + 1);
-    }
 }
 
 void HtmlTokenizer::bogusCommentState(HtmlToken& token, std::size_t textBegin) {
@@ -136,9 +132,8 @@ void HtmlTokenizer::serverBlockState(HtmlToken& token, std::size_t insideEnd) {
 }
 
 std::size_t HtmlTokenizer::endOfRawText(std::size_t position) {
-    if (m_rawElement == kPlaintext) {
+    if (m_rawElement == kPlaintext)
         return m_page.size();
-    }
     std::size_t lessThan = find('<', position);
     while (lessThan < m_page.size() && !isEndTagOf(lessThan, m_rawElement)) {
         const std::size_t blockEnd = m_blocks.endOf(lessThan);
@@ -151,13 +146,12 @@ std::size_t HtmlTokenizer::scriptDataState(std::size_t position) {
     std::size_t lessThan = find('<', position);
     while (lessThan < m_page.size() && !isEndTagOf(lessThan, kScript)) {
         const std::size_t blockEnd = m_blocks.endOf(lessThan);
-        if (blockEnd != lessThan) {
+        if (blockEnd != lessThan)
             position = blockEnd;
-        } else if (m_page.substr(lessThan, 4) == "<!--") {
+        else if (m_page.substr(lessThan, 4) == "<!--")
             position = scriptDataEscapedState(lessThan + 2);
-        } else {
+        else
             position = lessThan + 1;
-        }
         lessThan = find('<', position);
     }
     return lessThan;
@@ -170,21 +164,17 @@ std::size_t HtmlTokenizer::scriptDataEscapedState(std::size_t position) {
     std::size_t dashes = std::min(m_page.find("-->", position), m_page.size());
     for (;;) {
         const std::size_t lessThan = find('<', position);
-        if (dashes < lessThan) {
+        if (dashes < lessThan)
             return dashes + 3;
-        }
-        if (lessThan == m_page.size()) {
+        if (lessThan == m_page.size())
             return lessThan;
-        }
         const std::size_t blockEnd = m_blocks.endOf(lessThan);
         position = blockEnd == lessThan ? lessThan + 1 : blockEnd;
-        if (dashes < position) {
+        if (dashes < position)
             dashes = std::min(m_page.find("-->", position), m_page.size());
-        }
         if (isEndTagOf(lessThan, kScript)) {
-            if (!isDoubleEscaped) {
+            if (!isDoubleEscaped)
                 return lessThan;
-            }
             isDoubleEscaped = false;
         } else if (isTagOf(lessThan + 1, kScript)) {
             isDoubleEscaped = true;
@@ -210,9 +200,8 @@ std::size_t HtmlTokenizer::findCommentEnd(std::size_t from) const {
         // A run of dashes can only end a comment with its last two.
         const std::size_t end = std::min(m_page.find_first_not_of('-', dashes), m_page.size());
         const std::string_view rest = m_page.substr(end, 2);
-        if (rest.starts_with('>') || rest == "!>") {
+        if (rest.starts_with('>') || rest == "!>")
             return end - 2;
-        }
         dashes = m_page.find("--", end);
     }
     return m_page.size();
@@ -224,14 +213,12 @@ std::size_t HtmlTokenizer::findOutsideBlocks(std::size_t from, FindEnd findEnd) 
     std::size_t end = findEnd(from);
     for (;;) {
         const std::size_t lessThan = slice(from, end).find('<');
-        if (lessThan == std::string_view::npos) {
+        if (lessThan == std::string_view::npos)
             return end;
-        }
         const std::size_t blockEnd = m_blocks.endOf(from + lessThan);
         from = std::max(from + lessThan + 1, blockEnd);
-        if (from > end) {
+        if (from > end)
             end = findEnd(from);
-        }
     }
 }
 

@@ -66,15 +66,13 @@ class HtmlTokenizer {
 // can make one loop of them and of whoever reads. The rarer ones are functions of their own.
 
 inline bool HtmlTokenizer::next(HtmlToken& token) {
-    if (isAtEnd()) {
+    if (isAtEnd())
         return false;
-    }
     token.offset = m_position;
-    if (m_rawElement.empty()) {
+    if (m_rawElement.empty())
         dataState(token);
-    } else {
+    else
         rawTextState(token);
-    }
     return true;
 }
 
@@ -108,22 +106,19 @@ inline void HtmlTokenizer::tagNameState(HtmlToken& token, std::size_t position) 
     for (; position < m_page.size(); ++position) {
         const unsigned character = htmlCharacter(m_page[position]);
         if ((character & (kGreaterThan | kSlash | kSpace | kLessThan)) != 0 &&
-            (character != kLessThan || m_blocks.endOf(position) != position)) {
+            (character != kLessThan || m_blocks.endOf(position) != position))
             break;
-        }
         seen |= character;
     }
     token.name = slice(m_position + 1, position);
     token.hasUpperCase = (seen & kUpperCase) != 0;
     token.text = {};
-    if (position < m_page.size() && m_page[position] == '>') {
+    if (position < m_page.size() && m_page[position] == '>')
         takeMarkup(token, position);
-    } else {
+    else
         takeMarkup(token, attributesEnd(position));
-    }
-    if (token.kind == HtmlToken::Kind::StartTag && mayHaveRawContent(token.name)) {
+    if (token.kind == HtmlToken::Kind::StartTag && mayHaveRawContent(token.name))
         afterStartTagState(token);
-    }
 }
 
 /// The offset of the ">" after the attributes; the page's size without one.
@@ -138,12 +133,10 @@ inline std::size_t HtmlTokenizer::attributesEnd(std::size_t position) {
 /// Whether a "<" that is no text stands here.
 inline bool HtmlTokenizer::isMarkup(std::size_t position) {
     const std::size_t next = position + 1;
-    if (m_page[position] != '<' || next >= m_page.size()) {
+    if (m_page[position] != '<' || next >= m_page.size())
         return false;
-    }
-    if ((htmlCharacter(m_page[next]) & html_character::kMarkupStart) != 0) {
+    if ((htmlCharacter(m_page[next]) & html_character::kMarkupStart) != 0)
         return true;
-    }
     return m_page[next] == '/' ? next + 1 < m_page.size() : m_blocks.endOf(position) != position;
 }
 

@@ -15,9 +15,8 @@ constexpr std::size_t kNone = std::string_view::npos;
 
 /// The offset after the next such mark, or npos.
 std::size_t ServerBlocks::after(EndMark& mark, std::size_t from) const {
-    if (from >= mark.absentFrom) {
+    if (from >= mark.absentFrom)
         return kNone;
-    }
     const std::size_t found = m_page.find(mark.spelling, from);
     if (found == kNone) {
         mark.absentFrom = from;
@@ -44,9 +43,8 @@ std::size_t ServerBlocks::endOfPercent(std::size_t lessThan) {
     const std::size_t content = lessThan + 2;
     if (m_page.substr(content, 2) == "--") {
         const std::size_t end = after(m_percentCommentEnd, content + 2);
-        if (end != kNone) {
+        if (end != kNone)
             return end;
-        }
     }
     const std::size_t end = after(m_percentEnd, content);
     return end == kNone ? lessThan : end;
@@ -65,9 +63,8 @@ std::size_t ServerBlocks::endOfComment(std::size_t lessThan) {
 std::size_t ServerBlocks::endOfPaired(std::size_t begin) {
     // Whoever reads a page asks in its order: then it is the comment asked for last or the next.
     for (int i = 0; i < 2 && m_nextComment < m_comments.size(); ++i, ++m_nextComment) {
-        if (m_comments[m_nextComment].begin == begin) {
+        if (m_comments[m_nextComment].begin == begin)
             return m_comments[m_nextComment].end;
-        }
     }
     const auto found = std::lower_bound(
         m_comments.begin(), m_comments.end(), begin,
@@ -93,13 +90,11 @@ void ServerBlocks::pairComments(std::size_t first) {
         const bool isClosing = end < m_page.size() && m_page[end] == '>';
         if (isOpening && !isClosing) {
             open.push_back(isThree ? m_comments.size() : kNone);
-            if (isThree) {
+            if (isThree)
                 m_comments.push_back({dashes - 2, kNone});
-            }
         } else if (isClosing && !isOpening && !open.empty() && (isThree || open.back() == kNone)) {
-            if (open.back() != kNone) {
+            if (open.back() != kNone)
                 m_comments[open.back()].end = end + 1;
-            }
             open.pop_back();
         }
         dashes = m_page.find("--", end);

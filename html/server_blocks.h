@@ -23,9 +23,8 @@ class ServerBlocks {
     /// `lessThan` when none does.
     std::size_t endOf(std::size_t lessThan) {
         const std::size_t next = lessThan + 1;
-        if (next >= m_page.size()) {
+        if (next >= m_page.size())
             return lessThan;
-        }
         switch (m_page[next]) {
             case '?':
                 return endOfQuestion(lessThan);

@@ -1,35 +1,31 @@
 #include "integrator/link_code.h"
 
+#include "script/submenu_list.h"
+
 namespace zev {
 
 namespace {
 
-constexpr auto npos = std::string_view::npos;
-
-std::string_view InnerText(std::string_view entry) {
-    const std::size_t close = entry.rfind(')');
-    const std::size_t open = entry.rfind('(');
-    if (close == npos || open == npos || close < open)
-        return {};
-    return entry.substr(open + 1, close - open - 1);
+/// The first "i" cuts the id in two.
+std::string argumentsOf(std::string_view submenuId) {
+    const std::size_t split = submenuId.find('i');
+    std::string arguments;
+    if (split == std::string_view::npos) {
+        arguments = "'zev1', '";
+        arguments += submenuId;
+    } else {
+        arguments = "'zev1i";
+        arguments += submenuId.substr(0, split);
+        arguments += "', '";
+        arguments += submenuId.substr(split + 1);
+    }
+    return arguments + "'";
 }
 
 }  // namespace
 
 std::string MenuList_GetString(std::string_view entry) {
-    const std::string_view inner = InnerText(entry);
-    const std::size_t split = inner.find('i');
-    std::string arguments;
-    if (split == npos) {
-        arguments = "'zev1', '";
-        arguments += inner;
-    } else {
-        arguments = "'zev1i";
-        arguments += inner.substr(0, split);
-        arguments += "', '";
-        arguments += inner.substr(split + 1);
-    }
-    return arguments + "'";
+    return argumentsOf(submenuIdOf(entry));
 }
 
 std::string DefinitionReference(std::string_view definitionURL) {
@@ -43,8 +39,8 @@ std::string MenuCode(std::string_view definitionURL) {
            "\r\n<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>";
 }
 
-std::string PopupLinkCode(std::string_view entry, const PopupPlacement& placement) {
-    const std::string arguments = MenuList_GetString(entry);
+std::string PopupLinkCode(std::string_view submenuId, const PopupPlacement& placement) {
+    const std::string arguments = argumentsOf(submenuId);
     const std::string start = "<a href=\"\" onmouseover=\"ZEVMenuOpen(" + arguments;
     if (placement.isAtMouse)
         return start + ", event)\" onmouseout=\"ZEVMenuClose(" + arguments + ", false)\">Menu</a>";

@@ -9,8 +9,7 @@ namespace zev {
 // in nothing.
 
 /// Arguments of the calls that open and close a submenu, from an entry of the submenu list such as
-/// "Products (1i2)": "'zev1i1', '2'". What counts is the text between the last "(" and the last
-/// ")"; an entry without that pair counts as empty.
+/// "Products (1i2)": "'zev1i1', '2'". An entry without an id counts as one with an empty id.
 std::string MenuList_GetString(std::string_view entry);
 
 /// Where a popup menu opens.
@@ -26,7 +25,7 @@ std::string DefinitionReference(std::string_view definitionURL);
 /// Code of a horizontal or vertical menu: the reference and the call that draws the menu in place.
 std::string MenuCode(std::string_view definitionURL);
 
-/// Hyperlink that opens, and beside the mouse also closes, the submenu of a list entry.
-std::string PopupLinkCode(std::string_view entry, const PopupPlacement& placement);
+/// Hyperlink that opens, and beside the mouse also closes, the submenu of this id.
+std::string PopupLinkCode(std::string_view submenuId, const PopupPlacement& placement);
 
 }  // namespace zev

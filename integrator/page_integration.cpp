@@ -1,6 +1,7 @@
 #include "integrator/page_integration.h"
 
-#include <optional>
+#include <cstdint>
+#include <limits>
 #include <utility>
 
 #include "script/relative_url.h"
@@ -29,8 +30,13 @@ std::string WithSeparator(std::string_view folder) {
     return path;
 }
 
-std::string TemporaryPath(const std::string& pagePath) {
+std::string temporaryPath(const std::string& pagePath) {
     return Path(Path(pagePath).folder()).child(kTemporaryName);
+}
+
+/// A page may be of any size.
+FileResult<std::string> readPage(const FileSystem& files, const std::string& path) {
+    return files.readFile(path, std::numeric_limits<std::uint64_t>::max());
 }
 
 }  // namespace
@@ -52,27 +58,25 @@ std::string PagePath(const std::string& folder, const std::string& name) {
     return WithSeparator(folder) + name;
 }
 
-FileResult<std::size_t> CountDroppedScripts(HtmlParse& parser, const std::string& path) {
-    if (const FileOutcome error = parser.LoadFile(path))
-        return *error;
-    const std::size_t count = CountDroppedScripts(parser);
-    parser.Close();
-    return count;
+FileResult<std::size_t> CountDroppedScripts(const FileSystem& files, const std::string& path) {
+    const FileResult<std::string> page = readPage(files, path);
+    if (!page.isOk())
+        return page.error();
+    return CountDroppedScripts(page.value());
 }
 
-PageIntegrator::PageIntegrator(FileSystem& files, HtmlParse& parser, IntegrationOptions options)
-    : m_files(files), m_parser(parser), m_options(std::move(options)) {}
+PageIntegrator::PageIntegrator(FileSystem& files, IntegrationOptions options)
+    : m_files(files), m_options(std::move(options)) {}
 
-bool PageIntegrator::IntegratePages(const std::vector<std::string>& inputFiles,
-                                    const ShouldGoOn& shouldGoOn) {
-    const std::size_t count = inputFiles.empty() ? 0 : inputFiles.size() - 1;
+bool PageIntegrator::IntegratePages(const ChosenFiles& inputFiles, const ShouldGoOn& shouldGoOn) {
+    const std::size_t count = inputFiles.names.size();
     for (std::size_t done = 0; done < count; ++done) {
         if (shouldGoOn && !shouldGoOn(done, count)) {
             appendLine("Cancelled: " + std::to_string(count - done) + " of " +
                        std::to_string(count) + " pages not processed");
             return false;
         }
-        integratePage(PagePath(inputFiles[0], inputFiles[done + 1]));
+        integratePage(PagePath(inputFiles.folder, inputFiles.names[done]));
     }
     return true;
 }
@@ -85,9 +89,8 @@ void PageIntegrator::integratePage(const std::string& path) {
         return;
     }
     appendLine("Processing " + path);
-    if (const FileOutcome error = IntegrateFile(path)) {
-        appendLine("ERROR: " + path + " not saved: " + error->reason);
-        appendLine("");
+    if (const std::optional<PageError> error = IntegrateFile(path)) {
+        reportError(path, *error);
         m_hasFailed = true;
         return;
     }
@@ -96,17 +99,18 @@ void PageIntegrator::integratePage(const std::string& path) {
         m_hasFailed = true;
 }
 
-FileOutcome PageIntegrator::IntegrateFile(const std::string& path) {
+std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) {
     m_status = {};
-    if (path == TemporaryPath(path))
-        return FileError{FileError::Code::Other, path, "This is the name of the temporary file"};
-    if (const FileOutcome error = m_parser.LoadFile(path))
-        return error;
+    if (path == temporaryPath(path))
+        return PageError{PageError::Code::IsTemporaryFile, {FileError::Code::Other, path, ""}};
+    std::optional<FileResult<std::string>> page = readPage(m_files, path);
+    if (!page->isOk())
+        return PageError{PageError::Code::NotRead, page->error()};
     IntegrationStatus status;
-    std::string bytes = RewritePage(m_parser, m_options.rewrite, status);
-    m_parser.Close();
+    std::string bytes = RewritePage(page->value(), m_options.rewrite, status);
+    page.reset();  // while the new page is written, the old one would only take up memory
     if (!m_options.isDryRun) {
-        if (const FileOutcome error = replacePage(path, std::move(bytes)))
+        if (std::optional<PageError> error = replacePage(path, std::move(bytes)))
             return error;
     }
     status.bSuccess = status.bEndBodyDone && status.bBodyDone && status.bHeadDone;
@@ -114,23 +118,23 @@ FileOutcome PageIntegrator::IntegrateFile(const std::string& path) {
     return {};
 }
 
-FileOutcome PageIntegrator::replacePage(const std::string& path, std::string bytes) {
-    const std::string temporary = TemporaryPath(path);
+std::optional<PageError> PageIntegrator::replacePage(const std::string& path, std::string bytes) {
+    const std::string temporary = temporaryPath(path);
+    PageError::Code code = PageError::Code::NotSaved;
     FileOutcome error = m_files.writeTemporaryFile(temporary, bytes);
     // Copying reads a whole file; two texts of a page's size in memory would be one too many.
     std::string().swap(bytes);
     if (!error && m_options.hasBackups) {
-        const std::string backup = path + ".bak";
-        error = m_files.CopyFile(path, backup);
-        if (error && error->path == backup)
-            error->reason = backup + ": " + error->reason;
+        error = m_files.CopyFile(path, path + ".bak");
+        if (error)
+            code = PageError::Code::NotBackedUp;
     }
     if (!error)
         error = m_files.CopyFile(temporary, path);
     if (error) {
         if (m_files.FileExists(temporary))
             m_files.DeleteFile(temporary);
-        return error;
+        return PageError{code, *error};
     }
     if (const FileOutcome left = m_files.DeleteFile(temporary)) {
         // The page is saved; what is left over is reported beside it.
@@ -138,6 +142,16 @@ FileOutcome PageIntegrator::replacePage(const std::string& path, std::string byt
         m_hasFailed = true;
     }
     return {};
+}
+
+void PageIntegrator::reportError(const std::string& path, const PageError& error) {
+    std::string reason = error.file.reason;
+    if (error.code == PageError::Code::IsTemporaryFile)
+        reason = "This is the name of the temporary file";
+    else if (error.code == PageError::Code::NotBackedUp && error.file.path != path)
+        reason = error.file.path + ": " + reason;
+    appendLine("ERROR: " + path + " not saved: " + reason);
+    appendLine("");
 }
 
 void PageIntegrator::WriteFileReport() {

@@ -2,12 +2,12 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "html/html_parse.h"
 #include "integrator/page_rewriter.h"
+#include "platform/common_dialogs.h"
 #include "platform/file_system.h"
 
 namespace zev {
@@ -29,7 +29,19 @@ IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view defi
 std::string PagePath(const std::string& folder, const std::string& name);
 
 /// How many of the page's scripts integration drops unless other scripts are kept.
-FileResult<std::size_t> CountDroppedScripts(HtmlParse& parser, const std::string& path);
+FileResult<std::size_t> CountDroppedScripts(const FileSystem& files, const std::string& path);
+
+/// Why a page was not integrated.
+struct PageError {
+    enum class Code { IsTemporaryFile, NotRead, NotBackedUp, NotSaved };
+    Code code = Code::NotSaved;
+    /// The file at fault and the system's words; of a page with the name of the temporary file only
+    /// its path.
+    FileError file;
+};
+
+/// Asked before each page: how many are done of how many. False stops.
+using ShouldGoOn = std::function<bool(std::size_t doneCount, std::size_t totalCount)>;
 
 struct IntegrationOptions {
     RewriteOptions rewrite;
@@ -42,8 +54,8 @@ struct IntegrationOptions {
 /// "~qxtmp.htm" lies beside it; a file of that name that was there before is lost.
 class PageIntegrator {
   public:
-    /// `files` and `parser` are not owned and must outlive this object.
-    PageIntegrator(FileSystem& files, HtmlParse& parser, IntegrationOptions options);
+    /// `files` is not owned and must outlive this object.
+    PageIntegrator(FileSystem& files, IntegrationOptions options);
 
     /// Of the page last processed; all false when it could not be read or saved.
     const IntegrationStatus& status() const { return m_status; }
@@ -53,26 +65,22 @@ class PageIntegrator {
     /// code, or when a temporary file was left.
     bool hasFailed() const { return m_hasFailed; }
 
-    /// Asked before each page: how many are done of how many. False stops the run.
-    using ShouldGoOn = std::function<bool(std::size_t doneCount, std::size_t totalCount)>;
-
-    /// Integrates pages one after the other. `inputFiles` holds their folder, then their names. A
-    /// page that fails does not keep the next ones from being integrated. False when stopped.
-    bool IntegratePages(const std::vector<std::string>& inputFiles,
-                        const ShouldGoOn& shouldGoOn = {});
+    /// Integrates pages one after the other. A page that fails does not keep the next ones from
+    /// being integrated. False when stopped.
+    bool IntegratePages(const ChosenFiles& inputFiles, const ShouldGoOn& shouldGoOn = {});
     /// Rewrites one page and sets `status()`. After a failure the page is as it was and no
     /// temporary file is left.
-    FileOutcome IntegrateFile(const std::string& path);
+    std::optional<PageError> IntegrateFile(const std::string& path);
     /// Appends to the report what became of the page last processed.
     void WriteFileReport();
 
   private:
     void integratePage(const std::string& path);
-    FileOutcome replacePage(const std::string& path, std::string bytes);
+    std::optional<PageError> replacePage(const std::string& path, std::string bytes);
+    void reportError(const std::string& path, const PageError& error);
     void appendLine(std::string_view line);
 
     FileSystem& m_files;
-    HtmlParse& m_parser;
     IntegrationOptions m_options;
     IntegrationStatus m_status;
     std::string m_report;

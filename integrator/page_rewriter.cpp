@@ -1,10 +1,10 @@
 #include "integrator/page_rewriter.h"
 
-#include <forward_list>
+#include <cassert>
 #include <initializer_list>
 #include <utility>
-#include <vector>
 
+#include "html/html_parse.h"
 #include "text/ascii.h"
 
 namespace zev {
@@ -17,75 +17,38 @@ constexpr std::string_view kScriptStart = "<script language=\"JavaScript1.2\">";
 constexpr std::string_view kLoaderStart = "<script language=\"JavaScript1.2\" src=\"";
 constexpr std::string_view kHandlerCall = "ZEVLoadMenu();";
 
-/// The new page as pieces: runs of the old page and inserted texts, all views of bytes that must
-/// stay in memory. What stays as it is costs nothing: it is in the run up to the next change.
-class PageOutput {
-  public:
-    /// `page` is where the old page begins. Changes follow in its order.
-    explicit PageOutput(const char* page) : m_keptUntil(page) { m_pieces.reserve(32); }
+std::string joined(std::initializer_list<std::string_view> parts) {
+    std::size_t size = 0;
+    for (const std::string_view part : parts)
+        size += part.size();
+    std::string text;
+    text.reserve(size);
+    for (const std::string_view part : parts)
+        text += part;
+    return text;
+}
 
-    /// Inserts a text before this place of the old page.
-    void insert(const char* place, std::string_view text) {
-        keepUntil(place);
-        m_pieces.push_back(text);
-    }
-
-    void drop(std::string_view part) {
-        keepUntil(part.data());
-        m_keptUntil = part.data() + part.size();
-    }
-
-    /// Puts a text in place of a part of the old page, and keeps it in memory.
-    void replace(std::string_view part, std::string text) {
-        drop(part);
-        m_pieces.push_back(m_owned.emplace_front(std::move(text)));
-    }
-
-    std::string joined(const char* pageEnd) {
-        keepUntil(pageEnd);
-        std::size_t size = 0;
-        for (const std::string_view piece : m_pieces)
-            size += piece.size();
-        std::string bytes;
-        bytes.reserve(size);
-        for (const std::string_view piece : m_pieces)
-            bytes += piece;
-        return bytes;
-    }
-
-  private:
-    void keepUntil(const char* place) {
-        if (place != m_keptUntil)
-            m_pieces.emplace_back(m_keptUntil, static_cast<std::size_t>(place - m_keptUntil));
-        m_keptUntil = place;
-    }
-
-    const char* m_keptUntil;
-    std::vector<std::string_view> m_pieces;
-    std::forward_list<std::string> m_owned;  // its strings stay where they are when it grows
-};
-
-bool Contains(std::string_view text, std::string_view part) {
+bool contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
 
-bool NamesJavaScript(const HtmlParse& parser) {
-    return Contains(parser.Attribute("language"), "JavaScript");
+bool namesJavaScript(const HtmlParse& parser) {
+    return contains(parser.Attribute("language"), "JavaScript");
 }
 
-bool LoadsLibrary(const HtmlParse& parser) {
+bool loadsLibrary(const HtmlParse& parser) {
     return trimSpaces(parser.Attribute("src")).ends_with("zevmenu_loader.js");
 }
 
-bool IsOldScript(const HtmlParse& parser) {
+bool isOldScript(const HtmlParse& parser) {
     const std::string_view script = parser.Text();
-    return Contains(script, "ZEVCreateMenu()") || Contains(script, "var zev_path");
+    return contains(script, "ZEVCreateMenu()") || contains(script, "var zev_path");
 }
 
 /// The call goes before what the page does at the event. True when it was not there yet.
-bool AddHandler(HtmlParse& parser, std::string_view event) {
+bool addHandler(HtmlParse& parser, std::string_view event) {
     const std::string_view old = parser.Attribute(event);
-    if (Contains(old, "ZEVLoadMenu()"))
+    if (contains(old, "ZEVLoadMenu()"))
         return false;
     std::string handler(kHandlerCall);
     handler += old;
@@ -95,20 +58,20 @@ bool AddHandler(HtmlParse& parser, std::string_view event) {
 
 class PageRewriter {
   public:
-    PageRewriter(HtmlParse& parser, const RewriteOptions& options, IntegrationStatus& status)
-        : m_parser(parser), m_options(options), m_status(status), m_output(tokenBegin()) {}
+    PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status)
+        : m_options(options), m_status(status) {
+        m_parser.Load(page);
+        m_edits.reserve(8);  // most pages need no more
+    }
 
-    std::string rewrite() {
+    std::vector<PageEdit> edits() {
+        // The last token stays as it is, even if it is the body's end tag.
         for (; !m_parser.IsLast(); m_parser.Next())
             handleToken();
-        // The last token stays as it is, even if it is the body's end tag.
-        return m_output.joined(tokenEnd());
+        return std::move(m_edits);
     }
 
   private:
-    const char* tokenBegin() const { return m_parser.Source().data(); }
-    const char* tokenEnd() const { return tokenBegin() + m_parser.Source().size(); }
-
     /// Looks at the name's length first: that rules most tokens out.
     void handleToken() {
         const std::string_view name = m_parser.TagName();
@@ -137,71 +100,98 @@ class PageRewriter {
     }
 
     void handleComment() {
-        if (Contains(m_parser.Text(), kMarkerText))
-            m_output.drop(m_parser.Source());
+        if (contains(m_parser.Text(), kMarkerText))
+            replaceToken({});
     }
 
     void handleHead() {
-        insert(tokenEnd(),
-               {kMarker, kScriptStart, "var zev_path = '", m_options.libraryURL, "';</script>",
-                kLoaderStart, m_options.libraryURL, "zevmenu_loader.js\"></script>"});
+        insert(
+            m_parser.offset() + m_parser.Source().size(),
+            joined({kMarker, kScriptStart, "var zev_path = '", m_options.libraryURL, "';</script>",
+                    kLoaderStart, m_options.libraryURL, "zevmenu_loader.js\"></script>"}));
         m_status.bHeadDone = true;
     }
 
     void handleBody() {
-        const bool isLoadNew = AddHandler(m_parser, "onload");
-        const bool isResizeNew = AddHandler(m_parser, "onresize");
+        const bool isLoadNew = addHandler(m_parser, "onload");
+        const bool isResizeNew = addHandler(m_parser, "onresize");
         if (isLoadNew || isResizeNew)
-            m_output.replace(m_parser.Source(), "<" + std::string(m_parser.TagText()) + ">");
+            replaceToken(joined({"<", m_parser.TagText(), ">"}));
         m_status.bBodyDone = true;
     }
 
     void handleBodyEnd() {
-        insert(tokenBegin(), {kMarker, kScriptStart, "ZEVCreateMenu()</script>"});
+        insert(m_parser.offset(), joined({kMarker, kScriptStart, "ZEVCreateMenu()</script>"}));
         m_status.bEndBodyDone = true;
     }
 
     void handleScript() {
-        if (!m_options.keepsOtherScripts && !NamesJavaScript(m_parser)) {
+        if (!m_options.keepsOtherScripts && !namesJavaScript(m_parser)) {
             // Without its start tag a script's end tag means nothing to a browser; it stays.
-            m_output.drop(m_parser.Source());
+            replaceToken({});
             return;
         }
-        const bool isPrevious = LoadsLibrary(m_parser);
-        if (!isPrevious && !IsOldScript(m_parser))
+        const bool isPrevious = loadsLibrary(m_parser);
+        if (!isPrevious && !isOldScript(m_parser))
             return;
         if (isPrevious)
             m_status.bPrevious = true;
-        m_output.drop(m_parser.Source());
+        replaceToken({});
         m_parser.Next();
         // Now on the end tag, which goes too, unless it is the page's last token.
         if (!m_parser.IsLast())
-            m_output.drop(m_parser.Source());
+            m_edits.back().length += m_parser.Source().size();
     }
 
-    void insert(const char* place, std::initializer_list<std::string_view> texts) {
-        for (const std::string_view text : texts)
-            m_output.insert(place, text);
+    void insert(std::size_t offset, std::string text) {
+        m_edits.push_back({offset, 0, std::move(text)});
     }
 
-    HtmlParse& m_parser;
+    void replaceToken(std::string text) {
+        m_edits.push_back({m_parser.offset(), m_parser.Source().size(), std::move(text)});
+    }
+
+    HtmlParse m_parser;
     const RewriteOptions& m_options;
     IntegrationStatus& m_status;
-    PageOutput m_output;
+    std::vector<PageEdit> m_edits;
 };
 
 }  // namespace
 
-std::string RewritePage(HtmlParse& parser, const RewriteOptions& options,
-                        IntegrationStatus& status) {
+std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
+                                IntegrationStatus& status) {
     status = {};
-    return PageRewriter(parser, options, status).rewrite();
+    return PageRewriter(page, options, status).edits();
 }
 
-std::size_t CountDroppedScripts(HtmlParse& parser) {
+std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits) {
+    std::size_t size = page.size();
+    for (const PageEdit& edit : edits)
+        size += edit.text.size() - edit.length;
+    std::string bytes;
+    bytes.reserve(size);
+    std::size_t done = 0;
+    for (const PageEdit& edit : edits) {
+        assert(edit.offset >= done && edit.offset + edit.length <= page.size());
+        bytes += page.substr(done, edit.offset - done);
+        bytes += edit.text;
+        done = edit.offset + edit.length;
+    }
+    bytes += page.substr(done);
+    return bytes;
+}
+
+std::string RewritePage(std::string_view page, const RewriteOptions& options,
+                        IntegrationStatus& status) {
+    return withEdits(page, pageEdits(page, options, status));
+}
+
+std::size_t CountDroppedScripts(std::string_view page) {
     std::size_t count = 0;
-    for (; !parser.IsLast(); parser.Next()) {
-        if (parser.IsTag() && parser.TagName() == "script" && !NamesJavaScript(parser))
+    HtmlParse parser;
+    for (parser.Load(page); !parser.IsLast(); parser.Next()) {
+        if (parser.TagName() == "script" && !namesJavaScript(parser))
             ++count;
     }
     return count;

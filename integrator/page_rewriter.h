@@ -3,8 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-
-#include "html/html_parse.h"
+#include <vector>
 
 namespace zev {
 
@@ -22,13 +21,28 @@ struct RewriteOptions {
     bool keepsOtherScripts = false;  ///< false: scripts that do not name JavaScript are dropped
 };
 
-/// The bytes of the page loaded in `parser`, with the menu's code put in and that of an earlier run
-/// taken out. Sets all of `status` but `bSuccess`. The parser stands on the last token afterwards.
-std::string RewritePage(HtmlParse& parser, const RewriteOptions& options,
+/// One change of a page: from an offset on, so many bytes of the old page give way to a text.
+/// Offset and length count bytes; a length of 0 inserts.
+struct PageEdit {
+    std::size_t offset = 0;
+    std::size_t length = 0;
+    std::string text;
+    bool operator==(const PageEdit&) const = default;
+};
+
+/// What puts the menu's code into a page and takes that of an earlier run out: in the order of the
+/// page, without overlap. Sets all of `status` but `bSuccess`.
+std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
+                                IntegrationStatus& status);
+
+/// The page with such edits done.
+std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits);
+
+/// The page with its edits done, and the status of `pageEdits`.
+std::string RewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status);
 
-/// How many scripts of the page loaded in `parser` are dropped unless other scripts are kept. The
-/// parser stands on the last token afterwards.
-std::size_t CountDroppedScripts(HtmlParse& parser);
+/// How many scripts of the page are dropped unless other scripts are kept.
+std::size_t CountDroppedScripts(std::string_view page);
 
 }  // namespace zev

@@ -15,6 +15,8 @@ struct FileDialogRequest {
     int filterIndex = 1;               ///< preselected pair, counted from 1
     std::string folder;                ///< where the dialog starts when `fileName` names no folder
     bool asksBeforeReplacing = false;  ///< save dialogs: prompt before an existing file is chosen
+    /// Save dialogs: given to a name without one where the chosen filter is not of one kind.
+    std::string extension;
 };
 
 /// Files of one folder. No names: the person cancelled.

@@ -4,12 +4,24 @@
 
 namespace zev {
 
-std::vector<std::string> ListSubmenus(const MenuContent& content) {
-    std::vector<std::string> entries;
+std::vector<Submenu> ListSubmenus(const MenuContent& content) {
+    std::vector<Submenu> submenus;
     SubmenuWalk walk(content.tree);
     while (const MenuNode* node = walk.next())
-        entries.push_back(node->text + " (" + walk.id() + ")");
-    return entries;
+        submenus.push_back({node->text, walk.id()});
+    return submenus;
+}
+
+std::string submenuEntry(const Submenu& submenu) {
+    return submenu.text + " (" + submenu.id + ")";
+}
+
+std::string_view submenuIdOf(std::string_view entry) {
+    const std::size_t close = entry.rfind(')');
+    const std::size_t open = entry.rfind('(');
+    if (close == std::string_view::npos || open == std::string_view::npos || close < open)
+        return {};
+    return entry.substr(open + 1, close - open - 1);
 }
 
 }  // namespace zev

@@ -18,8 +18,7 @@
 
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
-#include "integrator/link_code.h"
-#include "integrator/page_integration.h"
+#include "messages/integration_messages.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
 #include "text/path.h"
@@ -34,19 +33,42 @@ constexpr const char* kPageFilter =
 constexpr const char* kDefinitionFilter = "JavaScript files (*.js)|*.js|All Files (*.*)|*.*";
 constexpr const char* kReportFilter = "Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*";
 
-constexpr int kLastStep = 5;
 constexpr int kPopupKind = 1;  // index in `cboIntegration`
 
 /// A window that stands still for less than this needs no explanation.
 constexpr int kMomentMs = 500;
 
-QString WithEscapedQuotes(QString url) {
-    return url.replace(u'\'', "%27").replace(u'"', "%22");
+QString hintText(const PathHint& hint) {
+    const QString url = QString::fromStdString(hint.url);
+    switch (hint.kind) {
+        case PathHint::Kind::OnADrive:
+            return frmIntegrator::
+                tr("A page on the web cannot reach a drive of this computer: \"%1\". Choose a "
+                   "path on the drive of the pages, with an upper-case drive letter, or enter a "
+                   "URL.")
+                    .arg(url);
+        case PathHint::Kind::NoLastSlash:
+            return frmIntegrator::tr(
+                       "The last slash is missing: the pages would load \"%1zevmenu_loader.js\".")
+                .arg(url);
+        case PathHint::Kind::Quote:
+            return frmIntegrator::tr(
+                       "A quote in this path would break the script. Rename the "
+                       "folder, or enter \"%1\".")
+                .arg(url);
+        case PathHint::Kind::NotGiven:
+            return frmIntegrator::tr(
+                "Without a path the pages look for the library in their own folder.");
+    }
+    return {};
 }
 
-void ShowHints(QLabel& label, const QStringList& hints) {
-    label.setText(hints.join(u'\n'));
-    label.setVisible(!hints.isEmpty());
+void showHintsIn(QLabel& label, const std::vector<PathHint>& hints) {
+    QStringList texts;
+    for (const PathHint& hint : hints)
+        texts.append(hintText(hint));
+    label.setText(texts.join(u'\n'));
+    label.setVisible(!texts.isEmpty());
 }
 
 /// A field that cannot be used now is painted like the dialog behind it.
@@ -62,7 +84,7 @@ void SetUsable(QLineEdit& field, bool isUsable) {
 
 frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringList& drives,
                              QWidget* parent)
-    : QDialog(parent), m_services(services) {
+    : QDialog(parent), m_services(services), m_flow(services.files) {
     setObjectName("frmIntegrator");
     setWindowTitle(tr("ZEVMenu Integrator"));
     m_frames = new QStackedWidget(this);
@@ -81,17 +103,15 @@ frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringLi
 }
 
 void frmIntegrator::Initialize() {
-    CurStep = 0;
     cboIntegration->setCurrentIndex(0);
     cboMenuList->clear();
     cboIntegration_Click();
     setRunning(false);
     updateFrames();
-    btnNext->setText(tr("&Next >>"));
-    btnBack->setEnabled(false);
 }
 
 void frmIntegrator::setDefinition(const std::string& path) {
+    m_flow.setDefinition(path);
     const QString file = QString::fromStdString(path);
     txtMenuDef->setText(file);
     // The library lies beside the menu, unless the person has moved it.
@@ -99,83 +119,63 @@ void frmIntegrator::setDefinition(const std::string& path) {
         m_pathForm->openFolder(QFileInfo(file).path());
 }
 
-void frmIntegrator::showSubmenus(const std::vector<std::string>& entries) {
-    for (const std::string& entry : entries)
-        cboMenuList->addItem(QString::fromStdString(entry));
+void frmIntegrator::showSubmenus(const std::vector<Submenu>& submenus) {
+    m_flow.setSubmenus(submenus);
+    for (const Submenu& submenu : submenus)
+        cboMenuList->addItem(QString::fromStdString(submenuEntry(submenu)),
+                             QString::fromStdString(submenu.id));
     cboMenuList->setCurrentIndex(-1);
 }
 
 void frmIntegrator::updateFrames() {
-    m_frames->setCurrentIndex(CurStep);
+    m_frames->setCurrentIndex(m_flow.step());
+    btnBack->setEnabled(m_flow.canGoBack());
+    btnNext->setText(m_flow.step() == WizardFlow::kLastStep ? tr("&Finish") : tr("&Next >>"));
+    btnNext->setAccessibleName(btnNext->text().remove(u'&'));
 }
 
 bool frmIntegrator::isPopup() const {
     return cboIntegration->currentIndex() == kPopupKind;
 }
 
-void frmIntegrator::NextStep() {
+WizardAnswers frmIntegrator::answers() const {
+    return {chkBackup->isChecked(),
+            chkKeepScripts->isChecked(),
+            txtPath->text().toStdString(),
+            txtMenuDef->text().toStdString(),
+            isPopup(),
+            cboMenuList->currentData().toString().toStdString(),
+            {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()}};
+}
+
+void frmIntegrator::showNotice(WizardNotice notice) {
+    m_services.messages.notice(noticeText(notice));
+}
+
+void frmIntegrator::btnNext_Click() {
     leaveFocusedEdit(*this);
-    setReport({});
-    switch (CurStep) {
-        case 0:
-            btnBack->setEnabled(true);
-            ++CurStep;
+    const NextOutcome outcome = m_flow.NextStep(answers());
+    showReport();
+    if (outcome.notice)
+        showNotice(*outcome.notice);
+    switch (outcome.action) {
+        case NextOutcome::Action::ShowStep:
+            if (m_flow.step() == WizardFlow::kLastStep)
+                ShowResultMessage();
+            updateFrames();
             break;
-        case 1:
-            if (InputFiles.size() > 1)
-                ++CurStep;
-            else
-                m_services.messages.notice("Please select at least one file to continue");
+        case NextOutcome::Action::Integrate:
+            updateFrames();
+            Integrate();
             break;
-        case 2:
-            if (txtMenuDef->text().isEmpty())
-                m_services.messages.notice("Please enter menu definition filename");
-            else
-                ++CurStep;
-            break;
-        case 3:
-            if (canLeaveMenuFrame()) {
-                ++CurStep;
-                updateFrames();
-                Integrate();
-            }
-            break;
-        case 4:
-            ++CurStep;
-            ShowResultMessage();
-            btnNext->setText(tr("&Finish"));
-            break;
-        default:
+        case NextOutcome::Action::Close:
             btnExit_Click();
     }
-    updateFrames();
 }
 
-/// What would give code that cannot work is asked for.
-bool frmIntegrator::canLeaveMenuFrame() {
-    if (!isPopup())
-        return true;
-    if (cboMenuList->currentIndex() < 0) {
-        m_services.messages.notice("Please select a popup menu");
-        return false;
-    }
-    if (optXY->isChecked() && (txtX->text().isEmpty() || txtY->text().isEmpty())) {
-        m_services.messages.notice("Please enter the position of the menu");
-        return false;
-    }
-    return true;
-}
-
-// The button is disabled before the step back and not after it: back at the first frame it stays
-// enabled, and one more press disables it.
 void frmIntegrator::btnBack_Click() {
     leaveFocusedEdit(*this);
-    if (CurStep == 0)
-        btnBack->setEnabled(false);
-    if (CurStep > 0)
-        --CurStep;
-    if (CurStep < kLastStep)
-        btnNext->setText(tr("&Next >>"));
+    m_flow.goBack();
     updateFrames();
 }
 
@@ -191,11 +191,14 @@ bool frmIntegrator::event(QEvent* event) {
     return isHandled;
 }
 
+bool frmIntegrator::eventFilter(QObject* watched, QEvent* event) {
+    // The frame that the first press brought has not been seen yet.
+    return (watched == btnNext && event->type() == QEvent::MouseButtonDblClick) ||
+           QDialog::eventFilter(watched, event);
+}
+
 void frmIntegrator::reject() {
-    // Closing the window while pages are processed stops that first.
-    if (m_isRunning)
-        m_isCancelled = true;
-    else
+    if (m_flow.mayClose())
         QDialog::reject();
 }
 
@@ -203,56 +206,44 @@ void frmIntegrator::BtnInputFile_Click() {
     FileDialogRequest request;
     request.title = "Open";
     request.filter = kPageFilter;
-    const ChosenFiles files = m_services.dialogs.openFiles(request);
-    if (files.names.empty())
+    request.folder = m_flow.pagesFolder();
+    if (!m_flow.choosePages(m_services.dialogs.openFiles(request)))
         return;
-    InputFiles = {files.folder};
     comboFiles->clear();
-    for (const std::string& name : files.names) {
-        InputFiles.push_back(name);
+    for (const std::string& name : m_flow.pages().names)
         comboFiles->addItem(QString::fromStdString(name));
-    }
-    txtPathname->setText(QString::fromStdString(files.folder));
+    txtPathname->setText(QString::fromStdString(m_flow.pages().folder));
     countScripts();
     showHints();
 }
 
-/// A page that cannot be read counts as none; the report will say so.
 void frmIntegrator::countScripts() {
-    const int pageCount = comboFiles->count();
     // Shows itself only when counting takes longer than a moment, and then blocks the wizard.
     QProgressDialog progress(tr("Counting the scripts that would be removed from the pages"),
-                             tr("&Skip"), 0, pageCount, this);
+                             tr("&Skip"), 0, comboFiles->count(), this);
     progress.setObjectName("frmProgress");
     progress.setWindowTitle(windowTitle());
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(kMomentMs);
-    progress.setValue(0);
-    m_scriptCount = 0;
-    m_countedPages = 0;
-    while (m_countedPages < pageCount && !progress.wasCanceled()) {
-        const std::string& name = InputFiles[static_cast<std::size_t>(m_countedPages) + 1];
-        const auto count = CountDroppedScripts(m_services.parser, PagePath(InputFiles[0], name));
-        if (count.isOk())
-            m_scriptCount += count.value();
-        progress.setValue(++m_countedPages);
-    }
+    m_flow.countScripts([&](std::size_t doneCount, std::size_t) {
+        progress.setValue(static_cast<int>(doneCount));
+        return !progress.wasCanceled();
+    });
     showScriptCount();
 }
 
 void frmIntegrator::showScriptCount() {
-    const int pageCount = comboFiles->count();
+    const std::size_t pageCount = m_flow.pages().names.size();
     if (pageCount == 0)
         return;
-    const bool isKept = chkKeepScripts->isChecked();
-    const std::size_t count = isKept ? 0 : m_scriptCount;
+    const auto [count, countedPages] = m_flow.scriptCount(chkKeepScripts->isChecked());
     const QString what =
         count == 1 ? tr("1 script will be removed") : tr("%1 scripts will be removed").arg(count);
-    lblScripts->setText(isKept || m_countedPages == pageCount
+    lblScripts->setText(countedPages == pageCount
                             ? tr("%1 from the pages.").arg(what)
                             : tr("%1 from the first %2 of %3 pages; the others were not counted.")
                                   .arg(what)
-                                  .arg(m_countedPages)
+                                  .arg(countedPages)
                                   .arg(pageCount));
 }
 
@@ -271,45 +262,14 @@ void frmIntegrator::btnMenuDef_Click() {
 }
 
 void frmIntegrator::showHints() {
-    const IntegrationURLs urls = CalculateURL(InputFiles[0], txtMenuDef->text().toStdString(),
-                                              txtPath->text().toStdString());
-    const QString library = QString::fromStdString(urls.library);
-    const QString definition = QString::fromStdString(urls.definition);
-    const QString driveHint =
-        tr("A page on the web cannot reach a drive of this computer: \"%1\". Choose a path on the "
-           "drive of the pages, with an upper-case drive letter, or enter a URL.");
-    // The URLs stand between quotes in the pages' scripts.
-    const QString quoteHint =
-        tr("A quote in this path would break the script. Rename the folder, or enter \"%1\".");
-    QStringList pathHints;
-    QStringList definitionHints;
-    if (txtPath->text().isEmpty()) {
-        // Where the menu lies elsewhere, its library does too.
-        if (definition.contains(u'/'))
-            pathHints.append(
-                tr("Without a path the pages look for the library in their own folder."));
-    } else if (Path(urls.library).hasDriveLetter()) {
-        pathHints.append(driveHint.arg(library));
-    } else {
-        if (!library.isEmpty() && !library.endsWith(u'/'))
-            pathHints.append(
-                tr("The last slash is missing: the pages would load \"%1zevmenu_loader.js\".")
-                    .arg(library));
-        if (library.contains(u'\'') || library.contains(u'"'))
-            pathHints.append(quoteHint.arg(WithEscapedQuotes(library)));
-    }
-    if (Path(urls.definition).hasDriveLetter())
-        definitionHints.append(driveHint.arg(definition));
-    else if (definition.contains(u'"'))
-        definitionHints.append(quoteHint.arg(WithEscapedQuotes(definition)));
-    ShowHints(*lblPathHint, pathHints);
-    ShowHints(*lblMenuDefHint, definitionHints);
+    showHintsIn(*lblPathHint, m_flow.libraryHints(answers()));
+    showHintsIn(*lblMenuDefHint, m_flow.definitionHints(answers()));
 }
 
 void frmIntegrator::cboIntegration_Click() {
-    if (isPopup() && cboMenuList->count() == 0) {
+    if (const std::optional<WizardNotice> notice = m_flow.checkKind(answers())) {
         cboIntegration->setCurrentIndex(0);
-        m_services.messages.notice("No dropdown menu found! Popup menu options disabled");
+        showNotice(*notice);
         return;
     }
     for (QWidget* control : {static_cast<QWidget*>(cboMenuList), static_cast<QWidget*>(optMouse),
@@ -319,72 +279,53 @@ void frmIntegrator::cboIntegration_Click() {
 }
 
 void frmIntegrator::optXY_Change() {
-    const bool isUsable = isPopup() && optXY->isChecked();
+    const bool isUsable = answers().needsPosition();
     SetUsable(*txtX, isUsable);
     SetUsable(*txtY, isUsable);
 }
 
 void frmIntegrator::Integrate() {
-    const IntegrationURLs urls = CalculateURL(InputFiles[0], txtMenuDef->text().toStdString(),
-                                              txtPath->text().toStdString());
-    showCode(urls.definition);
-    IntegrationOptions options;
-    options.rewrite = {urls.library, chkKeepScripts->isChecked()};
-    options.hasBackups = chkBackup->isChecked();
-    PageIntegrator integrator(m_services.files, m_services.parser, options);
     setRunning(true);
-    integrator.IntegratePages(InputFiles, [this](std::size_t doneCount, std::size_t totalCount) {
+    m_flow.IntegratePages(answers(), [this](std::size_t doneCount, std::size_t totalCount) {
         pbProgress->setMaximum(static_cast<int>(totalCount));
         pbProgress->setValue(static_cast<int>(doneCount));
         // Lets Cancel be pressed; everything else that could start something is disabled.
         QCoreApplication::processEvents();
-        return !m_isCancelled;
     });
+    showReport();
+    // What was pressed while a page took its time was not meant for the frame that is shown now.
+    QCoreApplication::processEvents();
     setRunning(false);
-    m_status = integrator.status();
-    setReport(integrator.report());
 }
 
 void frmIntegrator::setRunning(bool isRunning) {
-    m_isRunning = isRunning;
-    m_isCancelled = false;
-    const bool hasManyPages = InputFiles.size() > 2;
+    const bool hasManyPages = m_flow.pages().names.size() > 1;
     pbProgress->setVisible(isRunning && hasManyPages);
     btnCancel->setVisible(isRunning && hasManyPages);
     for (QPushButton* button : {btnBack, btnNext, btnExit, btnSaveReport})
         button->setEnabled(!isRunning);
 }
 
-void frmIntegrator::setReport(const std::string& report) {
-    m_report = report;
-    txtReport->setPlainText(QString::fromStdString(report));
-}
-
-void frmIntegrator::showCode(const std::string& definitionURL) {
-    const std::string code =
-        isPopup() ? DefinitionReference(definitionURL) : MenuCode(definitionURL);
-    std::string linkCode;
-    if (isPopup())
-        linkCode = PopupLinkCode(
-            cboMenuList->currentText().toStdString(),
-            {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()});
-    txtCode->setPlainText(QString::fromStdString(code));
-    txtLinkCode->setPlainText(QString::fromStdString(linkCode));
+void frmIntegrator::showReport() {
+    txtReport->setPlainText(QString::fromStdString(m_flow.report()));
 }
 
 void frmIntegrator::ShowResultMessage() {
+    const bool hasSucceeded = m_flow.hasSucceeded();
     lblMsg->setText(
-        m_status.bSuccess
+        hasSucceeded
             ? tr("Menu integration successful. Copy and paste the following code on the web page "
                  "to complete the integration. Switch to HTML mode before pasting if you are using "
                  "a WYSIWYG editor, e.g. FrontPage")
             : tr("Menu integration failure. Verify that your input file is a valid HTML file "
                  "containing <head></head> and <body></body> tags"));
+    txtCode->setPlainText(QString::fromStdString(m_flow.code()));
+    txtLinkCode->setPlainText(QString::fromStdString(m_flow.linkCode()));
     for (QWidget* widget : {static_cast<QWidget*>(txtCode), static_cast<QWidget*>(btnCopyCode)})
-        widget->setVisible(m_status.bSuccess);
+        widget->setVisible(hasSucceeded);
     for (QWidget* widget : {static_cast<QWidget*>(lblLinkCode), static_cast<QWidget*>(txtLinkCode),
                             static_cast<QWidget*>(btnCopyLinkCode)})
-        widget->setVisible(m_status.bSuccess && isPopup());
+        widget->setVisible(hasSucceeded && !m_flow.linkCode().empty());
 }
 
 void frmIntegrator::btnSaveReport_Click() {
@@ -392,10 +333,11 @@ void frmIntegrator::btnSaveReport_Click() {
     request.title = "Save";
     request.filter = kReportFilter;
     request.asksBeforeReplacing = true;
+    request.extension = "txt";
     const std::string path = m_services.dialogs.saveFile(request);
     if (path.empty())
         return;
-    if (const FileOutcome error = m_services.files.writeFile(path, m_report + "\r\n"))
+    if (const FileOutcome error = m_flow.saveReport(path))
         m_services.messages.notice(error->path + " not saved: " + error->reason);
 }
 

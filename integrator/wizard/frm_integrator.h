@@ -2,11 +2,10 @@
 
 #include <QDialog>
 #include <QStringList>
-#include <cstdint>
 #include <string>
 #include <vector>
 
-#include "integrator/page_rewriter.h"
+#include "integrator/wizard_flow.h"
 
 class QCheckBox;
 class QComboBox;
@@ -23,7 +22,6 @@ namespace zev {
 
 class CommonDialogs;
 class FileSystem;
-class HtmlParse;
 class MessageBox;
 class PropertyEdit;
 class frmPath;
@@ -31,14 +29,11 @@ class frmPath;
 /// What the wizard needs. Nothing is owned; all outlives it.
 struct IntegratorServices {
     FileSystem& files;
-    HtmlParse& parser;
     MessageBox& messages;
     CommonDialogs& dialogs;
 };
 
-/// The wizard that puts the menu into pages that exist already: which pages, where the definition
-/// and the run-time files are, which kind of menu; then the report, and the code that is left to be
-/// pasted by hand. What happens to a page is the engine's work (`page_integration.h`).
+/// The window of the Menu Integrator: shows the steps of `WizardFlow` and tells it what is entered.
 class frmIntegrator : public QDialog {
     Q_OBJECT
   public:
@@ -47,19 +42,19 @@ class frmIntegrator : public QDialog {
 
     /// Presets the full path of the definition file.
     void setDefinition(const std::string& path);
-    /// Fills the list of popup menus. Entries are those of `ListSubmenus`.
-    void showSubmenus(const std::vector<std::string>& entries);
-
-    /// The work of the Next button.
-    void NextStep();
+    /// Fills the list of popup menus.
+    void showSubmenus(const std::vector<Submenu>& submenus);
 
     void reject() override;
+    /// Keeps the second press of a double click from the Next button.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
     bool event(QEvent* event) override;
 
   private:
     void Initialize();
+    void btnNext_Click();
     void btnBack_Click();
     void btnExit_Click();
     void BtnInputFile_Click();
@@ -80,27 +75,20 @@ class frmIntegrator : public QDialog {
     QPushButton* makeButton(const QString& name, const QString& caption,
                             void (frmIntegrator::*click)());
 
-    bool canLeaveMenuFrame();
+    WizardAnswers answers() const;
+    void showNotice(WizardNotice notice);
     void countScripts();
     void showScriptCount();
     void showHints();
     void Integrate();
-    void showCode(const std::string& definitionURL);
     void ShowResultMessage();
-    void setReport(const std::string& report);
+    void showReport();
     void setRunning(bool isRunning);
     void updateFrames();
     bool isPopup() const;
 
     IntegratorServices m_services;
-    std::int16_t CurStep = 0;
-    std::vector<std::string> InputFiles{std::string()};  ///< the pages' folder, then their names
-    IntegrationStatus m_status;                          ///< of the page last processed
-    std::string m_report;                                ///< as it is saved
-    int m_countedPages = 0;  ///< the first of the chosen pages, less when counting was skipped
-    std::size_t m_scriptCount = 0;  ///< scripts that integration drops from those
-    bool m_isRunning = false;
-    bool m_isCancelled = false;
+    WizardFlow m_flow;
 
     QStackedWidget* m_frames = nullptr;
     QComboBox* comboFiles = nullptr;

@@ -244,7 +244,7 @@ void frmIntegrator::makeReportFrame() {
     pbProgress->setAccessibleName(tr("Pages done"));
     pbProgress->setFormat(tr("%v of %m pages"));
     btnCancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
-    connect(btnCancel, &QPushButton::clicked, this, [this] { m_isCancelled = true; });
+    connect(btnCancel, &QPushButton::clicked, this, [this] { m_flow.cancel(); });
     btnSaveReport = makeButton("btnSaveReport", tr("&Save"), &frmIntegrator::btnSaveReport_Click);
     btnSaveReport->setAccessibleName(tr("Save report"));
     auto* row = new QHBoxLayout;
@@ -287,8 +287,9 @@ void frmIntegrator::makeCodeFrame() {
 QWidget* frmIntegrator::makeButtonRow() {
     auto* buttons = new QWidget(this);
     btnBack = makeButton("btnBack", tr("<< B&ack"), &frmIntegrator::btnBack_Click);
-    btnNext = makeButton("btnNext", tr("&Next >>"), &frmIntegrator::NextStep);
+    btnNext = makeButton("btnNext", tr("&Next >>"), &frmIntegrator::btnNext_Click);
     btnNext->setDefault(true);
+    btnNext->installEventFilter(this);
     btnExit = makeButton("btnExit", tr("&Exit"), &frmIntegrator::btnExit_Click);
     auto* row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);

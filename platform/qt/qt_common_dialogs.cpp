@@ -199,10 +199,13 @@ std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
     // the extension is added, and the file that is there would be replaced unasked.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     Prepare(dialog, request, m_lastFolder);
-    dialog.setDefaultSuffix(DefaultSuffix(dialog.selectedNameFilter()));
-    QObject::connect(
-        &dialog, &QFileDialog::filterSelected, &dialog,
-        [&dialog](const QString& filter) { dialog.setDefaultSuffix(DefaultSuffix(filter)); });
+    const auto setSuffix = [&](const QString& filter) {
+        const QString suffix = DefaultSuffix(filter);
+        dialog.setDefaultSuffix(suffix.isEmpty() ? QString::fromStdString(request.extension)
+                                                 : suffix);
+    };
+    setSuffix(dialog.selectedNameFilter());
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, setSuffix);
     while (dialog.exec() == QDialog::Accepted) {
         const QString path = dialog.selectedFiles().value(0);
         if (!request.asksBeforeReplacing || !QFileInfo::exists(path) ||

@@ -180,10 +180,10 @@ class test_item_panel : public QObject {
     void theTabKeyEntersTheTypeAtTheOptionThatIsSet() {
         QFETCH(bool, isRollover);
         WindowDesk desk;
-        MenuNode* a = desk.add("a");
-        MenuNode* b = desk.add("b");
+        const MenuNode* a = desk.add("a");
+        const MenuNode* b = desk.add("b");
         desk.click(a);
-        b->item.IsRollover = isRollover;
+        test::editItem(desk.document(), *b)->IsRollover = isRollover;
         // The option of the other item has the focus last.
         desk.click(desk.button(isRollover ? "optNormal" : "optRollover"));
         desk.click(b);

@@ -1,5 +1,6 @@
 // The real file dialogs of Qt, answered with real keys.
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -73,6 +74,8 @@ class test_qt_file_dialogs : public QObject {
     void saveAddsTheExtensionOfTheFilter();
     void savePresetsNameAndFolder();
     void saveAsksAboutTheFileThatIsReallyReplaced();
+    void saveAddsTheRequestsExtensionWhereTheFilterGivesNone_data();
+    void saveAddsTheRequestsExtensionWhereTheFilterGivesNone();
     void saveReplacesWhenToldSo();
     void saveReplacesUnaskedWhenNotRequested();
     void saveCancelledGivesNothing();
@@ -316,6 +319,41 @@ void test_qt_file_dialogs::saveAsksAboutTheFileThatIsReallyReplaced() {
     const std::string chosen = QtCommonDialogs().saveFile(saveRequest(folder.path()));
     QVERIFY(isAsked);
     QCOMPARE(QString::fromStdString(chosen), folder.filePath("other.js"));
+}
+
+void test_qt_file_dialogs::saveAddsTheRequestsExtensionWhereTheFilterGivesNone_data() {
+    QTest::addColumn<int>("filterIndex");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("chosen");
+    QTest::newRow("two kinds") << 1 << "report"
+                               << "report.txt";
+    QTest::newRow("all files") << 2 << "report"
+                               << "report.txt";
+    QTest::newRow("one kind") << 3 << "report"
+                              << "report.js";
+    QTest::newRow("a name with one") << 1 << "report.log"
+                                     << "report.log";
+}
+
+void test_qt_file_dialogs::saveAddsTheRequestsExtensionWhereTheFilterGivesNone() {
+    QFETCH(int, filterIndex);
+    QFETCH(QString, typed);
+    QFETCH(QString, chosen);
+    QTemporaryDir folder;
+    makeFile(folder.filePath(chosen));
+    FileDialogRequest request = saveRequest(folder.path(), filterIndex);
+    request.filter = "Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*|Script|*.js";
+    request.extension = "txt";
+    QString asked;
+    whenShown<QFileDialog>([&](QFileDialog& dialog) {
+        whenShown<QMessageBox>([&](QMessageBox& box) {
+            asked = box.text();
+            QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+        });
+        typeName(dialog, typed);
+    });
+    QCOMPARE(QString::fromStdString(QtCommonDialogs().saveFile(request)), folder.filePath(chosen));
+    QCOMPARE(asked, chosen + " already exists.\nDo you want to replace it?");
 }
 
 void test_qt_file_dialogs::saveReplacesWhenToldSo() {

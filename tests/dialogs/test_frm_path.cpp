@@ -163,6 +163,30 @@ class test_frm_path : public QObject {
         QCOMPARE(desk.shownPath(), desk.drive("first/b"));
     }
 
+    void theListsFollowATypedPathAndLeaveItAsItIs() {
+        PathDesk desk;
+        const QString typed = desk.drive("second") + "//c/../";
+        desk.form->type("txtPath", typed);
+        QCOMPARE(desk.shownFolders(), (QStringList{"..", "b1"}));
+        desk.form->press(Qt::Key_Tab);
+        QCOMPARE(desk.shownFolders(), QStringList{"c"});
+        QCOMPARE(desk.form->list("listDrv").currentText(), desk.drive("second"));
+        QCOMPARE(desk.shownPath(), typed);
+        desk.open("c");
+        QCOMPARE(desk.shownPath(), desk.drive("second/c"));
+    }
+
+    void aTypedPathThatIsNoFolderLeavesTheLists() {
+        PathDesk desk;
+        for (const QString& typed : {desk.drive("second/missing"), QString("b1"), QString()}) {
+            desk.form->type("txtPath", typed);
+            desk.form->press(Qt::Key_Tab);
+            QCOMPARE(desk.shownFolders(), (QStringList{"..", "b1"}));
+            QCOMPARE(desk.form->list("listDrv").currentText(), desk.drive("first"));
+            QCOMPARE(desk.shownPath(), typed);
+        }
+    }
+
     void okWithAllFilesThereAsksNothing() {
         PathDesk desk;
         const std::string folder = desk.drive("first/b").toStdString();

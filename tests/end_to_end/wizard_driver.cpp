@@ -13,7 +13,6 @@
 #include <iostream>
 #include <string>
 
-#include "html/html_page.h"
 #include "integrator/wizard/frm_integrator.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
@@ -58,10 +57,9 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     const std::string site = std::string(argv[2]) + "/site";
     PosixFileSystem files;
-    HtmlPage parser(files);
     PrintedMessages messages;
     SiteDialogs dialogs(site);
-    frmIntegrator wizard({files, parser, messages, dialogs}, {"/"}, nullptr);
+    frmIntegrator wizard({files, messages, dialogs}, {"/"}, nullptr);
     wizard.setDefinition(site + "/menu.js");
     wizard.show();
 

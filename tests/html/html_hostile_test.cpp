@@ -65,9 +65,8 @@ TEST(HtmlPropertyTest, RandomPagesComeBackTokenByToken) {
     std::mt19937 random(20240607);
     for (int i = 0; i < 30000; ++i) {
         std::string page;
-        for (auto count = random() % 30; count > 0; --count) {
+        for (auto count = random() % 30; count > 0; --count)
             page += kFragments[random() % kFragments.size()];
-        }
         ASSERT_EQ(problemOfPage(page), "") << "page " << i << ": " << page;
     }
 }
@@ -76,9 +75,8 @@ TEST(HtmlPropertyTest, RandomBytesComeBackTokenByToken) {
     std::mt19937 random(7);
     for (int i = 0; i < 5000; ++i) {
         std::string page;
-        for (auto count = random() % 200; count > 0; --count) {
+        for (auto count = random() % 200; count > 0; --count)
             page += static_cast<char>(random() % 256);
-        }
         ASSERT_EQ(problemOfPage(page), "") << "page " << i << ": " << page;
     }
 }

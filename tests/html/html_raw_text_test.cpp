@@ -27,9 +27,8 @@ TEST(HtmlRawTextTest, TheContentIsOneTextUpToTheEndTag) {
 }
 
 TEST(HtmlRawTextTest, OtherElementsHoldMarkup) {
-    for (const std::string name : {"p", "noscript", "pre", "listing", "titles", "xm", "template"}) {
+    for (const std::string name : {"p", "noscript", "pre", "listing", "titles", "xm", "template"})
         EXPECT_EQ(drawTokens("<" + name + "><b>"), (Tokens{"S<" + name + ">", "S<b>"}));
-    }
 }
 
 TEST(HtmlRawTextTest, TheEndTagNeedsTheWholeNameInAnyCase) {
@@ -110,10 +109,8 @@ TEST(HtmlScriptTest, TheEndTagNeedsTheWholeNameInAnyCase) {
 TEST(HtmlScriptTest, WithoutAnEndTagReachesToThePagesEnd) {
     for (const std::string_view page :
          {"<script>", "<script", "<script a='", "<script>a<b>", "<script>a</script", "<script><!--",
-          "<script><!--a</scripts>", "<script><!--<script></script>", "<script>a<",
-          "<script>a</"}) {
+          "<script><!--a</scripts>", "<script><!--<script></script>", "<script>a<", "<script>a</"})
         EXPECT_EQ(drawTokens(page), Tokens{"S" + std::string(page)}) << page;
-    }
 }
 
 }  // namespace

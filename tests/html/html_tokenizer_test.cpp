@@ -20,9 +20,8 @@ struct Case {
 };
 
 void expectTokens(const std::vector<Case>& cases) {
-    for (const Case& test : cases) {
+    for (const Case& test : cases)
         EXPECT_EQ(drawTokens(test.page), test.tokens) << test.page;
-    }
 }
 
 TEST(HtmlTokenizerTest, AnEmptyPageHasNoToken) {
@@ -74,9 +73,8 @@ TEST(HtmlTokenizerTest, ATagsNameEndsAtSpaceSlashOrBracket) {
         {"<body\vx>", "body\vx"},
         {"<body<? code ?>>", "body"},
     };
-    for (const auto& [page, name] : cases) {
+    for (const auto& [page, name] : cases)
         EXPECT_EQ(firstToken(page).name, name) << page;
-    }
 }
 
 TEST(HtmlTokenizerTest, QuotesHideTheClosingBracketOnlyAsAValue) {
@@ -141,9 +139,8 @@ TEST(HtmlTokenizerTest, InsideIsWhatStandsBetweenTheAngleBrackets) {
         {"<script a>b</script>", "script a"},
         {"text", ""},
     };
-    for (const auto& [page, inside] : cases) {
+    for (const auto& [page, inside] : cases)
         EXPECT_EQ(firstToken(page).inside, inside) << page;
-    }
 }
 
 TEST(HtmlTokenizerTest, NulBytesAreBytesLikeOthers) {
@@ -164,9 +161,8 @@ TEST(HtmlTokenizerTest, AUtf8MarkIsText) {
 TEST(HtmlTokenizerTest, APageInUtf16IsText) {
     const std::string_view little = "\xFF\xFE<\0p\0>\0"sv;
     const std::string_view big = "\xFE\xFF\x3C\x41\0<\0p\0>"sv;  // the character U+3C41 comes first
-    for (const std::string_view page : {little, big, "<\0p\0>\0"sv, "\0<\0p\0>"sv}) {
+    for (const std::string_view page : {little, big, "<\0p\0>\0"sv, "\0<\0p\0>"sv})
         EXPECT_EQ(drawTokens(page), Tokens{"T" + std::string(page)});
-    }
 }
 
 TEST(HtmlTokenizerTest, BytesOfOtherEncodingsDoNotDisturb) {
@@ -180,9 +176,8 @@ TEST(HtmlTokenizerTest, OffsetsCountBytesOfThePage) {
     HtmlTokenizer tokenizer("\xC3\xA9<p>x</p>");
     HtmlToken token;
     std::vector<std::size_t> offsets;
-    while (tokenizer.next(token)) {
+    while (tokenizer.next(token))
         offsets.push_back(token.offset);
-    }
     EXPECT_EQ(offsets, (std::vector<std::size_t>{0, 2, 5, 6}));
 }
 

@@ -46,15 +46,15 @@ TEST(LinkCodeTest, ReferenceTakesTheURLAsItIs) {
 }
 
 TEST(LinkCodeTest, PopupAtTheMouseOpensAndCloses) {
-    EXPECT_EQ(PopupLinkCode("Products (1i2)", {}),
+    EXPECT_EQ(PopupLinkCode("1i2", {}),
               "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1i1', '2', event)\" "
               "onmouseout=\"ZEVMenuClose('zev1i1', '2', false)\">Menu</a>");
 }
 
 TEST(LinkCodeTest, PopupAtAPositionOnlyOpensAndTakesTheCoordinatesAsTyped) {
-    EXPECT_EQ(PopupLinkCode("Products (1i2)", {false, "100", "50"}),
+    EXPECT_EQ(PopupLinkCode("1i2", {false, "100", "50"}),
               "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1i1', '2', 100, 50)\">Menu</a>");
-    EXPECT_EQ(PopupLinkCode("Menu (1)", {false, "-07", ""}),
+    EXPECT_EQ(PopupLinkCode("1", {false, "-07", ""}),
               "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1', '1', -07, )\">Menu</a>");
 }
 

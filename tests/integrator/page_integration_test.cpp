@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/fake/fake_file_system.h"
 #include "tests/integrator/rewritten.h"
 
 namespace zev::test {
@@ -68,21 +69,18 @@ TEST(PagePathTest, JoinsWithTheFoldersOwnSeparator) {
 /// A folder "/web" with an integrator over it.
 struct Desk {
     explicit Desk(IntegrationOptions options = {{"lib/", false}, false, false})
-        : failing(files), parser(failing), integrator(failing, parser, options) {
+        : failing(files), integrator(failing, options) {
         files.addFolder("/web");
     }
     void addPage(const std::string& name, const std::string& bytes = kPage) {
         files.addFile("/web/" + name, bytes);
     }
     void integrate(const std::vector<std::string>& names) {
-        std::vector<std::string> inputFiles{"/web"};
-        inputFiles.insert(inputFiles.end(), names.begin(), names.end());
-        integrator.IntegratePages(inputFiles);
+        integrator.IntegratePages({"/web", names});
     }
 
     FakeFileSystem files;
     FailingFileSystem failing;
-    HtmlPage parser;
     PageIntegrator integrator;
 };
 
@@ -179,14 +177,14 @@ TEST(PageIntegratorTest, StatusBeginsAnewWithEachPage) {
 TEST(PageIntegratorTest, PagesInADriveRootAreFoundByTheirDoubledSeparator) {
     Desk desk;
     desk.files.addFile("C:\\\\a.htm", kPage);
-    desk.integrator.IntegratePages({"C:\\", "a.htm"});
+    desk.integrator.IntegratePages({"C:\\", {"a.htm"}});
     EXPECT_EQ(desk.integrator.report(), "Processing C:\\\\a.htm\r\n" + kSuccessLines);
     EXPECT_EQ(desk.files.allFiles(), (Disk{{"C:\\\\a.htm", rewritten(kPage).page}}));
 }
 
 TEST(PageIntegratorTest, NoPagesIsNoWork) {
     Desk desk;
-    desk.integrator.IntegratePages({"/web"});
+    desk.integrator.IntegratePages({"/web", {}});
     desk.integrator.IntegratePages({});
     EXPECT_EQ(desk.integrator.report(), "");
     EXPECT_FALSE(desk.integrator.hasFailed());
@@ -221,7 +219,7 @@ TEST(PageIntegratorTest, StopsBetweenTwoPagesAndSaysSo) {
         desk.addPage(name);
     std::vector<std::size_t> asked;
     const bool isFinished = desk.integrator.IntegratePages(
-        {"/web", "a.htm", "b.htm", "c.htm"}, [&](std::size_t done, std::size_t total) {
+        {"/web", {"a.htm", "b.htm", "c.htm"}}, [&](std::size_t done, std::size_t total) {
             EXPECT_EQ(total, 3u);
             asked.push_back(done);
             return done < 1;
@@ -346,15 +344,42 @@ TEST(PageIntegratorTest, APageThatIsNotThereLeavesTheStatusOfTheOneBefore) {
     EXPECT_TRUE(desk.integrator.status().bSuccess);
 }
 
+TEST(PageIntegratorTest, AnErrorSaysWhatFailedOnWhichFileAndWhy) {
+    struct Case {
+        std::size_t broken;
+        PageError::Code code;
+    };
+    const FileError noSpace{FileError::Code::NoSpace, "/web/x", "No space left"};
+    for (const Case& c :
+         {Case{Read, PageError::Code::NotRead}, Case{WriteTemporary, PageError::Code::NotSaved},
+          Case{BackUp, PageError::Code::NotBackedUp}, Case{Replace, PageError::Code::NotSaved}}) {
+        Desk desk(kWithBackups);
+        desk.addPage("a.htm");
+        desk.failing.failOperation(c.broken, noSpace);
+        const std::optional<PageError> error = desk.integrator.IntegrateFile("/web/a.htm");
+        ASSERT_TRUE(error.has_value()) << c.broken;
+        EXPECT_EQ(error->code, c.code) << c.broken;
+        EXPECT_EQ(error->file.code, noSpace.code) << c.broken;
+        EXPECT_EQ(error->file.path, noSpace.path) << c.broken;
+        EXPECT_EQ(error->file.reason, noSpace.reason) << c.broken;
+    }
+    Desk desk;
+    const std::optional<PageError> error = desk.integrator.IntegrateFile("/web/~qxtmp.htm");
+    ASSERT_TRUE(error.has_value());
+    EXPECT_EQ(error->code, PageError::Code::IsTemporaryFile);
+    EXPECT_EQ(error->file.path, "/web/~qxtmp.htm");
+}
+
 TEST(CountDroppedScriptsTest, CountsInAFileOrTellsWhyNot) {
     Desk desk;
     desk.addPage("a.htm", "<script>a</script><script language=JavaScript></script>.");
-    const FileResult<std::size_t> count = CountDroppedScripts(desk.parser, "/web/a.htm");
+    const FileResult<std::size_t> count = CountDroppedScripts(desk.failing, "/web/a.htm");
     ASSERT_TRUE(count.isOk());
     EXPECT_EQ(count.value(), 1u);
-    const FileResult<std::size_t> missing = CountDroppedScripts(desk.parser, "/web/none.htm");
+    const FileResult<std::size_t> missing = CountDroppedScripts(desk.failing, "/web/none.htm");
     ASSERT_FALSE(missing.isOk());
     EXPECT_EQ(missing.error().code, FileError::Code::NotFound);
+    EXPECT_EQ(missing.error().path, "/web/none.htm");
 }
 
 }  // namespace

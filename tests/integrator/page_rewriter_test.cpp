@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/integrator/rewritten.h"
@@ -234,21 +235,57 @@ TEST(PageRewriterTest, EveryOtherTokenStaysAsItIs) {
         EXPECT_EQ(rewritten(page).page, page);
 }
 
-std::size_t droppedIn(const std::string& page) {
-    FakeFileSystem files;
-    files.addFile("/page.htm", page);
-    HtmlPage parser(files);
-    parser.LoadFile("/page.htm");
-    return CountDroppedScripts(parser);
+std::vector<PageEdit> editsOf(std::string_view page) {
+    IntegrationStatus status;
+    return pageEdits(page, {"lib/", false}, status);
 }
 
+TEST(PageRewriterTest, EachPlaceIsOneEditInTheOrderOfThePage) {
+    const std::string body = "<body onload='a()'>";
+    const std::string old = "<script language=JavaScript>ZEVCreateMenu()</script>";
+    const std::string page = "<head>" + kMarker + body + "<script>x</script>" + old + "</body>.";
+    const std::size_t bodyBegin = 6 + kMarker.size();
+    const std::size_t scriptBegin = bodyBegin + body.size();
+    const std::size_t oldBegin = scriptBegin + 18;
+    const std::vector<PageEdit> expected = {
+        {6, 0, kReferences},
+        {6, kMarker.size(), ""},
+        {bodyBegin, body.size(), "<body onload='ZEVLoadMenu();a()' onresize=\"ZEVLoadMenu();\">"},
+        {scriptBegin, 9, ""},
+        {oldBegin, old.size(), ""},
+        {oldBegin + old.size(), 0, kCreation}};
+    EXPECT_EQ(editsOf(page), expected);
+}
+
+TEST(PageRewriterTest, WhatStaysIsNoEdit) {
+    EXPECT_TRUE(editsOf("<p>a<!-- b --><script language=JavaScript>c</script>").empty());
+    EXPECT_TRUE(editsOf("<body onload='ZEVLoadMenu()' onresize='ZEVLoadMenu()'>.").empty());
+    EXPECT_TRUE(editsOf("").empty());
+}
+
+TEST(PageRewriterTest, EditsAreDoneWithoutTouchingWhatIsBetween) {
+    EXPECT_EQ(withEdits("0123456789", {}), "0123456789");
+    EXPECT_EQ(
+        withEdits("0123456789",
+                  {{0, 0, "a"}, {0, 2, ""}, {2, 0, "b"}, {2, 0, "c"}, {4, 3, "d"}, {10, 0, "e"}}),
+        "abc23d789e");
+}
+
+#ifndef NDEBUG
+TEST(PageRewriterDeathTest, EditsThatOverlapOrLeaveThePageAreRefused) {
+    EXPECT_DEATH(withEdits("0123", {{1, 2, ""}, {2, 1, ""}}), "");
+    EXPECT_DEATH(withEdits("0123", {{2, 0, ""}, {1, 0, ""}}), "");
+    EXPECT_DEATH(withEdits("0123", {{3, 2, ""}}), "");
+}
+#endif
+
 TEST(PageRewriterTest, CountsTheScriptsThatWouldBeDropped) {
-    EXPECT_EQ(droppedIn(""), 0u);
-    EXPECT_EQ(droppedIn("<script language=JavaScript>a</script>."), 0u);
-    EXPECT_EQ(droppedIn("<script>a</script><SCRIPT type=x></SCRIPT><p>."), 2u);
-    EXPECT_EQ(droppedIn("<!-- <script></script> -->."), 0u);
-    EXPECT_EQ(droppedIn("<script>the last token stays"), 0u);
-    EXPECT_EQ(droppedIn(rewritten("<head></head><body></body>.").page), 0u);
+    EXPECT_EQ(CountDroppedScripts(""), 0u);
+    EXPECT_EQ(CountDroppedScripts("<script language=JavaScript>a</script>."), 0u);
+    EXPECT_EQ(CountDroppedScripts("<script>a</script><SCRIPT type=x></SCRIPT><p>."), 2u);
+    EXPECT_EQ(CountDroppedScripts("<!-- <script></script> -->."), 0u);
+    EXPECT_EQ(CountDroppedScripts("<script>the last token stays"), 0u);
+    EXPECT_EQ(CountDroppedScripts(rewritten("<head></head><body></body>.").page), 0u);
 }
 
 }  // namespace

@@ -3,9 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "html/html_page.h"
 #include "integrator/page_rewriter.h"
-#include "platform/fake/fake_file_system.h"
 
 namespace zev::test {
 
@@ -26,12 +24,8 @@ struct Rewritten {
 
 inline Rewritten rewritten(const std::string& page,
                            const RewriteOptions& options = {"lib/", false}) {
-    FakeFileSystem files;
-    files.addFile("/page.htm", page);
-    HtmlPage parser(files);
-    parser.LoadFile("/page.htm");
     Rewritten result;
-    result.page = RewritePage(parser, options, result.status);
+    result.page = RewritePage(page, options, result.status);
     return result;
 }
 

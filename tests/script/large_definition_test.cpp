@@ -94,9 +94,10 @@ TEST(LargeDefinition, AThousandLevelsAreReadWrittenListedAndRebased) {
     EXPECT_EQ(ReadScript(bytes, again).errorCount, 0u);
     EXPECT_EQ(DefinitionBytes(again), bytes);
 
-    const std::vector<std::string> submenus = ListSubmenus(document);
+    const std::vector<Submenu> submenus = ListSubmenus(document);
     ASSERT_EQ(submenus.size(), kLevels - 1);
-    EXPECT_EQ(submenus.back().size(), std::string("x ()").size() + 2 * (kLevels - 1) - 1);
+    EXPECT_EQ(submenuEntry(submenus.back()).size(),
+              std::string("x ()").size() + 2 * (kLevels - 1) - 1);
 
     RebaseAllURLs(document, "/web", "/web/new");
     const MenuNode* deepest = document.tree.firstNode();

@@ -9,14 +9,23 @@ namespace {
 
 using Entries = std::vector<std::string>;
 
+Entries entriesOf(const MenuContent& document) {
+    Entries entries;
+    for (const Submenu& submenu : ListSubmenus(document)) {
+        entries.push_back(submenuEntry(submenu));
+        EXPECT_EQ(submenuIdOf(entries.back()), submenu.id) << entries.back();
+    }
+    return entries;
+}
+
 TEST(ListSubmenus, AnEmptyTreeHasNone) {
-    EXPECT_EQ(ListSubmenus(MenuContent()), Entries());
+    EXPECT_EQ(entriesOf(MenuContent()), Entries());
 }
 
 TEST(ListSubmenus, ItemsWithoutChildrenAreCountedButNotListed) {
     MenuContent document;
     test::Grow(document.tree, {{0, "Home"}, {0, "Menu"}, {1, "x"}, {0, "Last"}});
-    EXPECT_EQ(ListSubmenus(document), Entries({"Menu (2)"}));
+    EXPECT_EQ(entriesOf(document), Entries({"Menu (2)"}));
 }
 
 TEST(ListSubmenus, EntriesComeInTreeOrderWithTheIdOfTheirPath) {
@@ -32,14 +41,27 @@ TEST(ListSubmenus, EntriesComeInTreeOrderWithTheIdOfTheirPath) {
                                {2, "leaf 2"},
                                {0, "Other"},
                                {1, "leaf 3"}});
-    EXPECT_EQ(ListSubmenus(document),
+    EXPECT_EQ(entriesOf(document),
               Entries({"Menu (1)", "Products (1i2)", "Deep (1i2i3)", "Last (1i3)", "Other (2)"}));
 }
 
 TEST(ListSubmenus, ShowsTheNodesTextAsItStands) {
     MenuContent document;
     test::Grow(document.tree, {{0, "<b>It\\'s</b> (1)"}, {1, "x"}});
-    EXPECT_EQ(ListSubmenus(document), Entries({"<b>It\\'s</b> (1) (1)"}));
+    EXPECT_EQ(entriesOf(document), Entries({"<b>It\\'s</b> (1) (1)"}));
+}
+
+TEST(ListSubmenus, TextAndIdAreKeptApart) {
+    MenuContent document;
+    test::Grow(document.tree, {{0, "Home"}, {0, "Prices (in EUR)"}, {1, "x"}});
+    EXPECT_EQ(ListSubmenus(document), (std::vector<Submenu>{{"Prices (in EUR)", "2"}}));
+}
+
+TEST(SubmenuIdOf, IsWhatTheLastPairOfParenthesesHolds) {
+    EXPECT_EQ(submenuIdOf("Prices (in EUR) (1i2)"), "1i2");
+    EXPECT_EQ(submenuIdOf("After the pair (2) x"), "2");
+    for (const char* const entry : {"", "Menu", "Menu (1", "Menu 1)", ")1(", ")(", "Empty ()"})
+        EXPECT_EQ(submenuIdOf(entry), "") << entry;
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ ALLOWED = {
     "platform/posix": {"platform", "text"},
     "platform/fake": {"platform", "text"},
     "platform/qt": {"platform", "text"} | QT,
-    "html": {"platform", "text"},
+    "html": {"text"},
     "library": {"platform", "text"},
     "integrator": {"script", "model", "html", "platform", "text"},
     "messages": {"importers", "library", "integrator", "script", "model", "platform", "text"},

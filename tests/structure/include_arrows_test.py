@@ -53,6 +53,7 @@ class IncludeArrows(unittest.TestCase):
             ("platform/shell.h", '"model/menu.h"'),
             ("text/ascii.h", '"model/menu.h"'),
             ("html/page.h", '"script/writer.h"'),
+            ("html/page.h", '"platform/file_system.h"'),
             ("library/files.h", "<QFile>"),
             ("integrator/engine.cpp", '"integrator/wizard/frm_integrator.h"'),
             ("model/a.cpp", '"library/files.h"'),

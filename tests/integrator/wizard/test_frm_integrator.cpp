@@ -1,7 +1,9 @@
 // The wizard's window and its steps.
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QMouseEvent>
 #include <QRadioButton>
 
 #include "wizard_desk.h"
@@ -269,6 +271,47 @@ class test_frm_integrator : public QObject {
         QVERIFY(!desk.wizard.isVisible());
     }
 
+    void assistiveTechnologyIsToldWhatNextDoes() {
+        WizardDesk desk;
+        const auto told = [&] {
+            return QAccessible::queryAccessibleInterface(&desk.button("btnNext"))
+                ->text(QAccessible::Name);
+        };
+        desk.goToMenuFrame();
+        desk.next();
+        QCOMPARE(told(), QString("Next >>"));
+        desk.next();
+        QCOMPARE(told(), QString("Finish"));
+        desk.click("btnBack");
+        QCOMPARE(told(), QString("Next >>"));
+    }
+
+    void aDoubleClickIsOneStep() {
+        WizardDesk desk;
+        QPushButton& next = desk.button("btnNext");
+        const QPoint place = next.mapTo(&desk.wizard, next.rect().center());
+        QTest::mouseDClick(desk.wizard.windowHandle(), Qt::LeftButton, {}, place);
+        QCOMPARE(desk.shownFrames(), QList<int>{1});
+    }
+
+    void aClickWhileTheLastPageTakesItsTimeIsNotOnTheReport() {
+        WizardDesk desk;
+        desk.goToMenuFrame();
+        QPushButton& next = desk.button("btnNext");
+        desk.disk.onRead = [&](int) {
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                const QPoint place = next.rect().center();
+                const bool isPress = type == QEvent::MouseButtonPress;
+                QCoreApplication::postEvent(
+                    &next, new QMouseEvent(type, place, next.mapToGlobal(place), Qt::LeftButton,
+                                           isPress ? Qt::LeftButton : Qt::NoButton, {}));
+            }
+        };
+        desk.next();
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.shownFrames(), QList<int>{4});
+    }
+
     void enterGoesOnFromEachStep() {
         WizardDesk desk;
         const auto pressEnter = [&] { QTest::keyClick(desk.wizard.focusWidget(), Qt::Key_Return); };
@@ -352,7 +395,7 @@ class test_frm_integrator : public QObject {
 
     void aPopupMenuWithoutAChoiceStaysAtStep3() {
         WizardDesk desk;
-        desk.wizard.showSubmenus({"Products (1i2)"});
+        desk.wizard.showSubmenus({{"Products", "1i2"}});
         desk.goToMenuFrame();
         desk.choose("cboIntegration", 1);
         desk.messages.expect("Please select a popup menu");

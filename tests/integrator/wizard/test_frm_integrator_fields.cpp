@@ -57,6 +57,39 @@ class test_frm_integrator_fields : public QObject {
                          "Preprocessed HTML(*.asp;*.aspx;*.cfm;*.php)|*.asp;*.aspx;*.cfm;*.php|"
                          "All Files (*.*)|*.*"));
         QVERIFY(request.fileName.empty());
+        QCOMPARE(QString::fromStdString(request.title), QString("Open"));
+    }
+
+    void thePageDialogStartsInTheFolderOfTheOpenMenu() {
+        WizardDesk desk;
+        desk.wizard.setDefinition("/site/js/menu.js");
+        desk.next();
+        desk.choosePages({"a.htm"});
+        QCOMPARE(desk.dialogs.recorded().back().request.folder, std::string("/site/js"));
+        desk.choosePages({"b.htm"});
+        QCOMPARE(desk.dialogs.recorded().back().request.folder, std::string("/site"));
+    }
+
+    void thePageDialogOfANewMenuStartsAnywhere() {
+        WizardDesk desk;
+        desk.next();
+        desk.choosePages({}, "");
+        QCOMPARE(desk.dialogs.recorded().back().request.folder, std::string());
+    }
+
+    void thePageInADrivesRootIsIntegrated() {
+        WizardDesk desk;
+        desk.disk.addFile("C:\\\\a.htm", kPage);
+        desk.next();
+        desk.choosePages({"a.htm"}, "C:\\");
+        QCOMPARE(desk.field("txtPathname").text(), QString("C:\\"));
+        desk.next();
+        desk.type("txtPath", "C:\\js");
+        desk.type("txtMenuDef", "C:\\menu_def.js");
+        desk.next(2);
+        QVERIFY2(desk.text("txtReport").startsWith("Processing C:\\\\a.htm\nSuccess: "),
+                 qPrintable(desk.text("txtReport")));
+        QVERIFY(desk.disk.allFiles().at("C:\\\\a.htm").find("zevmenu_loader.js") != std::string::npos);
     }
 
     void otherPagesReplaceTheChosenOnesAndCancelKeepsThem() {
@@ -414,9 +447,7 @@ class test_frm_integrator_fields : public QObject {
         desk.click("optXY");
         desk.type("txtX", "-20");
         desk.type("txtY", "abc");
-        desk.messages.expect(
-            "a message about the number", [](const MessageRequest& r) { return !r.text.empty(); },
-            MessageBox::Answer::Ok);
+        desk.messages.expect("Please enter an integer value: 0 - 65535");
         QTest::keyClick(&desk.field("txtY"), Qt::Key_Tab);
         QCOMPARE(desk.field("txtX").text(), QString("-20"));
         QCOMPARE(desk.field("txtY").text(), QString());

@@ -50,6 +50,9 @@ class test_frm_integrator_run : public QObject {
         QCOMPARE(QString::fromStdString(request.filter),
                  QString("Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*"));
         QVERIFY(request.asksBeforeReplacing);
+        QVERIFY(request.fileName.empty());
+        QCOMPARE(QString::fromStdString(request.title), QString("Save"));
+        QCOMPARE(QString::fromStdString(request.extension), QString("txt"));
     }
 
     void aReportThatIsNotSavedSaysWhy() {

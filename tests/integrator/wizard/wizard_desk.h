@@ -12,7 +12,6 @@
 #include <string>
 #include <vector>
 
-#include "html/html_page.h"
 #include "integrator/wizard/frm_integrator.h"
 #include "platform/fake/fake_file_system.h"
 #include "platform/fake/fake_services.h"
@@ -157,7 +156,7 @@ struct WizardDesk {
     }
     /// Chooses the popup kind at step 3 with its first submenu.
     void choosePopup() {
-        wizard.showSubmenus({"Products (1i2)", "Tea (1)"});
+        wizard.showSubmenus({{"Products", "1i2"}, {"Tea", "1"}});
         choose("cboIntegration", 1);
         choose("cboMenuList", 0);
     }
@@ -166,10 +165,9 @@ struct WizardDesk {
     }
 
     WatchedDisk disk;
-    HtmlPage parser{disk};
     FakeMessageBox messages{failWizardTest};
     FakeCommonDialogs dialogs{failWizardTest};
-    frmIntegrator wizard{{disk, parser, messages, dialogs}, {"/"}, nullptr};
+    frmIntegrator wizard{{disk, messages, dialogs}, {"/"}, nullptr};
 };
 
 }  // namespace zev

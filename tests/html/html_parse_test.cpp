@@ -1,27 +1,21 @@
-#include "html/html_page.h"
+#include "html/html_parse.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
-
-#include "platform/fake/fake_file_system.h"
 
 namespace zev {
 namespace {
 
-const std::string kPath = "/site/a.htm";
-
-/// A page of its own disk, loaded.
+/// A page of its own bytes, loaded.
 struct LoadedPage {
-    explicit LoadedPage(const std::string& bytes) : page(files) {
-        files.addFile(kPath, bytes);
-        EXPECT_FALSE(page.LoadFile(kPath).has_value());
-    }
+    explicit LoadedPage(std::string text) : bytes(std::move(text)) { page.Load(bytes); }
 
-    FakeFileSystem files;
-    HtmlPage page;
+    const std::string bytes;
+    HtmlParse page;
 };
 
 /// What a tag's text is after setting an attribute of a page that is this one tag.
@@ -34,7 +28,7 @@ std::string withAttribute(const std::string& tag, const std::string& name,
     return "<" + std::string(loaded.page.TagText()) + ">";
 }
 
-TEST(HtmlPageTest, StepsThroughThePage) {
+TEST(HtmlParseTest, StepsThroughThePage) {
     struct Step {
         bool isTag;
         std::string name, tagText, text, source;
@@ -52,9 +46,8 @@ TEST(HtmlPageTest, StepsThroughThePage) {
         {true, "/html", "/html", "", "</html>"},
     };
     std::string bytes;
-    for (const Step& step : steps) {
+    for (const Step& step : steps)
         bytes += step.source;
-    }
     LoadedPage loaded(bytes);
     for (const Step& step : steps) {
         EXPECT_EQ(loaded.page.IsTag(), step.isTag) << step.source;
@@ -62,6 +55,7 @@ TEST(HtmlPageTest, StepsThroughThePage) {
         EXPECT_EQ(loaded.page.TagText(), step.tagText) << step.source;
         EXPECT_EQ(loaded.page.Text(), step.text) << step.source;
         EXPECT_EQ(loaded.page.Source(), step.source);
+        EXPECT_EQ(loaded.page.offset(), bytes.find(step.source)) << step.source;
         EXPECT_EQ(loaded.page.IsLast(), &step == &steps.back()) << step.source;
         loaded.page.Next();
     }
@@ -69,12 +63,11 @@ TEST(HtmlPageTest, StepsThroughThePage) {
 }
 
 /// However many tokens are read ahead, each is asked when it is the current one.
-TEST(HtmlPageTest, ALongPageIsSteppedThroughTokenByToken) {
+TEST(HtmlParseTest, ALongPageIsSteppedThroughTokenByToken) {
     constexpr int kTags = 500;
     std::string bytes;
-    for (int i = 0; i < kTags; ++i) {
+    for (int i = 0; i < kTags; ++i)
         bytes += "<Tag" + std::to_string(i) + " a=" + std::to_string(i) + ">";
-    }
     LoadedPage loaded(bytes);
     for (int i = 0; i < kTags; ++i) {
         const std::string number = std::to_string(i);
@@ -89,7 +82,7 @@ TEST(HtmlPageTest, ALongPageIsSteppedThroughTokenByToken) {
     }
 }
 
-TEST(HtmlPageTest, AnEmptyPageHasNoToken) {
+TEST(HtmlParseTest, AnEmptyPageHasNoToken) {
     LoadedPage loaded("");
     EXPECT_TRUE(loaded.page.IsLast());
     EXPECT_FALSE(loaded.page.IsTag());
@@ -97,7 +90,7 @@ TEST(HtmlPageTest, AnEmptyPageHasNoToken) {
     EXPECT_EQ(loaded.page.Source(), "");
 }
 
-TEST(HtmlPageTest, TheLastTokenIsLastEvenWhereAScriptIsCutOff) {
+TEST(HtmlParseTest, TheLastTokenIsLastEvenWhereAScriptIsCutOff) {
     for (const std::string bytes : {"x", "<p", "<script>a", "<!-- a", "<?php", "</script>"}) {
         LoadedPage loaded(bytes);
         EXPECT_TRUE(loaded.page.IsLast()) << bytes;
@@ -105,21 +98,7 @@ TEST(HtmlPageTest, TheLastTokenIsLastEvenWhereAScriptIsCutOff) {
     }
 }
 
-TEST(HtmlPageTest, AFileThatCannotBeReadIsAnErrorAndLeavesNoPage) {
-    FakeFileSystem files;
-    files.addFile(kPath, "<p>");
-    HtmlPage page(files);
-    EXPECT_FALSE(page.LoadFile(kPath).has_value());
-    const FileOutcome outcome = page.LoadFile("/site/b.htm");
-    ASSERT_TRUE(outcome.has_value());
-    EXPECT_EQ(outcome->code, FileError::Code::NotFound);
-    EXPECT_EQ(outcome->path, "/site/b.htm");
-    EXPECT_TRUE(page.IsLast());
-    EXPECT_FALSE(page.IsTag());
-    EXPECT_EQ(page.Source(), "");
-}
-
-TEST(HtmlPageTest, CloseLetsGoOfThePage) {
+TEST(HtmlParseTest, CloseLetsGoOfThePage) {
     LoadedPage loaded("<p a=b>x");
     loaded.page.SetAttribute("a", "c");
     loaded.page.Close();
@@ -131,11 +110,10 @@ TEST(HtmlPageTest, CloseLetsGoOfThePage) {
     EXPECT_EQ(loaded.page.Attribute("a"), "");
 }
 
-TEST(HtmlPageTest, AnotherPageBeginsAtItsFirstToken) {
+TEST(HtmlParseTest, AnotherPageBeginsAtItsFirstToken) {
     LoadedPage loaded("<p>x");
     loaded.page.SetAttribute("a", "b");
-    loaded.files.addFile("/site/b.htm", "<i>y");
-    EXPECT_FALSE(loaded.page.LoadFile("/site/b.htm").has_value());
+    loaded.page.Load("<i>y");
     EXPECT_EQ(loaded.page.TagText(), "i");
 }
 
@@ -213,9 +191,8 @@ TEST(HtmlAttributeTest, AChangedValueKeepsItsQuotesAndAllOtherBytes) {
              {"<body onload=\"\">", "<body onload=\"new\">"},
              {"<body onload=x onload=y>", "<body onload=\"new\" onload=y>"},
              {"<body <? a ?> onload='<? \"' ?>' <% b %>>", "<body <? a ?> onload='new' <% b %>>"},
-         }) {
+         })
         EXPECT_EQ(withAttribute(test.tag, "onload", "new"), test.changed) << test.tag;
-    }
 }
 
 TEST(HtmlAttributeTest, AnAddedOneGoesBeforeTheClosingBracket) {
@@ -240,9 +217,8 @@ TEST(HtmlAttributeTest, AnAddedOneGoesBeforeTheClosingBracket) {
              {"<body <? b ?>>", "<body <? b ?> onload=\"new\">"},
              {"<body<? b ?>>", "<body<? b ?> onload=\"new\">"},
              {"<body xonload=b>", "<body xonload=b onload=\"new\">"},
-         }) {
+         })
         EXPECT_EQ(withAttribute(test.tag, "onload", "new"), test.changed) << test.tag;
-    }
 }
 
 TEST(HtmlAttributeTest, ItsQuoteInTheValueIsWrittenAsAReference) {
@@ -261,7 +237,7 @@ TEST(HtmlAttributeTest, ReferencesAndServerCodeInTheValueStayAsTheyAre) {
 
 TEST(HtmlAttributeTest, SeveralChangesAddUpAndCanBeRead) {
     LoadedPage loaded("<BODY onload='a'>x");
-    HtmlPage& page = loaded.page;
+    HtmlParse& page = loaded.page;
     page.SetAttribute("onload", "new;" + std::string(page.Attribute("onload")));
     page.SetAttribute("onresize", "r");
     page.SetAttribute("onload", "x");

@@ -1,10 +1,7 @@
-#include "html/html_page.h"
+#include "html/html_parse.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <limits>
-#include <utility>
 
 #include "html/html_attributes.h"
 #include "html/html_characters.h"
@@ -44,9 +41,8 @@ std::string withChangedValue(std::string_view tagText, const HtmlAttribute& attr
     // The page's end can cut the closing quote off.
     const std::size_t end = std::min(attribute.valueEnd + (hasQuotes ? 1 : 0), tagText.size());
     std::string text(tagText.substr(0, begin));
-    if (!attribute.hasEqualsSign) {
+    if (!attribute.hasEqualsSign)
         text += '=';
-    }
     text += quoted(value, hasQuotes ? attribute.quote : '"');
     return text += tagText.substr(end);
 }
@@ -57,20 +53,17 @@ std::string withAddedAttribute(std::string_view tagText, std::size_t nameEnd, st
     ServerBlocks blocks(tagText);
     HtmlAttributeReader reader(tagText, blocks, nameEnd);
     std::size_t lastEnd = nameEnd;
-    while (reader.next(last)) {
+    while (reader.next(last))
         lastEnd = reader.position();
-    }
     // A "/" that ends an unquoted value does not close the tag.
     const bool hasSlash = tagText.size() > lastEnd && tagText.back() == '/';
     const std::size_t place = tagText.size() - (hasSlash ? 1 : 0);
     std::string text(tagText.substr(0, place));
     if (lastEnd > nameEnd && last.hasEqualsSign && last.quote == '\0' &&
-        last.valueBegin == last.valueEnd) {
+        last.valueBegin == last.valueEnd)
         text += "\"\"";  // an equals sign without a value would take the new attribute for it
-    }
-    if (!isHtmlSpace(text.back())) {
+    if (!isHtmlSpace(text.back()))
         text += ' ';
-    }
     text += name;
     text += '=';
     text += quoted(value, '"');
@@ -79,41 +72,27 @@ std::string withAddedAttribute(std::string_view tagText, std::size_t nameEnd, st
 
 }  // namespace
 
-HtmlPage::HtmlPage(const FileSystem& files) : m_files(files) {
-    m_current = m_last = m_batch.data();
-}
-
-FileOutcome HtmlPage::LoadFile(const std::string& path) {
+void HtmlParse::Load(std::string_view page) {
     Close();
-    m_file.emplace(m_files.readFile(path, std::numeric_limits<std::uint64_t>::max()));
-    if (!m_file->isOk()) {
-        FileError error = m_file->error();
-        Close();
-        return error;
-    }
-    m_tokenizer.emplace(m_file->value());
-    if (!m_tokenizer->isAtEnd()) {
+    m_tokenizer.emplace(page);
+    if (!m_tokenizer->isAtEnd())
         readBatch();
-    }
-    return {};
 }
 
-std::string_view HtmlPage::TagText() const {
+std::string_view HtmlParse::TagText() const {
     return m_changed == m_current ? std::string_view(m_changedText) : m_current->inside;
 }
 
-std::string_view HtmlPage::Attribute(std::string_view name) const {
+std::string_view HtmlParse::Attribute(std::string_view name) const {
     HtmlAttribute attribute;
-    if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute)) {
+    if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute))
         return {};
-    }
     return TagText().substr(attribute.valueBegin, attribute.valueEnd - attribute.valueBegin);
 }
 
-void HtmlPage::SetAttribute(std::string_view name, std::string_view value) {
-    if (!hasAttributes()) {
+void HtmlParse::SetAttribute(std::string_view name, std::string_view value) {
+    if (!hasAttributes())
         return;
-    }
     HtmlAttribute attribute;
     m_changedText = findHtmlAttribute(TagText(), nameEnd(), name, attribute)
                         ? withChangedValue(TagText(), attribute, value)
@@ -121,11 +100,10 @@ void HtmlPage::SetAttribute(std::string_view name, std::string_view value) {
     m_changed = m_current;
 }
 
-void HtmlPage::readBatch() {
+void HtmlParse::readBatch() {
     std::size_t count = 0;
-    while (count < m_batch.size() && m_tokenizer->next(m_batch[count])) {
+    while (count < m_batch.size() && m_tokenizer->next(m_batch[count]))
         ++count;
-    }
     m_current = m_batch.data();
     m_batchEnd = m_current + count;
     m_last = m_tokenizer->isAtEnd() ? m_batchEnd - 1 : nullptr;
@@ -133,22 +111,20 @@ void HtmlPage::readBatch() {
 }
 
 /// Comments and text have none.
-bool HtmlPage::hasAttributes() const {
+bool HtmlParse::hasAttributes() const {
     return m_current->kind == HtmlToken::Kind::StartTag ||
            m_current->kind == HtmlToken::Kind::EndTag;
 }
 
-std::string_view HtmlPage::lowerCaseName() const {
+std::string_view HtmlParse::lowerCaseName() const {
     m_lowerCaseName.clear();
-    for (const char character : m_current->name) {
+    for (const char character : m_current->name)
         m_lowerCaseName += asciiLower(character);
-    }
     return m_lowerCaseName;
 }
 
-void HtmlPage::Close() {
+void HtmlParse::Close() {
     m_tokenizer.reset();
-    m_file.reset();
     m_batch[0] = {};
     m_current = m_last = m_batch.data();
     m_changed = nullptr;
