@@ -165,10 +165,9 @@ CommandActions::CommandActions(QMainWindow& window) : m_shortcuts(window) {
 }
 
 void CommandActions::Button_Update(const MenuDocument& document) {
-    for (const Switch& each : m_switches) {
+    for (const Switch& each : m_switches)
         if (hasNode(document) || !each.keepsWithoutNode)
             each.action->setEnabled(each.isUsable(document));
-    }
 }
 
 void CommandActions::addEntry(QMenu& menu, const Command& command) {

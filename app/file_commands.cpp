@@ -198,9 +198,8 @@ void FileCommands::ShowPreview() {
 
 void FileCommands::UpdatePreview() {
     if (GenerateScript(m_document.content()) != m_previewedScript ||
-        m_document.SavePath() != m_previewedFolder) {
+        m_document.SavePath() != m_previewedFolder)
         loadPreview();
-    }
 }
 
 void FileCommands::loadPreview() {

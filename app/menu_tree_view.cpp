@@ -181,10 +181,9 @@ void MenuTreeView::foldBranch(const QModelIndex& index) {
 // A reset view has every node collapsed.
 void MenuTreeView::showExpansion() {
     const MenuTree& tree = m_document.tree();
-    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node))
         if (node->isExpanded)
             setExpanded(m_model.indexOf(node), true);
-    }
 }
 
 int MenuTreeView::indentOf(const MenuNode& node) const {

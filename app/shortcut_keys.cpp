@@ -44,10 +44,9 @@ bool ShortcutKeys::eventFilter(QObject* watched, QEvent* event) {
 const ShortcutKeys::Shortcut* ShortcutKeys::shortcutOf(const QKeyEvent& key) const {
     const QKeySequence sequence(
         QKeyCombination(key.modifiers() & ~Qt::KeypadModifier, Qt::Key(key.key())));
-    for (const Shortcut& shortcut : m_shortcuts) {
+    for (const Shortcut& shortcut : m_shortcuts)
         if (shortcut.keys == sequence)
             return &shortcut;
-    }
     return nullptr;
 }
 

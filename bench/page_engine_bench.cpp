@@ -56,12 +56,11 @@ std::string Grown(const std::string& page, std::size_t wantedBytes) {
     std::size_t begin = std::string::npos;
     std::size_t end = std::string::npos;
     zev::HtmlTokenizer tokenizer(page);
-    for (zev::HtmlToken token; tokenizer.next(token);) {
+    for (zev::HtmlToken token; tokenizer.next(token);)
         if (begin == std::string::npos && (token.name == "body" || token.name == "BODY"))
             begin = token.offset + token.source.size();
         else if (token.name == "/body" || token.name == "/BODY")
             end = token.offset;
-    }
     if (begin == std::string::npos || end == std::string::npos || begin >= end)
         return {};
     std::string grown = page.substr(0, begin);
@@ -171,10 +170,11 @@ int main(int argumentCount, char** arguments) {
                                      std::cref(corpus));
     }
     for (const zev::HostilePage& hostile : zev::kHostilePages) {
-        benchmark::RegisterBenchmark(
-            ("RewriteHostilePage/" + hostile.name).c_str(), [&hostile](benchmark::State& state) {
-                RewritePages(state, {zev::hostilePage(hostile, kHostilePageBytes)});
-            });
+        benchmark::RegisterBenchmark(("RewriteHostilePage/" + hostile.name).c_str(),
+                                     [&hostile](benchmark::State& state) {
+                                         RewritePages(
+                                             state, {zev::hostilePage(hostile, kHostilePageBytes)});
+                                     });
     }
     argumentCount -= 2;
     arguments += 2;

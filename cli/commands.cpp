@@ -50,10 +50,9 @@ ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
     const ImportResult result = ImportMenu(*options.format, bytes.value(), content);
     if (!writeDefinition(files, options.output, content))
         return ExitStatus::FileProblem;
-    if (options.isVerbose) {
+    if (options.isVerbose)
         for (const LineWarning& warning : result.warnings)
             std::cerr << "line " << warning.line << ": " << ReasonText(warning.reason) << '\n';
-    }
     const std::size_t warningCount = result.warnings.size();
     std::cerr << "Finished importing " << options.input << ". " << warningCount
               << " warnings encountered.\n";

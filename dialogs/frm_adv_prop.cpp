@@ -80,8 +80,8 @@ QGroupBox* frmAdvProp::makeFilterFrame() {
 
 QBoxLayout* frmAdvProp::makeButtonRow() {
     auto* row = new QHBoxLayout;
-    row->addWidget(
-        makeButton("cmdCopy", tr("Cop&y Menu Properties"), this, [this] { cmdCopy_Click(); }));
+    row->addWidget(makeButton(
+        "cmdCopy", tr("Cop&y Menu Properties"), this, [this] { cmdCopy_Click(); }));
     row->addWidget(
         makeButton("cmdPaste", tr("&Paste Menu Properties"), this, [this] { cmdPaste_Click(); }));
     addClosingButtons(row);

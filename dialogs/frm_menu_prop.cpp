@@ -24,10 +24,10 @@ frmMenuProp::frmMenuProp(const DialogHost& host, const frmDefaultProp& defaults,
                                  FrameFont, [this] { cmdFontClear_Click(); }));
     addPreviews(FrameFont);
     right->addWidget(FrameFont, 1);
-    left->addWidget(
-        makeButton("cmdCopy", tr("Cop&y Menu Properties"), this, [this] { cmdCopy_Click(); }));
-    left->addWidget(
-        makeButton("cmdPaste", tr("&Paste Menu Properties"), this, [this] { cmdPaste_Click(); }));
+    left->addWidget(makeButton(
+        "cmdCopy", tr("Cop&y Menu Properties"), this, [this] { cmdCopy_Click(); }));
+    left->addWidget(makeButton(
+        "cmdPaste", tr("&Paste Menu Properties"), this, [this] { cmdPaste_Click(); }));
     QPushButton* cmdAdvanced =
         makeButton("cmdAdvanced", tr("Ad&vanced"), this, [this] { cmdAdvanced_Click(); });
     cmdAdvanced->setToolTip(tr("Advanced menu configuration options"));

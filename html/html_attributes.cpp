@@ -7,11 +7,10 @@ bool findHtmlAttribute(std::string_view tag, std::size_t position, std::string_v
                        HtmlAttribute& attribute) {
     ServerBlocks blocks(tag);
     HtmlAttributeReader reader(tag, blocks, position);
-    while (reader.next(attribute)) {
+    while (reader.next(attribute))
         if (equalsIgnoringCase(
                 tag.substr(attribute.nameBegin, attribute.nameEnd - attribute.nameBegin), name))
             return true;
-    }
     return false;
 }
 

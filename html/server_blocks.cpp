@@ -62,10 +62,9 @@ std::size_t ServerBlocks::endOfComment(std::size_t lessThan) {
 /// The end of the comment that begins at this offset; npos without one.
 std::size_t ServerBlocks::endOfPaired(std::size_t begin) {
     // Whoever reads a page asks in its order: then it is the comment asked for last or the next.
-    for (int i = 0; i < 2 && m_nextComment < m_comments.size(); ++i, ++m_nextComment) {
+    for (int i = 0; i < 2 && m_nextComment < m_comments.size(); ++i, ++m_nextComment)
         if (m_comments[m_nextComment].begin == begin)
             return m_comments[m_nextComment].end;
-    }
     const auto found = std::lower_bound(
         m_comments.begin(), m_comments.end(), begin,
         [](const Comment& comment, std::size_t offset) { return comment.begin < offset; });

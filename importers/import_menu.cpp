@@ -41,8 +41,7 @@ const ImportFormat* findImportFormat(std::string_view name) {
     return found == std::end(kFormats) ? nullptr : found;
 }
 
-ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes,
-                        MenuContent& content) {
+ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes, MenuContent& content) {
     DefinitionLines lines(bytes);
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.

@@ -190,10 +190,9 @@ std::string RewritePage(std::string_view page, const RewriteOptions& options,
 std::size_t CountDroppedScripts(std::string_view page) {
     std::size_t count = 0;
     HtmlParse parser;
-    for (parser.Load(page); !parser.IsLast(); parser.Next()) {
+    for (parser.Load(page); !parser.IsLast(); parser.Next())
         if (parser.TagName() == "script" && !namesJavaScript(parser))
             ++count;
-    }
     return count;
 }
 

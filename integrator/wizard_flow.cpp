@@ -4,8 +4,8 @@
 
 #include "script/relative_url.h"
 #include "text/ascii.h"
-#include "text/pattern.h"
 #include "text/path.h"
+#include "text/pattern.h"
 
 namespace zev {
 

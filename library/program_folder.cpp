@@ -80,10 +80,9 @@ FileResult<std::string> findInstalledFolder(const FileSystem& files,
                                             const std::string& executable) {
     const std::string ownFolder = folderOf(executable);
     const std::string sharedFolder = joinPath(folderOf(ownFolder), "share/zevmenu-creator");
-    for (const std::string& folder : {ownFolder, sharedFolder}) {
+    for (const std::string& folder : {ownFolder, sharedFolder})
         if (files.FileExists(joinPath(folder, kLibraryFiles.front())))
             return folder;
-    }
     return FileError{FileError::Code::NotFound, joinPath(sharedFolder, kLibraryFiles.front()),
                      "No such file or directory"};
 }

@@ -13,10 +13,9 @@ MenuContent::MenuContent() : RootMenuProp(*NewItemMenuProp()) {
 const SharedMenuProp& NewItemMenuProp() {
     static const SharedMenuProp shared = [] {
         MenuProp prop;
-        for (const MenuPropertyRow& row : kMenuProperties) {
+        for (const MenuPropertyRow& row : kMenuProperties)
             if (const auto* const text = std::get_if<TextMember>(&row.member))
                 prop.*text->member = text->starting;
-        }
         return prop;
     }();
     return shared;

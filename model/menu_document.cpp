@@ -69,10 +69,9 @@ Change MenuDocument::perform(InsertBranch&& change) {
 Change MenuDocument::perform(RemoveBranch&& change) {
     const MenuNode& doomed = *change.node;
     NodeSelection selection = change.selection.value_or(NodeSelection{&doomed, &doomed});
-    for (const MenuNode** node : {&selection.selected, &selection.current}) {
+    for (const MenuNode** node : {&selection.selected, &selection.current})
         if (isInBranch(*node, doomed))
             *node = heirOf(doomed);
-    }
     // Before the removal, so that nobody who is told of it meets a dead node.
     const NodeSelection before = std::exchange(m_selection, selection);
     const MenuNode* const parent = doomed.parent();

@@ -101,10 +101,9 @@ inline constexpr auto kMenuProperties = [] {
 
 /// The row of a name; null when no property has it.
 constexpr const MenuPropertyRow* findMenuProperty(std::string_view name) {
-    for (const MenuPropertyRow& row : kMenuProperties) {
+    for (const MenuPropertyRow& row : kMenuProperties)
         if (row.name == name)
             return &row;
-    }
     return nullptr;
 }
 

@@ -84,10 +84,9 @@ const MenuNode* MenuTree::nextInTreeOrder(const MenuNode& node) const {
 }
 
 bool MenuTree::isVisible(const MenuNode& node) const {
-    for (const MenuNode* ancestor = node.m_parent; ancestor; ancestor = ancestor->m_parent) {
+    for (const MenuNode* ancestor = node.m_parent; ancestor; ancestor = ancestor->m_parent)
         if (!ancestor->isExpanded)
             return false;
-    }
     return true;
 }
 

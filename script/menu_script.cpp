@@ -100,7 +100,7 @@ class MenuScriptReader {
     bool addItem(ItemProp&& item) {
         std::string text = item.IsRollover ? item.ImageOut : item.Caption;
         if (m_content.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
-                                   std::move(text), std::move(item)))
+                                  std::move(text), std::move(item)))
             return true;
         warn(Reason::DuplicateKey);
         return false;

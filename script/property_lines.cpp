@@ -42,10 +42,9 @@ void assign(const FlagMember& flag, MenuProp& prop, std::string_view value) {
 
 void assign(const PositionMember& position, MenuProp& prop, std::string_view value) {
     prop.*position.member = 0;
-    for (std::int16_t side = 1; side < std::ssize(kPositionWords); ++side) {
+    for (std::int16_t side = 1; side < std::ssize(kPositionWords); ++side)
         if (kPositionWords[side] == value)
             prop.*position.member = side;
-    }
 }
 
 /// True when the property is set, and not to what it would be without a line.
@@ -110,10 +109,9 @@ void appendLine(std::string& text, std::string_view object, const MenuPropertyRo
 
 std::string GetDefaultText(const MenuProp& prop) {
     std::string text;
-    for (const MenuPropertyRow& row : kMenuProperties) {
+    for (const MenuPropertyRow& row : kMenuProperties)
         if (isWritten(row.inDefaults, row, prop, prop))
             appendLine(text, "zev_state.", row, prop);
-    }
     return text;
 }
 

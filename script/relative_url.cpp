@@ -72,10 +72,9 @@ std::string ToRelativeURL(std::string_view base, std::string_view path) {
     }
 
     std::string url;
-    for (const char c : folderRest) {
+    for (const char c : folderRest)
         if (c == separator)
             url += kParentStep;
-    }
     url += path;
     std::replace(url.begin(), url.end(), separator, '/');
     return url;

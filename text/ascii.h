@@ -26,8 +26,9 @@ constexpr bool isAsciiDigit(char character) {
 
 /// Equality without the case of ASCII letters.
 inline bool equalsIgnoringCase(std::string_view left, std::string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return asciiLower(a) == asciiLower(b); });
+    return std::equal(
+        left.begin(), left.end(), right.begin(), right.end(),
+        [](char a, char b) { return asciiLower(a) == asciiLower(b); });
 }
 
 /// `text` without the space characters at both ends. Only U+0020 counts: a tab stays.

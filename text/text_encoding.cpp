@@ -50,10 +50,9 @@ std::size_t SequenceLength(std::string_view bytes, std::size_t offset) {
     const std::uint8_t second = ByteAt(bytes, offset + 1);
     if (second < lowest || second > highest)
         return 0;
-    for (std::size_t i = 2; i < length; ++i) {
+    for (std::size_t i = 2; i < length; ++i)
         if ((ByteAt(bytes, offset + i) & 0xC0) != 0x80)
             return 0;
-    }
     return length;
 }
 

@@ -61,11 +61,10 @@ bool copyExtendedAttributes(const std::string& path, int descriptor) {
         [&](char* buffer, std::size_t size) { return ::flistxattr(descriptor, buffer, size); });
     const std::vector<std::string> wantedNames = splitNames(*wanted);
     // A new file may have inherited an access control list from its folder.
-    for (const std::string& name : splitNames(present.value_or(""))) {
+    for (const std::string& name : splitNames(present.value_or("")))
         if (std::find(wantedNames.begin(), wantedNames.end(), name) == wantedNames.end() &&
             !isKeptBySystem(name) && ::fremovexattr(descriptor, name.c_str()) != 0)
             return false;
-    }
     for (const std::string& name : wantedNames) {
         const auto value = readGrowing([&](char* buffer, std::size_t size) {
             return ::getxattr(path.c_str(), name.c_str(), buffer, size);

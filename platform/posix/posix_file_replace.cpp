@@ -205,10 +205,9 @@ FileOutcome replaceFile(const std::string& path, std::string_view bytes,
     } else {
         const std::vector<std::string> oldCopies = clearLeftovers(target, leftovers);
         outcome = replaceRegularFile(target, bytes);
-        if (!outcome) {
+        if (!outcome)
             for (const std::string& copy : oldCopies)
                 removeLeftover(copy);
-        }
     }
     if (outcome) {
         outcome->path = path;  // the name the caller knows, not where its links lead

@@ -88,10 +88,9 @@ bool readUntil(int pipe, Clock::time_point deadline, std::string& output) {
 
 int waitFor(pid_t child) {
     int status = 0;
-    while (::waitpid(child, &status, 0) < 0) {
+    while (::waitpid(child, &status, 0) < 0)
         if (errno != EINTR)
             return -1;
-    }
     return status;
 }
 

@@ -91,10 +91,9 @@ std::size_t markIn(std::string_view name) {
 std::vector<std::string> pathsOf(const std::string& folder, const std::vector<std::string>& names,
                                  std::string_view prefix) {
     std::vector<std::string> paths;
-    for (const std::string& name : names) {
+    for (const std::string& name : names)
         if (std::string_view(name).substr(0, markIn(name) + kMark.size()) == prefix)
             paths.push_back(folder + "/" + name);
-    }
     return paths;
 }
 

@@ -15,25 +15,19 @@ namespace zev {
 #ifdef Q_OS_LINUX
 
 bool CanStartBrowser() {
-    if (qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") != 0) {
+    if (qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") != 0)
         return true;
-    }
-    if (geteuid() == 0) {
+    if (geteuid() == 0)
         return false;
-    }
     const pid_t child = fork();
-    if (child < 0) {
+    if (child < 0)
         return false;
-    }
-    if (child == 0) {
+    if (child == 0)
         _exit(unshare(CLONE_NEWUSER) == 0 ? 0 : 1);
-    }
     int status = 0;
-    while (waitpid(child, &status, 0) < 0) {
-        if (errno != EINTR) {
+    while (waitpid(child, &status, 0) < 0)
+        if (errno != EINTR)
             return false;
-        }
-    }
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 

@@ -6,14 +6,11 @@
 namespace zev {
 
 QWidget* ParentWindow() {
-    if (QWidget* active = QApplication::activeWindow(); active != nullptr) {
+    if (QWidget* active = QApplication::activeWindow(); active != nullptr)
         return active;
-    }
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible()) {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
             return window;
-        }
-    }
     return nullptr;
 }
 

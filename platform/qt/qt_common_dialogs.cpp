@@ -50,13 +50,12 @@ void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QStrin
     dialog.selectNameFilter(filters.value(request.filterIndex - 1));
 
     const QFileInfo preset(QString::fromStdString(request.fileName));
-    if (preset.isAbsolute()) {
+    if (preset.isAbsolute())
         dialog.setDirectory(preset.absolutePath());
-    } else if (!request.folder.empty()) {
+    else if (!request.folder.empty())
         dialog.setDirectory(QString::fromStdString(request.folder));
-    } else if (!lastFolder.isEmpty()) {
+    else if (!lastFolder.isEmpty())
         dialog.setDirectory(lastFolder);
-    }
     dialog.selectFile(preset.fileName());
     ShowWholeColumns(dialog);
 }
@@ -209,9 +208,8 @@ std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
     while (dialog.exec() == QDialog::Accepted) {
         const QString path = dialog.selectedFiles().value(0);
         if (!request.asksBeforeReplacing || !QFileInfo::exists(path) ||
-            MayReplace(ParentWindow(), path)) {
+            MayReplace(ParentWindow(), path))
             return ChosenFile(dialog, m_lastFolder);
-        }
     }
     return {};
 }

@@ -18,15 +18,12 @@ QtHelpViewer::~QtHelpViewer() {
 
 void QtHelpViewer::show(const std::string& path) {
     const QString page = QString::fromStdString(path);
-    if (!QFileInfo::exists(page)) {
+    if (!QFileInfo::exists(page))
         return;
-    }
-    if (m_window == nullptr) {
+    if (m_window == nullptr)
         makeWindow();
-    }
-    if (m_webView != nullptr) {
+    if (m_webView != nullptr)
         m_webView->load(page);
-    }
     m_window->show();
     m_window->raise();
     m_window->activateWindow();

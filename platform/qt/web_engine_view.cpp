@@ -27,37 +27,35 @@ void drawWithoutOpenGL() {
     QQuickWindow::setSceneGraphBackend("software");
     // The engine reads the shared context's format without asking whether there is one. A context
     // that was never created has one, and tells it not to use OpenGL.
-    if (QOpenGLContext::globalShareContext() == nullptr) {
+    if (QOpenGLContext::globalShareContext() == nullptr)
         qt_gl_set_global_share_context(new QOpenGLContext);
-    }
 }
 
 /// Tells the engine when the desktop's theme is dark, which it does not ask for by itself: the
 /// manual, and pages that have a dark look, follow.
 void followTheme() {
     constexpr const char* kFlags = "QTWEBENGINE_CHROMIUM_FLAGS";
-    if (QGuiApplication::palette().color(QPalette::Base).lightness() < 128) {
+    if (QGuiApplication::palette().color(QPalette::Base).lightness() < 128)
         qputenv(kFlags, qgetenv(kFlags) + " --blink-settings=preferredColorScheme=0");
-    }
 }
 
 }  // namespace
 
 WebEnginePage::WebEnginePage(QWebEngineProfile* profile, const WebView& owner)
     : QWebEnginePage(profile), m_owner(owner) {
-    connect(this, &QWebEnginePage::newWindowRequested, this,
-            [this](QWebEngineNewWindowRequest& request) {
-                m_owner.linkRefused(request.requestedUrl().toString());
-            });
+    connect(
+        this, &QWebEnginePage::newWindowRequested, this,
+        [this](QWebEngineNewWindowRequest& request) {
+            m_owner.linkRefused(request.requestedUrl().toString());
+        });
 }
 
 bool WebEnginePage::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame) {
     const bool isHome = url.adjusted(QUrl::RemoveFragment) == m_home;
     const bool isFollowed =
         url.isLocalFile() && m_owner.localLinks == WebView::LocalLinks::Followed;
-    if (!isMainFrame || isHome || isFollowed) {
+    if (!isMainFrame || isHome || isFollowed)
         return true;
-    }
     m_owner.linkRefused(url.toString());
     return false;
 }

@@ -20,9 +20,8 @@ class QuietStart {
 
   private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-        if (type == QtCriticalMsg || type == QtFatalMsg) {
+        if (type == QtCriticalMsg || type == QtFatalMsg)
             previousHandler(type, context, text);
-        }
     }
 };
 

@@ -64,9 +64,8 @@ class PlainView : public EditorView {
 struct Desk {
     Desk() {
         for (const char* name :
-             {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"}) {
+             {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"})
             disk.addFile(std::string("/program/") + name, std::string("content of ") + name);
-        }
         disk.addFolder("/site");
         commands.Reset();
     }

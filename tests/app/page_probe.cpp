@@ -9,9 +9,8 @@ QVariant evaluateInPage(QWidget& widget, const QString& script) {
     static const auto function =
         reinterpret_cast<Function>(QLibrary::resolve(ZEV_PAGE_PROBE, "zevEvaluateInPage"));
     QVariant value;
-    if (function != nullptr) {
+    if (function != nullptr)
         function(&widget, &script, &value);
-    }
     return value;
 }
 

@@ -10,9 +10,8 @@ extern "C" Q_DECL_EXPORT void zevEvaluateInPage(QWidget* widget, const QString* 
 
 void zevEvaluateInPage(QWidget* widget, const QString* script, QVariant* value) {
     const auto* view = widget->findChild<QWebEngineView*>();
-    if (view == nullptr) {
+    if (view == nullptr)
         return;
-    }
     // Shared, because an answer may come after the time is up.
     const auto answer = std::make_shared<QVariant>();
     QEventLoop loop;

@@ -76,10 +76,12 @@ inline void inMenuProperties(WindowDesk& desk, const std::function<void(frmMenuP
 /// Opens Menu Properties, from there the advanced ones for `step`, and then presses `closing`.
 inline void inAdvanced(WindowDesk& desk, const char* closing,
                        const std::function<void(frmAdvProp&)>& step) {
-    inMenuProperties(desk, [&](frmMenuProp& form) {
-        during<frmAdvProp>([&] { press(form, "cmdAdvanced"); }, step);
-        press(form, closing);
-    });
+    inMenuProperties(
+        desk,
+        [&](frmMenuProp& form) {
+            during<frmAdvProp>([&] { press(form, "cmdAdvanced"); }, step);
+            press(form, closing);
+        });
 }
 
 }  // namespace zev

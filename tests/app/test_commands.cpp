@@ -23,15 +23,13 @@ struct CommandDesk {
     /// The commands that cannot be used, by name; buttons by "#" and their index.
     QString disabledOnes() {
         QStringList names;
-        for (const Command& command : CommandActions::rows()) {
+        for (const Command& command : CommandActions::rows())
             if (command.click && !window.findChild<QAction*>(command.entry.name)->isEnabled())
                 names.append(QString(command.entry.name).sliced(QString("mnuFile").size()));
-        }
         const auto buttons = window.findChild<QToolBar*>("tbToolBar")->actions();
-        for (int index = 1; index <= buttons.size(); ++index) {
+        for (int index = 1; index <= buttons.size(); ++index)
             if (!button(index).isEnabled())
                 names.append(QString("#%1").arg(index));
-        }
         return names.join(' ');
     }
 
@@ -191,10 +189,9 @@ class test_commands : public QObject {
 
     void theManualTellsTheKeyOfEveryCommand() {
         QStringList keys;
-        for (const Command& command : CommandActions::rows()) {
+        for (const Command& command : CommandActions::rows())
             if (*command.entry.shortcut != '\0')
                 keys.append(command.entry.shortcut + (": " + plain(command.entry.caption)));
-        }
         QFile manual(ZEV_HELP_FOLDER "/index.html");
         QVERIFY(manual.open(QIODevice::ReadOnly));
         QStringList told;

@@ -108,9 +108,8 @@ void test_file_commands::newAsksAboutChanges() {
         Answer(answer));
     if (Answer(answer) == Answer::Yes) {
         desk.dialogs.expectSaveFile(chosenFile.toStdString());
-        if (!chosenFile.isEmpty()) {
+        if (!chosenFile.isEmpty())
             desk.messages.expect(Desk::recalculate, Answer::No);
-        }
     }
     desk.commands.mnuFileNew_Click();
     QTEST(desk.isNewDocument(), "isReset");
@@ -141,9 +140,8 @@ void test_file_commands::exitAsksAboutChanges() {
     desk.messages.expect(Desk::saveChanges, Answer(answer));
     if (Answer(answer) == Answer::Yes) {
         desk.dialogs.expectSaveFile(chosenFile.toStdString());
-        if (!chosenFile.isEmpty()) {
+        if (!chosenFile.isEmpty())
             desk.messages.expect(Desk::recalculate, Answer::No);
-        }
     }
     QTEST(desk.commands.mnuFileExit_Click(), "isEnding");
     QCOMPARE(desk.isOnDisk("/site/menu.js"), !chosenFile.isEmpty());
@@ -311,9 +309,8 @@ void test_file_commands::saveAsPutsTheRunTimeFilesBesideTheDefinition() {
     Desk desk;
     desk.addItem("Home");
     desk.saveAs("/site/menu.js");
-    for (const char* name : {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"}) {
+    for (const char* name : {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"})
         QCOMPARE(desk.bytesOf(std::string("/site/") + name), std::string("content of ") + name);
-    }
     QCOMPARE(desk.bytesOf("/site/orlet_temp.html"), std::string("content of zevmenu.html"));
     QVERIFY(!desk.isOnDisk("/site/zevmenu.html"));
     QCOMPARE(desk.document.SavePath(), std::string("/site"));
@@ -459,15 +456,13 @@ void test_file_commands::previewOfASavedMenuWritesBesideIt() {
     Desk desk;
     desk.addItem("Home");
     desk.saveAs("/site/menu.js");
-    for (const std::string& name : kSavedBeside) {
+    for (const std::string& name : kSavedBeside)
         desk.disk.DeleteFile("/site/" + name);
-    }
     const std::string saved = desk.bytesOf("/site/menu.js");
     desk.addItem("Not saved yet");
     desk.commands.ShowPreview();
-    for (const std::string& name : kSavedBeside) {
+    for (const std::string& name : kSavedBeside)
         QVERIFY2(desk.isOnDisk("/site/" + name), name.c_str());
-    }
     QVERIFY(desk.bytesOf("/site/orlet_temp.js").find("Not saved yet") != std::string::npos);
     QCOMPARE(desk.bytesOf("/site/menu.js"), saved);
     QVERIFY(!desk.isOnDisk("/program/orlet_temp.js"));

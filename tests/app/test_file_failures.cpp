@@ -64,9 +64,8 @@ std::string copyProblem(const std::string& path) {
 
 void addEachOperation() {
     QTest::addColumn<std::size_t>("operation");
-    for (std::size_t operation = 1; operation <= kDefinitionWrite; ++operation) {
+    for (std::size_t operation = 1; operation <= kDefinitionWrite; ++operation)
         QTest::addRow("operation %zu", operation) << operation;
-    }
 }
 
 }  // namespace
@@ -114,9 +113,8 @@ void test_file_failures::aFileThatCannotBeOpenedLeavesTheDocument() {
     desk.disk.addFile("/site/locked.js", "zevmenu = new ZEVMenu('0');");
     desk.files.failPath("/site/locked.js",
                         {FileError::Code::NoPermission, "", "Permission denied"});
-    if (path == "/site/huge.js") {
+    if (path == "/site/huge.js")
         desk.disk.addFile("/site/huge.js", std::string(kMaxDefinitionBytes + 1, ' '));
-    }
     desk.disk.addFile("/site/picture.js", std::string("zevmenu\0GIF", 11));
     desk.view.panelCaption = "typed a moment ago";
     const Snapshot before(desk);
@@ -229,9 +227,8 @@ void test_file_failures::aFailedSaveAsTakesBackRecalculatedURLs() {
     desk.disk.setWritable("/other", false);
     desk.dialogs.expectSaveFile("/other/menu.js");
     desk.messages.expect(Desk::recalculate, Answer::Yes);
-    for (const std::string& name : kCopies) {
+    for (const std::string& name : kCopies)
         desk.messages.expect(copyProblem("/other/" + name));
-    }
     desk.messages.expect("Could not save /other/menu.js: Permission denied");
     desk.commands.mnuFileSaveAs_Click();
     QVERIFY(first.item == before);
@@ -262,9 +259,8 @@ void test_file_failures::aFolderThatCannotBeWrittenIsReportedForEachFile() {
     Desk desk;
     makeChangedMenu(desk);
     desk.disk.setWritable("/site", false);
-    for (const std::string& name : kCopies) {
+    for (const std::string& name : kCopies)
         desk.messages.expect(copyProblem("/site/" + name));
-    }
     desk.messages.expect("Could not save /site/menu.js: Permission denied");
     desk.commands.mnuFileSave_Click();
     QVERIFY(desk.document.bModified());
@@ -280,11 +276,10 @@ void test_file_failures::aFailedSaveKeepsNewAndExitFromLosingTheMenu() {
         desk.dialogs.expectSaveFile("/site/menu.js");
         desk.messages.expect(Desk::recalculate, Answer::No);
         desk.messages.expect("Could not save /site/menu.js: No space left on device");
-        if (isExit) {
+        if (isExit)
             QVERIFY(!desk.commands.mnuFileExit_Click());
-        } else {
+        else
             desk.commands.mnuFileNew_Click();
-        }
         QVERIFY(Snapshot(desk) == before);
         QCOMPARE(desk.document.tree().size(), std::size_t{2});
     }

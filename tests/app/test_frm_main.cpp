@@ -99,19 +99,17 @@ class test_frm_main : public QObject {
     void everyIconDrawsSomethingAndPalesWhenDisabled() {
         WindowDesk desk;
         QList<QIcon> icons;
-        for (const QAction* action : desk.window.findChild<QToolBar*>("tbToolBar")->actions()) {
+        for (const QAction* action : desk.window.findChild<QToolBar*>("tbToolBar")->actions())
             if (!action->isSeparator())
                 icons.append(action->icon());
-        }
         for (const char* name : {"cmdCaptionImg", "cmdURL", "cmdImgOut", "cmdImgOver"})
             icons.append(desk.button(name).icon());
         const auto ink = [](const QIcon& icon, QIcon::Mode mode) {
             const QImage image = icon.pixmap(QSize(24, 24), mode).toImage();
             int sum = 0;
-            for (int y = 0; y < image.height(); ++y) {
+            for (int y = 0; y < image.height(); ++y)
                 for (int x = 0; x < image.width(); ++x)
                     sum += image.pixelColor(x, y).alpha();
-            }
             return sum;
         };
         for (const QIcon& icon : icons) {
@@ -293,10 +291,9 @@ class test_frm_main : public QObject {
         QCOMPARE(desk.document().SavePath(), "/program");
         QVERIFY(!desk.document().bModified());
         QStringList disabled;
-        for (const QAction* action : desk.window.findChildren<QAction*>()) {
+        for (const QAction* action : desk.window.findChildren<QAction*>())
             if (!action->isEnabled() && !action->objectName().isEmpty())
                 disabled.append(action->objectName());
-        }
         disabled.sort();
         QCOMPARE(disabled.join(' '),
                  "mnuEditAddSubmenuItem mnuEditDelete mnuEditMenuProperties mnuEditMoveDown "

@@ -26,15 +26,13 @@ const char* const kPageFilter =
 /// The panel's controls that cannot be used, without their prefixes.
 QString disabledControls(WindowDesk& desk) {
     QStringList names;
-    for (const QString& name : kFields) {
+    for (const QString& name : kFields)
         if (!desk.field(name).isEnabled())
             names.append(name);
-    }
     for (const char* name :
-         {"cmdCaptionImg", "cmdURL", "cmdImgOut", "cmdImgOver", "optNormal", "optRollover"}) {
+         {"cmdCaptionImg", "cmdURL", "cmdImgOut", "cmdImgOver", "optNormal", "optRollover"})
         if (!desk.button(name).isEnabled())
             names.append(name);
-    }
     return names.join(' ');
 }
 

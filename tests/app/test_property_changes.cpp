@@ -218,10 +218,12 @@ class test_property_changes : public QObject {
         desk.add("a");
         desk.clickTab("Preview");
         QCOMPARE(desk.browser.recorded().size(), std::size_t(1));
-        inDefaults(desk, [](frmDefaultProp& form) {
-            typeInto(form, "txtHBgColor", "#ABCDEF");
-            press(form, "cmdCancel");
-        });
+        inDefaults(
+            desk,
+            [](frmDefaultProp& form) {
+                typeInto(form, "txtHBgColor", "#ABCDEF");
+                press(form, "cmdCancel");
+            });
         inMenuProperties(desk, [](frmMenuProp& form) { press(form, "cmdOK"); });
         QCOMPARE(desk.browser.recorded().size(), std::size_t(1));
         inDefaults(desk, [](frmDefaultProp& form) {

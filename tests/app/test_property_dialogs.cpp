@@ -119,10 +119,12 @@ class test_property_dialogs : public QObject {
     void eachDialogStaysInFrontOfTheWindowItWasOpenedFrom() {
         WindowDesk desk;
         desk.add("a");
-        inDefaults(desk, [&](frmDefaultProp& form) {
-            QCOMPARE(form.windowHandle()->transientParent(), desk.window.windowHandle());
-            press(form, "cmdCancel");
-        });
+        inDefaults(
+            desk,
+            [&](frmDefaultProp& form) {
+                QCOMPARE(form.windowHandle()->transientParent(), desk.window.windowHandle());
+                press(form, "cmdCancel");
+            });
         inMenuProperties(desk, [&](frmMenuProp& form) {
             QCOMPARE(form.windowHandle()->transientParent(), desk.window.windowHandle());
             during<frmAdvProp>([&] { press(form, "cmdAdvanced"); },
@@ -140,10 +142,12 @@ class test_property_dialogs : public QObject {
         desk.add("a");
         std::set<QWidget*> shown;
         for (int round = 0; round < 2; ++round) {
-            inDefaults(desk, [&](frmDefaultProp& form) {
-                shown.insert(&form);
-                press(form, "cmdOK");
-            });
+            inDefaults(
+                desk,
+                [&](frmDefaultProp& form) {
+                    shown.insert(&form);
+                    press(form, "cmdOK");
+                });
             inMenuProperties(desk, [&](frmMenuProp& form) {
                 shown.insert(&form);
                 during<frmAdvProp>([&] { press(form, "cmdAdvanced"); },

@@ -29,11 +29,10 @@ bool hasStyle(const QString& family, bool isItalic, bool isBold) {
 
 /// A family with a plain, an italic, a bold and a bold italic style.
 std::string existingFamily() {
-    for (const QString& family : QFontDatabase::families()) {
+    for (const QString& family : QFontDatabase::families())
         if (hasStyle(family, false, false) && hasStyle(family, true, false) &&
             hasStyle(family, false, true) && hasStyle(family, true, true))
             return family.toStdString();
-    }
     qFatal("no font family with all styles is installed");
 }
 
@@ -133,10 +132,9 @@ void test_qt_choosers::theFontDialogStartsWithTheSystemsFontWhenToldNone() {
 
 void test_qt_choosers::aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay_data() {
     QTest::addColumn<QString>("family");
-    for (const QString& family : QFontDatabase::families()) {
+    for (const QString& family : QFontDatabase::families())
         if (hasStyle(family, false, false))
             QTest::newRow(qPrintable(family)) << family;
-    }
 }
 
 void test_qt_choosers::aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay() {

@@ -22,9 +22,8 @@ void typeName(QFileDialog& dialog, const QString& name) {
     auto* field = dialog.findChild<QLineEdit*>("fileNameEdit");
     field->setFocus();
     field->selectAll();
-    for (const QChar character : name) {
+    for (const QChar character : name)
         QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, character, Qt::NoModifier);
-    }
     QTest::keyClick(field, Qt::Key_Return);
 }
 

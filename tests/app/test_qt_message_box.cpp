@@ -30,19 +30,17 @@ using Buttons = MessageRequest::Buttons;
 
 /// The button that shows and hides the details; null when there is none.
 QAbstractButton* detailsButton(const QMessageBox& box) {
-    for (QAbstractButton* button : box.buttons()) {
+    for (QAbstractButton* button : box.buttons())
         if (box.buttonRole(button) == QMessageBox::ActionRole)
             return button;
-    }
     return nullptr;
 }
 
 /// The label that the person sees.
 QLabel* shownLabel(const QMessageBox& box) {
-    for (QLabel* label : box.findChildren<QLabel*>()) {
+    for (QLabel* label : box.findChildren<QLabel*>())
         if (label->isVisible() && label->text() == box.text())
             return label;
-    }
     return nullptr;
 }
 
@@ -51,10 +49,9 @@ bool hasInk(const QImage& picture, const QRect& part) {
     const QRect inside = part.intersected(picture.rect());
     const QRgb background = picture.pixel(inside.topLeft());
     for (int y = inside.top(); y <= inside.bottom(); ++y) {
-        for (int x = inside.left(); x <= inside.right(); ++x) {
+        for (int x = inside.left(); x <= inside.right(); ++x)
             if (picture.pixel(x, y) != background)
                 return true;
-        }
     }
     return false;
 }

@@ -122,10 +122,9 @@ class ExpectedMenu {
         return row;
     }
     std::size_t parentOf(std::size_t row) const {
-        for (std::size_t up = row; up-- > 0;) {
+        for (std::size_t up = row; up-- > 0;)
             if (m_items[up].level < m_items[row].level)
                 return up;
-        }
         return kNone;
     }
     std::size_t previousOf(std::size_t row) const {

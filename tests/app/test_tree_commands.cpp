@@ -55,10 +55,9 @@ class test_tree_commands : public QObject {
             const QImage picture = desk.tree().viewport()->grab().toImage();
             const QRgb back = picture.pixel(0, picture.height() - 1);
             for (int y = picture.height() / 3; y < picture.height(); ++y) {
-                for (int x = 0; x < picture.width(); ++x) {
+                for (int x = 0; x < picture.width(); ++x)
                     if (picture.pixel(x, y) != back)
                         return true;
-                }
             }
             return false;
         };

@@ -28,9 +28,8 @@ bool isEngineLoaded() {
 
 QString write(const QTemporaryDir& folder, const QString& name, const QByteArray& bytes) {
     QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
     return file.fileName();
 }
 
@@ -82,9 +81,8 @@ class test_web_views : public QObject {
 
 // The superuser cannot have the engine's sandbox, and the engine ends a program without one.
 void test_web_views::whereTheEngineWouldEndTheProgramANoteSaysWhatToDo() {
-    if (geteuid() != 0) {
+    if (geteuid() != 0)
         QSKIP("only the superuser is sure to be refused");
-    }
     const QByteArray previous = qgetenv("QTWEBENGINE_DISABLE_SANDBOX");
     qunsetenv("QTWEBENGINE_DISABLE_SANDBOX");
     QTemporaryDir folder;
@@ -269,9 +267,8 @@ void test_web_views::theMenuOfThePreviewOpensAndIsDrawn_data() {
 void test_web_views::theMenuOfThePreviewOpensAndIsDrawn() {
     QFETCH(QString, zoom);
     QTemporaryDir folder;
-    for (const QString name : {"zevmenu_loader.js", "zevmenu_dom.js", "zevmenu.html"}) {
+    for (const QString name : {"zevmenu_loader.js", "zevmenu_dom.js", "zevmenu.html"})
         QVERIFY(QFile::copy(ZEV_RUNTIME_FOLDER "/" + name, folder.filePath(name)));
-    }
     write(folder, "orlet_temp.js",
           "zevmenu = new ZEVMenu('0'); zevmenu.columns = 2; zevmenu.nbgcolor = '#336699';"
           "zevmenu.position = 'bottom';"

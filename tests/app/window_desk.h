@@ -89,10 +89,9 @@ struct WindowDesk {
     }
     void clickTab(const QString& caption) {
         QTabBar* bar = tabs().tabBar();
-        for (int tab = 0; tab < bar->count(); ++tab) {
+        for (int tab = 0; tab < bar->count(); ++tab)
             if (bar->tabText(tab) == caption)
                 QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
-        }
     }
     /// Clicks into a field and replaces its text, key by key. The field keeps the focus.
     void type(const QString& name, const QString& text) {
@@ -116,10 +115,9 @@ struct WindowDesk {
     }
     /// The in-place editor of the tree; null when none is open.
     QLineEdit* labelEditor() {
-        for (auto* editor : tree().viewport()->findChildren<QLineEdit*>()) {
+        for (auto* editor : tree().viewport()->findChildren<QLineEdit*>())
             if (!editor->isHidden())
                 return editor;
-        }
         return nullptr;
     }
     /// Opens the in-place editor of a node and types `text` over the label. It stays open.

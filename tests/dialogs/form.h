@@ -107,10 +107,9 @@ class Form {
     /// The labels that name a control, without access keys.
     QStringList labelsOf(const QWidget& control) {
         QStringList labels;
-        for (const QLabel* label : m_dialog.findChildren<QLabel*>()) {
+        for (const QLabel* label : m_dialog.findChildren<QLabel*>())
             if (label->buddy() == &control)
                 labels.append(label->text().remove('&'));
-        }
         return labels;
     }
 

@@ -40,10 +40,9 @@ QSet<QRgb> paintedColors(QWidget& swatch) {
     const QImage image = swatch.grab().toImage();
     const int border = qCeil(image.devicePixelRatio());
     QSet<QRgb> colors;
-    for (int y = border; y < image.height() - border; ++y) {
+    for (int y = border; y < image.height() - border; ++y)
         for (int x = border; x < image.width() - border; ++x)
             colors.insert(image.pixel(x, y));
-    }
     return colors;
 }
 

@@ -94,10 +94,9 @@ class test_frm_adv_prop : public QObject {
         desk.type(QTest::currentDataTag(), typed);
         desk.click("cmdOK");
         MenuProp expected = signedSet('1');
-        for (const BoxOf& box : kBoxes) {
+        for (const BoxOf& box : kBoxes)
             if (QString(box.name) == QTest::currentDataTag())
                 expected.*box.member = typed.toStdString();
-        }
         QVERIFY(!desk.form().isVisible());
         QVERIFY(desk.document.RootMenuProp() == expected);
     }

@@ -141,10 +141,9 @@ void test_import::importFile(int entry, const QString& path, const QString& warn
 
 /// Has the details shown, which are to begin with these lines, and closes the message.
 void test_import::readWarnings(QMessageBox& box, const QString& warnings) {
-    for (QAbstractButton* button : box.buttons()) {
+    for (QAbstractButton* button : box.buttons())
         if (box.buttonRole(button) == QMessageBox::ActionRole)
             QTest::mouseClick(button, Qt::LeftButton);
-    }
     const auto* details = box.findChild<QTextEdit*>();
     QVERIFY(details != nullptr && details->isVisible());
     QStringList lines;

@@ -304,28 +304,30 @@ void test_properties::everyPropertyOfTheDefaultsIsSet() {
 }
 
 void test_properties::everyPropertyOfTheTopMenuIsSet() {
-    inMenuProperties(m_two, [this](frmMenuProp& form) {
-        choosePosition(form, "Right");
-        typeAll(form, {{"txtColumns", "4"},
-                       {"txtSpacing", "12"},
-                       {"txtHBgColor", "#FFFF80"},
-                       {"txtNBgColor", "#E0E8F0"},
-                       {"txtHFtColor", "#800000"}});
-        browse(form, "top.png");
-        m_dialogs.expectChooseColor(0x403020);
-        press(form, "cmdNFtColor");
-        chooseFont(form, {"DejaVu Sans", 15, false, true});
-        fillInAdvanced(form, {{"txtDivider", "|"},
-                              {"txtHTMLBefore", "<b title='new'>*</b>&nbsp;"},
-                              {"txtHTMLAfter", "&nbsp;!"},
-                              {"txtTarget", "main"},
-                              {"txtItemBorder", "2px dashed #0000FF"},
-                              {"txtMenuBorder", "3px solid #00FF00"},
-                              {"txtCellPadding", "6"},
-                              {"txtFade", "0.5"},
-                              {"txtOpacity", "90"},
-                              {"txtShadow", "#808080"}});
-    });
+    inMenuProperties(
+        m_two,
+        [this](frmMenuProp& form) {
+            choosePosition(form, "Right");
+            typeAll(form, {{"txtColumns", "4"},
+                           {"txtSpacing", "12"},
+                           {"txtHBgColor", "#FFFF80"},
+                           {"txtNBgColor", "#E0E8F0"},
+                           {"txtHFtColor", "#800000"}});
+            browse(form, "top.png");
+            m_dialogs.expectChooseColor(0x403020);
+            press(form, "cmdNFtColor");
+            chooseFont(form, {"DejaVu Sans", 15, false, true});
+            fillInAdvanced(form, {{"txtDivider", "|"},
+                                  {"txtHTMLBefore", "<b title='new'>*</b>&nbsp;"},
+                                  {"txtHTMLAfter", "&nbsp;!"},
+                                  {"txtTarget", "main"},
+                                  {"txtItemBorder", "2px dashed #0000FF"},
+                                  {"txtMenuBorder", "3px solid #00FF00"},
+                                  {"txtCellPadding", "6"},
+                                  {"txtFade", "0.5"},
+                                  {"txtOpacity", "90"},
+                                  {"txtShadow", "#808080"}});
+        });
 }
 
 void test_properties::everyPropertyOfASubmenuIsSet() {

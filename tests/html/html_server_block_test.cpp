@@ -81,12 +81,11 @@ TEST(HtmlServerBlockTest, IsOpaqueInScripts) {
 }
 
 TEST(HtmlServerBlockTest, IsOpaqueInCommentsAndDeclarations) {
-    for (const std::string& block : kBlocks) {
+    for (const std::string& block : kBlocks)
         for (const std::string& comment :
              {"<!-- " + block + " -->", "<!--" + block + block + "-->", "<!DOCTYPE " + block + ">",
               "<!x" + block + ">", "</ " + block + ">"})
             EXPECT_EQ(drawTokens(comment + "<p>"), (Tokens{"C" + comment, "S<p>"}));
-    }
 }
 
 TEST(HtmlServerBlockTest, PhpCodeWithoutAnEndReachesToThePagesEnd) {

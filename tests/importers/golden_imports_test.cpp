@@ -29,10 +29,9 @@ constexpr Group kGroups[] = {
     {"quillmenu", ".js"}, {"orletbar", ".txt"}, {"orletmenu", ".txt"}, {"orletbutton", ".txt"}};
 
 const Group* groupOf(const std::string& caseName) {
-    for (const Group& group : kGroups) {
+    for (const Group& group : kGroups)
         if (caseName.starts_with(std::string(group.folder) + "/"))
             return &group;
-    }
     return nullptr;
 }
 

@@ -284,8 +284,7 @@ TEST_F(QuillmenuTest, ItemsMadeAfterwardsHaveKeysOfTheirOwn) {
     MenuDocument edited("/program");
     edited.open(std::move(document));
     EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
-    EXPECT_EQ(TreeTextWithKeys(edited.tree()),
-              "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
+    EXPECT_EQ(TreeTextWithKeys(edited.tree()), "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
 }
 
 }  // namespace

@@ -28,12 +28,14 @@ std::string TreeText(const MenuTree& tree, Label label) {
 }
 
 inline std::string TreeText(const MenuTree& tree) {
-    return TreeText(tree, [](const MenuNode& node) { return node.text; });
+    return TreeText(
+        tree, [](const MenuNode& node) { return node.text; });
 }
 
 /// As above with each node's key in brackets.
 inline std::string TreeTextWithKeys(const MenuTree& tree) {
-    return TreeText(tree, [](const MenuNode& node) { return node.text + " [" + node.key() + "]"; });
+    return TreeText(
+        tree, [](const MenuNode& node) { return node.text + " [" + node.key() + "]"; });
 }
 
 using Levels = std::initializer_list<std::pair<std::size_t, std::string_view>>;
@@ -52,16 +54,18 @@ void Grow(Levels nodes, Append append) {
 
 /// Builds nodes from (level, text) pairs in tree order; the text serves as the key.
 inline void Grow(MenuTree& tree, Levels nodes) {
-    Grow(nodes, [&tree](const MenuNode* parent, const std::string& text) {
-        return tree.append(parent, text, text);
-    });
+    Grow(
+        nodes, [&tree](const MenuNode* parent,
+                       const std::string& text) { return tree.append(parent, text, text); });
 }
 
 /// The same in a document, whose selection stays.
 inline void Grow(MenuDocument& document, Levels nodes) {
-    Grow(nodes, [&document](const MenuNode* parent, const std::string& text) {
-        return appendNode(document, parent, text, text);
-    });
+    Grow(
+        nodes,
+        [&document](const MenuNode* parent, const std::string& text) {
+            return appendNode(document, parent, text, text);
+        });
 }
 
 /// Checks what must hold for every tree: rows, parents, look-up by key and the number of nodes.

@@ -48,15 +48,18 @@ inline std::string ItemText(const ItemProp& item) {
 inline std::string DocumentText(const MenuContent& document) {
     return "defaults" + PropText(document.DefaultProp) + "\nroot" +
            PropText(document.RootMenuProp) + "\ncounter " + std::to_string(document.ItemCounter) +
-           "\n" + TreeText(document.tree, [](const MenuNode& node) {
-               return node.key() + " " + node.text + ": " + ItemText(node.item);
-           });
+           "\n" +
+           TreeText(
+               document.tree,
+               [](const MenuNode& node) {
+                   return node.key() + " " + node.text + ": " + ItemText(node.item);
+               });
 }
 
 /// Captions, links and images in their places, without keys and property sets.
 inline std::string ItemLines(const MenuTree& tree) {
-    return TreeText(tree,
-                    [](const MenuNode& node) { return node.text + ": " + GetText(node.item); });
+    return TreeText(
+        tree, [](const MenuNode& node) { return node.text + ": " + GetText(node.item); });
 }
 
 }  // namespace zev::test

@@ -60,10 +60,9 @@ inline bool isSettled(const MenuContent& document) {
         !isSettledLevel(defaults, MenuProp()) || !isSettledLevel(root, defaults))
         return false;
     const MenuTree& tree = document.tree;
-    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node))
         if (!isSettledLevel(*node->item.MenuProperty, defaults))
             return false;
-    }
     return true;
 }
 

@@ -42,7 +42,8 @@ inline Edit<ItemProp> editItem(MenuDocument& document, const MenuNode& node) {
 
 /// Does not mark the document.
 inline Edit<MenuProp> editMenu(MenuDocument& document, const MenuPropOwner& owner) {
-    return {document.menuProp(owner), [&document, owner](MenuProp properties) {
+    return {document.menuProp(owner),
+            [&document, owner](MenuProp properties) {
                 document.setMenuUnmarked(owner, std::move(properties));
             }};
 }

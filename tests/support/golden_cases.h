@@ -23,10 +23,9 @@ inline std::vector<std::string> caseNames(const std::string& folder) {
 /// The same for cases sorted into a folder for each group: "group/case".
 inline std::vector<std::string> groupedCaseNames(const std::string& folder) {
     std::vector<std::string> names;
-    for (const std::string& group : caseNames(folder)) {
+    for (const std::string& group : caseNames(folder))
         for (const std::string& name : caseNames(folder + "/" + group))
             names.push_back(group + "/" + name);
-    }
     return names;
 }
 

@@ -101,10 +101,9 @@ inline std::string problemOfPage(const std::string& bytes) {
                 return "a tag by itself is another" + at;
         }
         if (!isText && !isLast && token.kind != HtmlToken::Kind::Comment) {
-            for (const char* const name : {"onload", "a"}) {
+            for (const char* const name : {"onload", "a"})
                 if (const std::string problem = problemOfSetAttribute(page, name); !problem.empty())
                     return problem + at;
-            }
         }
         wasText = isText;
         page.Next();

@@ -101,10 +101,9 @@ class test_frm_integrator : public QObject {
         desk.wizard.setFont(font);
         const auto cutOff = [&] {
             QStringList names;
-            for (const QLabel* label : desk.wizard.findChildren<QLabel*>()) {
+            for (const QLabel* label : desk.wizard.findChildren<QLabel*>())
                 if (label->isVisible() && label->height() < label->heightForWidth(label->width()))
                     names.append(label->objectName());
-            }
             return names.join(' ');
         };
         desk.next();

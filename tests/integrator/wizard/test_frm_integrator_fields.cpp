@@ -89,7 +89,8 @@ class test_frm_integrator_fields : public QObject {
         desk.next(2);
         QVERIFY2(desk.text("txtReport").startsWith("Processing C:\\\\a.htm\nSuccess: "),
                  qPrintable(desk.text("txtReport")));
-        QVERIFY(desk.disk.allFiles().at("C:\\\\a.htm").find("zevmenu_loader.js") != std::string::npos);
+        QVERIFY(desk.disk.allFiles().at("C:\\\\a.htm").find("zevmenu_loader.js") !=
+                std::string::npos);
     }
 
     void otherPagesReplaceTheChosenOnesAndCancelKeepsThem() {
@@ -411,10 +412,9 @@ class test_frm_integrator_fields : public QObject {
         WizardDesk desk;
         const auto enabled = [&] {
             QStringList names;
-            for (const char* name : {"cboMenuList", "optMouse", "optXY", "txtX", "txtY"}) {
+            for (const char* name : {"cboMenuList", "optMouse", "optXY", "txtX", "txtY"})
                 if (desk.named<QWidget>(name).isEnabled())
                     names.append(name);
-            }
             return names;
         };
         const QColor buttonFace = desk.wizard.palette().color(QPalette::Button);

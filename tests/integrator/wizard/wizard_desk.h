@@ -124,10 +124,9 @@ struct WizardDesk {
     /// Indexes of the frames that are shown.
     QList<int> shownFrames() {
         QList<int> shown;
-        for (int step = 0; step < 6; ++step) {
+        for (int step = 0; step < 6; ++step)
             if (isShown(QString("frm_%1").arg(step)))
                 shown.append(step);
-        }
         return shown;
     }
 
