@@ -145,8 +145,8 @@ class ResetCounter : public DocumentObserver {
     void aboutToReplaceContent() override { ++m_beginnings; }
     void contentReplaced() override {
         ++m_ends;
-        if (m_document.CurNode())
-            EXPECT_EQ(m_document.tree().find(m_document.CurNode()->key()), m_document.CurNode());
+        const MenuNode* const node = m_document.CurNode();
+        EXPECT_TRUE(!node || m_document.tree().find(node->key()) == node);
     }
     void labelChanged(const MenuNode&) override { ADD_FAILURE(); }
     void expansionChanged(const MenuNode&) override { ADD_FAILURE(); }
