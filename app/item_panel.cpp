@@ -82,25 +82,25 @@ QWidget* ItemPanel::makeAttributeFrame() {
     frame->setObjectName("FrameAttribute");
     const FieldRow rows[] = {
         {&ItemPanel::txtCaption, "Caption", tr("Menu &Description (HTML syntax)"),
-         tr("Menu item text/image displayed on the menu"), &ItemProp::Caption, kText, escaped,
+         tr("Menu item text/image displayed on the menu"), &ItemProp::Caption, Text, escaped,
          ButtonRow{"cmdCaptionImg", "insert_image", tr("Add <img> tag to menu description"),
                    tr("Add image tag to menu description"), &ItemPanel::cmdCaptionImg_Click}},
         {&ItemPanel::txtURL, "URL", tr("&URL/JavaScript function"),
          tr("Menu item link. Usage similar to HREF attribute. JavaScript functions can be called "
             "using javascript:"),
-         &ItemProp::URL, kAnyType, checkURL,
+         &ItemProp::URL, AnyType, checkURL,
          ButtonRow{"cmdURL", "browse", tr("Browse"), tr("Browse for link"),
                    &ItemPanel::cmdURL_Click}},
         {&ItemPanel::txtTarget, "Target", tr("Tar&get Frame"),
-         tr("Target frame or window of menu item link"), &ItemProp::Target, kAnyType, checkTarget},
+         tr("Target frame or window of menu item link"), &ItemProp::Target, AnyType, checkTarget},
         {&ItemPanel::txtImgOut, "ImgOut", tr("Mouse&Out Image"),
          tr("Menu item image displayed when the mouse is outside the menu item"),
-         &ItemProp::ImageOut, kRollover, nullptr,
+         &ItemProp::ImageOut, Rollover, nullptr,
          ButtonRow{"cmdImgOut", "browse", tr("Browse"), tr("Browse for mouse-out image"),
                    &ItemPanel::cmdImgOut_Click}},
         {&ItemPanel::txtImgOver, "ImgOver", tr("MouseO&ver Image"),
          tr("Menu item image displayed when the mouse is over the menu item"), &ItemProp::ImageOver,
-         kRollover, nullptr,
+         Rollover, nullptr,
          ButtonRow{"cmdImgOver", "browse", tr("Browse"), tr("Browse for mouse-over image"),
                    &ItemPanel::cmdImgOver_Click}},
     };
@@ -229,7 +229,7 @@ void ItemPanel::setRolloverMode(bool isRollover) {
     optNormal->setEnabled(true);
     optRollover->setEnabled(true);
     for (const Field& field : m_fields) {
-        const bool isOfType = field.type != (isRollover ? kText : kRollover);
+        const bool isOfType = field.type != (isRollover ? Text : Rollover);
         if (field.button != nullptr)
             field.button->setEnabled(isOfType);
         field.edit->setEnabled(isOfType);

@@ -53,7 +53,7 @@ class ItemPanel : public QWidget {
 
   private:
     /// The type of item that has a field.
-    enum Type { kAnyType, kText, kRollover };
+    enum Type { AnyType, Text, Rollover };
 
     /// The button beside a field.
     struct ButtonRow {
@@ -70,7 +70,7 @@ class ItemPanel : public QWidget {
         QString caption;  ///< with its access key
         QString tooltip;
         std::string ItemProp::*member = nullptr;
-        Type type = kAnyType;
+        Type type = AnyType;
         TextCheck check = {};  ///< run when the field is left
         std::optional<ButtonRow> button = std::nullopt;
     };

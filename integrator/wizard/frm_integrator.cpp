@@ -140,7 +140,7 @@ bool frmIntegrator::isPopup() const {
 
 WizardAnswers frmIntegrator::answers() const {
     return {chkBackup->isChecked(),
-            chkKeepScripts->isChecked(),
+            m_chkKeepScripts->isChecked(),
             txtPath->text().toStdString(),
             txtMenuDef->text().toStdString(),
             isPopup(),
@@ -236,15 +236,15 @@ void frmIntegrator::showScriptCount() {
     const std::size_t pageCount = m_flow.pages().names.size();
     if (pageCount == 0)
         return;
-    const auto [count, countedPages] = m_flow.scriptCount(chkKeepScripts->isChecked());
+    const auto [count, countedPages] = m_flow.scriptCount(m_chkKeepScripts->isChecked());
     const QString what =
         count == 1 ? tr("1 script will be removed") : tr("%1 scripts will be removed").arg(count);
-    lblScripts->setText(countedPages == pageCount
-                            ? tr("%1 from the pages.").arg(what)
-                            : tr("%1 from the first %2 of %3 pages; the others were not counted.")
-                                  .arg(what)
-                                  .arg(countedPages)
-                                  .arg(pageCount));
+    m_lblScripts->setText(countedPages == pageCount
+                              ? tr("%1 from the pages.").arg(what)
+                              : tr("%1 from the first %2 of %3 pages; the others were not counted.")
+                                    .arg(what)
+                                    .arg(countedPages)
+                                    .arg(pageCount));
 }
 
 void frmIntegrator::btnPath_Click() {
@@ -262,8 +262,8 @@ void frmIntegrator::btnMenuDef_Click() {
 }
 
 void frmIntegrator::showHints() {
-    showHintsIn(*lblPathHint, m_flow.libraryHints(answers()));
-    showHintsIn(*lblMenuDefHint, m_flow.definitionHints(answers()));
+    showHintsIn(*m_lblPathHint, m_flow.libraryHints(answers()));
+    showHintsIn(*m_lblMenuDefHint, m_flow.definitionHints(answers()));
 }
 
 void frmIntegrator::cboIntegration_Click() {
@@ -287,8 +287,8 @@ void frmIntegrator::optXY_Change() {
 void frmIntegrator::integrate() {
     setRunning(true);
     m_flow.IntegratePages(answers(), [this](std::size_t doneCount, std::size_t totalCount) {
-        pbProgress->setMaximum(static_cast<int>(totalCount));
-        pbProgress->setValue(static_cast<int>(doneCount));
+        m_pbProgress->setMaximum(static_cast<int>(totalCount));
+        m_pbProgress->setValue(static_cast<int>(doneCount));
         // Lets Cancel be pressed; everything else that could start something is disabled.
         QCoreApplication::processEvents();
     });
@@ -300,7 +300,7 @@ void frmIntegrator::integrate() {
 
 void frmIntegrator::setRunning(bool isRunning) {
     const bool hasManyPages = m_flow.pages().names.size() > 1;
-    pbProgress->setVisible(isRunning && hasManyPages);
+    m_pbProgress->setVisible(isRunning && hasManyPages);
     btnCancel->setVisible(isRunning && hasManyPages);
     for (QPushButton* button : {btnBack, btnNext, btnExit, btnSaveReport})
         button->setEnabled(!isRunning);
@@ -321,10 +321,10 @@ void frmIntegrator::ShowResultMessage() {
                  "containing <head></head> and <body></body> tags"));
     txtCode->setPlainText(QString::fromStdString(m_flow.code()));
     txtLinkCode->setPlainText(QString::fromStdString(m_flow.linkCode()));
-    for (QWidget* widget : {static_cast<QWidget*>(txtCode), static_cast<QWidget*>(btnCopyCode)})
+    for (QWidget* widget : {static_cast<QWidget*>(txtCode), static_cast<QWidget*>(m_btnCopyCode)})
         widget->setVisible(hasSucceeded);
     for (QWidget* widget : {static_cast<QWidget*>(lblLinkCode), static_cast<QWidget*>(txtLinkCode),
-                            static_cast<QWidget*>(btnCopyLinkCode)})
+                            static_cast<QWidget*>(m_btnCopyLinkCode)})
         widget->setVisible(hasSucceeded && !m_flow.linkCode().empty());
 }
 

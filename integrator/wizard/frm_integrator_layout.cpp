@@ -132,13 +132,13 @@ void frmIntegrator::makePagesFrame() {
     chkBackup->setAccessibleName(chkBackup->text().remove(u'&').replace(u'\n', u' '));
     chkBackup->setChecked(true);
     layout->addWidget(chkBackup);
-    chkKeepScripts = makeNamed<QCheckBox>("chkKeepScripts", this);
-    chkKeepScripts->setText(tr("&Keep other scripts on the page"));
-    chkKeepScripts->setAccessibleName(tr("Keep other scripts on the page"));
-    connect(chkKeepScripts, &QCheckBox::toggled, this, &frmIntegrator::showScriptCount);
-    layout->addWidget(chkKeepScripts);
-    lblScripts = makeText("lblScripts", QString(), this);
-    layout->addWidget(lblScripts);
+    m_chkKeepScripts = makeNamed<QCheckBox>("chkKeepScripts", this);
+    m_chkKeepScripts->setText(tr("&Keep other scripts on the page"));
+    m_chkKeepScripts->setAccessibleName(tr("Keep other scripts on the page"));
+    connect(m_chkKeepScripts, &QCheckBox::toggled, this, &frmIntegrator::showScriptCount);
+    layout->addWidget(m_chkKeepScripts);
+    m_lblScripts = makeText("lblScripts", QString(), this);
+    layout->addWidget(m_lblScripts);
     layout->addStretch();
 }
 
@@ -156,8 +156,8 @@ void frmIntegrator::makePathsFrame() {
         keepSingleLine(*field);
         connect(field, &QLineEdit::textChanged, this, &frmIntegrator::showHints);
     }
-    lblPathHint = makeText("lblPathHint", QString(), this);
-    lblMenuDefHint = makeText("lblMenuDefHint", QString(), this);
+    m_lblPathHint = makeText("lblPathHint", QString(), this);
+    m_lblMenuDefHint = makeText("lblMenuDefHint", QString(), this);
 
     auto* grid = new QGridLayout;
     grid->addWidget(makeText("lblFrm3",
@@ -169,7 +169,7 @@ void frmIntegrator::makePathsFrame() {
                     0);
     grid->addWidget(txtPath, 1, 1);
     grid->addWidget(btnPath, 1, 2);
-    grid->addWidget(lblPathHint, 2, 1, 1, 2);
+    grid->addWidget(m_lblPathHint, 2, 1, 1, 2);
     grid->addWidget(makeText("lblFrm5",
                              tr("Specify the JavaScript file containing the menu definition, e.g. "
                                 "menu_def.js."),
@@ -179,7 +179,7 @@ void frmIntegrator::makePathsFrame() {
         makeLabel("lblMenuDef", tr("&Filename:"), tr("Menu definition file"), txtMenuDef), 5, 0);
     grid->addWidget(txtMenuDef, 5, 1);
     grid->addWidget(btnMenuDef, 5, 2);
-    grid->addWidget(lblMenuDefHint, 6, 1, 1, 2);
+    grid->addWidget(m_lblMenuDefHint, 6, 1, 1, 2);
     grid->setRowMinimumHeight(3, fontMetrics().height() / 2);  // sets the two questions apart
     grid->setColumnStretch(1, 1);
     layout->addLayout(grid);
@@ -240,16 +240,16 @@ void frmIntegrator::makeReportFrame() {
     layout->addWidget(makeLabel("Label1", tr("Menu Integration &Report"),
                                 tr("Menu Integration Report"), txtReport));
     layout->addWidget(txtReport, 1);
-    pbProgress = makeNamed<QProgressBar>("pbProgress", this);
-    pbProgress->setAccessibleName(tr("Pages done"));
-    pbProgress->setFormat(tr("%v of %m pages"));
+    m_pbProgress = makeNamed<QProgressBar>("pbProgress", this);
+    m_pbProgress->setAccessibleName(tr("Pages done"));
+    m_pbProgress->setFormat(tr("%v of %m pages"));
     btnCancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
     connect(btnCancel, &QPushButton::clicked, this, [this] { m_flow.cancel(); });
     btnSaveReport = makeButton("btnSaveReport", tr("&Save"), &frmIntegrator::btnSaveReport_Click);
     btnSaveReport->setAccessibleName(tr("Save report"));
     auto* row = new QHBoxLayout;
     row->addWidget(btnSaveReport);
-    row->addWidget(pbProgress, 1);
+    row->addWidget(m_pbProgress, 1);
     row->addWidget(btnCancel);
     row->addStretch();
     layout->addLayout(row);
@@ -259,11 +259,11 @@ void frmIntegrator::makeCodeFrame() {
     QVBoxLayout* layout = addFrame(5, tr("Step 3 of 3"));
     // In the order of the Tab key.
     txtCode = makeTextBox("txtCode", tr("Code to paste"), this);
-    btnCopyCode = makeDialogButton("btnCopyCode", tr("&Copy"), this);
-    btnCopyCode->setAccessibleName(tr("Copy the code"));
+    m_btnCopyCode = makeDialogButton("btnCopyCode", tr("&Copy"), this);
+    m_btnCopyCode->setAccessibleName(tr("Copy the code"));
     txtLinkCode = makeTextBox("txtLinkCode", tr("Code example for hyperlinks"), this);
-    btnCopyLinkCode = makeDialogButton("btnCopyLinkCode", tr("Co&py"), this);
-    btnCopyLinkCode->setAccessibleName(tr("Copy the code example"));
+    m_btnCopyLinkCode = makeDialogButton("btnCopyLinkCode", tr("Co&py"), this);
+    m_btnCopyLinkCode->setAccessibleName(tr("Copy the code example"));
     lblMsg = makeText("lblMsg", QString(), this);
     lblLinkCode = makeText("lblLinkCode",
                            tr("Copy the code e&xample below to add the menu to hyperlinks:"), this);
@@ -278,9 +278,9 @@ void frmIntegrator::makeCodeFrame() {
         row->addWidget(copy, 0, Qt::AlignTop);
         layout->addLayout(row);
     };
-    addCode(txtCode, btnCopyCode);
+    addCode(txtCode, m_btnCopyCode);
     layout->addWidget(lblLinkCode);
-    addCode(txtLinkCode, btnCopyLinkCode);
+    addCode(txtLinkCode, m_btnCopyLinkCode);
     layout->addStretch();
 }
 
