@@ -23,7 +23,7 @@ static int rowOf(const MenuProp& prop) {
     return prop.Columns;
 }
 
-int frmThing::txtURL_Validate(const MenuProp& StrProp) {
+int frmPath::txtURL_Validate(const MenuProp& StrProp) {
     const int rowCount = rowOf(StrProp);
     m_count += rowCount;
     return m_count;
@@ -39,7 +39,7 @@ struct MenuProp {
     int Columns = 0;
 };
 
-class frmThing {
+class frmPath {
   public:
     int txtURL_Validate(const MenuProp& StrProp);
 
@@ -96,7 +96,7 @@ class Style(unittest.TestCase):
                 self.assertIn(f"'{wrong}'", output)
 
     def test_a_wrong_name_in_a_header_is_caught(self):
-        for right, wrong in [("m_count", "count"), ("frmThing", "thing"),
+        for right, wrong in [("m_count", "count"), ("frmPath", "thing"),
                              ("txtURL_Validate", "Validate_URL"), ("Columns", "columns_")]:
             with self.subTest(wrong=wrong), tempfile.TemporaryDirectory() as folder:
                 status, output = Tree(folder, source=RIGHT.replace(right, wrong),
