@@ -60,6 +60,15 @@ void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QStrin
     ShowWholeColumns(dialog);
 }
 
+/// Qt's own dialog tells a filter as it shows it, without the patterns; a desktop's tells all of
+/// it.
+QString WholeFilter(const QFileDialog& dialog, const QString& told) {
+    for (const QString& filter : dialog.nameFilters())
+        if (filter.startsWith(told + " ("))
+            return filter;
+    return told;
+}
+
 std::string ChosenFile(const QFileDialog& dialog, QString& lastFolder) {
     const QString path = dialog.selectedFiles().value(0);
     lastFolder = QFileInfo(path).absolutePath();
@@ -199,7 +208,7 @@ std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     Prepare(dialog, request, m_lastFolder);
     const auto setSuffix = [&](const QString& filter) {
-        const QString suffix = DefaultSuffix(filter);
+        const QString suffix = DefaultSuffix(WholeFilter(dialog, filter));
         dialog.setDefaultSuffix(suffix.isEmpty() ? QString::fromStdString(request.extension)
                                                  : suffix);
     };
