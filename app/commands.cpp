@@ -182,7 +182,7 @@ void CommandActions::addEntry(QMenu& menu, const Command& command) {
 
 void CommandActions::addButton(QToolBar& toolBar, const Command& command) {
     const QString caption = tr(command.button.key);
-    QAction& button = *toolBar.addAction(ButtonIcon(command.button.icon), caption);
+    QAction& button = *toolBar.addAction(buttonIcon(command.button.icon), caption);
     button.setToolTip(caption);
     nameLast(toolBar, button);
     connectAction(button, command, command.rule.keepsWithoutNode == Command::Keeps::EntryAndButton);

@@ -29,7 +29,7 @@ struct Command {
     /// Its toolbar button. The key is the tooltip as well; empty: there is none.
     struct Button {
         const char* key = "";
-        const char* icon = "";  ///< as `ButtonIcon` takes it
+        const char* icon = "";  ///< as `buttonIcon` takes it
     };
     /// What stays as it was, usable or not, while there is no `CurNode`.
     enum class Keeps { Nothing, Entry, EntryAndButton };

@@ -17,9 +17,9 @@ class EditorView {
     /// changes `bModified`.
     virtual void ShowItem() = 0;
     /// Fills the JavaScript tab (UTF-8, CR LF).
-    virtual void ShowScript(const std::string& script) = 0;
+    virtual void showScript(const std::string& script) = 0;
     /// Window caption: the program's name, and the definition file once there is one.
-    virtual void ShowCaption() = 0;
+    virtual void showCaption() = 0;
     /// Fills the Default Menu Properties dialog from `DefaultProp`.
     virtual void LoadDefaultDialog() = 0;
     /// Derives the enabled commands from `bModified` and `CurNode`.

@@ -18,19 +18,19 @@ constexpr int kUsualKind = 2;
 FileCommands::FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services)
     : m_document(document), m_view(view), m_services(services) {}
 
-void FileCommands::Reset() {
+void FileCommands::reset() {
     m_document.NewDocument();
     m_view.LoadDefaultDialog();
-    m_view.ShowScript("");
+    m_view.showScript("");
     m_view.ShowItem();
-    m_view.ShowCaption();
+    m_view.showCaption();
     m_view.Button_Update();
 }
 
 bool FileCommands::mnuFileNew_Click() {
     if (!mayDiscardDocument())
         return false;
-    Reset();
+    reset();
     return true;
 }
 
@@ -96,7 +96,7 @@ std::string FileCommands::definitionFolder() const {
 
 FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
     FileResult<std::string> content = m_services.files.readFile(path, kMaxDefinitionFileBytes);
-    if (content.isOk() && IsBinary(content.value()))
+    if (content.isOk() && isBinary(content.value()))
         content = FileError{FileError::Code::Other, path, "Not a text file"};
     if (!content.isOk())
         m_services.messages.notice("Could not open " + path + ": " + content.error().reason);
@@ -104,9 +104,9 @@ FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
 }
 
 void FileCommands::showDocument() {
-    m_view.ShowCaption();
+    m_view.showCaption();
     m_view.ShowItem();
-    m_view.ShowScript(GenerateScript(m_document.content()));
+    m_view.showScript(GenerateScript(m_document.content()));
     m_view.LoadDefaultDialog();
     m_view.Button_Update();
 }
@@ -160,18 +160,18 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
         m_view.ShowItem();
     }
     m_document.setFile(path, folder);
-    m_view.ShowCaption();
+    m_view.showCaption();
     if (SaveDefinition(path)) {
         m_document.markSaved();
         m_view.Button_Update();
         return true;
     }
     m_document.setFile(oldFile, oldFolder);
-    m_view.ShowCaption();
+    m_view.showCaption();
     if (isRebasing) {
         m_document.apply(std::move(rebasedBack));
         m_view.ShowItem();
-        m_view.ShowScript(GenerateScript(m_document.content()));
+        m_view.showScript(GenerateScript(m_document.content()));
     }
     return false;
 }
@@ -181,22 +181,22 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     copyRunTimeFiles();
     // What is written comes from the writer and never back out of the JavaScript tab.
     const std::string script = GenerateScript(m_document.content());
-    m_view.ShowScript(script);
+    m_view.showScript(script);
     const std::string target =
         path.empty() ? Path(m_document.SavePath()).child(kPreviewScript) : path;
-    const FileOutcome failure = m_services.files.writeFile(target, DefinitionFileBytes(script));
+    const FileOutcome failure = m_services.files.writeFile(target, definitionFileBytes(script));
     if (failure)
         m_services.messages.notice("Could not save " + target + ": " + failure->reason);
     return !failure;
 }
 
-void FileCommands::ShowPreview() {
+void FileCommands::showPreview() {
     m_view.validateFields();
     m_view.StoreItem();
     loadPreview();
 }
 
-void FileCommands::UpdatePreview() {
+void FileCommands::updatePreview() {
     if (GenerateScript(m_document.content()) != m_previewedScript ||
         m_document.SavePath() != m_previewedFolder)
         loadPreview();
@@ -215,7 +215,7 @@ void FileCommands::copyRunTimeFiles() {
         copyLibrary(m_services.files, Path(m_document.programFolder()), Path(m_document.SavePath()),
                     CopiedFiles::ScriptsAndPreviewPage);
     for (const CopyOutcome& problem : problems)
-        m_services.messages.notice(CopyProblemText(problem));
+        m_services.messages.notice(copyProblemText(problem));
 }
 
 }  // namespace zev

@@ -18,7 +18,7 @@ class FileCommands {
     FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services);
 
     /// Resets document and view to a new, empty menu, as at start-up. Asks nothing.
-    void Reset();
+    void reset();
     /// True when the document is a new one now; false when the person, or a save that failed, kept
     /// the old one.
     bool mnuFileNew_Click();
@@ -53,10 +53,10 @@ class FileCommands {
 
     /// Cleans and stores the panel, writes the preview files into `SavePath` and loads the preview
     /// page into the browser.
-    void ShowPreview();
+    void showPreview();
     /// Writes and loads the preview again when the document's script or folder is another than that
     /// of the preview the browser shows.
-    void UpdatePreview();
+    void updatePreview();
 
   private:
     /// What became of a Save As.

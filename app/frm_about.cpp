@@ -19,7 +19,7 @@ namespace {
 constexpr int kIconSizePx = 64;
 constexpr double kNameSizeFactor = 1.6;
 
-QLabel* MakeNameLabel() {
+QLabel* makeNameLabel() {
     auto* label = new QLabel(QString(kProgramName));
     label->setObjectName("lblName");
     QFont font = label->font();
@@ -47,7 +47,7 @@ frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget*
                                       "support@zevmenu.example"));
 
     auto* texts = new QVBoxLayout;
-    texts->addWidget(MakeNameLabel());
+    texts->addWidget(makeNameLabel());
     texts->addWidget(version);
     texts->addSpacing(12);
     texts->addLayout(links);

@@ -51,7 +51,7 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     setStatusBar(sbStatusBar);
     resize(920, 660);
 
-    m_fileCommands.Reset();
+    m_fileCommands.reset();
     TreeView->setFocus();
 }
 
@@ -148,11 +148,11 @@ void frmMain::ShowItem() {
     TreeView->showSelection();
 }
 
-void frmMain::ShowScript(const std::string& script) {
+void frmMain::showScript(const std::string& script) {
     txtJavaScript->showScript(script);
 }
 
-void frmMain::ShowCaption() {
+void frmMain::showCaption() {
     QString caption = kProgramName;
     if (!m_document.SaveFile().empty())
         caption += " (" + QString::fromStdString(m_document.SaveFile()) + ")";
@@ -187,7 +187,7 @@ void frmMain::mnuEditMenuProperties_Click() {
 
 void frmMain::mnuEditAddMenuItem_Click() {
     StoreItem();
-    if (edit(AddMenuItem) != EditResult::Done)
+    if (edit(addMenuItem) != EditResult::Done)
         return;
     ShowItem();
     Button_Update();
@@ -197,7 +197,7 @@ void frmMain::mnuEditAddSubmenuItem_Click() {
     const bool makesCurrent = m_document.selectedNode() == nullptr;
     if (makesCurrent)
         StoreItem();
-    if (edit(AddSubmenuItem) != EditResult::Done)
+    if (edit(addSubmenuItem) != EditResult::Done)
         return;
     if (makesCurrent)
         ShowItem();
@@ -205,34 +205,34 @@ void frmMain::mnuEditAddSubmenuItem_Click() {
 }
 
 void frmMain::mnuEditDelete_Click() {
-    if (edit(DeleteItem) == EditResult::Done)
+    if (edit(deleteItem) == EditResult::Done)
         ShowItem();
     Button_Update();
 }
 
 void frmMain::mnuEditMoveLeft_Click() {
-    if (edit(MoveLeft) == EditResult::Done)
+    if (edit(moveLeft) == EditResult::Done)
         Button_Update();
 }
 
 void frmMain::mnuEditMoveRight_Click() {
-    if (edit(MoveRight) == EditResult::Done)
+    if (edit(moveRight) == EditResult::Done)
         Button_Update();
 }
 
 void frmMain::mnuEditMoveUp_Click() {
-    edit(MoveUp);
+    edit(moveUp);
     Button_Update();
 }
 
 void frmMain::mnuEditMoveDown_Click() {
-    edit(MoveDown);
+    edit(moveDown);
     Button_Update();
 }
 
 void frmMain::mnuToolsIntegrate_Click() {
     frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs},
-                         MountedDrives(), this);
+                         mountedDrives(), this);
     if (!m_document.SaveFile().empty())
         wizard.setDefinition(m_document.SaveFile());
     if (m_document.CurNode() != nullptr)
@@ -261,10 +261,10 @@ void frmMain::tbToolBar_ButtonClick(const QString& key) {
 void frmMain::MenuTab_Click() {
     TreeView->commitEditor();
     if (MenuTab->currentWidget() == WebBrowser) {
-        m_fileCommands.ShowPreview();
+        m_fileCommands.showPreview();
     } else if (MenuTab->currentWidget() == txtJavaScript) {
         StoreItem();
-        ShowScript(GenerateScript(m_document.content()));
+        showScript(GenerateScript(m_document.content()));
     }
 }
 
@@ -295,9 +295,9 @@ void frmMain::followDocument() {
     if (m_isEnding)
         return;
     if (MenuTab->currentWidget() == WebBrowser)
-        m_fileCommands.UpdatePreview();
+        m_fileCommands.updatePreview();
     else if (MenuTab->currentWidget() == txtJavaScript)
-        ShowScript(GenerateScript(m_document.content()));
+        showScript(GenerateScript(m_document.content()));
 }
 
 /// No exception may reach Qt's event loop; what is still possible is a lack of memory.

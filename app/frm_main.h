@@ -45,8 +45,8 @@ class frmMain : public QMainWindow, public EditorView {
     void validateFields() override;
     void StoreItem() override;
     void ShowItem() override;
-    void ShowScript(const std::string& script) override;
-    void ShowCaption() override;
+    void showScript(const std::string& script) override;
+    void showCaption() override;
     void LoadDefaultDialog() override;
     void Button_Update() override;
 

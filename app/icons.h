@@ -6,9 +6,9 @@ namespace zev {
 
 /// The icon of a toolbar or panel button by its file name without extension: in colour, and in pale
 /// grey while the button is disabled.
-QIcon ButtonIcon(const QString& name);
+QIcon buttonIcon(const QString& name);
 
 /// The program's own icon.
-QIcon ProgramIcon();
+QIcon programIcon();
 
 }  // namespace zev

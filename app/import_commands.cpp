@@ -13,14 +13,14 @@ namespace {
 constexpr std::size_t kMaxListedWarnings = 1000;
 
 /// One line a warning, without a line end behind the last.
-std::string DetailsOf(const std::vector<LineWarning>& warnings) {
+std::string detailsOf(const std::vector<LineWarning>& warnings) {
     const std::size_t listed = std::min(warnings.size(), kMaxListedWarnings);
     std::string details;
     for (std::size_t index = 0; index < listed; ++index) {
         const LineWarning& warning = warnings[index];
         details += details.empty() ? "line " : "\nline ";
         details += std::to_string(warning.line) + ": ";
-        details += ReasonText(warning.reason);
+        details += reasonText(warning.reason);
     }
     if (warnings.size() > listed)
         details += "\nand " + std::to_string(warnings.size() - listed) + " more";
@@ -65,14 +65,14 @@ void ImportCommands::importFile(const ImportFormat& format, const std::string& p
     if (!content.isOk())
         return;
     MenuContent imported;
-    const ImportResult result = ImportMenu(format, content.value(), imported);
+    const ImportResult result = importMenu(format, content.value(), imported);
     m_document.open(std::move(imported));
     m_fileCommands.showDocument();
 
     MessageRequest notice;
     notice.text = "Finished importing " + path + ". " + std::to_string(result.warnings.size()) +
                   " warnings encountered.";
-    notice.details = DetailsOf(result.warnings);
+    notice.details = detailsOf(result.warnings);
     m_messages.show(notice);
 }
 

@@ -131,7 +131,7 @@ void ItemPanel::addField(QGridLayout* grid, const FieldRow& row) {
     if (row.button.has_value()) {
         button = new QToolButton(frame);
         button->setObjectName(row.button->name);
-        button->setIcon(ButtonIcon(row.button->icon));
+        button->setIcon(buttonIcon(row.button->icon));
         button->setToolTip(row.button->tooltip);
         button->setAccessibleName(row.button->spoken);
         connect(button, &QToolButton::clicked, this, row.button->click);

@@ -21,14 +21,14 @@ using namespace zev;
 
 namespace {
 
-QStringList Arguments(int argc, char** argv) {
+QStringList arguments(int argc, char** argv) {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     return arguments;
 }
 
-void DescribeArguments(QCommandLineParser& parser) {
+void describeArguments(QCommandLineParser& parser) {
     parser.setApplicationDescription("Authoring tool for cascading menus on web sites.");
     parser.addHelpOption();
     parser.addVersionOption();
@@ -40,7 +40,7 @@ void DescribeArguments(QCommandLineParser& parser) {
 
 /// The folder that holds the run-time files. Without them the editor still runs, and each save says
 /// which file is missing.
-std::string ProgramFolder(FileSystem& files, MessageBox& messages) {
+std::string programFolder(FileSystem& files, MessageBox& messages) {
     const std::string executable = QCoreApplication::applicationFilePath().toStdString();
     const std::string userFolder =
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
@@ -52,7 +52,7 @@ std::string ProgramFolder(FileSystem& files, MessageBox& messages) {
     return QCoreApplication::applicationDirPath().toStdString();
 }
 
-int RunEditor(QApplication& application, const QCommandLineParser& arguments) {
+int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     PosixFileSystem fileSystem;
     QtShell shell;
     QtMessageBox messages;
@@ -61,10 +61,10 @@ int RunEditor(QApplication& application, const QCommandLineParser& arguments) {
     auto* browser = new QtBrowserView;
     const EditorServices services{fileSystem, messages, dialogs, shell, help, *browser};
 
-    frmMain window(services, ProgramFolder(fileSystem, messages), browser);
+    frmMain window(services, programFolder(fileSystem, messages), browser);
     // Ends the program also while the manual's window is open.
     QObject::connect(&window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); });
-    FitScreen(window);
+    fitScreen(window);
     window.show();
     const QStringList files = arguments.positionalArguments();
     const QString picture = arguments.value("screenshot");
@@ -72,7 +72,7 @@ int RunEditor(QApplication& application, const QCommandLineParser& arguments) {
         if (!files.isEmpty())
             window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
         if (!picture.isEmpty())
-            TakePreviewPicture(window, *browser, picture);
+            takePreviewPicture(window, *browser, picture);
     };
     QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
     return QApplication::exec();
@@ -84,14 +84,14 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationName("zevmenu-creator");
     QCoreApplication::setApplicationVersion(ZEV_VERSION);
     QCommandLineParser parser;
-    DescribeArguments(parser);
-    if (!parser.parse(Arguments(argc, argv)) || parser.isSet("help") || parser.isSet("version")) {
+    describeArguments(parser);
+    if (!parser.parse(arguments(argc, argv)) || parser.isSet("help") || parser.isSet("version")) {
         // Answered without a display.
         QCoreApplication application(argc, argv);
         parser.process(application);
     }
     QApplication application(argc, argv);
     QApplication::setStyle(new PlainButtonStyle);
-    QApplication::setWindowIcon(ProgramIcon());
-    return RunEditor(application, parser);
+    QApplication::setWindowIcon(programIcon());
+    return runEditor(application, parser);
 }

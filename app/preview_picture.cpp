@@ -16,24 +16,24 @@ namespace {
 /// The engine tells when a page is loaded, but not when it is painted.
 constexpr int kPaintTimeMs = 1000;
 
-void EndWithProblem(const QString& problem) {
+void endWithProblem(const QString& problem) {
     std::fprintf(stderr, "%s\n", qPrintable(problem));
     QApplication::exit(1);
 }
 
 }  // namespace
 
-void TakePreviewPicture(frmMain& window, QtBrowserView& browser, const QString& pictureFile) {
+void takePreviewPicture(frmMain& window, QtBrowserView& browser, const QString& pictureFile) {
     QObject::connect(&browser, &QtBrowserView::loaded, &window, [&window, pictureFile](bool isOk) {
         if (!isOk) {
-            EndWithProblem("The preview could not be shown");
+            endWithProblem("The preview could not be shown");
             return;
         }
         QTimer::singleShot(kPaintTimeMs, &window, [&window, pictureFile] {
             if (window.grab().save(pictureFile, "PNG"))
                 QApplication::exit(0);
             else
-                EndWithProblem("Could not save " + pictureFile);
+                endWithProblem("Could not save " + pictureFile);
         });
     });
     auto* tabs = window.findChild<QTabWidget*>("MenuTab");

@@ -10,7 +10,7 @@ namespace {
 /// would stall the window for minutes.
 constexpr qsizetype kMaxShownLine = 10'000;
 
-QString WithoutOverlongLines(const QString& whole) {
+QString withoutOverlongLines(const QString& whole) {
     QString shown;
     shown.reserve(whole.size());
     for (qsizetype start = 0; start < whole.size();) {
@@ -40,7 +40,7 @@ void ScriptView::showScript(const std::string& script) {
     if (script == m_script)
         return;
     m_script = script;
-    setPlainText(WithoutOverlongLines(QString::fromStdString(script)));
+    setPlainText(withoutOverlongLines(QString::fromStdString(script)));
 }
 
 }  // namespace zev

@@ -28,7 +28,7 @@ zev::MenuContent MenuOf(std::size_t itemCount) {
         zev::ItemProp item;
         item.Caption = "Department number " + std::to_string(number);
         item.URL = "pages/section/page" + std::to_string(number) + ".html";
-        item.MenuProperty = zev::NewItemMenuProp();
+        item.MenuProperty = zev::newItemMenuProp();
         std::string text = item.Caption;
         nodes.push_back(content.tree.append(parent, "Key " + std::to_string(number),
                                             std::move(text), std::move(item)));
@@ -93,12 +93,12 @@ void BM_ReadScript(benchmark::State& state) {
 void BM_AddMenuItem(benchmark::State& state) {
     zev::MenuDocument document("/program");
     for (std::size_t i = 0; i < ItemCount(state); ++i)
-        zev::AddMenuItem(document);
+        zev::addMenuItem(document);
     const std::int16_t counter = document.ItemCounter();
     for (auto _ : state) {
-        benchmark::DoNotOptimize(zev::AddMenuItem(document));
+        benchmark::DoNotOptimize(zev::addMenuItem(document));
         state.PauseTiming();
-        zev::DeleteItem(document);
+        zev::deleteItem(document);
         document.apply(zev::SetItemCounter{counter});
         state.ResumeTiming();
     }

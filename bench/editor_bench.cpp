@@ -39,7 +39,7 @@ double medianAddMs(int itemCount) {
     window.resize(1000, 700);
     window.show();
     for (int i = 0; i < itemCount; ++i)
-        zev::AddMenuItem(window.document());
+        zev::addMenuItem(window.document());
     QApplication::processEvents();
 
     auto* const command = window.findChild<QAction*>("mnuEditAddMenuItem");

@@ -138,7 +138,7 @@ void RewritePages(benchmark::State& state, const Corpus& corpus) {
         for (std::string& source : pages) {
             page.emplace(std::move(source));
             zev::IntegrationStatus status;
-            benchmark::DoNotOptimize(zev::RewritePage(*page, options, status));
+            benchmark::DoNotOptimize(zev::rewritePage(*page, options, status));
         }
     }
     CountBytes(state, corpus);

@@ -54,7 +54,7 @@ FileResult<std::string> readMenuFile(const FileSystem& files, const std::string&
     FileResult<std::string> bytes =
         path == "-" ? readStandardInput() : files.readFile(path, kMaxDefinitionFileBytes);
     if (bytes.isOk()) {
-        if (!IsBinary(bytes.value()))
+        if (!isBinary(bytes.value()))
             return bytes;
         const std::string name = path == "-" ? kStandardInput : path;
         return FileError{FileError::Code::Other, name, "is not a text file"};
@@ -80,7 +80,7 @@ std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::str
 }
 
 bool writeDefinition(FileSystem& files, const std::string& path, const MenuContent& content) {
-    const std::string bytes = DefinitionFileBytes(GenerateScript(content));
+    const std::string bytes = definitionFileBytes(GenerateScript(content));
     if (path.empty() || path == "-")
         return writeStandardOutput(bytes);
     if (const FileOutcome error = files.writeFile(path, bytes)) {

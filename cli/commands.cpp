@@ -26,7 +26,7 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable, cons
     else
         problems = {{CopyResult::SourceMissing, installed.error().path, {}}};
     for (const CopyOutcome& problem : problems)
-        printProblem(CopyProblemText(problem));
+        printProblem(copyProblemText(problem));
     return problems.empty() ? ExitStatus::Done : ExitStatus::FileProblem;
 }
 
@@ -47,12 +47,12 @@ ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
         return ExitStatus::FileProblem;
     }
     MenuContent& content = commandContent();
-    const ImportResult result = ImportMenu(*options.format, bytes.value(), content);
+    const ImportResult result = importMenu(*options.format, bytes.value(), content);
     if (!writeDefinition(files, options.output, content))
         return ExitStatus::FileProblem;
     if (options.isVerbose)
         for (const LineWarning& warning : result.warnings)
-            std::cerr << "line " << warning.line << ": " << ReasonText(warning.reason) << '\n';
+            std::cerr << "line " << warning.line << ": " << reasonText(warning.reason) << '\n';
     const std::size_t warningCount = result.warnings.size();
     std::cerr << "Finished importing " << options.input << ". " << warningCount
               << " warnings encountered.\n";

@@ -19,9 +19,9 @@ std::string withUnixLineEnds(std::string_view text) {
 
 std::string codeToPaste(const std::string& definitionURL,
                         const std::optional<PopupOptions>& popup) {
-    const std::string code = popup ? DefinitionReference(definitionURL) + "\r\n" +
-                                         PopupLinkCode(popup->submenuId, popup->placement)
-                                   : MenuCode(definitionURL);
+    const std::string code = popup ? definitionReference(definitionURL) + "\r\n" +
+                                         popupLinkCode(popup->submenuId, popup->placement)
+                                   : menuCode(definitionURL);
     return withUnixLineEnds(code) + "\n";
 }
 

@@ -18,7 +18,7 @@ ColorField ColorField::make(const QString& name, const ColorTexts& texts, QWidge
     field.button->setAccessibleName(texts.spokenButton);
     QObject::connect(field.edit, &QLineEdit::textChanged, field.swatch,
                      [swatch = field.swatch](const QString& colorText) {
-                         swatch->setColor(ColorOf(colorText.toStdString()));
+                         swatch->setColor(colorOf(colorText.toStdString()));
                      });
     return field;
 }

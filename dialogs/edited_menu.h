@@ -8,7 +8,7 @@ namespace zev {
 
 /// The menu that `CurNode` stands in: its parent item's submenu, or the top menu. Nothing when
 /// there is no current node.
-inline std::optional<MenuPropOwner> EditedMenu(const MenuDocument& document) {
+inline std::optional<MenuPropOwner> editedMenu(const MenuDocument& document) {
     if (document.CurNode() == nullptr)
         return {};
     if (const MenuNode* parent = document.CurNode()->parent())

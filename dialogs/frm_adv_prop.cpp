@@ -89,7 +89,7 @@ QBoxLayout* frmAdvProp::makeButtonRow() {
 }
 
 bool frmAdvProp::fill() {
-    const auto edited = EditedMenu(m_host.document);
+    const auto edited = editedMenu(m_host.document);
     if (!edited)
         return false;
     showBoxes(m_host.document.menuProp(*edited));
@@ -107,7 +107,7 @@ void frmAdvProp::cmdPaste_Click() {
 }
 
 void frmAdvProp::cmdOK_Click() {
-    if (const auto edited = EditedMenu(m_host.document)) {
+    if (const auto edited = editedMenu(m_host.document)) {
         MenuProp menu = m_host.document.menuProp(*edited);
         storeBoxes(menu);
         m_host.document.setMenuUnmarked(*edited, std::move(menu));

@@ -45,7 +45,7 @@ void frmDefaultProp::LoadDefaultDialog() {
     const MenuProp& prop = m_host.document.DefaultProp();
     showBoxes(prop);
     previewColors(prop, {});
-    setPreviewFont(FontOf(prop));
+    setPreviewFont(fontOf(prop));
 }
 
 void frmDefaultProp::cmdFont_Click() {

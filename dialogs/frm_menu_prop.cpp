@@ -54,7 +54,7 @@ QGroupBox* frmMenuProp::makeMenuFrame() {
 }
 
 bool frmMenuProp::fill() {
-    const auto edited = EditedMenu(m_host.document);
+    const auto edited = editedMenu(m_host.document);
     if (!edited)
         return false;
     const MenuProp& menu = m_host.document.menuProp(*edited);
@@ -62,9 +62,9 @@ bool frmMenuProp::fill() {
     showBoxes(menu);
     previewColors(menu, defaults);
     bFontSet = menu.FontSet;
-    FontChoice font = FontOf(defaults);
+    FontChoice font = fontOf(defaults);
     if (menu.FontSet) {
-        const FontChoice own = FontOf(menu);
+        const FontChoice own = fontOf(menu);
         if (own.name.find_first_not_of(' ') != std::string::npos)
             font.name = own.name;
         if (!menu.FontSize.empty())
@@ -85,7 +85,7 @@ void frmMenuProp::cmdFont_Click() {
 
 void frmMenuProp::cmdFontClear_Click() {
     bFontSet = false;
-    setPreviewFont(FontOf(m_host.document.DefaultProp()));
+    setPreviewFont(fontOf(m_host.document.DefaultProp()));
 }
 
 void frmMenuProp::cmdCopy_Click() {
@@ -101,7 +101,7 @@ void frmMenuProp::cmdPaste_Click() {
     previewShownColors();
     bFontSet = m_copied->FontSet;
     if (bFontSet)
-        setPreviewFont(FontOf(*m_copied));
+        setPreviewFont(fontOf(*m_copied));
     else
         cmdFontClear_Click();
 }
@@ -112,7 +112,7 @@ void frmMenuProp::cmdAdvanced_Click() {
 }
 
 void frmMenuProp::cmdOK_Click() {
-    if (const auto edited = EditedMenu(m_host.document)) {
+    if (const auto edited = editedMenu(m_host.document)) {
         MenuProp menu = m_host.document.menuProp(*edited);
         storeBoxes(menu);
         menu.FontSet = bFontSet;

@@ -44,17 +44,17 @@ class FolderList : public QListWidget {
     }
 };
 
-bool IsOnDrive(const QString& folder, const QString& drive) {
+bool isOnDrive(const QString& folder, const QString& drive) {
     return folder == drive || folder.startsWith(drive.endsWith(u'/') ? drive : drive + u'/');
 }
 
 /// Index of the drive a folder lies on; 0 when it lies on none of them.
-int DriveOf(const QString& folder, const QComboBox& drives) {
+int driveOf(const QString& folder, const QComboBox& drives) {
     int found = 0;
     qsizetype length = -1;
     for (int index = 0; index < drives.count(); ++index) {
         const QString drive = QDir::fromNativeSeparators(drives.itemText(index));
-        if (IsOnDrive(folder, drive) && drive.size() > length) {
+        if (isOnDrive(folder, drive) && drive.size() > length) {
             found = index;
             length = drive.size();
         }
@@ -62,7 +62,7 @@ int DriveOf(const QString& folder, const QComboBox& drives) {
     return found;
 }
 
-QLabel* MakeLabel(const QString& name, const QString& caption, QWidget* buddy) {
+QLabel* makeLabel(const QString& name, const QString& caption, QWidget* buddy) {
     auto* label = new QLabel(caption, buddy->parentWidget());
     label->setObjectName(name);
     label->setBuddy(buddy);
@@ -72,7 +72,7 @@ QLabel* MakeLabel(const QString& name, const QString& caption, QWidget* buddy) {
 
 }  // namespace
 
-QStringList MountedDrives() {
+QStringList mountedDrives() {
     QStringList drives{QDir::rootPath()};
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         // Single files can be mounted too.
@@ -128,11 +128,11 @@ void frmPath::arrange() {
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(lbl1);
-    layout->addWidget(MakeLabel("lblPath", tr("&Path"), txtPath));
+    layout->addWidget(makeLabel("lblPath", tr("&Path"), txtPath));
     layout->addWidget(txtPath);
-    layout->addWidget(MakeLabel("lblDrv", tr("D&rives"), listDrv));
+    layout->addWidget(makeLabel("lblDrv", tr("D&rives"), listDrv));
     layout->addWidget(listDrv);
-    layout->addWidget(MakeLabel("lblDir", tr("&Directories"), listDir));
+    layout->addWidget(makeLabel("lblDir", tr("&Directories"), listDir));
     layout->addWidget(listDir, 1);
     auto* closing = new QHBoxLayout;
     closing->addStretch();
@@ -144,7 +144,7 @@ void frmPath::arrange() {
 void frmPath::openFolder(const QString& folder) {
     if (!QDir(folder).exists())
         return;
-    listDrv->setCurrentIndex(DriveOf(folder, *listDrv));
+    listDrv->setCurrentIndex(driveOf(folder, *listDrv));
     showFolder(folder);
 }
 
@@ -184,7 +184,7 @@ void frmPath::followTypedPath() {
         return;
     const QString folder = QDir::cleanPath(dir.path());
     const QSignalBlocker blocker(listDrv);
-    listDrv->setCurrentIndex(DriveOf(folder, *listDrv));
+    listDrv->setCurrentIndex(driveOf(folder, *listDrv));
     listFolder(folder);
 }
 

@@ -14,7 +14,7 @@ class MessageBox;
 
 /// Root folders of the volumes that a person can choose a folder on, "/" among them, in the order
 /// of their paths.
-QStringList MountedDrives();
+QStringList mountedDrives();
 
 /// Asks for the folder that holds the run-time files. The form is made once and only hidden; when
 /// it is shown again, it stands where it was left.

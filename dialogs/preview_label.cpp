@@ -16,7 +16,7 @@ constexpr int kCaptionWidths = 2;
 constexpr float kMaxShownPoints = 200;
 
 /// The families of a font name, which may be a list as in a style sheet: "'Courier New', serif".
-QStringList FamiliesOf(const QString& name) {
+QStringList familiesOf(const QString& name) {
     QStringList families;
     for (QString family : name.split(u',')) {
         family = family.remove(u'\\').remove(u'\'').remove(u'"').trimmed();
@@ -44,7 +44,7 @@ PreviewLabel::PreviewLabel(const QString& name, const QString& caption, QWidget*
 void PreviewLabel::setFontChoice(const FontChoice& font) {
     m_font = font;
     QFont shown;
-    if (const QStringList families = FamiliesOf(QString::fromStdString(font.name));
+    if (const QStringList families = familiesOf(QString::fromStdString(font.name));
         !families.isEmpty())
         shown.setFamilies(families);
     if (font.points > 0)

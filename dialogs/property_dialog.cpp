@@ -161,8 +161,8 @@ MenuProp PropertyDialog::shownDefaults() const {
     return m_defaults != nullptr ? m_defaults->shown() : MenuProp();
 }
 
-FontChoice PropertyDialog::FontOf(const MenuProp& prop) {
-    const double points = LeadingNumber(prop.FontSize);
+FontChoice PropertyDialog::fontOf(const MenuProp& prop) {
+    const double points = leadingNumber(prop.FontSize);
     return {prop.FontFamily,
             points > 0 ? static_cast<float>(std::min(points, kMaxPoints)) : kUsualPoints,
             prop.FontStyle, prop.FontWeight};
@@ -180,7 +180,7 @@ const FontChoice& PropertyDialog::previewFont() const {
 void PropertyDialog::storePreviewFont(MenuProp& prop) const {
     const FontChoice& font = previewFont();
     prop.FontFamily = font.name;
-    prop.FontSize = WholePoints(font.points);
+    prop.FontSize = wholePoints(font.points);
     prop.FontStyle = font.isItalic;
     prop.FontWeight = font.isBold;
 }
@@ -196,7 +196,7 @@ bool PropertyDialog::chooseFont() {
 
 void PropertyDialog::Font_Set() {
     const FontChoice& font = previewFont();
-    std::string text = font.name + " " + WholePoints(font.points) + "pt";
+    std::string text = font.name + " " + wholePoints(font.points) + "pt";
     if (font.isItalic)
         text += " italic";
     if (font.isBold)

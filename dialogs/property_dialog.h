@@ -46,7 +46,7 @@ class PropertyDialog : public PropertyForm {
     void previewShownColors();
 
     /// The font of a property set. A size that is none, or that no font has, is 10 points.
-    static FontChoice FontOf(const MenuProp& prop);
+    static FontChoice fontOf(const MenuProp& prop);
     void setPreviewFont(const FontChoice& font);
     const FontChoice& previewFont() const;
     /// Writes the font of `lblFont`, its size as a whole number.

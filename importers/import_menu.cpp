@@ -16,11 +16,11 @@ constexpr const char* kTextFilter = "All Files (*.*)|*.*|Text (*.txt)|*.txt";
 
 template <OrletTopLevel kTopLevel>
 std::vector<LineWarning> readOrletAs(DefinitionLines& lines, MenuContent& content) {
-    return ReadOrlet(lines, kTopLevel, content);
+    return readOrlet(lines, kTopLevel, content);
 }
 
 constexpr ImportFormat kFormats[] = {
-    {"quillmenu", "Quillmenu", "mnuFileImportQuillmenu", kScriptFilter, ReadQuillmenu},
+    {"quillmenu", "Quillmenu", "mnuFileImportQuillmenu", kScriptFilter, readQuillmenu},
     {"orletbar", "OrletBar", "mnuFileImportOrletBar", kTextFilter, readOrletAs<OrletTopLevel::Bar>},
     {"orletmenu", "OrletMenu", "mnuFileImportOrletMenu", kTextFilter,
      readOrletAs<OrletTopLevel::List>},
@@ -41,7 +41,7 @@ const ImportFormat* findImportFormat(std::string_view name) {
     return found == std::end(kFormats) ? nullptr : found;
 }
 
-ImportResult ImportMenu(const ImportFormat& format, std::string_view bytes, MenuContent& content) {
+ImportResult importMenu(const ImportFormat& format, std::string_view bytes, MenuContent& content) {
     DefinitionLines lines(bytes);
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.

@@ -15,32 +15,32 @@ namespace {
 
 using Reason = LineWarning::Reason;
 
-bool IsLeftOut(std::string_view field) {
+bool isLeftOut(std::string_view field) {
     return field == "~";
 }
 
-void ReadLink(PieceCutter& fields, std::string& member) {
+void readLink(PieceCutter& fields, std::string& member) {
     std::string_view field;
-    if (fields.next(field) && !IsLeftOut(field))
+    if (fields.next(field) && !isLeftOut(field))
         member = StripQuotes(EscapeApostrophes(field), 0);
 }
 
-void ReadImage(PieceCutter& fields, std::string& caption) {
+void readImage(PieceCutter& fields, std::string& caption) {
     std::string_view image;
-    if (fields.next(image) && !IsLeftOut(image))
+    if (fields.next(image) && !isLeftOut(image))
         caption += " <img src=\"" + EscapeApostrophes(image) + "\" border=\"0\">";
 }
 
-ItemProp ReadItem(PieceCutter fields, bool hasImage) {
+ItemProp readItem(PieceCutter fields, bool hasImage) {
     ItemProp item;
-    item.MenuProperty = NewItemMenuProp();
+    item.MenuProperty = newItemMenuProp();
     std::string_view caption;
     fields.next(caption);
     item.Caption = EscapeApostrophes(caption);
     if (hasImage)
-        ReadImage(fields, item.Caption);
-    ReadLink(fields, item.URL);
-    ReadLink(fields, item.Target);
+        readImage(fields, item.Caption);
+    readLink(fields, item.URL);
+    readLink(fields, item.Target);
     return item;
 }
 
@@ -92,11 +92,11 @@ class OrletReader {
     /// a later sibling: every place is the last of its parent.
     void addItem(MenuNode* parent, std::size_t level, std::string_view fields) {
         const bool hasImage = level == 1 && m_topLevel == OrletTopLevel::ImageBar;
-        ItemProp item = ReadItem(PieceCutter(fields, '|'), hasImage);
+        ItemProp item = readItem(PieceCutter(fields, '|'), hasImage);
         // The number is new at every item, so the key is never taken.
         ++m_content.ItemCounter;
         std::string key =
-            LoadedItemKey(kTopLevelMenuId, static_cast<std::size_t>(m_content.ItemCounter));
+            loadedItemKey(kTopLevelMenuId, static_cast<std::size_t>(m_content.ItemCounter));
         std::string text = item.Caption;
         m_previous =
             m_content.tree.append(parent, std::move(key), std::move(text), std::move(item));
@@ -116,7 +116,7 @@ class OrletReader {
 
 }  // namespace
 
-std::vector<LineWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
+std::vector<LineWarning> readOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
                                    MenuContent& content) {
     if (topLevel == OrletTopLevel::List)
         content.RootMenuProp.Columns = "1";

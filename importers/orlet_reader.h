@@ -22,7 +22,7 @@ enum class OrletTopLevel {
 ///     :Products|products.html|main
 ///     ::Seeds|seeds.html
 ///     :Contact|~|~                    "~" is an empty field
-std::vector<LineWarning> ReadOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
+std::vector<LineWarning> readOrlet(DefinitionLines& lines, OrletTopLevel topLevel,
                                    MenuContent& content);
 
 }  // namespace zev

@@ -67,7 +67,7 @@ constexpr ScriptDialect kQuillmenu = {.start = "qlm",
 
 }  // namespace
 
-std::vector<LineWarning> ReadQuillmenu(DefinitionLines& lines, MenuContent& content) {
+std::vector<LineWarning> readQuillmenu(DefinitionLines& lines, MenuContent& content) {
     return readMenuScript(lines, kQuillmenu, content);
 }
 

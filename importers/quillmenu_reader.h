@@ -18,6 +18,6 @@ namespace zev {
 ///     qlmenu1.addImages('URL', 'IMAGE OUT', 'IMAGE OVER', 'TARGET');
 ///
 /// A submenu's id spells the positions of the items that lead to it, from 1.
-std::vector<LineWarning> ReadQuillmenu(DefinitionLines& lines, MenuContent& content);
+std::vector<LineWarning> readQuillmenu(DefinitionLines& lines, MenuContent& content);
 
 }  // namespace zev

@@ -28,18 +28,18 @@ std::string MenuList_GetString(std::string_view entry) {
     return argumentsOf(submenuIdOf(entry));
 }
 
-std::string DefinitionReference(std::string_view definitionURL) {
+std::string definitionReference(std::string_view definitionURL) {
     std::string code = "<script language=\"JavaScript1.2\" src=\"";
     code += definitionURL;
     return code + "\"></script>";
 }
 
-std::string MenuCode(std::string_view definitionURL) {
-    return DefinitionReference(definitionURL) +
+std::string menuCode(std::string_view definitionURL) {
+    return definitionReference(definitionURL) +
            "\r\n<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>";
 }
 
-std::string PopupLinkCode(std::string_view submenuId, const PopupPlacement& placement) {
+std::string popupLinkCode(std::string_view submenuId, const PopupPlacement& placement) {
     const std::string arguments = argumentsOf(submenuId);
     const std::string start = "<a href=\"\" onmouseover=\"ZEVMenuOpen(" + arguments;
     if (placement.isAtMouse)

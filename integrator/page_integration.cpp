@@ -21,7 +21,7 @@ bool isFullPath(std::string_view text) {
 }
 
 /// A drive's folder gets a separator whatever it ends in; a folder of the system has at most one.
-std::string WithSeparator(std::string_view folder) {
+std::string withSeparator(std::string_view folder) {
     std::string path(folder);
     if (Path(trimSpaces(folder)).kind() != Path::Kind::System)
         path += '\\';
@@ -49,20 +49,20 @@ IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view defi
         isFullPath(definition) ? ToRelativeURL(pagesFolder, definition) : std::string(definition);
     // The folder goes into the sum with its spaces: a folder's name may end in one.
     urls.library = isFullPath(trimSpaces(library))
-                       ? ToRelativeURL(pagesFolder, WithSeparator(library))
+                       ? ToRelativeURL(pagesFolder, withSeparator(library))
                        : std::string(trimSpaces(library));
     return urls;
 }
 
-std::string PagePath(const std::string& folder, const std::string& name) {
-    return WithSeparator(folder) + name;
+std::string pagePath(const std::string& folder, const std::string& name) {
+    return withSeparator(folder) + name;
 }
 
-FileResult<std::size_t> CountDroppedScripts(const FileSystem& files, const std::string& path) {
+FileResult<std::size_t> countDroppedScripts(const FileSystem& files, const std::string& path) {
     const FileResult<std::string> page = readPage(files, path);
     if (!page.isOk())
         return page.error();
-    return CountDroppedScripts(page.value());
+    return countDroppedScripts(page.value());
 }
 
 PageIntegrator::PageIntegrator(FileSystem& files, IntegrationOptions options)
@@ -76,7 +76,7 @@ bool PageIntegrator::IntegratePages(const ChosenFiles& inputFiles, const ShouldG
                        std::to_string(count) + " pages not processed");
             return false;
         }
-        integratePage(PagePath(inputFiles.folder, inputFiles.names[done]));
+        integratePage(pagePath(inputFiles.folder, inputFiles.names[done]));
     }
     return true;
 }
@@ -107,7 +107,7 @@ std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) 
     if (!page->isOk())
         return PageError{PageError::Code::NotRead, page->error()};
     IntegrationStatus status;
-    std::string bytes = RewritePage(page->value(), m_options.rewrite, status);
+    std::string bytes = rewritePage(page->value(), m_options.rewrite, status);
     page.reset();  // while the new page is written, the old one would only take up memory
     if (!m_options.isDryRun) {
         if (std::optional<PageError> error = replacePage(path, std::move(bytes)))

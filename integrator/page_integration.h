@@ -26,10 +26,10 @@ IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view defi
 
 /// Full path of a page in the folder with the full path `folder`: both joined by the separator of
 /// the folder's own form.
-std::string PagePath(const std::string& folder, const std::string& name);
+std::string pagePath(const std::string& folder, const std::string& name);
 
 /// How many of the page's scripts integration drops unless other scripts are kept.
-FileResult<std::size_t> CountDroppedScripts(const FileSystem& files, const std::string& path);
+FileResult<std::size_t> countDroppedScripts(const FileSystem& files, const std::string& path);
 
 /// Why a page was not integrated.
 struct PageError {

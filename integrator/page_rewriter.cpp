@@ -182,12 +182,12 @@ std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits)
     return bytes;
 }
 
-std::string RewritePage(std::string_view page, const RewriteOptions& options,
+std::string rewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status) {
     return withEdits(page, pageEdits(page, options, status));
 }
 
-std::size_t CountDroppedScripts(std::string_view page) {
+std::size_t countDroppedScripts(std::string_view page) {
     std::size_t count = 0;
     HtmlParse parser;
     for (parser.Load(page); !parser.IsLast(); parser.Next())

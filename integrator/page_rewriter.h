@@ -39,10 +39,10 @@ std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& opt
 std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits);
 
 /// The page with its edits done, and the status of `pageEdits`.
-std::string RewritePage(std::string_view page, const RewriteOptions& options,
+std::string rewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status);
 
 /// How many scripts of the page are dropped unless other scripts are kept.
-std::size_t CountDroppedScripts(std::string_view page);
+std::size_t countDroppedScripts(std::string_view page);
 
 }  // namespace zev

@@ -82,7 +82,7 @@ void WizardFlow::countScripts(const ShouldGoOn& shouldGoOn) {
     for (const std::string& name : InputFiles.names) {
         if (!shouldGoOn(m_scriptCount.pageCount, InputFiles.names.size()))
             return;
-        const auto count = CountDroppedScripts(m_files, PagePath(InputFiles.folder, name));
+        const auto count = countDroppedScripts(m_files, pagePath(InputFiles.folder, name));
         if (count.isOk())
             m_scriptCount.scriptCount += count.value();
         ++m_scriptCount.pageCount;
@@ -127,8 +127,8 @@ void WizardFlow::goBack() {
 
 void WizardFlow::IntegratePages(const WizardAnswers& answers, const Progress& progress) {
     const IntegrationURLs urls = urlsOf(answers);
-    m_code = answers.isPopup ? DefinitionReference(urls.definition) : MenuCode(urls.definition);
-    m_linkCode = answers.isPopup ? PopupLinkCode(answers.submenuId, answers.placement) : "";
+    m_code = answers.isPopup ? definitionReference(urls.definition) : menuCode(urls.definition);
+    m_linkCode = answers.isPopup ? popupLinkCode(answers.submenuId, answers.placement) : "";
     PageIntegrator integrator(
         m_files, {{urls.library, answers.keepsOtherScripts}, answers.hasBackups, false});
     m_isCancelled = false;

@@ -2,7 +2,7 @@
 
 namespace zev {
 
-std::string_view ReasonText(LineWarning::Reason reason) {
+std::string_view reasonText(LineWarning::Reason reason) {
     switch (reason) {
         case LineWarning::Reason::UnknownMenu:
             return "no item opens the menu it belongs to";

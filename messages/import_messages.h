@@ -7,6 +7,6 @@
 namespace zev {
 
 /// The reason in English words, as the end of "line 12: ...".
-std::string_view ReasonText(LineWarning::Reason reason);
+std::string_view reasonText(LineWarning::Reason reason);
 
 }  // namespace zev

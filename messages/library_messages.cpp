@@ -2,7 +2,7 @@
 
 namespace zev {
 
-std::string CopyProblemText(const CopyOutcome& outcome) {
+std::string copyProblemText(const CopyOutcome& outcome) {
     switch (outcome.result) {
         case CopyResult::SourceMissing:
             return "Error: " + outcome.path + " does not exist";

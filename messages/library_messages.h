@@ -7,6 +7,6 @@
 namespace zev {
 
 /// The sentence for the person when a copy failed; empty when there is nothing to say.
-std::string CopyProblemText(const CopyOutcome& outcome);
+std::string copyProblemText(const CopyOutcome& outcome);
 
 }  // namespace zev

@@ -23,7 +23,7 @@ bool isContinuationByte(char byte) {
 
 /// Takes the number that `text` begins with off it; nothing when there is none, or none that a
 /// double can hold.
-std::optional<double> TakeNumber(std::string_view& text) {
+std::optional<double> takeNumber(std::string_view& text) {
     // std::from_chars knows no plus sign.
     if (text.starts_with('+') && !text.starts_with("+-"))
         text.remove_prefix(1);
@@ -37,13 +37,13 @@ std::optional<double> TakeNumber(std::string_view& text) {
 }
 
 /// The value of a text that is a number and nothing else.
-std::optional<double> NumberOf(std::string_view text) {
-    const std::optional<double> value = TakeNumber(text);
+std::optional<double> numberOf(std::string_view text) {
+    const std::optional<double> value = takeNumber(text);
     return text.empty() ? value : std::nullopt;
 }
 
 /// The shortest decimal text, without an exponent, that stands for `number`.
-std::string TextOf(double number) {
+std::string textOf(double number) {
     std::array<char, std::numeric_limits<double>::max_exponent10 + 32> buffer;
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                       std::chars_format::fixed);
@@ -52,7 +52,7 @@ std::string TextOf(double number) {
 
 }  // namespace
 
-std::optional<std::int32_t> ColorOf(std::string_view text) {
+std::optional<std::int32_t> colorOf(std::string_view text) {
     if (text.empty())
         return std::nullopt;
     text.remove_prefix(1);
@@ -70,7 +70,7 @@ std::optional<std::int32_t> ColorOf(std::string_view text) {
 }
 
 std::int32_t HexToColor(std::string_view text) {
-    return ColorOf(text).value_or(0);
+    return colorOf(text).value_or(0);
 }
 
 std::string ColorToHex(std::string_view digits) {
@@ -89,17 +89,17 @@ CheckedText CheckRange(std::string_view text, double lower, double upper) {
     if (text.empty())
         return {};
     const std::string_view number = trimSpaces(text);
-    const std::optional<double> value = NumberOf(number);
+    const std::optional<double> value = numberOf(number);
     if (value.has_value() && lower <= *value && *value <= upper)
         return {std::string(number), ""};
-    return {"", "Please enter a value between " + TextOf(lower) + " and " + TextOf(upper)};
+    return {"", "Please enter a value between " + textOf(lower) + " and " + textOf(upper)};
 }
 
 CheckedText CheckInteger(std::string_view text) {
     if (text.empty())
         return {};
     const std::string_view number = trimSpaces(text);
-    if (const std::optional<double> value = NumberOf(number)) {
+    if (const std::optional<double> value = numberOf(number)) {
         // Half to even, the rounding mode every program starts with.
         const double rounded = std::nearbyint(*value);
         if (rounded >= std::numeric_limits<std::int16_t>::min() &&
@@ -109,17 +109,17 @@ CheckedText CheckInteger(std::string_view text) {
     return {"", "Please enter an integer value: 0 - 65535"};
 }
 
-double LeadingNumber(std::string_view text) {
+double leadingNumber(std::string_view text) {
     // What begins with a point would be written as a size of 0.
     const std::size_t first = text.find_first_not_of("+-");
     if (first == std::string_view::npos || !isAsciiDigit(text[first]))
         return 0;
-    return TakeNumber(text).value_or(0);
+    return takeNumber(text).value_or(0);
 }
 
-std::string WholePoints(float points) {
+std::string wholePoints(float points) {
     // Adding zero makes a plain 0 of what is rounded to -0.
-    return TextOf(std::nearbyint(static_cast<double>(points)) + 0.0);
+    return textOf(std::nearbyint(static_cast<double>(points)) + 0.0);
 }
 
 }  // namespace zev

@@ -19,7 +19,7 @@ std::int32_t HexToColor(std::string_view text);
 
 /// The same, with nothing instead of black where the text names no colour: where a character is no
 /// hexadecimal digit, or no digit follows the first character.
-std::optional<std::int32_t> ColorOf(std::string_view text);
+std::optional<std::int32_t> colorOf(std::string_view text);
 
 /// "#RRGGBB", in the digits' own case, from a colour value written in hexadecimal digits (blue,
 /// green, red; leading zeros may be missing).
@@ -45,9 +45,9 @@ CheckedText CheckInteger(std::string_view text);
 
 /// The number at the beginning of `text`, or 0 when there is none: "10pt" is 10. It begins with a
 /// sign or a digit.
-double LeadingNumber(std::string_view text);
+double leadingNumber(std::string_view text);
 
 /// A size in points as a whole number, rounded half to even: 10.5 is "10", 11.5 is "12".
-std::string WholePoints(float points);
+std::string wholePoints(float points);
 
 }  // namespace zev

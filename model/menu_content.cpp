@@ -4,13 +4,13 @@
 
 namespace zev {
 
-MenuContent::MenuContent() : RootMenuProp(*NewItemMenuProp()) {
+MenuContent::MenuContent() : RootMenuProp(*newItemMenuProp()) {
     DefaultProp.SetDefault();
     RootMenuProp.Columns = "10";
     RootMenuProp.Position = 2;
 }
 
-const SharedMenuProp& NewItemMenuProp() {
+const SharedMenuProp& newItemMenuProp() {
     static const SharedMenuProp shared = [] {
         MenuProp prop;
         for (const MenuPropertyRow& row : kMenuProperties)

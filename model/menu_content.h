@@ -25,6 +25,6 @@ struct MenuContent {
 inline constexpr std::int16_t kMaxItemCounter = 32767;
 
 /// The submenu property set every new item starts with: usual divider and spaces, all else unset.
-const SharedMenuProp& NewItemMenuProp();
+const SharedMenuProp& newItemMenuProp();
 
 }  // namespace zev

@@ -10,7 +10,7 @@ namespace {
 
 using Siblings = std::vector<MenuNode*>;
 
-Siblings::iterator At(Siblings& siblings, std::size_t row) {
+Siblings::iterator at(Siblings& siblings, std::size_t row) {
     return siblings.begin() + static_cast<std::ptrdiff_t>(row);
 }
 
@@ -119,14 +119,14 @@ void MenuTree::insert(MenuBranch branch, const MenuNode* parent, std::size_t row
     Siblings& siblings = siblingsUnder(parent);
     assert(row <= siblings.size());
     branch.m_top->m_parent = parent ? &edit(*parent) : nullptr;
-    siblings.insert(At(siblings, row), branch.m_top);
+    siblings.insert(at(siblings, row), branch.m_top);
     renumber(siblings, row);
 }
 
 MenuBranch MenuTree::take(const MenuNode& node) {
     MenuBranch branch(edit(node));
     Siblings& siblings = siblingsUnder(node.m_parent);
-    siblings.erase(At(siblings, node.m_row));
+    siblings.erase(at(siblings, node.m_row));
     renumber(siblings, node.m_row);
 
     Siblings subtree = {branch.m_top};
@@ -148,7 +148,7 @@ void MenuTree::move(const MenuNode& node, const MenuNode* parent, std::size_t ro
         return;
 
     Siblings& oldSiblings = siblingsUnder(node.m_parent);
-    oldSiblings.erase(At(oldSiblings, oldRow));
+    oldSiblings.erase(at(oldSiblings, oldRow));
     renumber(oldSiblings, oldRow);
 
     if (isSameParent && row > oldRow)
@@ -157,7 +157,7 @@ void MenuTree::move(const MenuNode& node, const MenuNode* parent, std::size_t ro
     assert(row <= newSiblings.size());
     MenuNode& moved = edit(node);
     moved.m_parent = parent ? &edit(*parent) : nullptr;
-    newSiblings.insert(At(newSiblings, row), &moved);
+    newSiblings.insert(at(newSiblings, row), &moved);
     renumber(newSiblings, row);
 }
 

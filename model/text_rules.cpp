@@ -4,7 +4,7 @@ namespace zev {
 
 namespace {
 
-std::string WithoutCharacter(std::string_view text, char unwanted) {
+std::string withoutCharacter(std::string_view text, char unwanted) {
     std::string result(text);
     std::erase(result, unwanted);
     return result;
@@ -28,9 +28,9 @@ std::string EscapeApostrophes(std::string_view text) {
 std::string StripQuotes(std::string_view text, int mode) {
     std::string result(text);
     if (mode < 2)
-        result = WithoutCharacter(result, '"');
+        result = withoutCharacter(result, '"');
     if (mode >= 1)
-        result = WithoutCharacter(result, '\'');
+        result = withoutCharacter(result, '\'');
     return result;
 }
 

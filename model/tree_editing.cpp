@@ -9,12 +9,12 @@ namespace zev {
 namespace {
 
 /// The submenus of a horizontal top-level menu open below their items.
-bool OpensBelow(const MenuDocument& document) {
+bool opensBelow(const MenuDocument& document) {
     const std::string& rootColumns = document.RootMenuProp().Columns;
     return rootColumns.empty() ? document.DefaultProp().Columns != "1" : rootColumns != "1";
 }
 
-void UseUpNumber(MenuDocument& document) {
+void useUpNumber(MenuDocument& document) {
     document.apply(SetItemCounter{static_cast<std::int16_t>(document.ItemCounter() + 1)});
     document.markModified();
 }
@@ -23,14 +23,14 @@ void UseUpNumber(MenuDocument& document) {
 ItemProp InitNewNode(MenuDocument& document, const MenuNode* parent, std::string caption) {
     ItemProp item;
     item.Caption = std::move(caption);
-    item.MenuProperty = NewItemMenuProp();
-    if (!parent && OpensBelow(document))
+    item.MenuProperty = newItemMenuProp();
+    if (!parent && opensBelow(document))
         item.MenuProperty.edit().Position = 2;
-    UseUpNumber(document);
+    useUpNumber(document);
     return item;
 }
 
-const MenuNode* AppendNewNode(MenuDocument& document, const MenuNode* parent) {
+const MenuNode* appendNewNode(MenuDocument& document, const MenuNode* parent) {
     const std::string number = std::to_string(document.ItemCounter());
     std::string text = "Item " + number;
     ItemProp item = InitNewNode(document, parent, text);
@@ -43,7 +43,7 @@ const MenuNode* AppendNewNode(MenuDocument& document, const MenuNode* parent) {
 
 /// Moves `CurNode` to another level; like a new node it uses up a number, though it keeps its own
 /// key and item.
-EditResult MoveToLevel(MenuDocument& document, const MenuNode* parent, std::size_t row) {
+EditResult moveToLevel(MenuDocument& document, const MenuNode* parent, std::size_t row) {
     if (document.ItemCounter() == kMaxItemCounter)
         return EditResult::CounterExhausted;
     const MenuNode& node = *document.CurNode();
@@ -52,27 +52,27 @@ EditResult MoveToLevel(MenuDocument& document, const MenuNode* parent, std::size
     if (wasVisible)
         document.makeVisible(node);
     document.select(&node);
-    UseUpNumber(document);
+    useUpNumber(document);
     return EditResult::Done;
 }
 
 }  // namespace
 
-EditResult AddMenuItem(MenuDocument& document) {
+EditResult addMenuItem(MenuDocument& document) {
     if (document.ItemCounter() == kMaxItemCounter)
         return EditResult::CounterExhausted;
     const MenuNode* selected = document.selectedNode();
-    const MenuNode* const node = AppendNewNode(document, selected ? selected->parent() : nullptr);
+    const MenuNode* const node = appendNewNode(document, selected ? selected->parent() : nullptr);
     document.makeVisible(*node);
     document.select(node);
     return EditResult::Done;
 }
 
-EditResult AddSubmenuItem(MenuDocument& document) {
+EditResult addSubmenuItem(MenuDocument& document) {
     if (document.ItemCounter() == kMaxItemCounter)
         return EditResult::CounterExhausted;
     const MenuNode* const selected = document.selectedNode();
-    const MenuNode* const node = AppendNewNode(document, selected);
+    const MenuNode* const node = appendNewNode(document, selected);
     if (selected)
         document.makeVisible(*node);
     else
@@ -80,7 +80,7 @@ EditResult AddSubmenuItem(MenuDocument& document) {
     return EditResult::Done;
 }
 
-EditResult DeleteItem(MenuDocument& document) {
+EditResult deleteItem(MenuDocument& document) {
     if (!document.selectedNode())
         return EditResult::NothingToDo;
     document.apply(RemoveBranch{document.selectedNode()});
@@ -88,25 +88,25 @@ EditResult DeleteItem(MenuDocument& document) {
     return EditResult::Done;
 }
 
-EditResult MoveLeft(MenuDocument& document) {
+EditResult moveLeft(MenuDocument& document) {
     const MenuNode* const node = document.CurNode();
     if (!node || !node->parent())
         return EditResult::NothingToDo;
     const MenuNode& parent = *node->parent();
-    return MoveToLevel(document, parent.parent(), parent.row() + 1);
+    return moveToLevel(document, parent.parent(), parent.row() + 1);
 }
 
-EditResult MoveRight(MenuDocument& document) {
+EditResult moveRight(MenuDocument& document) {
     const MenuNode* const node = document.CurNode();
     if (!node)
         return EditResult::NothingToDo;
     const MenuNode* const previous = document.tree().previousSibling(*node);
     if (!previous)
         return EditResult::NothingToDo;
-    return MoveToLevel(document, previous, previous->children().size());
+    return moveToLevel(document, previous, previous->children().size());
 }
 
-EditResult MoveUp(MenuDocument& document) {
+EditResult moveUp(MenuDocument& document) {
     const MenuNode* const node = document.CurNode();
     if (!node || node->row() == 0)
         return EditResult::NothingToDo;
@@ -115,7 +115,7 @@ EditResult MoveUp(MenuDocument& document) {
     return EditResult::Done;
 }
 
-EditResult MoveDown(MenuDocument& document) {
+EditResult moveDown(MenuDocument& document) {
     const MenuNode* const node = document.CurNode();
     if (!node || !document.tree().nextSibling(*node))
         return EditResult::NothingToDo;

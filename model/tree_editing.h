@@ -17,28 +17,28 @@ enum class EditResult {
 
 /// Adds an item as the last sibling of the selected node (last top-level node without a
 /// selection), makes it visible, selected and current.
-EditResult AddMenuItem(MenuDocument& document);
+EditResult addMenuItem(MenuDocument& document);
 
 /// Adds an item as the last child of the selected node and makes it visible; selection and
 /// `CurNode` stay. Without a selection: last top-level node, which becomes `CurNode` but is not
 /// selected.
-EditResult AddSubmenuItem(MenuDocument& document);
+EditResult addSubmenuItem(MenuDocument& document);
 
 /// Removes the selected node with its subtree. Next sibling, else previous, else parent becomes
 /// selected and current.
-EditResult DeleteItem(MenuDocument& document);
+EditResult deleteItem(MenuDocument& document);
 
 /// Makes `CurNode` the next sibling of its parent. Uses up one number of `ItemCounter`, as every
 /// new place in the tree does.
-EditResult MoveLeft(MenuDocument& document);
+EditResult moveLeft(MenuDocument& document);
 
 /// Makes `CurNode` the last child of its previous sibling. Uses up one number of `ItemCounter`.
-EditResult MoveRight(MenuDocument& document);
+EditResult moveRight(MenuDocument& document);
 
 /// Exchanges `CurNode` with its previous sibling.
-EditResult MoveUp(MenuDocument& document);
+EditResult moveUp(MenuDocument& document);
 
 /// Exchanges `CurNode` with its next sibling.
-EditResult MoveDown(MenuDocument& document);
+EditResult moveDown(MenuDocument& document);
 
 }  // namespace zev

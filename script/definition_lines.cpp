@@ -6,7 +6,7 @@
 namespace zev {
 
 DefinitionLines::DefinitionLines(std::string_view bytes)
-    : m_rest(DecodeDefinition(bytes, m_converted)) {}
+    : m_rest(decodeDefinition(bytes, m_converted)) {}
 
 bool DefinitionLines::next(std::string_view& line) {
     if (m_rest.empty())

@@ -7,7 +7,7 @@
 namespace zev {
 
 /// The lines of a menu file, one after the other: UTF-8 whatever the file's encoding
-/// (`DecodeDefinition`), without the spaces at both ends.
+/// (`decodeDefinition`), without the spaces at both ends.
 ///
 /// A line ends at LF; a CR before it is dropped.
 class DefinitionLines {

@@ -8,10 +8,10 @@ namespace zev {
 
 namespace {
 
-constexpr auto npos = std::string_view::npos;
+constexpr auto kNpos = std::string_view::npos;
 
 /// Offset of the last code point of `text`; 0 when it is empty.
-std::size_t LastCodePointOffset(std::string_view text) {
+std::size_t lastCodePointOffset(std::string_view text) {
     std::size_t offset = text.size();
     while (offset > 0 && (text[--offset] & 0xC0) == 0x80) {
     }
@@ -22,10 +22,10 @@ std::size_t LastCodePointOffset(std::string_view text) {
 
 std::string GetPropName(std::string_view line) {
     const std::size_t dot = line.find('.');
-    if (dot == npos)
+    if (dot == kNpos)
         return {};
     const std::size_t equals = line.find('=', dot);
-    if (equals == npos)
+    if (equals == kNpos)
         return {};
     return std::string(trimSpaces(line.substr(dot + 1, equals - dot - 1)));
 }
@@ -35,7 +35,7 @@ std::string GetPropValue(std::string_view line) {
     const std::size_t doubleQuote = line.find('"');
     std::size_t start;
     std::size_t end;
-    if (apostrophe == npos && doubleQuote == npos) {
+    if (apostrophe == kNpos && doubleQuote == kNpos) {
         start = line.find('=');
         end = line.find(';');
     } else if (apostrophe < doubleQuote) {
@@ -47,21 +47,21 @@ std::string GetPropValue(std::string_view line) {
     }
     // A value that is not closed ends before the line's last character, which is usually the
     // semicolon.
-    if (end == npos || end == start)
-        end = LastCodePointOffset(line);
-    const std::size_t first = start == npos ? 0 : start + 1;
+    if (end == kNpos || end == start)
+        end = lastCodePointOffset(line);
+    const std::size_t first = start == kNpos ? 0 : start + 1;
     return end <= first ? std::string() : std::string(line.substr(first, end - first));
 }
 
 std::string GetMenuId(std::string_view line) {
     const std::size_t call = line.find("ZEVMenu(");
-    if (call == npos)
+    if (call == kNpos)
         return {};
     const std::size_t opening = line.find('\'', call);
-    if (opening == npos)
+    if (opening == kNpos)
         return {};
     const std::size_t closing = line.find('\'', opening + 1);
-    if (closing == npos)
+    if (closing == kNpos)
         return {};
     return std::string(line.substr(opening + 1, closing - opening - 1));
 }

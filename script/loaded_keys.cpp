@@ -8,12 +8,12 @@ constexpr std::string_view kPrefix = "KeyLoad ";
 
 }  // namespace
 
-std::string LoadedMenuKey(std::string_view menuId) {
+std::string loadedMenuKey(std::string_view menuId) {
     std::string key(kPrefix);
     return key += menuId;
 }
 
-std::string LoadedItemKey(std::string_view menuId, std::size_t position) {
+std::string loadedItemKey(std::string_view menuId, std::size_t position) {
     std::string key(kPrefix);
     if (menuId != kTopLevelMenuId) {
         key += menuId;

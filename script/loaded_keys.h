@@ -11,10 +11,10 @@ namespace zev {
 inline constexpr std::string_view kTopLevelMenuId = "0";
 
 /// Tree key of the item that opens the menu of this id.
-std::string LoadedMenuKey(std::string_view menuId);
+std::string loadedMenuKey(std::string_view menuId);
 
 /// Tree key of an item read from a file: that of the menu it opens, whether it opens one or not.
 /// `position` in the menu of this id is counted from 1.
-std::string LoadedItemKey(std::string_view menuId, std::size_t position);
+std::string loadedItemKey(std::string_view menuId, std::size_t position);
 
 }  // namespace zev

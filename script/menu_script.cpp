@@ -56,7 +56,7 @@ class MenuScriptReader {
     void openMenu(const CreationLine& creation, std::string_view line) {
         m_menuId = creation.idOf ? creation.idOf(line) : std::string(kTopLevelMenuId);
         m_itemNumber = 0;
-        m_menuNode = isTopLevel() ? nullptr : m_content.tree.find(LoadedMenuKey(m_menuId));
+        m_menuNode = isTopLevel() ? nullptr : m_content.tree.find(loadedMenuKey(m_menuId));
         if (!creation.readLook)
             return;
         // A submenu that no item opens is no warning by itself: what is put into it is. That holds
@@ -81,7 +81,7 @@ class MenuScriptReader {
     /// count it. True when the line has all arguments of an item and no more.
     bool readItem(std::string_view line, bool (*load)(ItemProp&, std::string_view)) {
         ItemProp item;
-        item.MenuProperty = NewItemMenuProp();
+        item.MenuProperty = newItemMenuProp();
         const bool isWhole = load(item, line);
         ++m_itemNumber;
         const bool isFull = m_content.ItemCounter == kMaxItemCounter;
@@ -99,7 +99,7 @@ class MenuScriptReader {
 
     bool addItem(ItemProp&& item) {
         std::string text = item.IsRollover ? item.ImageOut : item.Caption;
-        if (m_content.tree.append(m_menuNode, LoadedItemKey(m_menuId, m_itemNumber),
+        if (m_content.tree.append(m_menuNode, loadedItemKey(m_menuId, m_itemNumber),
                                   std::move(text), std::move(item)))
             return true;
         warn(Reason::DuplicateKey);

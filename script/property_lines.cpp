@@ -87,7 +87,7 @@ bool isWritten(LineRule rule, const MenuPropertyRow& row, const MenuProp& prop,
         case LineRule::UnlessFactory:
             return hasOwnValue(row, prop, factorySet());
         case LineRule::UnlessStarting:
-            return !isEqual(row, prop, *NewItemMenuProp());
+            return !isEqual(row, prop, *newItemMenuProp());
     }
     return false;
 }

@@ -11,7 +11,7 @@ namespace zev {
 
 namespace {
 
-constexpr auto npos = std::string_view::npos;
+constexpr auto kNpos = std::string_view::npos;
 constexpr std::string_view kParentStep = "../";
 
 /// True for addresses that no folder has a part in. A full "https://" or "ftp://" address is not
@@ -63,7 +63,7 @@ std::string ToRelativeURL(std::string_view base, std::string_view path) {
     std::string_view folderRest = start;
     std::size_t folderEnd = folderRest.find(separator);
     std::size_t pathEnd = path.find(separator);
-    while (folderEnd != npos && pathEnd != npos &&
+    while (folderEnd != kNpos && pathEnd != kNpos &&
            folderRest.substr(0, folderEnd) == path.substr(0, pathEnd)) {
         folderRest.remove_prefix(folderEnd + 1);
         path.remove_prefix(pathEnd + 1);
@@ -106,7 +106,7 @@ std::string RebaseURL(std::string_view oldFolder, std::string_view newFolder,
 
 namespace {
 
-void RebaseItem(ItemProp& item, std::string_view oldFolder, std::string_view newFolder) {
+void rebaseItem(ItemProp& item, std::string_view oldFolder, std::string_view newFolder) {
     for (std::string* url : {&item.URL, &item.ImageOut, &item.ImageOver})
         *url = RebaseURL(oldFolder, newFolder, *url);
     if (!item.MenuProperty->BgImg.empty()) {
@@ -122,7 +122,7 @@ void RebaseAllURLs(MenuContent& content, std::string_view oldFolder, std::string
         return;
     MenuTree& tree = content.tree;
     for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node))
-        RebaseItem(tree.edit(*node).item, oldFolder, newFolder);
+        rebaseItem(tree.edit(*node).item, oldFolder, newFolder);
 }
 
 Changes RebaseAllURLs(MenuDocument& document, std::string_view oldFolder,
@@ -133,7 +133,7 @@ Changes RebaseAllURLs(MenuDocument& document, std::string_view oldFolder,
     const MenuTree& tree = document.tree();
     for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
         SetItem change{node, node->item};
-        RebaseItem(change.item, oldFolder, newFolder);
+        rebaseItem(change.item, oldFolder, newFolder);
         if (change.item != node->item)
             changes.push_back(std::move(change));
     }

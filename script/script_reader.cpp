@@ -37,7 +37,7 @@ ReadResult ReadScript(std::string_view bytes, MenuContent& content) {
     return result;
 }
 
-bool IsBinary(std::string_view bytes) {
+bool isBinary(std::string_view bytes) {
     return bytes.find('\0') != std::string_view::npos;
 }
 

@@ -30,6 +30,6 @@ struct ReadResult {
 ReadResult ReadScript(std::string_view bytes, MenuContent& content);
 
 /// True when `bytes` cannot be a text file: it holds a NUL byte.
-bool IsBinary(std::string_view bytes);
+bool isBinary(std::string_view bytes);
 
 }  // namespace zev

@@ -15,7 +15,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 
 /// Writes one menu: the creation line, its properties and its items, the latter two each closed by
 /// an empty line.
-void WriteMenu(std::string& script, std::string_view id, const std::string& properties,
+void writeMenu(std::string& script, std::string_view id, const std::string& properties,
                std::span<const MenuNode* const> items) {
     script += "zevmenu = new ZEVMenu('";
     script += id;
@@ -44,15 +44,15 @@ std::string GenerateScript(const MenuContent& content) {
     if (tree.isEmpty())
         return script;
 
-    WriteMenu(script, "0", GetText(content.RootMenuProp, defaults), tree.topLevel());
+    writeMenu(script, "0", GetText(content.RootMenuProp, defaults), tree.topLevel());
     SubmenuWalk walk(tree);
     while (const MenuNode* node = walk.next())
-        WriteMenu(script, walk.id(), GetText(*node->item.MenuProperty, defaults), node->children());
+        writeMenu(script, walk.id(), GetText(*node->item.MenuProperty, defaults), node->children());
     return script;
 }
 
-std::string DefinitionFileBytes(std::string script) {
-    if (!IsAscii(script))
+std::string definitionFileBytes(std::string script) {
+    if (!isAscii(script))
         script.insert(0, "\xEF\xBB\xBF");
     script += kLineEnd;
     return script;

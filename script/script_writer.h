@@ -14,6 +14,6 @@ std::string GenerateScript(const MenuContent& content);
 /// The bytes of a definition file that holds `script`: the script and one more CR LF, with a UTF-8
 /// byte order mark in front when anything is outside ASCII, so that a browser reads it right from a
 /// page in any encoding.
-std::string DefinitionFileBytes(std::string script);
+std::string definitionFileBytes(std::string script);
 
 }  // namespace zev

@@ -17,11 +17,11 @@ constexpr std::array<char16_t, 32> kWindows1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-std::uint8_t ByteAt(std::string_view bytes, std::size_t offset) {
+std::uint8_t byteAt(std::string_view bytes, std::size_t offset) {
     return static_cast<std::uint8_t>(bytes[offset]);
 }
 
-std::size_t SkipAscii(std::string_view bytes, std::size_t offset) {
+std::size_t skipAscii(std::string_view bytes, std::size_t offset) {
     constexpr std::uint64_t kHighBits = 0x8080808080808080;
     std::uint64_t block;
     while (offset + sizeof block <= bytes.size()) {
@@ -30,14 +30,14 @@ std::size_t SkipAscii(std::string_view bytes, std::size_t offset) {
             break;
         offset += sizeof block;
     }
-    while (offset < bytes.size() && ByteAt(bytes, offset) < 0x80)
+    while (offset < bytes.size() && byteAt(bytes, offset) < 0x80)
         ++offset;
     return offset;
 }
 
 /// Length of the well-formed sequence of two to four bytes at `offset`; 0 when there is none.
-std::size_t SequenceLength(std::string_view bytes, std::size_t offset) {
-    const std::uint8_t lead = ByteAt(bytes, offset);
+std::size_t sequenceLength(std::string_view bytes, std::size_t offset) {
+    const std::uint8_t lead = byteAt(bytes, offset);
     if (lead < 0xC2 || lead > 0xF4)
         return 0;
     const std::size_t length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
@@ -47,33 +47,33 @@ std::size_t SequenceLength(std::string_view bytes, std::size_t offset) {
     // nothing beyond U+10FFFF.
     const std::uint8_t lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
     const std::uint8_t highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-    const std::uint8_t second = ByteAt(bytes, offset + 1);
+    const std::uint8_t second = byteAt(bytes, offset + 1);
     if (second < lowest || second > highest)
         return 0;
     for (std::size_t i = 2; i < length; ++i)
-        if ((ByteAt(bytes, offset + i) & 0xC0) != 0x80)
+        if ((byteAt(bytes, offset + i) & 0xC0) != 0x80)
             return 0;
     return length;
 }
 
 }  // namespace
 
-bool IsAscii(std::string_view bytes) {
-    return SkipAscii(bytes, 0) == bytes.size();
+bool isAscii(std::string_view bytes) {
+    return skipAscii(bytes, 0) == bytes.size();
 }
 
-bool IsValidUtf8(std::string_view bytes) {
-    std::size_t offset = SkipAscii(bytes, 0);
+bool isValidUtf8(std::string_view bytes) {
+    std::size_t offset = skipAscii(bytes, 0);
     while (offset < bytes.size()) {
-        const std::size_t length = SequenceLength(bytes, offset);
+        const std::size_t length = sequenceLength(bytes, offset);
         if (length == 0)
             return false;
-        offset = SkipAscii(bytes, offset + length);
+        offset = skipAscii(bytes, offset + length);
     }
     return true;
 }
 
-std::string Windows1252ToUtf8(std::string_view bytes) {
+std::string windows1252ToUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 8);
     for (const char c : bytes) {
@@ -94,12 +94,12 @@ std::string Windows1252ToUtf8(std::string_view bytes) {
     return text;
 }
 
-std::string_view DecodeDefinition(std::string_view bytes, std::string& converted) {
+std::string_view decodeDefinition(std::string_view bytes, std::string& converted) {
     if (bytes.starts_with(kByteOrderMark))
         bytes.remove_prefix(kByteOrderMark.size());
-    if (IsValidUtf8(bytes))
+    if (isValidUtf8(bytes))
         return bytes;
-    converted = Windows1252ToUtf8(bytes);
+    converted = windows1252ToUtf8(bytes);
     return converted;
 }
 

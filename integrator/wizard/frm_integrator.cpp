@@ -72,7 +72,7 @@ void showHintsIn(QLabel& label, const std::vector<PathHint>& hints) {
 }
 
 /// A field that cannot be used now is painted like the dialog behind it.
-void SetUsable(QLineEdit& field, bool isUsable) {
+void setUsable(QLineEdit& field, bool isUsable) {
     field.setEnabled(isUsable);
     QPalette palette;
     if (!isUsable)
@@ -166,7 +166,7 @@ void frmIntegrator::btnNext_Click() {
             break;
         case NextOutcome::Action::Integrate:
             updateFrames();
-            Integrate();
+            integrate();
             break;
         case NextOutcome::Action::Close:
             btnExit_Click();
@@ -280,11 +280,11 @@ void frmIntegrator::cboIntegration_Click() {
 
 void frmIntegrator::optXY_Change() {
     const bool isUsable = answers().needsPosition();
-    SetUsable(*txtX, isUsable);
-    SetUsable(*txtY, isUsable);
+    setUsable(*txtX, isUsable);
+    setUsable(*txtY, isUsable);
 }
 
-void frmIntegrator::Integrate() {
+void frmIntegrator::integrate() {
     setRunning(true);
     m_flow.IntegratePages(answers(), [this](std::size_t doneCount, std::size_t totalCount) {
         pbProgress->setMaximum(static_cast<int>(totalCount));

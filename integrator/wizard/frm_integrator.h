@@ -80,7 +80,7 @@ class frmIntegrator : public QDialog {
     void countScripts();
     void showScriptCount();
     void showHints();
-    void Integrate();
+    void integrate();
     void ShowResultMessage();
     void showReport();
     void setRunning(bool isRunning);

@@ -33,7 +33,7 @@ constexpr int kTextWidth = 72;
 /// Lines of a code text that are seen at once.
 constexpr int kCodeLines = 4;
 
-QLabel* MakeText(const QString& name, const QString& text, QWidget* parent) {
+QLabel* makeText(const QString& name, const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
@@ -41,7 +41,7 @@ QLabel* MakeText(const QString& name, const QString& text, QWidget* parent) {
     return label;
 }
 
-QLabel* MakeLabel(const QString& name, const QString& caption, const QString& accessibleName,
+QLabel* makeLabel(const QString& name, const QString& caption, const QString& accessibleName,
                   QWidget* buddy) {
     auto* label = new QLabel(caption, buddy->parentWidget());
     label->setObjectName(name);
@@ -51,14 +51,14 @@ QLabel* MakeLabel(const QString& name, const QString& caption, const QString& ac
 }
 
 template <typename Widget>
-Widget* MakeNamed(const QString& name, QWidget* parent) {
+Widget* makeNamed(const QString& name, QWidget* parent) {
     auto* widget = new Widget(parent);
     widget->setObjectName(name);
     return widget;
 }
 
-QPlainTextEdit* MakeTextBox(const QString& name, const QString& accessibleName, QWidget* parent) {
-    auto* box = MakeNamed<QPlainTextEdit>(name, parent);
+QPlainTextEdit* makeTextBox(const QString& name, const QString& accessibleName, QWidget* parent) {
+    auto* box = makeNamed<QPlainTextEdit>(name, parent);
     box->setAccessibleName(accessibleName);
     box->setReadOnly(true);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -86,7 +86,7 @@ QPushButton* frmIntegrator::makeButton(const QString& name, const QString& capti
 
 void frmIntegrator::makeWelcome() {
     QVBoxLayout* layout = addFrame(0, QString());
-    layout->addWidget(MakeText(
+    layout->addWidget(makeText(
         "lblWelcome1",
         tr("The Menu Integrator integrates ZEVMenu to existing web pages and should be launched "
            "only after you have configured and saved the menu file to the appropriate web folder. "
@@ -96,35 +96,35 @@ void frmIntegrator::makeWelcome() {
         this));
     layout->addStretch();
     layout->addWidget(
-        MakeText("lblWelcome2",
+        makeText("lblWelcome2",
                  tr("Please click Next to continue or Exit to return to Menu Creator"), this));
 }
 
 void frmIntegrator::makePagesFrame() {
     QVBoxLayout* layout = addFrame(1, tr("Step 1 of 3"));
     layout->addWidget(
-        MakeText("lblFrm1",
+        makeText("lblFrm1",
                  tr("Please enter the filename(s) of the web page where you want to integrate the "
                     "menu. Multiple files can be selected"),
                  this));
-    comboFiles = MakeNamed<QComboBox>("comboFiles", this);
+    comboFiles = makeNamed<QComboBox>("comboFiles", this);
     keepWheelForFocus(*comboFiles);
     QPushButton* BtnInputFile =
         makeButton("BtnInputFile", tr("B&rowse"), &frmIntegrator::BtnInputFile_Click);
     BtnInputFile->setAccessibleName(tr("Browse for web pages"));
-    txtPathname = MakeNamed<QLineEdit>("txtPathname", this);
+    txtPathname = makeNamed<QLineEdit>("txtPathname", this);
     txtPathname->setReadOnly(true);
     auto* grid = new QGridLayout;
-    grid->addWidget(MakeLabel("lblInputFile", tr("&Filename:"), tr("Web pages"), comboFiles), 0, 0);
+    grid->addWidget(makeLabel("lblInputFile", tr("&Filename:"), tr("Web pages"), comboFiles), 0, 0);
     grid->addWidget(comboFiles, 0, 1);
     grid->addWidget(BtnInputFile, 0, 2);
     grid->addWidget(
-        MakeLabel("lblPathname", tr("&Path:"), tr("Path of the web pages"), txtPathname), 1, 0);
+        makeLabel("lblPathname", tr("&Path:"), tr("Path of the web pages"), txtPathname), 1, 0);
     grid->addWidget(txtPathname, 1, 1);
     grid->setColumnStretch(1, 1);
     layout->addLayout(grid);
 
-    chkBackup = MakeNamed<QCheckBox>("chkBackup", this);
+    chkBackup = makeNamed<QCheckBox>("chkBackup", this);
     // A check box does not wrap its caption.
     chkBackup->setText(
         tr("&Backup files (Recommended). The .bak extension will be appended to the filename.\n"
@@ -132,12 +132,12 @@ void frmIntegrator::makePagesFrame() {
     chkBackup->setAccessibleName(chkBackup->text().remove(u'&').replace(u'\n', u' '));
     chkBackup->setChecked(true);
     layout->addWidget(chkBackup);
-    chkKeepScripts = MakeNamed<QCheckBox>("chkKeepScripts", this);
+    chkKeepScripts = makeNamed<QCheckBox>("chkKeepScripts", this);
     chkKeepScripts->setText(tr("&Keep other scripts on the page"));
     chkKeepScripts->setAccessibleName(tr("Keep other scripts on the page"));
     connect(chkKeepScripts, &QCheckBox::toggled, this, &frmIntegrator::showScriptCount);
     layout->addWidget(chkKeepScripts);
-    lblScripts = MakeText("lblScripts", QString(), this);
+    lblScripts = makeText("lblScripts", QString(), this);
     layout->addWidget(lblScripts);
     layout->addStretch();
 }
@@ -145,10 +145,10 @@ void frmIntegrator::makePagesFrame() {
 void frmIntegrator::makePathsFrame() {
     QVBoxLayout* layout = addFrame(2, tr("Step 2 of 3"));
     // In the order of the Tab key.
-    txtPath = MakeNamed<QLineEdit>("txtPath", this);
+    txtPath = makeNamed<QLineEdit>("txtPath", this);
     QPushButton* btnPath = makeButton("btnPath", tr("B&rowse"), &frmIntegrator::btnPath_Click);
     btnPath->setAccessibleName(tr("Browse for the menu library"));
-    txtMenuDef = MakeNamed<QLineEdit>("txtMenuDef", this);
+    txtMenuDef = makeNamed<QLineEdit>("txtMenuDef", this);
     QPushButton* btnMenuDef =
         makeButton("btnMenuDef", tr("Br&owse"), &frmIntegrator::btnMenuDef_Click);
     btnMenuDef->setAccessibleName(tr("Browse for the menu definition"));
@@ -156,27 +156,27 @@ void frmIntegrator::makePathsFrame() {
         keepSingleLine(*field);
         connect(field, &QLineEdit::textChanged, this, &frmIntegrator::showHints);
     }
-    lblPathHint = MakeText("lblPathHint", QString(), this);
-    lblMenuDefHint = MakeText("lblMenuDefHint", QString(), this);
+    lblPathHint = makeText("lblPathHint", QString(), this);
+    lblMenuDefHint = makeText("lblMenuDefHint", QString(), this);
 
     auto* grid = new QGridLayout;
-    grid->addWidget(MakeText("lblFrm3",
+    grid->addWidget(makeText("lblFrm3",
                              tr("Specify the path of the menu library files, i.e. "
                                 "zevmenu_loader.js, zevmenu_ns4.js and zevmenu_dom.js"),
                              this),
                     0, 0, 1, 3);
-    grid->addWidget(MakeLabel("lblPath", tr("&Path:"), tr("Path of the menu library"), txtPath), 1,
+    grid->addWidget(makeLabel("lblPath", tr("&Path:"), tr("Path of the menu library"), txtPath), 1,
                     0);
     grid->addWidget(txtPath, 1, 1);
     grid->addWidget(btnPath, 1, 2);
     grid->addWidget(lblPathHint, 2, 1, 1, 2);
-    grid->addWidget(MakeText("lblFrm5",
+    grid->addWidget(makeText("lblFrm5",
                              tr("Specify the JavaScript file containing the menu definition, e.g. "
                                 "menu_def.js."),
                              this),
                     4, 0, 1, 3);
     grid->addWidget(
-        MakeLabel("lblMenuDef", tr("&Filename:"), tr("Menu definition file"), txtMenuDef), 5, 0);
+        makeLabel("lblMenuDef", tr("&Filename:"), tr("Menu definition file"), txtMenuDef), 5, 0);
     grid->addWidget(txtMenuDef, 5, 1);
     grid->addWidget(btnMenuDef, 5, 2);
     grid->addWidget(lblMenuDefHint, 6, 1, 1, 2);
@@ -189,30 +189,30 @@ void frmIntegrator::makePathsFrame() {
 void frmIntegrator::makeMenuFrame() {
     QVBoxLayout* layout = addFrame(3, tr("Step 3 of 3"));
     layout->addWidget(
-        MakeText("lblFrm6", tr("Select how you want the menu to appear on your web page"), this));
-    cboIntegration = MakeNamed<QComboBox>("cboIntegration", this);
+        makeText("lblFrm6", tr("Select how you want the menu to appear on your web page"), this));
+    cboIntegration = makeNamed<QComboBox>("cboIntegration", this);
     keepWheelForFocus(*cboIntegration);
     cboIntegration->setToolTip(tr("Horizontal or vertical menu"));
     cboIntegration->addItems(
         {tr("Horizontal or vertical menu"), tr("Popup menu appearing on mouse events!")});
     connect(cboIntegration, &QComboBox::currentIndexChanged, this,
             &frmIntegrator::cboIntegration_Click);
-    cboMenuList = MakeNamed<QComboBox>("cboMenuList", this);
+    cboMenuList = makeNamed<QComboBox>("cboMenuList", this);
     keepWheelForFocus(*cboMenuList);
     cboMenuList->setToolTip(tr("Select submenu"));
-    optMouse = MakeNamed<QRadioButton>("optMouse", this);
+    optMouse = makeNamed<QRadioButton>("optMouse", this);
     optMouse->setText(tr("Menu appears &beside mouse cursor"));
     optMouse->setAccessibleName(tr("Menu appears beside mouse cursor"));
     optMouse->setChecked(true);
-    optXY = MakeNamed<QRadioButton>("optXY", this);
+    optXY = makeNamed<QRadioButton>("optXY", this);
     optXY->setText(tr("Menu appears at the following p&osition"));
     optXY->setAccessibleName(tr("Menu appears at the following position"));
     connect(optXY, &QRadioButton::toggled, this, &frmIntegrator::optXY_Change);
 
     auto* grid = new QGridLayout;
-    grid->addWidget(MakeLabel("lblInt", tr("&Menu:"), tr("Menu"), cboIntegration), 0, 0);
+    grid->addWidget(makeLabel("lblInt", tr("&Menu:"), tr("Menu"), cboIntegration), 0, 0);
     grid->addWidget(cboIntegration, 0, 1);
-    grid->addWidget(MakeLabel("lblMenuList", tr("&Popup Menu:"), tr("Popup Menu"), cboMenuList), 1,
+    grid->addWidget(makeLabel("lblMenuList", tr("&Popup Menu:"), tr("Popup Menu"), cboMenuList), 1,
                     0);
     grid->addWidget(cboMenuList, 1, 1);
     grid->addWidget(optMouse, 2, 1);
@@ -236,11 +236,11 @@ void frmIntegrator::makeMenuFrame() {
 
 void frmIntegrator::makeReportFrame() {
     QVBoxLayout* layout = addFrame(4, tr("Step 2 of 3"));
-    txtReport = MakeTextBox("txtReport", tr("Menu Integration Report"), this);
-    layout->addWidget(MakeLabel("Label1", tr("Menu Integration &Report"),
+    txtReport = makeTextBox("txtReport", tr("Menu Integration Report"), this);
+    layout->addWidget(makeLabel("Label1", tr("Menu Integration &Report"),
                                 tr("Menu Integration Report"), txtReport));
     layout->addWidget(txtReport, 1);
-    pbProgress = MakeNamed<QProgressBar>("pbProgress", this);
+    pbProgress = makeNamed<QProgressBar>("pbProgress", this);
     pbProgress->setAccessibleName(tr("Pages done"));
     pbProgress->setFormat(tr("%v of %m pages"));
     btnCancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
@@ -258,14 +258,14 @@ void frmIntegrator::makeReportFrame() {
 void frmIntegrator::makeCodeFrame() {
     QVBoxLayout* layout = addFrame(5, tr("Step 3 of 3"));
     // In the order of the Tab key.
-    txtCode = MakeTextBox("txtCode", tr("Code to paste"), this);
+    txtCode = makeTextBox("txtCode", tr("Code to paste"), this);
     btnCopyCode = makeDialogButton("btnCopyCode", tr("&Copy"), this);
     btnCopyCode->setAccessibleName(tr("Copy the code"));
-    txtLinkCode = MakeTextBox("txtLinkCode", tr("Code example for hyperlinks"), this);
+    txtLinkCode = makeTextBox("txtLinkCode", tr("Code example for hyperlinks"), this);
     btnCopyLinkCode = makeDialogButton("btnCopyLinkCode", tr("Co&py"), this);
     btnCopyLinkCode->setAccessibleName(tr("Copy the code example"));
-    lblMsg = MakeText("lblMsg", QString(), this);
-    lblLinkCode = MakeText("lblLinkCode",
+    lblMsg = makeText("lblMsg", QString(), this);
+    lblLinkCode = makeText("lblLinkCode",
                            tr("Copy the code e&xample below to add the menu to hyperlinks:"), this);
     lblLinkCode->setBuddy(txtLinkCode);
     layout->addWidget(lblMsg);

@@ -14,7 +14,7 @@ namespace zev {
 
 #ifdef Q_OS_LINUX
 
-bool CanStartBrowser() {
+bool canStartBrowser() {
     if (qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") != 0)
         return true;
     if (geteuid() == 0)
@@ -33,7 +33,7 @@ bool CanStartBrowser() {
 
 #else
 
-bool CanStartBrowser() {
+bool canStartBrowser() {
     return true;
 }
 

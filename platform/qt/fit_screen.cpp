@@ -11,7 +11,7 @@ constexpr QSize kFrameSidesPx(16, 48);
 
 }  // namespace
 
-void FitScreen(QWidget& window) {
+void fitScreen(QWidget& window) {
     window.resize(window.size().boundedTo(window.screen()->availableSize() - kFrameSidesPx));
 }
 

@@ -58,7 +58,7 @@ class WrappingLabel : public QLabel {
 
 }  // namespace
 
-void SetMessageText(QMessageBox& box, const QString& text) {
+void setMessageText(QMessageBox& box, const QString& text) {
     box.setTextFormat(Qt::PlainText);
     box.setText(text);
     auto* const ownLabel = box.findChild<QLabel*>("qt_msgbox_label");

@@ -5,7 +5,7 @@
 
 namespace zev {
 
-QWidget* ParentWindow() {
+QWidget* parentWindow() {
     if (QWidget* active = QApplication::activeWindow(); active != nullptr)
         return active;
     for (QWidget* window : QApplication::topLevelWidgets())

@@ -6,6 +6,6 @@ namespace zev {
 
 /// The window a new dialog belongs to: the active one, else the first that is shown. Null when the
 /// program shows none.
-QWidget* ParentWindow();
+QWidget* parentWindow();
 
 }  // namespace zev

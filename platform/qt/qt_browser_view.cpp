@@ -22,7 +22,7 @@ QtBrowserView::QtBrowserView(QWidget* parent) : QWidget(parent), m_note(new QLab
 void QtBrowserView::load(const std::string& path) {
     if (m_webView == nullptr) {
         QString problem;
-        m_webView = CreateWebView(this, problem);
+        m_webView = createWebView(this, problem);
         if (m_webView == nullptr) {
             showNote("The preview cannot be shown. " + problem);
             emit loaded(false);

@@ -30,7 +30,7 @@ namespace {
 constexpr int kFileDialogWidth = 110;
 
 /// Qt's own file dialog cuts off kind and date of the files. A desktop's has no such list.
-void ShowWholeColumns(QFileDialog& dialog) {
+void showWholeColumns(QFileDialog& dialog) {
     const auto* list = dialog.findChild<QTreeView*>("treeView");
     if (list == nullptr)
         return;
@@ -41,11 +41,11 @@ void ShowWholeColumns(QFileDialog& dialog) {
     dialog.resize(kFileDialogWidth * dialog.fontMetrics().averageCharWidth(), dialog.height());
 }
 
-void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QString& lastFolder) {
+void prepare(QFileDialog& dialog, const FileDialogRequest& request, const QString& lastFolder) {
     dialog.setWindowTitle(QString::fromStdString(request.title));
     // The descriptions name the patterns themselves, and not in Qt's form.
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    const QStringList filters = NameFilters(request.filter);
+    const QStringList filters = nameFilters(request.filter);
     dialog.setNameFilters(filters);
     dialog.selectNameFilter(filters.value(request.filterIndex - 1));
 
@@ -57,19 +57,19 @@ void Prepare(QFileDialog& dialog, const FileDialogRequest& request, const QStrin
     else if (!lastFolder.isEmpty())
         dialog.setDirectory(lastFolder);
     dialog.selectFile(preset.fileName());
-    ShowWholeColumns(dialog);
+    showWholeColumns(dialog);
 }
 
-/// Qt's own dialog tells a filter as it shows it, without the patterns; a desktop's tells all of
-/// it.
-QString WholeFilter(const QFileDialog& dialog, const QString& told) {
+/// Qt's own dialog tells a filter as it shows it, without the patterns; a desktop's dialog tells all
+/// of it.
+QString wholeFilter(const QFileDialog& dialog, const QString& told) {
     for (const QString& filter : dialog.nameFilters())
         if (filter.startsWith(told + " ("))
             return filter;
     return told;
 }
 
-std::string ChosenFile(const QFileDialog& dialog, QString& lastFolder) {
+std::string chosenFile(const QFileDialog& dialog, QString& lastFolder) {
     const QString path = dialog.selectedFiles().value(0);
     lastFolder = QFileInfo(path).absolutePath();
     return QDir::toNativeSeparators(path).toStdString();
@@ -77,7 +77,7 @@ std::string ChosenFile(const QFileDialog& dialog, QString& lastFolder) {
 
 /// Files chosen in an open dialog; no names when they lie in several folders, which is possible
 /// where full paths are typed.
-ChosenFiles FilesOfOneFolder(const QStringList& paths) {
+ChosenFiles filesOfOneFolder(const QStringList& paths) {
     const QString folder = QFileInfo(paths.value(0)).absolutePath();
     ChosenFiles files{QDir::toNativeSeparators(folder).toStdString(), {}};
     for (const QString& path : paths) {
@@ -89,28 +89,28 @@ ChosenFiles FilesOfOneFolder(const QStringList& paths) {
     return files;
 }
 
-void ShowSeveralFolders() {
+void showSeveralFolders() {
     MessageRequest notice;
     notice.text = "Please choose files of one folder only.";
     notice.icon = MessageRequest::Icon::Exclamation;
     QtMessageBox().show(notice);
 }
 
-bool MayReplace(QWidget* parent, const QString& path) {
+bool mayReplace(QWidget* parent, const QString& path) {
     QMessageBox question(parent);
     question.setWindowTitle(kProgramName);
     question.setIcon(QMessageBox::Warning);
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     question.setDefaultButton(QMessageBox::No);
     question.setEscapeButton(QMessageBox::No);
-    SetMessageText(question,
+    setMessageText(question,
                    QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
     return question.exec() == QMessageBox::Yes;
 }
 
 /// The name that a family has for a style, such as "Book" or "Bold Oblique"; empty when it has no
 /// such style. Of several, the one of the usual weight and width.
-QString StyleName(const QString& family, const FontChoice& choice) {
+QString styleName(const QString& family, const FontChoice& choice) {
     const int usualWeight = choice.isBold ? QFont::Bold : QFont::Normal;
     std::pair<int, qsizetype> nearest(std::numeric_limits<int>::max(), 0);
     QString name;
@@ -129,7 +129,7 @@ QString StyleName(const QString& family, const FontChoice& choice) {
 }
 
 /// The installed font that is nearest to a choice.
-QFont ExistingFont(const FontChoice& choice) {
+QFont existingFont(const FontChoice& choice) {
     QFont font;
     if (!choice.name.empty())
         font = QFont(QString::fromStdString(choice.name));
@@ -141,13 +141,13 @@ QFont ExistingFont(const FontChoice& choice) {
         font.setFamily(QFontInfo(font).family());
     // Qt's dialog looks for the style by its name, and without one takes the family's first style,
     // which may be an italic one.
-    font.setStyleName(StyleName(font.family(), choice));
+    font.setStyleName(styleName(font.family(), choice));
     return font;
 }
 
 /// Underlined and struck out, which a choice does not hold. Their place stays: the sample beside it
 /// is as high.
-void HideEffects(const QFontDialog& dialog) {
+void hideEffects(const QFontDialog& dialog) {
     for (const QCheckBox* effect : dialog.findChildren<QCheckBox*>()) {
         QWidget* const group = effect->parentWidget();
         QSizePolicy policy = group->sizePolicy();
@@ -159,7 +159,7 @@ void HideEffects(const QFontDialog& dialog) {
 
 }  // namespace
 
-QStringList NameFilters(const std::string& filter) {
+QStringList nameFilters(const std::string& filter) {
     const QStringList parts = QString::fromStdString(filter).split('|');
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
@@ -170,45 +170,45 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
-QString DefaultSuffix(const QString& nameFilter) {
+QString defaultSuffix(const QString& nameFilter) {
     static const QRegularExpression single(R"(\(\*\.([^*?;\s)]+)\)$)");
     return single.match(nameFilter).captured(1);
 }
 
 std::string QtCommonDialogs::openFile(const FileDialogRequest& request) {
-    QFileDialog dialog(ParentWindow());
+    QFileDialog dialog(parentWindow());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    Prepare(dialog, request, m_lastFolder);
-    return dialog.exec() == QDialog::Accepted ? ChosenFile(dialog, m_lastFolder) : std::string();
+    prepare(dialog, request, m_lastFolder);
+    return dialog.exec() == QDialog::Accepted ? chosenFile(dialog, m_lastFolder) : std::string();
 }
 
 ChosenFiles QtCommonDialogs::openFiles(const FileDialogRequest& request) {
-    QFileDialog dialog(ParentWindow());
+    QFileDialog dialog(parentWindow());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFiles);
-    Prepare(dialog, request, m_lastFolder);
+    prepare(dialog, request, m_lastFolder);
     while (dialog.exec() == QDialog::Accepted) {
-        ChosenFiles files = FilesOfOneFolder(dialog.selectedFiles());
+        ChosenFiles files = filesOfOneFolder(dialog.selectedFiles());
         if (!files.names.empty()) {
             m_lastFolder = QString::fromStdString(files.folder);
             return files;
         }
-        ShowSeveralFolders();
+        showSeveralFolders();
     }
     return {};
 }
 
 std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
-    QFileDialog dialog(ParentWindow());
+    QFileDialog dialog(parentWindow());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     // Asked below instead: a desktop's own dialog would ask about the name as it was typed, before
     // the extension is added, and the file that is there would be replaced unasked.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    Prepare(dialog, request, m_lastFolder);
+    prepare(dialog, request, m_lastFolder);
     const auto setSuffix = [&](const QString& filter) {
-        const QString suffix = DefaultSuffix(WholeFilter(dialog, filter));
+        const QString suffix = defaultSuffix(wholeFilter(dialog, filter));
         dialog.setDefaultSuffix(suffix.isEmpty() ? QString::fromStdString(request.extension)
                                                  : suffix);
     };
@@ -217,14 +217,14 @@ std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
     while (dialog.exec() == QDialog::Accepted) {
         const QString path = dialog.selectedFiles().value(0);
         if (!request.asksBeforeReplacing || !QFileInfo::exists(path) ||
-            MayReplace(ParentWindow(), path))
-            return ChosenFile(dialog, m_lastFolder);
+            mayReplace(parentWindow(), path))
+            return chosenFile(dialog, m_lastFolder);
     }
     return {};
 }
 
 std::optional<std::int32_t> QtCommonDialogs::chooseColor(std::int32_t initial) {
-    QColorDialog dialog(colorAs<QColor>(initial), ParentWindow());
+    QColorDialog dialog(colorAs<QColor>(initial), parentWindow());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const QColor color = dialog.selectedColor();
@@ -232,8 +232,8 @@ std::optional<std::int32_t> QtCommonDialogs::chooseColor(std::int32_t initial) {
 }
 
 std::optional<FontChoice> QtCommonDialogs::chooseFont(const FontChoice& initial) {
-    QFontDialog dialog(ExistingFont(initial), ParentWindow());
-    HideEffects(dialog);
+    QFontDialog dialog(existingFont(initial), parentWindow());
+    hideEffects(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const QFont chosen = dialog.selectedFont();

@@ -10,11 +10,11 @@ namespace zev {
 /// A filter such as "Images (*.gif;*.jpg)|*.gif;*.jpg|All Files (*.*)|*.*" in the form Qt's dialogs
 /// take, in which the last brackets are not shown: "Images (*.gif;*.jpg) (*.gif *.jpg)",
 /// "All Files (*.*) (*)".
-QStringList NameFilters(const std::string& filter);
+QStringList nameFilters(const std::string& filter);
 
 /// The extension that a name filter such as "Text (*.txt)" gives to a name without one ("txt"), as
 /// it is shown or with what is not; empty when the filter stands for all files or several kinds.
-QString DefaultSuffix(const QString& nameFilter);
+QString defaultSuffix(const QString& nameFilter);
 
 /// The desktop's dialogs. A file dialog that is told no folder starts where the last file was
 /// chosen; the others remember nothing.

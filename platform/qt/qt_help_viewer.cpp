@@ -36,12 +36,12 @@ void QtHelpViewer::makeWindow() {
     // The program ends with its main window, not with the last page of the manual.
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_window->resize(860, 640);
-    FitScreen(*m_window);
+    fitScreen(*m_window);
     auto* layout = new QVBoxLayout(m_window);
     layout->setContentsMargins(0, 0, 0, 0);
 
     QString problem;
-    m_webView = CreateWebView(m_window, problem);
+    m_webView = createWebView(m_window, problem);
     if (m_webView == nullptr) {
         auto* note = new QLabel("The manual cannot be shown. " + problem);
         note->setTextFormat(Qt::PlainText);

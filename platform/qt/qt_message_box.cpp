@@ -15,7 +15,7 @@ namespace {
 constexpr int kDetailsLines = 12;
 constexpr int kDetailsCharacters = 70;
 
-QMessageBox::StandardButtons ButtonsOf(MessageRequest::Buttons buttons) {
+QMessageBox::StandardButtons buttonsOf(MessageRequest::Buttons buttons) {
     switch (buttons) {
         case MessageRequest::Buttons::OkCancel:
             return QMessageBox::Ok | QMessageBox::Cancel;
@@ -30,7 +30,7 @@ QMessageBox::StandardButtons ButtonsOf(MessageRequest::Buttons buttons) {
 }
 
 /// What closing the window or Escape means.
-QMessageBox::StandardButton EscapeButtonOf(MessageRequest::Buttons buttons) {
+QMessageBox::StandardButton escapeButtonOf(MessageRequest::Buttons buttons) {
     switch (buttons) {
         case MessageRequest::Buttons::Ok:
             return QMessageBox::Ok;
@@ -44,7 +44,7 @@ QMessageBox::StandardButton EscapeButtonOf(MessageRequest::Buttons buttons) {
 }
 
 /// Qt shows details a few lines high and as narrow as the message, and keeps the keyboard out.
-void ShowDetails(QMessageBox& box, const std::string& details) {
+void showDetails(QMessageBox& box, const std::string& details) {
     box.setDetailedText(QString::fromStdString(details));
     auto* text = box.findChild<QTextEdit*>();
     const QFontMetrics metrics(text->font());
@@ -58,16 +58,16 @@ void ShowDetails(QMessageBox& box, const std::string& details) {
 }  // namespace
 
 MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
-    QMessageBox box(ParentWindow());
+    QMessageBox box(parentWindow());
     box.setWindowTitle(request.title.empty() ? QString(kProgramName)
                                              : QString::fromStdString(request.title));
     box.setIcon(request.icon == MessageRequest::Icon::Exclamation ? QMessageBox::Warning
                                                                   : QMessageBox::NoIcon);
-    box.setStandardButtons(ButtonsOf(request.buttons));
-    box.setEscapeButton(EscapeButtonOf(request.buttons));
+    box.setStandardButtons(buttonsOf(request.buttons));
+    box.setEscapeButton(escapeButtonOf(request.buttons));
     if (!request.details.empty())
-        ShowDetails(box, request.details);
-    SetMessageText(box, QString::fromStdString(request.text));
+        showDetails(box, request.details);
+    setMessageText(box, QString::fromStdString(request.text));
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;

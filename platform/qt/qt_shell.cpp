@@ -11,7 +11,7 @@ namespace {
 constexpr int kTimeLimitMs = 5000;
 
 /// What the desktop opens web pages with; empty when it names nothing in time.
-QString RegisteredBrowser() {
+QString registeredBrowser() {
     QProcess query;
     query.start("xdg-mime", {"query", "default", "text/html"});
     if (!query.waitForFinished(kTimeLimitMs)) {
@@ -30,7 +30,7 @@ std::string QtShell::FindExecutable(const std::string& file) {
     if (!QStringList{"htm", "html"}.contains(extension, Qt::CaseInsensitive))
         return {};
     // xdg-open finds out that there is no browser only when nobody listens to it any more.
-    if (RegisteredBrowser().isEmpty())
+    if (registeredBrowser().isEmpty())
         return {};
     return QStandardPaths::findExecutable("xdg-open").toStdString();
 }

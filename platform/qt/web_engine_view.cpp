@@ -108,7 +108,7 @@ void WebEngineView::showContextMenu(const QPoint& position) {
 }
 
 WebView* WebEngineViewFactory::create(QWidget* parent, QString& problem) {
-    if (!CanStartBrowser()) {
+    if (!canStartBrowser()) {
         problem =
             "Its browser locks pages into a sandbox, which this system does not allow here. Start "
             "the program as an ordinary user, or with QTWEBENGINE_DISABLE_SANDBOX=1 set.";

@@ -27,7 +27,7 @@ class QuietStart {
 
 }  // namespace
 
-WebView* CreateWebView(QWidget* parent, QString& problem) {
+WebView* createWebView(QWidget* parent, QString& problem) {
     const QuietStart quiet;
     // Found in the program's own folder, or wherever else Qt looks for this program's modules.
     QPluginLoader loader("zevmenu_webview");

@@ -38,7 +38,7 @@ class WebViewFactory {
 
 /// Loads the module with the browser engine if need be and makes a view. Null, with the reason in
 /// `problem`, when the module cannot be loaded or the engine cannot start.
-WebView* CreateWebView(QWidget* parent, QString& problem);
+WebView* createWebView(QWidget* parent, QString& problem);
 
 }  // namespace zev
 

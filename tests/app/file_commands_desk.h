@@ -50,8 +50,8 @@ class PlainView : public EditorView {
         panelCaption = node != nullptr ? node->item.Caption : "";
         panelURL = node != nullptr ? node->item.URL : "";
     }
-    void ShowScript(const std::string& text) override { script = text; }
-    void ShowCaption() override { shownFile = m_document.SaveFile(); }
+    void showScript(const std::string& text) override { script = text; }
+    void showCaption() override { shownFile = m_document.SaveFile(); }
     void LoadDefaultDialog() override { shownDefaults = m_document.DefaultProp(); }
     void Button_Update() override { isSaveEnabled = m_document.bModified(); }
 
@@ -67,14 +67,14 @@ struct Desk {
              {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"})
             disk.addFile(std::string("/program/") + name, std::string("content of ") + name);
         disk.addFolder("/site");
-        commands.Reset();
+        commands.reset();
     }
 
     /// Adds an item as the person would, types `caption` and `url` into the panel and leaves them
     /// there, not stored yet.
     void addItem(const std::string& caption, const std::string& url = "") {
         view.StoreItem();
-        AddMenuItem(document);
+        addMenuItem(document);
         view.ShowItem();
         view.panelCaption = caption;
         view.panelURL = url;

@@ -104,7 +104,7 @@ class test_commands : public QObject {
 
     void aSingleItemCannotMove() {
         MenuDocument document("/program");
-        AddMenuItem(document);
+        addMenuItem(document);
         CommandDesk desk;
         desk.commands.Button_Update(document);
         QCOMPARE(desk.disabledOnes(), "MoveLeft MoveRight MoveUp MoveDown #11 #12 #13 #14");
@@ -146,7 +146,7 @@ class test_commands : public QObject {
         desk.button(8).setEnabled(false);
         desk.commands.Button_Update(document);
         QVERIFY(!desk.button(8).isEnabled());
-        AddMenuItem(document);
+        addMenuItem(document);
         desk.commands.Button_Update(document);
         QVERIFY(desk.button(8).isEnabled());
         document.select(nullptr);

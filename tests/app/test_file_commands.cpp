@@ -65,7 +65,7 @@ void test_file_commands::resetShowsAnEmptyMenu() {
     desk.addItem("Home");
     desk.view.script = "old";
     desk.view.shownFile = "/old.js";
-    desk.commands.Reset();
+    desk.commands.reset();
     QVERIFY(desk.isNewDocument());
     QCOMPARE(desk.view.script, std::string());
     QCOMPARE(desk.view.shownFile, std::string());
@@ -237,7 +237,7 @@ void test_file_commands::openGivesBackWhatWasSaved() {
     desk.addItem("Two");
     desk.saveAs("/site/menu.js");
     const std::string written = desk.bytesOf("/site/menu.js");
-    desk.commands.Reset();
+    desk.commands.reset();
     desk.dialogs.expectOpenFile("/site/menu.js");
     desk.commands.mnuFileOpen_Click();
     QCOMPARE(desk.document.tree().size(), std::size_t{2});
@@ -436,17 +436,17 @@ void test_file_commands::anEmptyPathMeansThePreviewScript() {
     desk.addItem("Home");
     QVERIFY(desk.commands.SaveDefinition(""));
     QCOMPARE(desk.bytesOf("/program/orlet_temp.js"),
-             DefinitionFileBytes(GenerateScript(desk.document.content())));
+             definitionFileBytes(GenerateScript(desk.document.content())));
 }
 
 void test_file_commands::previewOfAMenuNeverSavedUsesTheProgramsFolder() {
     Desk desk;
     desk.addItem("Home");
     const std::size_t filesBefore = desk.disk.allFiles().size();
-    desk.commands.ShowPreview();
+    desk.commands.showPreview();
     QVERIFY(desk.messages.recorded().empty());
     QCOMPARE(desk.bytesOf("/program/orlet_temp.js"),
-             DefinitionFileBytes(GenerateScript(desk.document.content())));
+             definitionFileBytes(GenerateScript(desk.document.content())));
     QCOMPARE(desk.bytesOf("/program/orlet_temp.html"), std::string("content of zevmenu.html"));
     QCOMPARE(desk.disk.allFiles().size(), filesBefore + 2);
     QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/program/orlet_temp.html"});
@@ -460,7 +460,7 @@ void test_file_commands::previewOfASavedMenuWritesBesideIt() {
         desk.disk.DeleteFile("/site/" + name);
     const std::string saved = desk.bytesOf("/site/menu.js");
     desk.addItem("Not saved yet");
-    desk.commands.ShowPreview();
+    desk.commands.showPreview();
     for (const std::string& name : kSavedBeside)
         QVERIFY2(desk.isOnDisk("/site/" + name), name.c_str());
     QVERIFY(desk.bytesOf("/site/orlet_temp.js").find("Not saved yet") != std::string::npos);
@@ -473,7 +473,7 @@ void test_file_commands::previewCleansAndStoresThePanelFirst() {
     Desk desk;
     desk.addItem("It's");
     desk.view.calls.clear();
-    desk.commands.ShowPreview();
+    desk.commands.showPreview();
     QCOMPARE(desk.view.calls.at(0), std::string("validateFields"));
     QCOMPARE(desk.view.calls.at(1), std::string("StoreItem"));
     QCOMPARE(desk.document.CurNode()->item.Caption, std::string("It\\'s"));
@@ -486,7 +486,7 @@ void test_file_commands::previewChangesNeitherFileNorChangesMark() {
         desk.addItem("Home");
         desk.saveAs("/site/menu.js");
         desk.document.apply(SetModified{isModified});
-        desk.commands.ShowPreview();
+        desk.commands.showPreview();
         QCOMPARE(desk.document.bModified(), isModified);
         QCOMPARE(desk.document.SaveFile(), std::string("/site/menu.js"));
         QCOMPARE(desk.view.shownFile, std::string("/site/menu.js"));
@@ -511,7 +511,7 @@ void test_file_commands::previewTellsOfEachMissingFileAndIsShownAllTheSame() {
         desk.disk.DeleteFile(path);
         desk.messages.expect("Error: " + path + " does not exist");
     }
-    desk.commands.ShowPreview();
+    desk.commands.showPreview();
     QCOMPARE(desk.bytesOf("/site/orlet_temp.js"), desk.bytesOf("/site/menu.js"));
     QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/site/orlet_temp.html"});
     // What an earlier preview or save left there is still there to be shown.
@@ -526,7 +526,7 @@ void test_file_commands::thePreviewFilesStayAfterTheEnd() {
     std::map<std::string, std::string> filesAtTheEnd;
     {
         FileCommands commands(desk.document, desk.view, desk.services);
-        commands.ShowPreview();
+        commands.showPreview();
         filesAtTheEnd = desk.disk.allFiles();
         QVERIFY(commands.mnuFileExit_Click());
     }

@@ -165,7 +165,7 @@ void test_file_failures::eachFailureOfASave() {
         desk.commands.mnuFileSave_Click();  // the disk works again
     }
     QVERIFY(!desk.document.bModified());
-    QCOMPARE(desk.bytesOf("/site/menu.js"), DefinitionFileBytes(before.script));
+    QCOMPARE(desk.bytesOf("/site/menu.js"), definitionFileBytes(before.script));
 }
 
 void test_file_failures::eachFailureOfASaveAs() {
@@ -205,7 +205,7 @@ void test_file_failures::eachFailureOfAPreview() {
     desk.messages.expect(operation == kDefinitionWrite
                              ? "Could not save /site/orlet_temp.js: No space left on device"
                              : copyProblem("/site/" + kCopies[operation - 1]));
-    desk.commands.ShowPreview();
+    desk.commands.showPreview();
     desk.messages.verify();
     QVERIFY(Snapshot(desk) == before);
     QCOMPARE(desk.bytesOf("/site/menu.js"), saved);

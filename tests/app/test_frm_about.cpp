@@ -61,7 +61,7 @@ void test_frm_about::showsNameAndVersion() {
 
 void test_frm_about::showsTheProgramsIcon() {
     const QIcon before = QApplication::windowIcon();
-    QApplication::setWindowIcon(ProgramIcon());
+    QApplication::setWindowIcon(programIcon());
     init();
     int pictures = 0;
     for (const QLabel* label : m_about->findChildren<QLabel*>())

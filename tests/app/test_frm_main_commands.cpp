@@ -195,7 +195,7 @@ class test_frm_main_commands : public QObject {
             item.Caption = "Level " + std::to_string(level);
             node = deep.tree.append(node, "k" + std::to_string(level), item.Caption, item);
         }
-        desk.disk.addFile("/site/deep.js", DefinitionFileBytes(GenerateScript(deep)));
+        desk.disk.addFile("/site/deep.js", definitionFileBytes(GenerateScript(deep)));
         desk.window.openDefinition("/site/deep.js");
         QCOMPARE(desk.document().tree().size(), std::size_t(1000));
         node = desk.document().tree().firstNode();
@@ -225,7 +225,7 @@ class test_frm_main_commands : public QObject {
             item.Caption = "Item " + std::to_string(i);
             wide.tree.append(nullptr, "k" + std::to_string(i), item.Caption, item);
         }
-        desk.disk.addFile("/site/wide.js", DefinitionFileBytes(GenerateScript(wide)));
+        desk.disk.addFile("/site/wide.js", definitionFileBytes(GenerateScript(wide)));
         desk.window.openDefinition("/site/wide.js");
         desk.choose("mnuEditAddMenuItem");
         QCOMPARE(desk.document().tree().size(), std::size_t(20001));

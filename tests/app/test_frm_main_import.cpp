@@ -82,7 +82,7 @@ class test_frm_main_import : public QObject {
         WindowDesk desk;
         desk.disk.addFile("/old/menu", imported.file);
         desk.document().setFile("/site/before.js", desk.document().SavePath());
-        desk.window.ShowCaption();
+        desk.window.showCaption();
         desk.dialogs.expectOpenFile("/old/menu");
         desk.messages.expect("Finished importing /old/menu. 0 warnings encountered.");
         choose(desk, imported, byKeys);
@@ -189,7 +189,7 @@ class test_frm_main_import : public QObject {
         desk.clickTab("Preview");
         QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/program/orlet_temp.html"});
         QCOMPARE(desk.disk.allFiles().at("/program/orlet_temp.js"),
-                 DefinitionFileBytes(GenerateScript(desk.document().content())));
+                 definitionFileBytes(GenerateScript(desk.document().content())));
     }
 
     void importsCanFollowEachOther() {

@@ -301,8 +301,8 @@ void test_import_commands::eachWarningIsADetailWithItsLine() {
     ImportDesk desk;
     const MessageRequest message = desk.closingMessageFor("a remark\n::Home\n::::Boats\n\n:Lost\n");
     QCOMPARE(message.details,
-             "line 2: " + std::string(ReasonText(LineWarning::Reason::StartsDeep)) +
-                 "\nline 5: " + std::string(ReasonText(LineWarning::Reason::AboveTop)));
+             "line 2: " + std::string(reasonText(LineWarning::Reason::StartsDeep)) +
+                 "\nline 5: " + std::string(reasonText(LineWarning::Reason::AboveTop)));
 }
 
 void test_import_commands::aThousandWarningsAreListed_data() {
@@ -310,8 +310,8 @@ void test_import_commands::aThousandWarningsAreListed_data() {
     QTest::addColumn<std::size_t>("listedLines");
     QTest::addColumn<QString>("lastLine");
     const QString reason =
-        QString::fromUtf8(ReasonText(LineWarning::Reason::AboveTop).data(),
-                          qsizetype(ReasonText(LineWarning::Reason::AboveTop).size()));
+        QString::fromUtf8(reasonText(LineWarning::Reason::AboveTop).data(),
+                          qsizetype(reasonText(LineWarning::Reason::AboveTop).size()));
     QTest::newRow("as many as are listed")
         << std::size_t{1000} << std::size_t{1000} << "line 1002: " + reason;
     QTest::newRow("one more") << std::size_t{1001} << std::size_t{1001} << "and 1 more";
@@ -390,7 +390,7 @@ void test_import_commands::saveAfterAnImportAsksForAName() {
     desk.commands.mnuFileSave_Click();
     QCOMPARE(desk.dialogs.recorded().back().request.fileName, std::string());
     QCOMPARE(desk.bytesOf("/site/menu.js"),
-             DefinitionFileBytes(GenerateScript(desk.document.content())));
+             definitionFileBytes(GenerateScript(desk.document.content())));
     QCOMPARE(desk.bytesOf("/old/menu"), ImportedProducts()[product].file);
 }
 

@@ -134,7 +134,7 @@ class test_property_changes : public QObject {
             press(form, "cmdPaste");
             press(form, "cmdOK");
         });
-        MenuProp expected = *NewItemMenuProp();
+        MenuProp expected = *newItemMenuProp();
         expected.Position = 3;
         expected.Columns = "4";
         expected.Spacing = "5";

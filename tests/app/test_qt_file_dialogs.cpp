@@ -97,7 +97,7 @@ void test_qt_file_dialogs::filtersAreTranslated_data() {
 
 void test_qt_file_dialogs::filtersAreTranslated() {
     QFETCH(QString, filter);
-    QTEST(NameFilters(filter.toStdString()), "expected");
+    QTEST(nameFilters(filter.toStdString()), "expected");
 }
 
 void test_qt_file_dialogs::aFilterOfOneKindGivesTheExtension_data() {
@@ -119,7 +119,7 @@ void test_qt_file_dialogs::aFilterOfOneKindGivesTheExtension_data() {
 
 void test_qt_file_dialogs::aFilterOfOneKindGivesTheExtension() {
     QFETCH(QString, filter);
-    QTEST(DefaultSuffix(filter), "suffix");
+    QTEST(defaultSuffix(filter), "suffix");
 }
 
 void test_qt_file_dialogs::aFilterReadsAsDescribedAndMatchesAsMeant_data() {

@@ -306,11 +306,11 @@ void test_qt_message_box::aWindowIsNotLargerThanItsScreen() {
     QWidget window;
     const QSize screen = window.screen()->availableSize();
     window.resize(screen.width() + 100, screen.height() + 100);
-    FitScreen(window);
+    fitScreen(window);
     QVERIFY(window.width() < screen.width() && window.height() < screen.height());
     const QSize fitting = screen / 2;
     window.resize(fitting);
-    FitScreen(window);
+    fitScreen(window);
     QCOMPARE(window.size(), fitting);
 }
 

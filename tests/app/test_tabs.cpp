@@ -29,7 +29,7 @@ std::string previewScript(WindowDesk& desk, const std::string& folder) {
 }
 
 std::string writtenScript(WindowDesk& desk) {
-    return DefinitionFileBytes(GenerateScript(desk.document().content()));
+    return definitionFileBytes(GenerateScript(desk.document().content()));
 }
 
 }  // namespace

@@ -25,12 +25,12 @@ inline void failDialogTest(const std::string& problem) {
 struct DialogDesk {
     DialogDesk() {
         document.NewDocument();
-        AddMenuItem(document);
+        addMenuItem(document);
         a = document.CurNode();
-        AddSubmenuItem(document);
+        addSubmenuItem(document);
         a1 = a->children().front();
         document.select(a);
-        AddMenuItem(document);
+        addMenuItem(document);
         b = document.CurNode();
         document.select(a);
         document.markSaved();

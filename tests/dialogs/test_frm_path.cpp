@@ -283,7 +283,7 @@ class test_frm_path : public QObject {
     }
 
     void theDrivesAreTheMountedVolumes() {
-        const QStringList drives = MountedDrives();
+        const QStringList drives = mountedDrives();
         QVERIFY(drives.contains("/"));
         QCOMPARE(QSet<QString>(drives.begin(), drives.end()).size(), drives.size());
         // Below a changed root the table of volumes may not name the one that this folder lies on.

@@ -65,8 +65,8 @@ class NoView : public EditorView {
     void validateFields() override {}
     void StoreItem() override {}
     void ShowItem() override {}
-    void ShowScript(const std::string&) override {}
-    void ShowCaption() override {}
+    void showScript(const std::string&) override {}
+    void showCaption() override {}
     void LoadDefaultDialog() override {}
     void Button_Update() override {}
 };
@@ -99,6 +99,6 @@ int main(int argc, char** argv) {
     else if (command == "saveas")
         commands.mnuFileSaveAs_Click();
     else
-        commands.ShowPreview();
+        commands.showPreview();
     return messages.isFailureShown ? 3 : 0;
 }

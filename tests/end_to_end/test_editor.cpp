@@ -84,7 +84,7 @@ void test_editor::saveAsPutsAllFilesIntoTheFolder() {
                                  "  Oars -> oars.html\n"
                                  "It\\'s us -> about.html\n"));
     QCOMPARE(bytesOf(m_menuFile).toStdString(),
-             DefinitionFileBytes(GenerateScript(m_window->document().content())));
+             definitionFileBytes(GenerateScript(m_window->document().content())));
     QCOMPARE(QDir(m_folder.filePath("site")).entryList(QDir::Files),
              (QStringList{"menu.js", "orlet_temp.html", "zevmenu_dom.js", "zevmenu_loader.js",
                           "zevmenu_ns4.js"}));

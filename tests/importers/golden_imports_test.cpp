@@ -48,7 +48,7 @@ std::string warningsText(const ImportResult& result) {
     std::string text;
     for (const LineWarning& warning : result.warnings)
         text += "line " + std::to_string(warning.line) + ": " +
-                std::string(ReasonText(warning.reason)) + "\n";
+                std::string(reasonText(warning.reason)) + "\n";
     return text;
 }
 
@@ -69,8 +69,8 @@ TEST_P(GoldenImports, GiveTheExpectedDefinitionAndWarnings) {
     const std::string folder = kCases + "/" + GetParam();
     MenuContent document;
     const ImportResult result =
-        ImportMenu(*findImportFormat(group->folder), inputOf(GetParam(), *group), document);
-    EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), caseFile(folder + "/expected.js"));
+        importMenu(*findImportFormat(group->folder), inputOf(GetParam(), *group), document);
+    EXPECT_EQ(definitionFileBytes(GenerateScript(document)), caseFile(folder + "/expected.js"));
     const std::string warnings = folder + "/warnings.txt";
     EXPECT_EQ(warningsText(result),
               std::filesystem::exists(warnings) ? contentOf(warnings) : std::string());
@@ -80,7 +80,7 @@ TEST_P(GoldenImports, OpenAgainAsTheyWereSaved) {
     const std::string expected = caseFile(kCases + "/" + GetParam() + "/expected.js");
     MenuContent document;
     EXPECT_EQ(ReadScript(expected, document).errorCount, 0u);
-    EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), expected);
+    EXPECT_EQ(definitionFileBytes(GenerateScript(document)), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Case, GoldenImports, testing::ValuesIn(groupedCaseNames(kCases)),

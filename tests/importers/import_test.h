@@ -16,7 +16,7 @@
 namespace zev {
 
 inline void PrintTo(const LineWarning& warning, std::ostream* out) {
-    *out << "line " << warning.line << ": " << ReasonText(warning.reason);
+    *out << "line " << warning.line << ": " << reasonText(warning.reason);
 }
 
 namespace test {
@@ -29,7 +29,8 @@ class ImportTest : public testing::Test {
   protected:
     Warnings importMenu(std::string_view format, std::string_view bytes) {
         document = MenuContent();
-        const Warnings warnings = ImportMenu(*findImportFormat(format), bytes, document).warnings;
+        const Warnings warnings =
+            zev::importMenu(*findImportFormat(format), bytes, document).warnings;
         ExpectSoundTree(document.tree);
         return warnings;
     }

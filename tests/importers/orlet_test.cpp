@@ -120,7 +120,7 @@ TEST_P(OrletTest, ItemsMadeAfterwardsHaveKeysOfTheirOwn) {
     EXPECT_EQ(read({":A", ":B"}), none);
     MenuDocument edited("/program");
     edited.open(std::move(document));
-    EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
+    EXPECT_EQ(addMenuItem(edited), EditResult::Done);
     EXPECT_EQ(TreeTextWithKeys(edited.tree()), "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
 }
 
@@ -128,8 +128,8 @@ TEST_P(OrletTest, EveryItemIsATextItemWithTheUsualSpacing) {
     EXPECT_EQ(read({":A", "::B|b.html|main"}), none);
     EXPECT_FALSE(itemAt("KeyLoad 1").IsRollover);
     EXPECT_FALSE(itemAt("KeyLoad 2").IsRollover);
-    EXPECT_EQ(itemAt("KeyLoad 1").MenuProperty, NewItemMenuProp());
-    EXPECT_EQ(itemAt("KeyLoad 2").MenuProperty, NewItemMenuProp());
+    EXPECT_EQ(itemAt("KeyLoad 1").MenuProperty, newItemMenuProp());
+    EXPECT_EQ(itemAt("KeyLoad 2").MenuProperty, newItemMenuProp());
 }
 
 /// One line's fields and what becomes of them.
@@ -171,7 +171,7 @@ TEST_P(OrletTest, BelowTheTopLevelAnItemHasCaptionLinkAndTarget) {
         EXPECT_EQ(read({":Top", "::" + std::string(c.line)}), none);
         EXPECT_EQ(ItemText(itemAt("KeyLoad 2")), "text [" + std::string(c.caption) + "] [" + c.url +
                                                      "] [" + c.target + "] [] []" +
-                                                     PropText(*NewItemMenuProp()));
+                                                     PropText(*newItemMenuProp()));
         EXPECT_EQ(tree(), "Top\n  " + std::string(c.caption) + "\n");
     }
 }
@@ -187,7 +187,7 @@ TEST_P(OrletLinkItemsTest, AtTheTopLevelAnItemHasCaptionLinkAndTarget) {
         EXPECT_EQ(importMenu(GetParam(), ":" + std::string(c.line) + "\n"), none);
         EXPECT_EQ(ItemText(itemAt("KeyLoad 1")), "text [" + std::string(c.caption) + "] [" + c.url +
                                                      "] [" + c.target + "] [] []" +
-                                                     PropText(*NewItemMenuProp()));
+                                                     PropText(*newItemMenuProp()));
         EXPECT_EQ(tree(), std::string(c.caption) + "\n");
     }
 }
@@ -215,7 +215,7 @@ TEST_F(OrletButtonTest, AtTheTopLevelAnItemHasAnImageInItsCaptionBeforeLinkAndTa
         EXPECT_EQ(importMenu("orletbutton", ":" + std::string(c.line) + "\n"), none);
         EXPECT_EQ(ItemText(itemAt("KeyLoad 1")), "text [" + std::string(c.caption) + "] [" + c.url +
                                                      "] [" + c.target + "] [] []" +
-                                                     PropText(*NewItemMenuProp()));
+                                                     PropText(*newItemMenuProp()));
         EXPECT_EQ(tree(), std::string(c.caption) + "\n");
     }
 }

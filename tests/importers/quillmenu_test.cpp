@@ -113,7 +113,7 @@ TEST_F(QuillmenuTest, ASubmenusArgumentsGoToTheItemWhosePositionsItsIdSpells) {
     EXPECT_EQ(keys(),
               "A [KeyLoad 1]\n  A1 [KeyLoad 1i1]\nB [KeyLoad 2]\n  B1 [KeyLoad 2i1]\n"
               "    B11 [KeyLoad 2i1i1]\n  B2 [KeyLoad 2i2]\n");
-    MenuProp expected = *NewItemMenuProp();
+    MenuProp expected = *newItemMenuProp();
     expected.Columns = "1";
     EXPECT_EQ(submenu("KeyLoad 1"), expected);
     expected.NBgColor = "#5";
@@ -124,14 +124,14 @@ TEST_F(QuillmenuTest, ASubmenusArgumentsGoToTheItemWhosePositionsItsIdSpells) {
     expected.HFtColor = "#444444";
     expected.BgImg = "bg.gif";
     EXPECT_EQ(submenu("KeyLoad 2"), expected);
-    EXPECT_EQ(submenu("KeyLoad 2i2"), *NewItemMenuProp());
+    EXPECT_EQ(submenu("KeyLoad 2i2"), *newItemMenuProp());
     EXPECT_EQ(document.RootMenuProp.NBgColor, "");
 }
 
 TEST_F(QuillmenuTest, TheArgumentsOfASubmenuThatNoItemOpensAreDroppedWithoutAWarning) {
     EXPECT_EQ(read({kMain, "qlmenu1.addItems('A');", "qlmenu1 = new subMenu('7', '#1', '#2');"}),
               none);
-    EXPECT_EQ(submenu("KeyLoad 1"), *NewItemMenuProp());
+    EXPECT_EQ(submenu("KeyLoad 1"), *newItemMenuProp());
     EXPECT_EQ(document.RootMenuProp.NBgColor, "");
     EXPECT_EQ(tree(), "A\n");
 }
@@ -185,7 +185,7 @@ TEST_F(QuillmenuTest, PropertyLinesGoToTheMenuCreatedLast) {
     EXPECT_EQ(document.RootMenuProp.Columns, "3");
     EXPECT_EQ(document.RootMenuProp.Position, 4);
     EXPECT_EQ(document.RootMenuProp.NBgColor, "#1");
-    MenuProp expected = *NewItemMenuProp();
+    MenuProp expected = *newItemMenuProp();
     expected.Columns = "4";
     expected.NBgColor = "#2";
     expected.Divider = "it's";
@@ -203,7 +203,7 @@ TEST_F(QuillmenuTest, ATextItemHasCaptionLinkAndTarget) {
     expected.Caption = "It\\'s <b>new</b>";
     expected.URL = "a.html";
     expected.Target = "_top";
-    expected.MenuProperty = NewItemMenuProp();
+    expected.MenuProperty = newItemMenuProp();
     EXPECT_EQ(itemAt("KeyLoad 1"), expected);
     EXPECT_EQ(tree(), "It\\'s <b>new</b>\n");
 }
@@ -216,7 +216,7 @@ TEST_F(QuillmenuTest, AnImageItemHasLinkImagesAndTargetAndIsShownUnderItsMouseOu
     expected.ImageOut = "out.gif";
     expected.ImageOver = "over.gif";
     expected.Target = "main";
-    expected.MenuProperty = NewItemMenuProp();
+    expected.MenuProperty = newItemMenuProp();
     EXPECT_EQ(itemAt("KeyLoad 1"), expected);
     EXPECT_EQ(tree(), "out.gif\n");
 }
@@ -283,7 +283,7 @@ TEST_F(QuillmenuTest, ItemsMadeAfterwardsHaveKeysOfTheirOwn) {
     EXPECT_EQ(read({kMain, "qlmenu1.addItems('A');", "qlmenu1.addItems('B');"}), none);
     MenuDocument edited("/program");
     edited.open(std::move(document));
-    EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
+    EXPECT_EQ(addMenuItem(edited), EditResult::Done);
     EXPECT_EQ(TreeTextWithKeys(edited.tree()), "A [KeyLoad 1]\nB [KeyLoad 2]\nItem 2 [Key 2]\n");
 }
 

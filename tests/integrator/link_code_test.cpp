@@ -35,26 +35,26 @@ TEST(LinkCodeTest, EntryWithoutAPairOfParenthesesCountsAsEmpty) {
 }
 
 TEST(LinkCodeTest, MenuInPlaceIsReferenceAndCallOnTwoLines) {
-    EXPECT_EQ(MenuCode("js/menu_def.js"),
+    EXPECT_EQ(menuCode("js/menu_def.js"),
               "<script language=\"JavaScript1.2\" src=\"js/menu_def.js\"></script>\r\n"
               "<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>");
 }
 
 TEST(LinkCodeTest, ReferenceTakesTheURLAsItIs) {
-    EXPECT_EQ(DefinitionReference("My Menu.js"),
+    EXPECT_EQ(definitionReference("My Menu.js"),
               "<script language=\"JavaScript1.2\" src=\"My Menu.js\"></script>");
 }
 
 TEST(LinkCodeTest, PopupAtTheMouseOpensAndCloses) {
-    EXPECT_EQ(PopupLinkCode("1i2", {}),
+    EXPECT_EQ(popupLinkCode("1i2", {}),
               "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1i1', '2', event)\" "
               "onmouseout=\"ZEVMenuClose('zev1i1', '2', false)\">Menu</a>");
 }
 
 TEST(LinkCodeTest, PopupAtAPositionOnlyOpensAndTakesTheCoordinatesAsTyped) {
-    EXPECT_EQ(PopupLinkCode("1i2", {false, "100", "50"}),
+    EXPECT_EQ(popupLinkCode("1i2", {false, "100", "50"}),
               "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1i1', '2', 100, 50)\">Menu</a>");
-    EXPECT_EQ(PopupLinkCode("1", {false, "-07", ""}),
+    EXPECT_EQ(popupLinkCode("1", {false, "-07", ""}),
               "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1', '1', -07, )\">Menu</a>");
 }
 

@@ -60,10 +60,10 @@ TEST(CalculateURLTest, FullPathsBecomeRelativeAndOthersStay) {
 }
 
 TEST(PagePathTest, JoinsWithTheFoldersOwnSeparator) {
-    EXPECT_EQ(PagePath("C:\\web", "a.htm"), "C:\\web\\a.htm");
-    EXPECT_EQ(PagePath("C:\\", "a.htm"), "C:\\\\a.htm");
-    EXPECT_EQ(PagePath("/web", "a b\n\\.htm"), "/web/a b\n\\.htm");
-    EXPECT_EQ(PagePath("/", "a.htm"), "/a.htm");
+    EXPECT_EQ(pagePath("C:\\web", "a.htm"), "C:\\web\\a.htm");
+    EXPECT_EQ(pagePath("C:\\", "a.htm"), "C:\\\\a.htm");
+    EXPECT_EQ(pagePath("/web", "a b\n\\.htm"), "/web/a b\n\\.htm");
+    EXPECT_EQ(pagePath("/", "a.htm"), "/a.htm");
 }
 
 /// A folder "/web" with an integrator over it.
@@ -373,10 +373,10 @@ TEST(PageIntegratorTest, AnErrorSaysWhatFailedOnWhichFileAndWhy) {
 TEST(CountDroppedScriptsTest, CountsInAFileOrTellsWhyNot) {
     Desk desk;
     desk.addPage("a.htm", "<script>a</script><script language=JavaScript></script>.");
-    const FileResult<std::size_t> count = CountDroppedScripts(desk.failing, "/web/a.htm");
+    const FileResult<std::size_t> count = countDroppedScripts(desk.failing, "/web/a.htm");
     ASSERT_TRUE(count.isOk());
     EXPECT_EQ(count.value(), 1u);
-    const FileResult<std::size_t> missing = CountDroppedScripts(desk.failing, "/web/none.htm");
+    const FileResult<std::size_t> missing = countDroppedScripts(desk.failing, "/web/none.htm");
     ASSERT_FALSE(missing.isOk());
     EXPECT_EQ(missing.error().code, FileError::Code::NotFound);
     EXPECT_EQ(missing.error().path, "/web/none.htm");

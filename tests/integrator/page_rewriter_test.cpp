@@ -280,12 +280,12 @@ TEST(PageRewriterDeathTest, EditsThatOverlapOrLeaveThePageAreRefused) {
 #endif
 
 TEST(PageRewriterTest, CountsTheScriptsThatWouldBeDropped) {
-    EXPECT_EQ(CountDroppedScripts(""), 0u);
-    EXPECT_EQ(CountDroppedScripts("<script language=JavaScript>a</script>."), 0u);
-    EXPECT_EQ(CountDroppedScripts("<script>a</script><SCRIPT type=x></SCRIPT><p>."), 2u);
-    EXPECT_EQ(CountDroppedScripts("<!-- <script></script> -->."), 0u);
-    EXPECT_EQ(CountDroppedScripts("<script>the last token stays"), 0u);
-    EXPECT_EQ(CountDroppedScripts(rewritten("<head></head><body></body>.").page), 0u);
+    EXPECT_EQ(countDroppedScripts(""), 0u);
+    EXPECT_EQ(countDroppedScripts("<script language=JavaScript>a</script>."), 0u);
+    EXPECT_EQ(countDroppedScripts("<script>a</script><SCRIPT type=x></SCRIPT><p>."), 2u);
+    EXPECT_EQ(countDroppedScripts("<!-- <script></script> -->."), 0u);
+    EXPECT_EQ(countDroppedScripts("<script>the last token stays"), 0u);
+    EXPECT_EQ(countDroppedScripts(rewritten("<head></head><body></body>.").page), 0u);
 }
 
 }  // namespace

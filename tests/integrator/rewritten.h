@@ -25,7 +25,7 @@ struct Rewritten {
 inline Rewritten rewritten(const std::string& page,
                            const RewriteOptions& options = {"lib/", false}) {
     Rewritten result;
-    result.page = RewritePage(page, options, result.status);
+    result.page = rewritePage(page, options, result.status);
     return result;
 }
 

@@ -292,10 +292,11 @@ TEST(WizardFlowTest, CancelAndClosingStopARunAndTheNextOneStartsAfresh) {
         desk.next();
         EXPECT_TRUE(desk.flow.mayClose());
         desk.flow.IntegratePages(desk.answers, [&](std::size_t doneCount, std::size_t) {
-            if (doneCount == 1 && isClosing)
-                EXPECT_FALSE(desk.flow.mayClose());
-            else if (doneCount == 1)
+            if (doneCount != 1)
+                return;
+            if (!isClosing)
                 desk.flow.cancel();
+            EXPECT_FALSE(isClosing && desk.flow.mayClose());
         });
         EXPECT_TRUE(desk.flow.mayClose());
         EXPECT_NE(desk.page("a.htm"), kPage);
@@ -370,25 +371,25 @@ TEST(WizardFlowTest, TheCodeIsThatOfTheAnswersAtTheRun) {
     Flow desk;
     desk.goToMenuStep();
     desk.run();
-    EXPECT_EQ(desk.flow.code(), MenuCode("menu_def.js"));
+    EXPECT_EQ(desk.flow.code(), menuCode("menu_def.js"));
     EXPECT_EQ(desk.flow.linkCode(), "");
 
     desk.flow.goBack();
     desk.choosePopup();
     desk.run();
     EXPECT_EQ(desk.flow.code(), reference);
-    EXPECT_EQ(desk.flow.linkCode(), PopupLinkCode("1i2", {}));
+    EXPECT_EQ(desk.flow.linkCode(), popupLinkCode("1i2", {}));
 
     desk.flow.goBack();
     desk.answers.placement = {false, "100", "50"};
     desk.run();
-    EXPECT_EQ(desk.flow.linkCode(), PopupLinkCode("1i2", {false, "100", "50"}));
+    EXPECT_EQ(desk.flow.linkCode(), popupLinkCode("1i2", {false, "100", "50"}));
 
     desk.flow.goBack();
     desk.answers.isPopup = false;
     desk.answers.definition = " ../My Menu.js ";
     desk.run();
-    EXPECT_EQ(desk.flow.code(), MenuCode("../My Menu.js"));
+    EXPECT_EQ(desk.flow.code(), menuCode("../My Menu.js"));
     EXPECT_EQ(desk.flow.linkCode(), "");
 }
 

@@ -128,7 +128,7 @@ TEST(CopyProblemTextTest, NamesTheFileAtFault) {
          "Error: /to not saved. Please check path permissions"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(CopyProblemText(c.outcome), c.text);
+        EXPECT_EQ(copyProblemText(c.outcome), c.text);
 }
 
 }  // namespace

@@ -294,8 +294,8 @@ TEST_F(DocumentChangeTest, AChangeIsSmallerThanAPropertySet) {
 
 TEST_F(DocumentChangeTest, APropertySetSharedByManyItemsStaysSharedWhenItIsSetAndTakenBack) {
     for (const char* key : {"A", "B"})
-        test::editItem(document, *node(key))->MenuProperty = NewItemMenuProp();
-    const MenuProp* const shared = &*NewItemMenuProp();
+        test::editItem(document, *node(key))->MenuProperty = newItemMenuProp();
+    const MenuProp* const shared = &*newItemMenuProp();
     MenuProp own = *shared;
     own.Columns = "4";
     Change back =

@@ -23,7 +23,7 @@ TEST(HexToColor, PutsRedIntoTheLowestByte) {
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.text);
         EXPECT_EQ(HexToColor(c.text), c.color);
-        EXPECT_EQ(ColorOf(c.text), c.color);
+        EXPECT_EQ(colorOf(c.text), c.color);
     }
 }
 
@@ -40,7 +40,7 @@ TEST(HexToColor, FillsAShortTextWithZerosOnTheRight) {
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.text);
         EXPECT_EQ(HexToColor(c.text), c.color);
-        EXPECT_EQ(ColorOf(c.text), c.color);
+        EXPECT_EQ(colorOf(c.text), c.color);
     }
 }
 
@@ -69,7 +69,7 @@ TEST(HexToColor, IsBlackForAnythingElse) {
           "#0x1234", "#12\xC3\xA9", "\xC3\xA9"}) {
         SCOPED_TRACE(text);
         EXPECT_EQ(HexToColor(text), 0);
-        EXPECT_EQ(ColorOf(text), std::nullopt);
+        EXPECT_EQ(colorOf(text), std::nullopt);
     }
 }
 
@@ -213,7 +213,7 @@ TEST(LeadingNumber, IsTheNumberAtTheBeginning) {
     };
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.text);
-        EXPECT_EQ(LeadingNumber(c.text), c.number);
+        EXPECT_EQ(leadingNumber(c.text), c.number);
     }
 }
 
@@ -227,7 +227,7 @@ TEST(WholePoints, RoundsHalfToEven) {
     };
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.points);
-        EXPECT_EQ(WholePoints(c.points), c.text);
+        EXPECT_EQ(wholePoints(c.points), c.text);
     }
 }
 

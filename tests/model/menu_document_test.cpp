@@ -39,8 +39,8 @@ void ExpectEmptyDocument(const MenuDocument& document, const std::string& progra
 
 /// Changes everything that a document holds.
 void FillDocument(MenuDocument& document) {
-    AddMenuItem(document);
-    AddMenuItem(document);
+    addMenuItem(document);
+    addMenuItem(document);
     document.setFile("/site/menu.js", "/site");
     editMenu(document, kTopMenu)->Columns = "1";
     editMenu(document, kTopMenu)->Target = "main";
@@ -63,11 +63,11 @@ TEST(MenuDocument, NewDocumentResetsEverything) {
 
 TEST(MenuDocument, NewDocumentStartsTheNumbersAgain) {
     MenuDocument document("/program");
-    AddMenuItem(document);
-    AddMenuItem(document);
+    addMenuItem(document);
+    addMenuItem(document);
     EXPECT_EQ(document.CurNode()->key(), "Key 1");
     document.NewDocument();
-    AddMenuItem(document);
+    addMenuItem(document);
     EXPECT_EQ(document.CurNode()->key(), "Key 0");
 }
 
@@ -76,7 +76,7 @@ TEST(MenuDocument, TheSubmenuOfANewItemStartsWithTheUsualDividerAndSpaces) {
     expected.Divider = "&nbsp;";
     expected.HTMLAfter = "&nbsp;&nbsp;";
     expected.HTMLBefore = "&nbsp;&nbsp;";
-    EXPECT_EQ(*NewItemMenuProp(), expected);
+    EXPECT_EQ(*newItemMenuProp(), expected);
 }
 
 /// Two items, X and its child Y, and values of their own everywhere.
@@ -145,8 +145,8 @@ class ResetCounter : public DocumentObserver {
     void aboutToReplaceContent() override { ++m_beginnings; }
     void contentReplaced() override {
         ++m_ends;
-        if (m_document.CurNode())
-            EXPECT_EQ(m_document.tree().find(m_document.CurNode()->key()), m_document.CurNode());
+        const MenuNode* const node = m_document.CurNode();
+        EXPECT_TRUE(!node || m_document.tree().find(node->key()) == node);
     }
     void labelChanged(const MenuNode&) override { ADD_FAILURE(); }
     void expansionChanged(const MenuNode&) override { ADD_FAILURE(); }
@@ -203,20 +203,20 @@ TEST(MenuDocumentModified, OnlyTheOperationsThatSaySoSetOrClearTheMark) {
         {"markSaved", [](MenuDocument& document) { document.markSaved(); }, false, false},
         {"open", [](MenuDocument& document) { document.open(SampleContent()); }, false, false},
         {"NewDocument", [](MenuDocument& document) { document.NewDocument(); }, false, false},
-        {"AddMenuItem", [](MenuDocument& document) { AddMenuItem(document); }, true, true},
-        {"AddSubmenuItem", [](MenuDocument& document) { AddSubmenuItem(document); }, true, true},
-        {"DeleteItem", [](MenuDocument& document) { DeleteItem(document); }, true, true},
-        {"MoveRight", [](MenuDocument& document) { MoveRight(document); }, true, true},
-        {"MoveLeft at the top", [](MenuDocument& document) { MoveLeft(document); }, false, true},
-        {"MoveUp", [](MenuDocument& document) { MoveUp(document); }, true, true},
-        {"MoveDown at the end", [](MenuDocument& document) { MoveDown(document); }, false, true},
+        {"AddMenuItem", [](MenuDocument& document) { addMenuItem(document); }, true, true},
+        {"AddSubmenuItem", [](MenuDocument& document) { addSubmenuItem(document); }, true, true},
+        {"DeleteItem", [](MenuDocument& document) { deleteItem(document); }, true, true},
+        {"MoveRight", [](MenuDocument& document) { moveRight(document); }, true, true},
+        {"MoveLeft at the top", [](MenuDocument& document) { moveLeft(document); }, false, true},
+        {"MoveUp", [](MenuDocument& document) { moveUp(document); }, true, true},
+        {"MoveDown at the end", [](MenuDocument& document) { moveDown(document); }, false, true},
     };
     for (const auto& c : kCases) {
         for (const bool wasSet : {false, true}) {
             SCOPED_TRACE(std::string(c.name) + (wasSet ? " when set" : " when not set"));
             MenuDocument document("/program");
-            AddMenuItem(document);
-            AddMenuItem(document);
+            addMenuItem(document);
+            addMenuItem(document);
             document.apply(SetModified{wasSet});
             c.operation(document);
             EXPECT_EQ(document.bModified(), wasSet ? c.isStill : c.isSet);

@@ -62,7 +62,7 @@ using DeleteItemTest = TreeEditing;
 using MoveTest = TreeEditing;
 
 TEST_F(AddMenuItemTest, TheFirstItemOfANewDocument) {
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
+    EXPECT_EQ(addMenuItem(document), EditResult::Done);
     EXPECT_EQ(TreeTextWithKeys(document.tree()), "Item 0 [Key 0]\n");
     const MenuNode& added = *document.tree().firstNode();
     expectSelected(&added);
@@ -71,7 +71,7 @@ TEST_F(AddMenuItemTest, TheFirstItemOfANewDocument) {
 
     ItemProp expected;
     expected.Caption = "Item 0";
-    expected.MenuProperty = NewItemMenuProp();
+    expected.MenuProperty = newItemMenuProp();
     expected.MenuProperty.edit().Position = 2;
     EXPECT_EQ(added.item, expected);
 }
@@ -79,7 +79,7 @@ TEST_F(AddMenuItemTest, TheFirstItemOfANewDocument) {
 TEST_F(AddMenuItemTest, GoesAfterTheLastSiblingOfTheSelectedNode) {
     Grow(document, {{0, "A"}, {0, "B"}, {0, "C"}});
     select("B");
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
+    EXPECT_EQ(addMenuItem(document), EditResult::Done);
     EXPECT_EQ(TreeText(document.tree()), "A\nB\nC\nItem 0\n");
     expectSelected(node("Key 0"));
 }
@@ -87,7 +87,7 @@ TEST_F(AddMenuItemTest, GoesAfterTheLastSiblingOfTheSelectedNode) {
 TEST_F(AddMenuItemTest, InASubmenuGoesToItsEndAndIsMadeVisible) {
     growSample();
     select("B1");
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
+    EXPECT_EQ(addMenuItem(document), EditResult::Done);
     EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\n  Item 0\nC\n");
     EXPECT_TRUE(document.tree().isVisible(*node("Key 0")));
     EXPECT_FALSE(node("B1")->isExpanded);
@@ -98,16 +98,16 @@ TEST_F(AddMenuItemTest, InASubmenuGoesToItsEndAndIsMadeVisible) {
 TEST_F(AddMenuItemTest, WithoutASelectionGoesToTheEndOfTheTopLevelAndIsSelected) {
     growSample();
     document.apply(SetSelection{{nullptr, node("B11")}});
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
+    EXPECT_EQ(addMenuItem(document), EditResult::Done);
     EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\nC\nItem 0\n");
     expectSelected(node("Key 0"));
 }
 
 TEST_F(AddMenuItemTest, NumbersRunOnAndAreNotUsedAgainAfterADeletion) {
-    AddMenuItem(document);
-    AddMenuItem(document);
-    DeleteItem(document);
-    AddMenuItem(document);
+    addMenuItem(document);
+    addMenuItem(document);
+    deleteItem(document);
+    addMenuItem(document);
     EXPECT_EQ(TreeTextWithKeys(document.tree()), "Item 0 [Key 0]\nItem 2 [Key 2]\n");
 }
 
@@ -126,10 +126,10 @@ TEST_F(AddMenuItemTest, ATopLevelItemOpensItsSubmenuBelowWhenTheTopLevelIsHorizo
         document.NewDocument();
         editMenu(document, kTopMenu)->Columns = c.rootColumns;
         editMenu(document, kDefaults)->Columns = c.defaultColumns;
-        AddMenuItem(document);
+        addMenuItem(document);
         EXPECT_EQ(document.CurNode()->item.MenuProperty->Position, c.position);
         document.apply(SetSelection{{nullptr, document.CurNode()}});
-        AddSubmenuItem(document);
+        addSubmenuItem(document);
         EXPECT_EQ(document.CurNode()->item.MenuProperty->Position, c.position);
     }
 }
@@ -137,7 +137,7 @@ TEST_F(AddMenuItemTest, ATopLevelItemOpensItsSubmenuBelowWhenTheTopLevelIsHorizo
 TEST_F(AddSubmenuItemTest, GoesAfterTheLastChildOfTheSelectedNodeWhichStaysSelected) {
     growSample();
     select("B");
-    EXPECT_EQ(AddSubmenuItem(document), EditResult::Done);
+    EXPECT_EQ(addSubmenuItem(document), EditResult::Done);
     EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\n  Item 0\nC\n");
     expectSelected(node("B"));
     EXPECT_TRUE(document.bModified());
@@ -147,18 +147,18 @@ TEST_F(AddSubmenuItemTest, GoesAfterTheLastChildOfTheSelectedNodeWhichStaysSelec
 TEST_F(AddSubmenuItemTest, TheNewChildIsMadeVisibleAndKeepsPositionZero) {
     growSample();
     select("B11");
-    EXPECT_EQ(AddSubmenuItem(document), EditResult::Done);
+    EXPECT_EQ(addSubmenuItem(document), EditResult::Done);
     const MenuNode& child = *node("Key 0");
     EXPECT_EQ(child.parent(), node("B11"));
     EXPECT_TRUE(document.tree().isVisible(child));
     EXPECT_EQ(child.item.Caption, "Item 0");
-    EXPECT_EQ(child.item.MenuProperty, NewItemMenuProp());
+    EXPECT_EQ(child.item.MenuProperty, newItemMenuProp());
     expectSelected(node("B11"));
 }
 
 TEST_F(AddSubmenuItemTest, WithoutASelectionBecomesCurrentButNotSelected) {
     growSample();
-    EXPECT_EQ(AddSubmenuItem(document), EditResult::Done);
+    EXPECT_EQ(addSubmenuItem(document), EditResult::Done);
     EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\nC\nItem 0\n");
     EXPECT_EQ(document.CurNode(), node("Key 0"));
     EXPECT_EQ(document.selectedNode(), nullptr);
@@ -168,7 +168,7 @@ TEST_F(AddSubmenuItemTest, WithoutASelectionBecomesCurrentButNotSelected) {
 TEST_F(DeleteItemTest, WithoutASelectionDoesNothing) {
     growSample();
     document.apply(SetSelection{{nullptr, node("A")}});
-    expectRefused(DeleteItem, EditResult::NothingToDo);
+    expectRefused(deleteItem, EditResult::NothingToDo);
 }
 
 TEST_F(DeleteItemTest, TheNextSiblingElseThePreviousElseTheParentIsSelected) {
@@ -186,7 +186,7 @@ TEST_F(DeleteItemTest, TheNextSiblingElseThePreviousElseTheParentIsSelected) {
         document.NewDocument();
         growSample();
         select(c.key);
-        EXPECT_EQ(DeleteItem(document), EditResult::Done);
+        EXPECT_EQ(deleteItem(document), EditResult::Done);
         EXPECT_EQ(TreeText(document.tree()), c.tree);
         expectSelected(node(c.heir));
         EXPECT_TRUE(document.bModified());
@@ -196,8 +196,8 @@ TEST_F(DeleteItemTest, TheNextSiblingElseThePreviousElseTheParentIsSelected) {
 }
 
 TEST_F(DeleteItemTest, TheLastNodeLeavesNoCurrentNode) {
-    AddMenuItem(document);
-    EXPECT_EQ(DeleteItem(document), EditResult::Done);
+    addMenuItem(document);
+    EXPECT_EQ(deleteItem(document), EditResult::Done);
     EXPECT_TRUE(document.tree().isEmpty());
     expectSelected(nullptr);
     EXPECT_TRUE(document.bModified());
@@ -205,7 +205,7 @@ TEST_F(DeleteItemTest, TheLastNodeLeavesNoCurrentNode) {
 
 TEST_F(MoveTest, WithoutACurrentNodeNothingMoves) {
     growSample();
-    for (const Command move : {MoveLeft, MoveRight, MoveUp, MoveDown})
+    for (const Command move : {moveLeft, moveRight, moveUp, moveDown})
         expectRefused(move, EditResult::NothingToDo);
 }
 
@@ -214,9 +214,9 @@ TEST_F(MoveTest, AtTheEndOfItsWayNothingMoves) {
     struct {
         Command move;
         const char* key;
-    } const kCases[] = {{MoveLeft, "A"},   {MoveLeft, "B"},  {MoveRight, "A"},
-                        {MoveRight, "B1"}, {MoveUp, "A"},    {MoveUp, "B1"},
-                        {MoveDown, "C"},   {MoveDown, "B2"}, {MoveDown, "B11"}};
+    } const kCases[] = {{moveLeft, "A"},   {moveLeft, "B"},  {moveRight, "A"},
+                        {moveRight, "B1"}, {moveUp, "A"},    {moveUp, "B1"},
+                        {moveDown, "C"},   {moveDown, "B2"}, {moveDown, "B11"}};
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.key);
         select(c.key);
@@ -227,7 +227,7 @@ TEST_F(MoveTest, AtTheEndOfItsWayNothingMoves) {
 TEST_F(MoveTest, LeftPutsTheNodeDirectlyAfterItsParentWithItsSubtree) {
     growSample();
     select("B1");
-    EXPECT_EQ(MoveLeft(document), EditResult::Done);
+    EXPECT_EQ(moveLeft(document), EditResult::Done);
     EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "A [A]\nB [B]\n  B2 [B2]\nB1 [B1]\n  B11 [B11]\nC [C]\n");
     expectSelected(node("B1"));
@@ -240,20 +240,20 @@ TEST_F(MoveTest, LeftKeepsItemsAndUsesUpOneNumber) {
     editItem(document, *node("B1"))->URL = "b1.html";
     editItem(document, *node("B11"))->Caption = "b11";
     select("B1");
-    MoveLeft(document);
+    moveLeft(document);
     EXPECT_EQ(node("B1")->item.URL, "b1.html");
     EXPECT_EQ(node("B11")->item.Caption, "b11");
     EXPECT_EQ(document.ItemCounter(), 1);
-    AddMenuItem(document);
+    addMenuItem(document);
     EXPECT_NE(node("Key 1"), nullptr) << "number 0 is used up";
     EXPECT_EQ(node("Key 0"), nullptr);
 }
 
 TEST_F(MoveTest, LeftToTheTopLevelKeepsTheSubmenusPosition) {
-    AddMenuItem(document);
-    AddSubmenuItem(document);
+    addMenuItem(document);
+    addSubmenuItem(document);
     select("Key 1");
-    MoveLeft(document);
+    moveLeft(document);
     EXPECT_EQ(TreeText(document.tree()), "Item 0\nItem 1\n");
     EXPECT_EQ(node("Key 1")->item.MenuProperty->Position, 0);
 }
@@ -261,14 +261,14 @@ TEST_F(MoveTest, LeftToTheTopLevelKeepsTheSubmenusPosition) {
 TEST_F(MoveTest, LeftFromTheThirdLevelStaysUnderTheGrandparent) {
     growSample();
     select("B11");
-    MoveLeft(document);
+    moveLeft(document);
     EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n  B11\n  B2\nC\n");
 }
 
 TEST_F(MoveTest, RightPutsTheNodeAfterTheLastChildOfItsPreviousSibling) {
     growSample();
     select("C");
-    EXPECT_EQ(MoveRight(document), EditResult::Done);
+    EXPECT_EQ(moveRight(document), EditResult::Done);
     EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "A [A]\nB [B]\n  B1 [B1]\n    B11 [B11]\n  B2 [B2]\n  C [C]\n");
     expectSelected(node("C"));
@@ -280,14 +280,14 @@ TEST_F(MoveTest, RightPutsTheNodeAfterTheLastChildOfItsPreviousSibling) {
 TEST_F(MoveTest, RightTakesTheSubtreeAlong) {
     growSample();
     select("B");
-    MoveRight(document);
+    moveRight(document);
     EXPECT_EQ(TreeText(document.tree()), "A\n  B\n    B1\n      B11\n    B2\nC\n");
 }
 
 TEST_F(MoveTest, RightKeepsAVisibleNodeVisible) {
     growSample();
     select("C");
-    MoveRight(document);
+    moveRight(document);
     EXPECT_TRUE(document.tree().isVisible(*node("C")));
     EXPECT_TRUE(node("B")->isExpanded);
 }
@@ -295,16 +295,16 @@ TEST_F(MoveTest, RightKeepsAVisibleNodeVisible) {
 TEST_F(MoveTest, RightAndLeftLeaveAHiddenNodeHidden) {
     growSample();
     select("B2");
-    MoveRight(document);
+    moveRight(document);
     EXPECT_FALSE(document.tree().isVisible(*node("B2")));
-    MoveLeft(document);
+    moveLeft(document);
     EXPECT_FALSE(document.tree().isVisible(*node("B2")));
 }
 
 TEST_F(MoveTest, UpExchangesTheNodeWithItsPreviousSibling) {
     growSample();
     select("B");
-    EXPECT_EQ(MoveUp(document), EditResult::Done);
+    EXPECT_EQ(moveUp(document), EditResult::Done);
     EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "B [B]\n  B1 [B1]\n    B11 [B11]\n  B2 [B2]\nA [A]\nC [C]\n");
     expectSelected(node("B"));
@@ -316,7 +316,7 @@ TEST_F(MoveTest, UpExchangesTheNodeWithItsPreviousSibling) {
 TEST_F(MoveTest, DownExchangesTheNodeWithItsNextSibling) {
     growSample();
     select("A");
-    EXPECT_EQ(MoveDown(document), EditResult::Done);
+    EXPECT_EQ(moveDown(document), EditResult::Done);
     EXPECT_EQ(TreeTextWithKeys(document.tree()),
               "B [B]\n  B1 [B1]\n    B11 [B11]\n  B2 [B2]\nA [A]\nC [C]\n");
     expectSelected(node("A"));
@@ -328,7 +328,7 @@ TEST_F(MoveTest, DownExchangesTheNodeWithItsNextSibling) {
 TEST_F(MoveTest, DownMakesTheNodeVisible) {
     growSample();
     select("B1");
-    MoveDown(document);
+    moveDown(document);
     EXPECT_TRUE(document.tree().isVisible(*node("B1")));
 }
 
@@ -337,8 +337,8 @@ TEST_F(MoveTest, UpAndThenDownRestoreTheOrderWithTheSameNodeSelected) {
     for (const char* key : {"B", "C", "B2"}) {
         SCOPED_TRACE(key);
         select(key);
-        EXPECT_EQ(MoveUp(document), EditResult::Done);
-        EXPECT_EQ(MoveDown(document), EditResult::Done);
+        EXPECT_EQ(moveUp(document), EditResult::Done);
+        EXPECT_EQ(moveDown(document), EditResult::Done);
         EXPECT_EQ(TreeText(document.tree()), "A\nB\n  B1\n    B11\n  B2\nC\n");
         expectSelected(node(key));
     }
@@ -347,12 +347,12 @@ TEST_F(MoveTest, UpAndThenDownRestoreTheOrderWithTheSameNodeSelected) {
 TEST_F(MoveTest, ExpansionOfTheMovedSubtreeStays) {
     growSample();
     document.makeVisible(*node("B11"));
-    for (const Command move : {MoveUp, MoveDown}) {
+    for (const Command move : {moveUp, moveDown}) {
         select("B");
         move(document);
         EXPECT_TRUE(document.tree().isVisible(*node("B11")));
     }
-    MoveRight(document);
+    moveRight(document);
     EXPECT_TRUE(document.tree().isVisible(*node("B11")));
 }
 
@@ -362,32 +362,32 @@ TEST_F(TreeEditing, ACounterUsedUpRefusesNewPlacesAndChangesNothing) {
     for (const char* key : {"B1", "B2"}) {
         SCOPED_TRACE(key);
         select(key);
-        expectRefused(AddMenuItem, EditResult::CounterExhausted);
-        expectRefused(AddSubmenuItem, EditResult::CounterExhausted);
-        expectRefused(MoveLeft, EditResult::CounterExhausted);
+        expectRefused(addMenuItem, EditResult::CounterExhausted);
+        expectRefused(addSubmenuItem, EditResult::CounterExhausted);
+        expectRefused(moveLeft, EditResult::CounterExhausted);
     }
-    expectRefused(MoveRight, EditResult::CounterExhausted);
+    expectRefused(moveRight, EditResult::CounterExhausted);
     document.apply(SetSelection{{nullptr, document.CurNode()}});
-    expectRefused(AddMenuItem, EditResult::CounterExhausted);
-    expectRefused(AddSubmenuItem, EditResult::CounterExhausted);
+    expectRefused(addMenuItem, EditResult::CounterExhausted);
+    expectRefused(addSubmenuItem, EditResult::CounterExhausted);
 }
 
 TEST_F(TreeEditing, ACounterUsedUpStillAllowsVerticalMovesAndDeletion) {
     growSample();
     document.apply(SetItemCounter{kMaxItemCounter});
     select("B");
-    EXPECT_EQ(MoveUp(document), EditResult::Done);
-    EXPECT_EQ(MoveDown(document), EditResult::Done);
-    EXPECT_EQ(DeleteItem(document), EditResult::Done);
+    EXPECT_EQ(moveUp(document), EditResult::Done);
+    EXPECT_EQ(moveDown(document), EditResult::Done);
+    EXPECT_EQ(deleteItem(document), EditResult::Done);
     EXPECT_EQ(document.ItemCounter(), kMaxItemCounter);
 }
 
 TEST_F(TreeEditing, TheLastNumberIsStillUsed) {
     document.apply(SetItemCounter{kMaxItemCounter - 1});
-    EXPECT_EQ(AddMenuItem(document), EditResult::Done);
+    EXPECT_EQ(addMenuItem(document), EditResult::Done);
     EXPECT_EQ(document.CurNode()->key(), "Key 32766");
     EXPECT_EQ(document.ItemCounter(), kMaxItemCounter);
-    EXPECT_EQ(AddMenuItem(document), EditResult::CounterExhausted);
+    EXPECT_EQ(addMenuItem(document), EditResult::CounterExhausted);
     EXPECT_EQ(document.tree().size(), 1u);
 }
 
@@ -415,7 +415,7 @@ TEST_F(DeleteItemTest, AnObserverNeverMeetsADeadCurrentNode) {
     RemovalWatcher watcher(document);
     document.addObserver(watcher);
     select("B");
-    DeleteItem(document);
+    deleteItem(document);
     EXPECT_EQ(watcher.removals(), 1);
     document.removeObserver(watcher);
 }

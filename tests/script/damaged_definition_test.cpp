@@ -42,7 +42,7 @@ std::size_t ExpectSoundReading(std::string_view bytes, MenuContent& document) {
 
     // Whatever was read can be written, and what was written has the same items in the same places.
     MenuContent again;
-    EXPECT_EQ(ReadScript(DefinitionFileBytes(GenerateScript(document)), again).errorCount, 0u);
+    EXPECT_EQ(ReadScript(definitionFileBytes(GenerateScript(document)), again).errorCount, 0u);
     const auto keyOnly = [](const MenuNode& node) { return node.key(); };
     EXPECT_EQ(test::TreeText(again.tree, keyOnly), test::TreeText(document.tree, keyOnly));
     return errorCount;

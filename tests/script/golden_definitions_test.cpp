@@ -24,7 +24,7 @@ TEST_P(GoldenDefinitions, ReadAndWrittenAgainGiveTheExpectedBytes) {
     const std::string folder = kCases + "/" + GetParam();
     MenuContent document;
     const ReadResult result = ReadScript(caseFile(folder + "/input.js"), document);
-    EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), caseFile(folder + "/expected.js"));
+    EXPECT_EQ(definitionFileBytes(GenerateScript(document)), caseFile(folder + "/expected.js"));
 
     const std::string errors = folder + "/errors.txt";
     const bool hasErrors = std::filesystem::exists(errors);
@@ -36,7 +36,7 @@ TEST_P(GoldenDefinitions, TheExpectedBytesComeBackUnchanged) {
     const std::string expected = caseFile(kCases + "/" + GetParam() + "/expected.js");
     MenuContent document;
     EXPECT_EQ(ReadScript(expected, document).errorCount, 0u);
-    EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), expected);
+    EXPECT_EQ(definitionFileBytes(GenerateScript(document)), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Case, GoldenDefinitions, testing::ValuesIn(caseNames(kCases)),

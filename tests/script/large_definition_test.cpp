@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t kHugeLength = 50'000'000;
 
 std::string DefinitionBytes(const MenuContent& document) {
-    return DefinitionFileBytes(GenerateScript(document));
+    return definitionFileBytes(GenerateScript(document));
 }
 
 /// Reads one line inside the top-level menu.
@@ -118,12 +118,12 @@ TEST(LargeDefinition, TwentyThousandSiblingsAreReadWrittenAndEdited) {
     MenuDocument document("/program");
     document.open(std::move(read));
     for (int i = 0; i < 500; ++i) {
-        EXPECT_EQ(AddMenuItem(document), EditResult::Done);
-        EXPECT_EQ(MoveUp(document), EditResult::Done);
-        EXPECT_EQ(MoveDown(document), EditResult::Done);
+        EXPECT_EQ(addMenuItem(document), EditResult::Done);
+        EXPECT_EQ(moveUp(document), EditResult::Done);
+        EXPECT_EQ(moveDown(document), EditResult::Done);
     }
     for (int i = 0; i < 500; ++i)
-        EXPECT_EQ(DeleteItem(document), EditResult::Done);
+        EXPECT_EQ(deleteItem(document), EditResult::Done);
     test::ExpectSoundTree(document.tree());
     EXPECT_EQ(document.tree().size(), kCount);
 
@@ -156,7 +156,7 @@ TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
 
     MenuDocument edited("/program");
     edited.open(std::move(document));
-    EXPECT_EQ(AddMenuItem(edited), EditResult::CounterExhausted);
+    EXPECT_EQ(addMenuItem(edited), EditResult::CounterExhausted);
     EXPECT_EQ(edited.tree().size(), kLimit);
 }
 

@@ -15,7 +15,7 @@ namespace zev {
 namespace {
 
 std::string Written(const MenuContent& document) {
-    return DefinitionFileBytes(GenerateScript(document));
+    return definitionFileBytes(GenerateScript(document));
 }
 
 /// Writes, reads, writes and reads again: the bytes must be identical and the two documents read
@@ -121,7 +121,7 @@ class MenuMaker {
     std::string aValue() { return chance(2) ? "" : "<" + aText() + ">"; }
 
     MenuProp levelProp() {
-        MenuProp prop = *NewItemMenuProp();
+        MenuProp prop = *newItemMenuProp();
         prop.Columns = oneOf({"", "1", "5"});
         prop.BgImg = aValue();
         prop.HBgColor = oneOf({"", "#ABCDEF", "transparent"});
@@ -189,7 +189,7 @@ class LossTest : public testing::Test {
   protected:
     void SetUp() override {
         item().Caption = "A";
-        item().MenuProperty = NewItemMenuProp();
+        item().MenuProperty = newItemMenuProp();
     }
     ItemProp& item() { return node->item; }
     MenuContent& readBack() {
@@ -253,7 +253,7 @@ TEST_F(LossTest, APlaceholderInACaptionComesBackAsAnApostrophe) {
 
 TEST_F(LossTest, AnItemWithoutChildrenLosesItsSubmenusProperties) {
     item().MenuProperty.edit().Columns = "3";
-    EXPECT_EQ(readBack().tree.firstNode()->item.MenuProperty, NewItemMenuProp());
+    EXPECT_EQ(readBack().tree.firstNode()->item.MenuProperty, newItemMenuProp());
 }
 
 TEST_F(LossTest, AnItemLosesWhatItsKindDoesNotWrite) {

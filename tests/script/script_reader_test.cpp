@@ -88,14 +88,14 @@ TEST_F(ReadScriptTest, OnlyACreationLineAndItemsGiveAFlatMenuWithTheRootOfANewDo
     text.Caption = "A";
     text.URL = "a.html";
     text.Target = "_top";
-    text.MenuProperty = NewItemMenuProp();
+    text.MenuProperty = newItemMenuProp();
     EXPECT_EQ(document.tree.find("KeyLoad 1")->item, text);
     ItemProp rollover;
     rollover.IsRollover = true;
     rollover.URL = "b.html";
     rollover.ImageOut = "o.gif";
     rollover.ImageOver = "v.gif";
-    rollover.MenuProperty = NewItemMenuProp();
+    rollover.MenuProperty = newItemMenuProp();
     EXPECT_EQ(document.tree.find("KeyLoad 2")->item, rollover);
 }
 
@@ -189,7 +189,7 @@ TEST_F(ReadScriptTest, AnItemLineWithAnEqualsSignAddsAnItemAndChangesNoProperty)
               0u);
     EXPECT_EQ(TreeText(document.tree), "a=b\n  columns=2;\n");
     EXPECT_EQ(document.RootMenuProp, newDocument.RootMenuProp);
-    EXPECT_EQ(submenu("KeyLoad 1"), *NewItemMenuProp());
+    EXPECT_EQ(submenu("KeyLoad 1"), *newItemMenuProp());
 }
 
 TEST_F(ReadScriptTest, UnknownLinesAreSkippedSilently) {
@@ -264,7 +264,7 @@ TEST_F(ReadScriptTest, ItemsMadeAfterwardsGetNumbersBehindThoseRead) {
           "zevmenu.AddItem('B', '', '');"});
     MenuDocument edited("/program");
     edited.open(std::move(document));
-    EXPECT_EQ(AddMenuItem(edited), EditResult::Done);
+    EXPECT_EQ(addMenuItem(edited), EditResult::Done);
     EXPECT_EQ(edited.CurNode()->key(), "Key 2");
 }
 
@@ -342,10 +342,10 @@ TEST(ReadScriptWarnings, ALineOfAMissingMenuThatSaysNothingIsToldTwice) {
 }
 
 TEST(IsBinary, AFileWithANulByteIsNoText) {
-    EXPECT_FALSE(IsBinary(""));
-    EXPECT_FALSE(IsBinary("zevmenu\r\n\xFF\x01"));
-    EXPECT_TRUE(IsBinary(std::string_view("\0", 1)));
-    EXPECT_TRUE(IsBinary(std::string_view("text\0", 5)));
+    EXPECT_FALSE(isBinary(""));
+    EXPECT_FALSE(isBinary("zevmenu\r\n\xFF\x01"));
+    EXPECT_TRUE(isBinary(std::string_view("\0", 1)));
+    EXPECT_TRUE(isBinary(std::string_view("text\0", 5)));
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ class GenerateScriptTest : public testing::Test {
     MenuNode* add(MenuNode* parent, const std::string& caption) {
         ItemProp item;
         item.Caption = caption;
-        item.MenuProperty = NewItemMenuProp();
+        item.MenuProperty = newItemMenuProp();
         return document.tree.append(parent, caption, caption, item);
     }
     /// The script behind the default lines.
@@ -46,7 +46,7 @@ class GenerateScriptTest : public testing::Test {
 
 TEST_F(GenerateScriptTest, AnEmptyTreeWritesTheDefaultLinesAndAnEmptyLine) {
     EXPECT_EQ(GenerateScript(document), kFactoryDefaults);
-    EXPECT_EQ(DefinitionFileBytes(GenerateScript(document)), kFactoryDefaults + "\r\n");
+    EXPECT_EQ(definitionFileBytes(GenerateScript(document)), kFactoryDefaults + "\r\n");
 }
 
 TEST_F(GenerateScriptTest, AMenuOfThreeLevelsAtStartingValues) {
@@ -54,24 +54,24 @@ TEST_F(GenerateScriptTest, AMenuOfThreeLevelsAtStartingValues) {
     const auto setCaption = [&edited](const MenuNode& node, const char* caption) {
         test::editItem(edited, node)->Caption = caption;
     };
-    AddMenuItem(edited);
+    addMenuItem(edited);
     setCaption(*edited.CurNode(), "Home");
-    AddMenuItem(edited);
+    addMenuItem(edited);
     const MenuNode& products = *edited.CurNode();
     setCaption(products, "Products");
-    AddMenuItem(edited);
+    addMenuItem(edited);
     setCaption(*edited.CurNode(), "Contact");
     edited.select(&products);
-    AddSubmenuItem(edited);
+    addSubmenuItem(edited);
     setCaption(*products.children()[0], "A");
-    AddSubmenuItem(edited);
+    addSubmenuItem(edited);
     const MenuNode& b = *products.children()[1];
     setCaption(b, "B");
     edited.select(&b);
-    AddSubmenuItem(edited);
+    addSubmenuItem(edited);
     setCaption(*b.children()[0], "B1");
 
-    EXPECT_EQ(DefinitionFileBytes(GenerateScript(edited.content())),
+    EXPECT_EQ(definitionFileBytes(GenerateScript(edited.content())),
               kFactoryDefaults + Lines({
                                      "zevmenu = new ZEVMenu('0');",
                                      "zevmenu.columns = 10;",
@@ -182,12 +182,12 @@ TEST_F(GenerateScriptTest, WritingTwiceGivesTheSameBytes) {
 }
 
 TEST(DefinitionFileBytes, AddsOneLineEndAndNothingElseToAsciiText) {
-    EXPECT_EQ(DefinitionFileBytes(""), "\r\n");
-    EXPECT_EQ(DefinitionFileBytes("abc\x7F\r\n"), "abc\x7F\r\n\r\n");
+    EXPECT_EQ(definitionFileBytes(""), "\r\n");
+    EXPECT_EQ(definitionFileBytes("abc\x7F\r\n"), "abc\x7F\r\n\r\n");
 }
 
 TEST(DefinitionFileBytes, BeginsWithAByteOrderMarkWhenAnythingIsOutsideAscii) {
-    EXPECT_EQ(DefinitionFileBytes("caf\xC3\xA9"),
+    EXPECT_EQ(definitionFileBytes("caf\xC3\xA9"),
               "\xEF\xBB\xBF"
               "caf\xC3\xA9\r\n");
 }

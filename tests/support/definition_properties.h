@@ -89,7 +89,7 @@ inline std::string problemOfDefinition(std::string_view bytes) {
     MenuContent document;
     ReadScript(bytes, document);
     const std::string items = itemsOf(document);
-    std::string written = DefinitionFileBytes(GenerateScript(document));
+    std::string written = definitionFileBytes(GenerateScript(document));
     for (std::size_t readings = 0; !isSettled(document); ++readings) {
         if (readings > bytes.size() + 3)
             return "it is another at each reading";
@@ -98,16 +98,16 @@ inline std::string problemOfDefinition(std::string_view bytes) {
             return "a line that is written is not understood";
         if (itemsOf(document) != items)
             return "an item is another when it is opened again";
-        written = DefinitionFileBytes(GenerateScript(document));
+        written = definitionFileBytes(GenerateScript(document));
     }
-    if (!IsValidUtf8(written))
+    if (!isValidUtf8(written))
         return "what is written is not UTF-8";
     MenuContent again;
     if (!ReadScript(written, again).warnings.empty())
         return "a line that is written is not understood";
     if (itemsOf(again) != items || again.ItemCounter != document.ItemCounter)
         return "an item is another when it is opened again";
-    if (DefinitionFileBytes(GenerateScript(again)) != written)
+    if (definitionFileBytes(GenerateScript(again)) != written)
         return "written again it has other bytes";
     return isSettled(again) ? "" : "opened again it is not settled";
 }

@@ -42,7 +42,7 @@ inline std::string problemOfWarnings(const std::vector<LineWarning>& warnings,
             return "the warnings do not follow the lines";
         if (i >= 2 && number == warnings[i - 2].line)
             return "a line has three warnings";
-        if (ReasonText(warnings[i].reason).empty())
+        if (reasonText(warnings[i].reason).empty())
             return "a warning has no reason";
     }
     return "";
@@ -83,7 +83,7 @@ inline std::string problemOfOrletDocument(const MenuContent& document,
     for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
         if (node->key() != "KeyLoad " + std::to_string(++number))
             return "the items are not in the order of their lines";
-        if (node->item.IsRollover || !(node->item.MenuProperty == NewItemMenuProp()))
+        if (node->item.IsRollover || !(node->item.MenuProperty == newItemMenuProp()))
             return "an item is not a plain text item";
     }
     return "";
@@ -100,8 +100,8 @@ inline bool endsInBackslash(const ItemProp& item) {
 /// What is wrong with saving a document and opening it again; empty when nothing is. Of the
 /// properties of its menus nothing is asked: those equal to the defaults are not written.
 inline std::string problemOfSaving(const MenuContent& document) {
-    const std::string bytes = DefinitionFileBytes(GenerateScript(document));
-    if (!IsValidUtf8(bytes))
+    const std::string bytes = definitionFileBytes(GenerateScript(document));
+    if (!isValidUtf8(bytes))
         return "what is written is not UTF-8";
     MenuContent again;
     if (ReadScript(bytes, again).errorCount != 0)
@@ -136,7 +136,7 @@ inline bool isSameMenu(const MenuContent& left, const MenuContent& right) {
 inline std::string problemOfImport(std::string_view format, std::string_view bytes) {
     MenuContent document;
     const std::vector<LineWarning> warnings =
-        ImportMenu(*findImportFormat(format), bytes, document).warnings;
+        importMenu(*findImportFormat(format), bytes, document).warnings;
     std::string problem = problemOfWarnings(warnings, bytes);
     if (problem.empty())
         problem = problemOfDocument(document);
@@ -147,7 +147,7 @@ inline std::string problemOfImport(std::string_view format, std::string_view byt
     if (!problem.empty())
         return problem;
     MenuContent again;
-    if (ImportMenu(*findImportFormat(format), bytes, again).warnings != warnings ||
+    if (importMenu(*findImportFormat(format), bytes, again).warnings != warnings ||
         !isSameMenu(again, document))
         return "imported again it is another menu";
     return "";

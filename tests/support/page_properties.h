@@ -12,7 +12,7 @@ namespace zev {
 
 inline std::string integratedPage(const std::string& page, bool keepsOtherScripts) {
     IntegrationStatus status;
-    return RewritePage(page, {"lib/", keepsOtherScripts}, status);
+    return rewritePage(page, {"lib/", keepsOtherScripts}, status);
 }
 
 inline std::string without(std::string text, std::string_view part) {

@@ -12,11 +12,11 @@ TEST(IsAscii, IsTrueUnlessAnyByteHasItsHighBit) {
     // At every offset from the blocks of eight that are looked at together.
     for (std::size_t length = 0; length < 18; ++length) {
         const std::string ascii(length, '\x7F');
-        EXPECT_TRUE(IsAscii(ascii)) << length;
+        EXPECT_TRUE(isAscii(ascii)) << length;
         for (std::size_t offset = 0; offset < length; ++offset) {
             std::string text = ascii;
             text[offset] = '\x80';
-            EXPECT_FALSE(IsAscii(text)) << offset << " of " << length;
+            EXPECT_FALSE(isAscii(text)) << offset << " of " << length;
         }
     }
 }
@@ -27,10 +27,10 @@ TEST(IsValidUtf8, AcceptsWellFormedText) {
           "\xED\x9F\xBF", "\xEE\x80\x80", "\xEF\xBF\xBF", "\xF0\x90\x80\x80", "\xF3\xBF\xBF\xBF",
           "\xF4\x8F\xBF\xBF", "a\xC3\xA9z\xE2\x82\xACz\xF0\x9F\x98\x80"}) {
         SCOPED_TRACE(testing::PrintToString(text));
-        EXPECT_TRUE(IsValidUtf8(text));
+        EXPECT_TRUE(isValidUtf8(text));
         // At every offset from the blocks of eight in which ASCII is skipped.
         for (std::size_t shift = 0; shift < 9; ++shift)
-            EXPECT_TRUE(IsValidUtf8(std::string(shift, 'x') + text + std::string(shift, 'y')));
+            EXPECT_TRUE(isValidUtf8(std::string(shift, 'x') + text + std::string(shift, 'y')));
     }
 }
 
@@ -60,8 +60,8 @@ TEST(IsValidUtf8, RefusesEveryIllFormedSequence) {
                              "\xC3\xA9\xA9"}) {
         SCOPED_TRACE(testing::PrintToString(text));
         for (std::size_t shift = 0; shift < 9; ++shift) {
-            EXPECT_FALSE(IsValidUtf8(std::string(shift, 'x') + text));
-            EXPECT_FALSE(IsValidUtf8(std::string(shift, 'x') + text + "yyyyyyyyy"));
+            EXPECT_FALSE(isValidUtf8(std::string(shift, 'x') + text));
+            EXPECT_FALSE(isValidUtf8(std::string(shift, 'x') + text + "yyyyyyyyy"));
         }
     }
 }
@@ -84,15 +84,15 @@ TEST(Windows1252ToUtf8, ConvertsKnownBytes) {
     };
     for (const auto& c : kCases) {
         SCOPED_TRACE(testing::PrintToString(c.bytes));
-        EXPECT_EQ(Windows1252ToUtf8(c.bytes), c.text);
+        EXPECT_EQ(windows1252ToUtf8(c.bytes), c.text);
     }
 }
 
 TEST(Windows1252ToUtf8, GivesEveryByteACharacterOfItsOwn) {
     std::set<std::string> texts;
     for (int byte = 0; byte < 256; ++byte) {
-        const std::string text = Windows1252ToUtf8(std::string(1, static_cast<char>(byte)));
-        EXPECT_TRUE(IsValidUtf8(text)) << byte;
+        const std::string text = windows1252ToUtf8(std::string(1, static_cast<char>(byte)));
+        EXPECT_TRUE(isValidUtf8(text)) << byte;
         texts.insert(text);
     }
     EXPECT_EQ(texts.size(), 256u);
@@ -100,7 +100,7 @@ TEST(Windows1252ToUtf8, GivesEveryByteACharacterOfItsOwn) {
 
 std::string Decoded(std::string_view bytes) {
     std::string converted;
-    return std::string(DecodeDefinition(bytes, converted));
+    return std::string(decodeDefinition(bytes, converted));
 }
 
 TEST(DecodeDefinition, DropsOneByteOrderMarkAndKeepsValidUtf8) {
