@@ -60,8 +60,7 @@ void prepare(QFileDialog& dialog, const FileDialogRequest& request, const QStrin
     showWholeColumns(dialog);
 }
 
-/// Qt's own dialog tells a filter as it shows it, without the patterns; a desktop's dialog tells all
-/// of it.
+/// Qt's own dialog tells a filter as it shows it, without the patterns; another tells all of it.
 QString wholeFilter(const QFileDialog& dialog, const QString& told) {
     for (const QString& filter : dialog.nameFilters())
         if (filter.startsWith(told + " ("))
