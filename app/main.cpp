@@ -9,13 +9,13 @@
 #include "app/preview_picture.h"
 #include "library/program_folder.h"
 #include "platform/posix/posix_file_system.h"
-#include "platform/posix/posix_shell.h"
 #include "platform/qt/fit_screen.h"
 #include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_browser_view.h"
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
+#include "platform/qt/qt_shell.h"
 
 using namespace zev;
 
@@ -54,7 +54,7 @@ std::string programFolder(FileSystem& files, MessageBox& messages) {
 
 int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     PosixFileSystem fileSystem;
-    PosixShell shell;
+    QtShell shell;
     QtMessageBox messages;
     QtCommonDialogs dialogs;
     QtHelpViewer help;

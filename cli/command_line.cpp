@@ -9,7 +9,7 @@
 
 #include "cli/commands.h"
 #include "cli/integrator_commands.h"
-#include "platform/posix/posix_process.h"
+#include "platform/posix/running_program.h"
 #include "script/submenu_list.h"
 #include "text/program_name.h"
 

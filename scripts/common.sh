@@ -10,7 +10,7 @@ editor_packages=(qt6-base-dev qt6-webengine-dev qt6-svg-dev libqt6svg6 qt6-qpa-p
     xdg-utils fonts-dejavu-core)
 display_packages=(xvfb xauth)
 test_packages=(ca-certificates libgtest-dev chromium firefox-esr webkit2gtk-driver xdotool
-    fonts-liberation strace python3 acl attr)
+    fonts-liberation strace python3 acl attr clang-format clang-tidy)
 bench_packages=(libbenchmark-dev python3 chromium firefox-esr fonts-liberation)
 
 as_root() {

@@ -60,6 +60,14 @@ void prepare(QFileDialog& dialog, const FileDialogRequest& request, const QStrin
     showWholeColumns(dialog);
 }
 
+/// Qt's own dialog tells a filter as it shows it, without the patterns; another tells all of it.
+QString wholeFilter(const QFileDialog& dialog, const QString& told) {
+    for (const QString& filter : dialog.nameFilters())
+        if (filter.startsWith(told + " ("))
+            return filter;
+    return told;
+}
+
 std::string chosenFile(const QFileDialog& dialog, QString& lastFolder) {
     const QString path = dialog.selectedFiles().value(0);
     lastFolder = QFileInfo(path).absolutePath();
@@ -199,7 +207,7 @@ std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     prepare(dialog, request, m_lastFolder);
     const auto setSuffix = [&](const QString& filter) {
-        const QString suffix = defaultSuffix(filter);
+        const QString suffix = defaultSuffix(wholeFilter(dialog, filter));
         dialog.setDefaultSuffix(suffix.isEmpty() ? QString::fromStdString(request.extension)
                                                  : suffix);
     };

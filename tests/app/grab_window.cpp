@@ -18,11 +18,11 @@
 
 #include "app/frm_main.h"
 #include "platform/posix/posix_file_system.h"
-#include "platform/posix/posix_shell.h"
 #include "platform/qt/qt_browser_view.h"
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
+#include "platform/qt/qt_shell.h"
 #include "theme_palettes.h"
 #include "when_shown.h"
 
@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
     QApplication::setPalette(isDark ? darkPalette() : lightPalette());
 
     PosixFileSystem files;
-    PosixShell shell;
+    QtShell shell;
     QtMessageBox messages;
     QtCommonDialogs dialogs;
     QtHelpViewer help;

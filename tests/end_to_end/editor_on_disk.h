@@ -19,10 +19,10 @@
 #include "app/menu_tree_view.h"
 #include "platform/fake/fake_services.h"
 #include "platform/posix/posix_file_system.h"
-#include "platform/posix/posix_shell.h"
 #include "platform/qt/qt_browser_view.h"
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
+#include "platform/qt/qt_shell.h"
 #include "when_shown.h"
 
 namespace zev {
@@ -148,7 +148,7 @@ class EditorOnDisk {
 
     QTemporaryDir m_folder;
     PosixFileSystem m_files;
-    PosixShell m_shell;
+    QtShell m_shell;
     QtMessageBox m_messages;
     FakeCommonDialogs m_dialogs{
         [](const std::string& problem) { QTest::qFail(problem.c_str(), __FILE__, __LINE__); }};

@@ -121,6 +121,16 @@ TEST(ToRelativeURL, ABaseThatIsTheRootGetsNoSecondSeparator) {
     });
 }
 
+TEST(ToRelativeURL, SeveralSlashesAtTheEndOfABaseCountAsNone) {
+    CheckRelative({
+        {"/web//", "/web/a.html", "a.html"},
+        {"/web///", "/img/a.gif", "../img/a.gif"},
+        {"/web/sub//", "/web/a.html", "../a.html"},
+        {"/web/sub//", "/web/sub", "../sub"},
+        {"///", "/web/a.html", "web/a.html"},
+    });
+}
+
 // The drive-letter rules append the separator to every base; files of users may depend on it.
 TEST(ToRelativeURL, ABaseThatIsADriveRootWithItsBackslashGetsASecondOne) {
     CheckRelative({
@@ -226,6 +236,17 @@ TEST(ToAbsolutePath, ABaseThatIsTheRootGetsNoSecondSeparator) {
     });
 }
 
+TEST(ToAbsolutePath, SeveralSlashesAtTheEndOfABaseCountAsNone) {
+    CheckAbsolute({
+        {"/web//", "a.gif", "/web/a.gif"},
+        {"/web///", "img/a.gif", "/web/img/a.gif"},
+        {"/web/sub//", "../a.gif", "/web/a.gif"},
+        {"/web//", "../../a.gif", "/a.gif"},
+        {"/web//", "", "/web/"},
+        {"///", "a.gif", "/a.gif"},
+    });
+}
+
 TEST(ToAbsolutePath, ABaseThatIsADriveRootWithItsBackslashGetsASecondOne) {
     CheckAbsolute({
         {R"(C:\)", "a.gif", R"(C:\\a.gif)"},
@@ -267,6 +288,14 @@ TEST(RebaseURL, ARelativeURLFollowsTheFolder) {
         {"/web", "/", "a.html", "web/a.html"},
         {"/", "/web", "a.html", "../a.html"},
         {"/web", "/web", "a.html", "a.html"},
+    });
+}
+
+TEST(RebaseURL, SeveralSlashesAtTheEndOfAFolderCountAsNone) {
+    CheckRebase({
+        {"/web//", "/web/new", "img/a.gif", "../img/a.gif"},
+        {"/web", "/web/new///", "img/a.gif", "../img/a.gif"},
+        {"/web//", "/web///", "img/a.gif", "img/a.gif"},
     });
 }
 
