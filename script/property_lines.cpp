@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <utility>
 #include <variant>
 
 #include "model/menu_content.h"
@@ -47,20 +48,6 @@ void assign(const PositionMember& position, MenuProp& prop, std::string_view val
             prop.*position.member = side;
 }
 
-/// True when the property is set, and not to what it would be without a line.
-bool hasOwnValue(const MenuPropertyRow& row, const MenuProp& prop, const MenuProp& inherited) {
-    return std::visit(
-        [&](const auto& kind) {
-            return !textOf(kind, prop).empty() && prop.*kind.member != inherited.*kind.member;
-        },
-        row.member);
-}
-
-bool isEqual(const MenuPropertyRow& row, const MenuProp& prop, const MenuProp& other) {
-    return std::visit([&](const auto& kind) { return prop.*kind.member == other.*kind.member; },
-                      row.member);
-}
-
 const MenuProp& emptySet() {
     static const MenuProp empty;
     return empty;
@@ -75,53 +62,76 @@ const MenuProp& factorySet() {
     return factory;
 }
 
-bool isWritten(LineRule rule, const MenuPropertyRow& row, const MenuProp& prop,
-               const MenuProp& defaults) {
+/// What a property has where the rule leaves its line out.
+const MenuProp& setWithoutLine(LineRule rule, const MenuProp& defaults) {
     switch (rule) {
-        case LineRule::Never:
-            return false;
-        case LineRule::WhenSet:
-            return hasOwnValue(row, prop, emptySet());
         case LineRule::WhenDifferent:
-            return hasOwnValue(row, prop, defaults);
+            return defaults;
         case LineRule::UnlessFactory:
-            return hasOwnValue(row, prop, factorySet());
+            return factorySet();
         case LineRule::UnlessStarting:
-            return !isEqual(row, prop, *newItemMenuProp());
+            return *newItemMenuProp();
+        case LineRule::Never:
+        case LineRule::WhenSet:
+            break;
     }
-    return false;
+    return emptySet();
 }
 
-void appendLine(std::string& text, std::string_view object, const MenuPropertyRow& row,
-                const MenuProp& prop) {
-    const std::string_view value =
-        std::visit([&](const auto& kind) { return textOf(kind, prop); }, row.member);
-    text += object;
-    text += row.name;
-    text += row.form == LineForm::Number ? " = " : " = '";
-    text += value;
-    text += row.form == LineForm::Number   ? ";\r\n"
-            : row.form == LineForm::Points ? "pt';\r\n"
-                                           : "';\r\n";
+/// Appends the line of one row where its rule wants one. The row is a constant of its own function:
+/// a menu has some twenty of them, and a file thousands of menus.
+template <std::size_t kRow, LineRule kRule>
+void appendLine(std::string& text, std::string_view object, const MenuProp& prop,
+                const MenuProp& defaults) {
+    constexpr const MenuPropertyRow& row = kMenuProperties[kRow];
+    constexpr const auto& kind = std::get<row.member.index()>(row.member);
+    if constexpr (kRule != LineRule::Never) {
+        if (prop.*kind.member == setWithoutLine(kRule, defaults).*kind.member)
+            return;
+        const std::string_view value = textOf(kind, prop);
+        if (value.empty() && kRule != LineRule::UnlessStarting)
+            return;
+        text += object;
+        text += row.name;
+        text += row.form == LineForm::Number ? " = " : " = '";
+        text += value;
+        text += row.form == LineForm::Number   ? ";\r\n"
+                : row.form == LineForm::Points ? "pt';\r\n"
+                                               : "';\r\n";
+    }
 }
+
+template <std::size_t... kRow>
+void appendDefaults(std::string& text, const MenuProp& prop, std::index_sequence<kRow...>) {
+    (appendLine<kRow, kMenuProperties[kRow].inDefaults>(text, "zev_state.", prop, prop), ...);
+}
+
+template <std::size_t kRow>
+void appendMenuLine(std::string& text, const MenuProp& prop, const MenuProp& defaults) {
+    constexpr const MenuPropertyRow& row = kMenuProperties[kRow];
+    if (row.special != Special::Font || prop.FontSet)
+        appendLine<kRow, row.inMenu>(text, "zevmenu.", prop, defaults);
+}
+
+template <std::size_t... kRow>
+void appendMenu(std::string& text, const MenuProp& prop, const MenuProp& defaults,
+                std::index_sequence<kRow...>) {
+    (appendMenuLine<kRow>(text, prop, defaults), ...);
+}
+
+constexpr auto kAllRows = std::make_index_sequence<kMenuProperties.size()>();
 
 }  // namespace
 
 std::string GetDefaultText(const MenuProp& prop) {
     std::string text;
-    for (const MenuPropertyRow& row : kMenuProperties)
-        if (isWritten(row.inDefaults, row, prop, prop))
-            appendLine(text, "zev_state.", row, prop);
+    appendDefaults(text, prop, kAllRows);
     return text;
 }
 
 std::string GetText(const MenuProp& prop, const MenuProp& defaults) {
     std::string text;
-    for (const MenuPropertyRow& row : kMenuProperties) {
-        const bool isLeftOut = row.special == Special::Font && !prop.FontSet;
-        if (!isLeftOut && isWritten(row.inMenu, row, prop, defaults))
-            appendLine(text, "zevmenu.", row, prop);
-    }
+    appendMenu(text, prop, defaults, kAllRows);
     return text;
 }
 
