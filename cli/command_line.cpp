@@ -134,9 +134,7 @@ void addPublish(CLI::App& program, FileSystem& files, ExitStatus& status) {
     CLI::App& command = addCommand(
         program, "publish", "Write a menu definition and the run-time scripts into a folder");
     addInput(command, options->input);
-    command.add_option("DIR", options->folder, "Folder of the web site; it must exist")
-        ->required()
-        ->check(refuseEmpty);
+    addRequired(command, "DIR", "TEXT", options->folder, "Folder of the web site; it must exist");
     command.callback([&files, &status, options] {
         status = publishCommand(files, runningProgram(), options->input, options->folder);
     });
