@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <charconv>
-#include <functional>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -22,9 +21,6 @@ constexpr const char* kFooter =
     "Exit status: 0 done, 1 done with counted errors or warnings (the output is written),\n"
     "2 wrong use, 3 a file could not be read or written.";
 
-/// The command that the arguments name, ready to run.
-using Command = std::function<ExitStatus()>;
-
 /// An empty path is a script's unset variable, not a wish.
 std::string refuseEmpty(const std::string& value) {
     return value.empty() ? "must not be empty" : "";
@@ -37,9 +33,17 @@ CLI::App& addCommand(CLI::App& program, const std::string& name, const std::stri
     return command;
 }
 
+void addRequired(CLI::App& command, const std::string& name, const std::string& typeName,
+                 std::string& value, const std::string& description) {
+    command.add_option(name, value, description)
+        ->required()
+        ->type_name(typeName)
+        ->check(refuseEmpty);
+}
+
 void addInput(CLI::App& command, std::string& input,
               const std::string& description = "Menu definition to read") {
-    command.add_option("IN", input, description)->required()->type_name("")->check(refuseEmpty);
+    addRequired(command, "IN", "", input, description);
 }
 
 void addOutput(CLI::App& command, std::string& output) {
@@ -48,7 +52,7 @@ void addOutput(CLI::App& command, std::string& output) {
         ->check(refuseEmpty);
 }
 
-void addFormat(CLI::App& program, FileSystem& files, Command& chosen) {
+void addFormat(CLI::App& program, FileSystem& files, ExitStatus& status) {
     struct Options {
         std::string input;
         std::string output;
@@ -58,10 +62,8 @@ void addFormat(CLI::App& program, FileSystem& files, Command& chosen) {
         program, "format", "Read a menu definition and write it as the editor would save it");
     addInput(command, options->input);
     addOutput(command, options->output);
-    command.callback([&files, &chosen, options] {
-        chosen = [&files, options] {
-            return formatCommand(files, options->input, options->output);
-        };
+    command.callback([&files, &status, options] {
+        status = formatCommand(files, options->input, options->output);
     });
 }
 
@@ -80,30 +82,26 @@ std::string refuseNoImportFormat(const std::string& name) {
     return findImportFormat(name) ? "" : "must be " + importFormatNames();
 }
 
-void addImport(CLI::App& program, FileSystem& files, Command& chosen) {
-    struct Options {
-        std::string formatName;
-        ImportOptions settings;
-    };
-    const auto options = std::make_shared<Options>();
+void addImport(CLI::App& program, FileSystem& files, ExitStatus& status) {
+    const auto options = std::make_shared<ImportOptions>();
     CLI::App& command = addCommand(
         program, "import", "Read the menu of an earlier product and write a menu definition");
     command
-        .add_option("--format", options->formatName, "What made the menu: " + importFormatNames())
+        .add_option_function<std::string>(
+            "--format",
+            [options](const std::string& name) { options->format = findImportFormat(name); },
+            "What made the menu: " + importFormatNames())
         ->required()
         ->type_name("FORMAT")
         ->check(refuseNoImportFormat);
-    command.add_flag("--verbose", options->settings.isVerbose,
+    command.add_flag("--verbose", options->isVerbose,
                      "Print the line and the reason of each warning");
-    addInput(command, options->settings.input, "Menu to read");
-    addOutput(command, options->settings.output);
-    command.callback([&files, &chosen, options] {
-        options->settings.format = findImportFormat(options->formatName);
-        chosen = [&files, options] { return importCommand(files, options->settings); };
-    });
+    addInput(command, options->input, "Menu to read");
+    addOutput(command, options->output);
+    command.callback([&files, &status, options] { status = importCommand(files, *options); });
 }
 
-void addRebase(CLI::App& program, FileSystem& files, Command& chosen) {
+void addRebase(CLI::App& program, FileSystem& files, ExitStatus& status) {
     const auto options = std::make_shared<RebaseOptions>();
     CLI::App& command = addCommand(
         program, "rebase", "Recalculate the relative URLs of a menu definition for another folder");
@@ -112,32 +110,22 @@ void addRebase(CLI::App& program, FileSystem& files, Command& chosen) {
         "and\n"
         "\"..\" are resolved by name; C:\\web and the like are taken as they are.\n" +
         std::string(kFooter));
-    command.add_option("--from", options->from, "Folder the URLs are relative to now")
-        ->required()
-        ->type_name("OLDDIR")
-        ->check(refuseEmpty);
-    command.add_option("--to", options->to, "Folder they are to be relative to")
-        ->required()
-        ->type_name("NEWDIR")
-        ->check(refuseEmpty);
+    addRequired(command, "--from", "OLDDIR", options->from, "Folder the URLs are relative to now");
+    addRequired(command, "--to", "NEWDIR", options->to, "Folder they are to be relative to");
     addInput(command, options->input);
     addOutput(command, options->output);
-    command.callback([&files, &chosen, options] {
-        chosen = [&files, options] { return rebaseCommand(files, *options); };
-    });
+    command.callback([&files, &status, options] { status = rebaseCommand(files, *options); });
 }
 
-void addSubmenus(CLI::App& program, FileSystem& files, Command& chosen) {
+void addSubmenus(CLI::App& program, FileSystem& files, ExitStatus& status) {
     const auto input = std::make_shared<std::string>();
     CLI::App& command =
         addCommand(program, "submenus", "List the submenus of a menu definition, one a line");
     addInput(command, *input);
-    command.callback([&files, &chosen, input] {
-        chosen = [&files, input] { return submenusCommand(files, *input); };
-    });
+    command.callback([&files, &status, input] { status = submenusCommand(files, *input); });
 }
 
-void addPublish(CLI::App& program, FileSystem& files, Command& chosen) {
+void addPublish(CLI::App& program, FileSystem& files, ExitStatus& status) {
     struct Options {
         std::string input;
         std::string folder;
@@ -146,13 +134,9 @@ void addPublish(CLI::App& program, FileSystem& files, Command& chosen) {
     CLI::App& command = addCommand(
         program, "publish", "Write a menu definition and the run-time scripts into a folder");
     addInput(command, options->input);
-    command.add_option("DIR", options->folder, "Folder of the web site; it must exist")
-        ->required()
-        ->check(refuseEmpty);
-    command.callback([&files, &chosen, options] {
-        chosen = [&files, options] {
-            return publishCommand(files, runningProgram(), options->input, options->folder);
-        };
+    addRequired(command, "DIR", "TEXT", options->folder, "Folder of the web site; it must exist");
+    command.callback([&files, &status, options] {
+        status = publishCommand(files, runningProgram(), options->input, options->folder);
     });
 }
 
@@ -179,11 +163,10 @@ struct PopupArguments {
     std::string entry;
     bool isAtMouse = false;
     std::string position;
-    CLI::Option* entryOption = nullptr;
 
     /// Once the arguments are taken apart. Throws CLI::ParseError when they do not go together.
     std::optional<PopupOptions> options() const {
-        if (entryOption->empty())
+        if (entry.empty())
             return {};
         const std::string submenuId(submenuIdOf(entry));
         if (isAtMouse)
@@ -197,21 +180,20 @@ struct PopupArguments {
 };
 
 void addPopup(CLI::App& command, PopupArguments& popup) {
-    popup.entryOption =
+    CLI::Option* const entry =
         command.add_option("--popup", popup.entry, "Popup menu: this submenu opens at a link")
             ->type_name("ENTRY")
             ->check(refuseNoEntry);
     CLI::Option* const mouse =
-        command.add_flag("--mouse", popup.isAtMouse, "It opens beside the mouse")
-            ->needs(popup.entryOption);
+        command.add_flag("--mouse", popup.isAtMouse, "It opens beside the mouse")->needs(entry);
     command.add_option("--at", popup.position, "It opens at this position, in pixels")
         ->type_name("X,Y")
         ->check(refuseNoPosition)
-        ->needs(popup.entryOption)
+        ->needs(entry)
         ->excludes(mouse);
 }
 
-void addLinkcode(CLI::App& program, Command& chosen) {
+void addLinkcode(CLI::App& program, ExitStatus& status) {
     struct Options {
         std::string definition;
         PopupArguments popup;
@@ -220,18 +202,14 @@ void addLinkcode(CLI::App& program, Command& chosen) {
     CLI::App& command =
         addCommand(program, "linkcode", "Print the code that shows a menu on a web page");
     command.footer("Exit status: 0 done, 2 wrong use, 3 the output could not be written.");
-    command.add_option("--definition", options->definition, "URL of the menu definition")
-        ->required()
-        ->type_name("URL")
-        ->check(refuseEmpty);
+    addRequired(command, "--definition", "URL", options->definition, "URL of the menu definition");
     addPopup(command, options->popup);
-    command.callback([&chosen, options] {
-        const std::optional<PopupOptions> popup = options->popup.options();
-        chosen = [options, popup] { return linkcodeCommand(options->definition, popup); };
+    command.callback([&status, options] {
+        status = linkcodeCommand(options->definition, options->popup.options());
     });
 }
 
-void addIntegrate(CLI::App& program, FileSystem& files, Command& chosen) {
+void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
     struct Options {
         IntegrateOptions integrate;
         PopupArguments popup;
@@ -246,14 +224,8 @@ void addIntegrate(CLI::App& program, FileSystem& files, Command& chosen) {
         "address such as \"http://example.org/menu/\" is taken as it is.\n"
         "Exit status: 0 done, 1 a page failed (the others are done), 2 wrong use,\n"
         "3 the report could not be written.");
-    command.add_option("--definition", integrate.definition, "Menu definition")
-        ->required()
-        ->type_name("FILE")
-        ->check(refuseEmpty);
-    command.add_option("--library", integrate.library, "Folder of the run-time scripts")
-        ->required()
-        ->type_name("DIR")
-        ->check(refuseEmpty);
+    addRequired(command, "--definition", "FILE", integrate.definition, "Menu definition");
+    addRequired(command, "--library", "DIR", integrate.library, "Folder of the run-time scripts");
     command.add_flag("--no-backup", options->hasNoBackups, "Do not keep a copy PAGE.bak");
     command.add_flag("--keep-scripts", integrate.keepsOtherScripts,
                      "Keep scripts that do not name JavaScript in a language attribute");
@@ -266,10 +238,10 @@ void addIntegrate(CLI::App& program, FileSystem& files, Command& chosen) {
         ->required()
         ->type_name("")
         ->check(refuseEmpty);
-    command.callback([&files, &chosen, options] {
+    command.callback([&files, &status, options] {
         options->integrate.hasBackups = !options->hasNoBackups;
         options->integrate.popup = options->popup.options();
-        chosen = [&files, options] { return integrateCommand(files, options->integrate); };
+        status = integrateCommand(files, options->integrate);
     });
 }
 
@@ -293,20 +265,20 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     program.set_version_flag("--version", "zevmenu " ZEV_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.footer(kFooter);
-    Command chosen;
-    addFormat(program, files, chosen);
-    addImport(program, files, chosen);
-    addRebase(program, files, chosen);
-    addSubmenus(program, files, chosen);
-    addPublish(program, files, chosen);
-    addLinkcode(program, chosen);
-    addIntegrate(program, files, chosen);
+    ExitStatus status = ExitStatus::Done;
+    addFormat(program, files, status);
+    addImport(program, files, status);
+    addRebase(program, files, status);
+    addSubmenus(program, files, status);
+    addPublish(program, files, status);
+    addLinkcode(program, status);
+    addIntegrate(program, files, status);
     try {
         program.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& outcome) {
         return report(program, outcome);
     }
-    return chosen();
+    return status;
 }
 
 }  // namespace zev

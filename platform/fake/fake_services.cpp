@@ -25,16 +25,10 @@ bool hasButton(MessageRequest::Buttons buttons, MessageBox::Answer answer) {
 }
 
 MessageBox::Answer closingAnswer(MessageRequest::Buttons buttons) {
-    switch (buttons) {
-        case MessageRequest::Buttons::Ok:
-            return MessageBox::Answer::Ok;
-        case MessageRequest::Buttons::YesNo:
-            return MessageBox::Answer::No;
-        case MessageRequest::Buttons::OkCancel:
-        case MessageRequest::Buttons::YesNoCancel:
-            break;
-    }
-    return MessageBox::Answer::Cancel;
+    for (const auto answer : {MessageBox::Answer::Cancel, MessageBox::Answer::No})
+        if (hasButton(buttons, answer))
+            return answer;
+    return MessageBox::Answer::Ok;
 }
 
 std::string nameOf(FakeCommonDialogs::Kind kind) {

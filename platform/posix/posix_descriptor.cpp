@@ -15,10 +15,7 @@ PosixDescriptor::PosixDescriptor(PosixDescriptor&& other) noexcept
     : m_descriptor(std::exchange(other.m_descriptor, -1)) {}
 
 PosixDescriptor& PosixDescriptor::operator=(PosixDescriptor&& other) noexcept {
-    if (this != &other) {
-        close();
-        m_descriptor = std::exchange(other.m_descriptor, -1);
-    }
+    std::swap(m_descriptor, other.m_descriptor);
     return *this;
 }
 

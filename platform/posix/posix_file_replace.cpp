@@ -216,9 +216,4 @@ FileOutcome replaceFile(const std::string& path, std::string_view bytes,
     return outcome;
 }
 
-FileOutcome replaceFile(const std::string& path, std::string_view bytes) {
-    FolderLeftovers leftovers;
-    return replaceFile(path, bytes, leftovers);
-}
-
 }  // namespace zev

@@ -23,7 +23,4 @@ namespace zev {
 FileOutcome replaceFile(const std::string& path, std::string_view bytes,
                         FolderLeftovers& leftovers);
 
-/// The same for one file alone: looks for leftovers now.
-FileOutcome replaceFile(const std::string& path, std::string_view bytes);
-
 }  // namespace zev

@@ -149,10 +149,6 @@ int SideFile::make(const std::string& folder, const std::string& prefix, unsigne
     return EEXIST;
 }
 
-int SideFile::closeFile() {
-    return m_file.close();
-}
-
 const std::vector<std::string>& FolderLeftovers::namesIn(const std::string& folder) {
     if (m_folder == folder)
         return m_names;

@@ -35,7 +35,7 @@ class SideFile {
     /// The folder it was made in.
     const std::string& folder() const { return m_folder; }
     /// Closes the descriptor, keeping the lock. 0, or the errno of a close that lost data.
-    int closeFile();
+    int closeFile() { return m_file.close(); }
     /// From now on the file stays: it was renamed, or holds the only good copy.
     void handOver() { m_path.clear(); }
 

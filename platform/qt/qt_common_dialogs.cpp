@@ -101,7 +101,6 @@ bool mayReplace(QWidget* parent, const QString& path) {
     question.setIcon(QMessageBox::Warning);
     question.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     question.setDefaultButton(QMessageBox::No);
-    question.setEscapeButton(QMessageBox::No);
     setMessageText(question,
                    QFileInfo(path).fileName() + " already exists.\nDo you want to replace it?");
     return question.exec() == QMessageBox::Yes;
@@ -176,7 +175,6 @@ QString defaultSuffix(const QString& nameFilter) {
 
 std::string QtCommonDialogs::openFile(const FileDialogRequest& request) {
     QFileDialog dialog(parentWindow());
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     prepare(dialog, request, m_lastFolder);
     return dialog.exec() == QDialog::Accepted ? chosenFile(dialog, m_lastFolder) : std::string();
@@ -184,7 +182,6 @@ std::string QtCommonDialogs::openFile(const FileDialogRequest& request) {
 
 ChosenFiles QtCommonDialogs::openFiles(const FileDialogRequest& request) {
     QFileDialog dialog(parentWindow());
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFiles);
     prepare(dialog, request, m_lastFolder);
     while (dialog.exec() == QDialog::Accepted) {

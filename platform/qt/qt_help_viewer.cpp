@@ -12,10 +12,6 @@
 
 namespace zev {
 
-QtHelpViewer::~QtHelpViewer() {
-    delete m_window;
-}
-
 void QtHelpViewer::show(const std::string& path) {
     const QString page = QString::fromStdString(path);
     if (!QFileInfo::exists(page))
@@ -30,18 +26,18 @@ void QtHelpViewer::show(const std::string& path) {
 }
 
 void QtHelpViewer::makeWindow() {
-    m_window = new QWidget;
+    m_window = std::make_unique<QWidget>();
     m_window->setObjectName("frmHelp");
     m_window->setWindowTitle(QString(kProgramName) + " Help");
     // The program ends with its main window, not with the last page of the manual.
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_window->resize(860, 640);
     fitScreen(*m_window);
-    auto* layout = new QVBoxLayout(m_window);
+    auto* layout = new QVBoxLayout(m_window.get());
     layout->setContentsMargins(0, 0, 0, 0);
 
     QString problem;
-    m_webView = createWebView(m_window, problem);
+    m_webView = createWebView(m_window.get(), problem);
     if (m_webView == nullptr) {
         auto* note = new QLabel("The manual cannot be shown. " + problem);
         note->setTextFormat(Qt::PlainText);
@@ -54,13 +50,13 @@ void QtHelpViewer::makeWindow() {
             QDesktopServices::openUrl(QUrl(address));
         };
         layout->addWidget(m_webView);
-        const auto* back = new QShortcut(QKeySequence(QKeySequence::Back), m_window);
+        const auto* back = new QShortcut(QKeySequence(QKeySequence::Back), m_window.get());
         QObject::connect(back, &QShortcut::activated, m_webView, &WebView::goBack);
-        const auto* forward = new QShortcut(QKeySequence(QKeySequence::Forward), m_window);
+        const auto* forward = new QShortcut(QKeySequence(QKeySequence::Forward), m_window.get());
         QObject::connect(forward, &QShortcut::activated, m_webView, &WebView::goForward);
     }
-    const auto* close = new QShortcut(QKeySequence(Qt::Key_Escape), m_window);
-    QObject::connect(close, &QShortcut::activated, m_window, &QWidget::close);
+    const auto* close = new QShortcut(QKeySequence(Qt::Key_Escape), m_window.get());
+    QObject::connect(close, &QShortcut::activated, m_window.get(), &QWidget::close);
 }
 
 }  // namespace zev

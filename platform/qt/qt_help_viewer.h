@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPointer>
+#include <memory>
 
 #include "platform/help_viewer.h"
 #include "platform/qt/web_view.h"
@@ -12,21 +12,16 @@ namespace zev {
 /// network opens in the person's browser.
 class QtHelpViewer : public HelpViewer {
   public:
-    QtHelpViewer() = default;
-    QtHelpViewer(const QtHelpViewer&) = delete;
-    QtHelpViewer& operator=(const QtHelpViewer&) = delete;
-    ~QtHelpViewer() override;
-
     void show(const std::string& path) override;
 
     /// The window; null before the first call.
-    QWidget* window() const { return m_window; }
+    QWidget* window() const { return m_window.get(); }
 
   private:
     void makeWindow();
 
-    QPointer<QWidget> m_window;
-    QPointer<WebView> m_webView;
+    std::unique_ptr<QWidget> m_window;
+    WebView* m_webView = nullptr;
 };
 
 }  // namespace zev

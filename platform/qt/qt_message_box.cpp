@@ -29,20 +29,6 @@ QMessageBox::StandardButtons buttonsOf(MessageRequest::Buttons buttons) {
     return QMessageBox::Ok;
 }
 
-/// What closing the window or Escape means.
-QMessageBox::StandardButton escapeButtonOf(MessageRequest::Buttons buttons) {
-    switch (buttons) {
-        case MessageRequest::Buttons::Ok:
-            return QMessageBox::Ok;
-        case MessageRequest::Buttons::YesNo:
-            return QMessageBox::No;
-        case MessageRequest::Buttons::OkCancel:
-        case MessageRequest::Buttons::YesNoCancel:
-            break;
-    }
-    return QMessageBox::Cancel;
-}
-
 /// Qt shows details a few lines high and as narrow as the message, and keeps the keyboard out.
 void showDetails(QMessageBox& box, const std::string& details) {
     box.setDetailedText(QString::fromStdString(details));
@@ -64,7 +50,6 @@ MessageBox::Answer QtMessageBox::show(const MessageRequest& request) {
     box.setIcon(request.icon == MessageRequest::Icon::Exclamation ? QMessageBox::Warning
                                                                   : QMessageBox::NoIcon);
     box.setStandardButtons(buttonsOf(request.buttons));
-    box.setEscapeButton(escapeButtonOf(request.buttons));
     if (!request.details.empty())
         showDetails(box, request.details);
     setMessageText(box, QString::fromStdString(request.text));

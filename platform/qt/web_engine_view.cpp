@@ -9,7 +9,13 @@
 #include <QWebEngineProfile>
 #include <QtQuick/QQuickWindow>
 
-#include "platform/qt/browser_sandbox.h"
+#ifdef Q_OS_LINUX
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#endif
 
 QT_BEGIN_NAMESPACE
 // Exported for the browser engine, which sets it the same way when it is linked into a program.
@@ -19,6 +25,30 @@ QT_END_NAMESPACE
 namespace zev {
 
 namespace {
+
+/// False when the browser engine would end the whole program instead of starting: it insists on
+/// locking its page processes in, which it cannot do for the superuser and on systems that give
+/// ordinary users no namespaces of their own. QTWEBENGINE_DISABLE_SANDBOX=1 makes it do without.
+bool canStartBrowser() {
+#ifdef Q_OS_LINUX
+    if (qEnvironmentVariableIntValue("QTWEBENGINE_DISABLE_SANDBOX") != 0)
+        return true;
+    if (geteuid() == 0)
+        return false;
+    const pid_t child = fork();
+    if (child < 0)
+        return false;
+    if (child == 0)
+        _exit(unshare(CLONE_NEWUSER) == 0 ? 0 : 1);
+    int status = 0;
+    while (waitpid(child, &status, 0) < 0)
+        if (errno != EINTR)
+            return false;
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+#else
+    return true;
+#endif
+}
 
 /// A page with a menu needs no graphics card. Drawing it as the rest of the window is drawn spares
 /// every start the graphics driver (a third of the time, two thirds of the memory), and spares the

@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "tests/support/replace_file.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_files.h"
 
@@ -20,6 +21,7 @@ namespace {
 using test::contentOf;
 using test::makeFile;
 using test::namesIn;
+using test::replaceFile;
 using test::TempFolder;
 using Code = FileError::Code;
 using Names = std::vector<std::string>;

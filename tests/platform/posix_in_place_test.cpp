@@ -9,6 +9,7 @@
 
 #include "platform/posix/posix_file_replace.h"
 #include "tests/support/file_size_limit.h"
+#include "tests/support/replace_file.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_files.h"
 
@@ -21,6 +22,7 @@ using test::contentOf;
 using test::FileSizeLimit;
 using test::makeFile;
 using test::namesIn;
+using test::replaceFile;
 using test::TempFolder;
 using Names = std::vector<std::string>;
 
