@@ -47,8 +47,7 @@ ImportResult importMenu(const ImportFormat& format, std::string_view bytes, Menu
     // hold.
     constexpr std::size_t kShortLineBytes = 16;
     content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
-    ImportResult result{format.read(lines, content)};
-    return result;
+    return {format.read(lines, content)};
 }
 
 }  // namespace zev

@@ -47,14 +47,21 @@ ItemProp readItem(PieceCutter fields, bool hasImage) {
 /// Places the items of one file in a new menu, each relative to the one placed before it.
 class OrletReader {
   public:
-    OrletReader(OrletTopLevel topLevel, MenuContent& content)
-        : m_topLevel(topLevel), m_content(content) {}
+    OrletReader(DefinitionLines& lines, OrletTopLevel topLevel, MenuContent& content)
+        : m_lines(lines), m_topLevel(topLevel), m_content(content) {}
 
-    void readLine(std::string_view line, std::size_t number) {
+    std::vector<LineWarning> read() {
+        std::string_view line;
+        while (m_lines.next(line))
+            readLine(line);
+        return std::move(m_warnings);
+    }
+
+  private:
+    void readLine(std::string_view line) {
         const std::size_t level = std::min(line.find_first_not_of(':'), line.size());
         if (level == 0)
             return;
-        m_lineNumber = number;
         // A climb past the top is refused before it is made: it would take time for every such
         // line.
         const std::size_t climb = m_level > level ? m_level - level : 0;
@@ -66,12 +73,9 @@ class OrletReader {
             addItem(parentOf(level, climb), level, line.substr(level));
     }
 
-    std::vector<LineWarning> takeWarnings() { return std::move(m_warnings); }
-
-  private:
     /// The parent of the item of the current line, and its depth into `m_depth`. However much
     /// deeper than the item before it a line is, its item is placed one level deeper.
-    MenuNode* parentOf(std::size_t level, std::size_t climb) {
+    const MenuNode* parentOf(std::size_t level, std::size_t climb) {
         if (!m_previous) {
             if (level > 1)
                 warn(Reason::StartsDeep);
@@ -82,7 +86,7 @@ class OrletReader {
             return m_previous;
         }
         m_depth -= climb;
-        MenuNode* sibling = m_previous;
+        const MenuNode* sibling = m_previous;
         for (; climb > 0; --climb)
             sibling = sibling->parent();
         return sibling->parent();
@@ -90,7 +94,7 @@ class OrletReader {
 
     /// The item placed before it has no later sibling and no child yet, nor has any item it lies in
     /// a later sibling: every place is the last of its parent.
-    void addItem(MenuNode* parent, std::size_t level, std::string_view fields) {
+    void addItem(const MenuNode* parent, std::size_t level, std::string_view fields) {
         const bool hasImage = level == 1 && m_topLevel == OrletTopLevel::ImageBar;
         ItemProp item = readItem(PieceCutter(fields, '|'), hasImage);
         // The number is new at every item, so the key is never taken.
@@ -103,15 +107,15 @@ class OrletReader {
         m_level = level;
     }
 
-    void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }
+    void warn(Reason reason) { m_warnings.push_back({m_lines.number(), reason}); }
 
+    DefinitionLines& m_lines;
     OrletTopLevel m_topLevel;
     MenuContent& m_content;
     std::vector<LineWarning> m_warnings;
-    std::size_t m_lineNumber = 0;
-    MenuNode* m_previous = nullptr;  ///< the item placed last; null before the first
-    std::size_t m_level = 1;         ///< colons of that item's line; may be more than its depth
-    std::size_t m_depth = 0;         ///< levels above that item in the tree
+    const MenuNode* m_previous = nullptr;  ///< the item placed last; null before the first
+    std::size_t m_level = 1;  ///< colons of that item's line; may be more than its depth
+    std::size_t m_depth = 0;  ///< levels above that item in the tree
 };
 
 }  // namespace
@@ -120,11 +124,7 @@ std::vector<LineWarning> readOrlet(DefinitionLines& lines, OrletTopLevel topLeve
                                    MenuContent& content) {
     if (topLevel == OrletTopLevel::List)
         content.RootMenuProp.Columns = "1";
-    OrletReader reader(topLevel, content);
-    std::string_view line;
-    while (lines.next(line))
-        reader.readLine(line, lines.number());
-    return reader.takeWarnings();
+    return OrletReader(lines, topLevel, content).read();
 }
 
 }  // namespace zev

@@ -17,13 +17,22 @@ bool nextArgument(PieceCutter& pieces, std::string_view& argument) {
     return pieces.next(between) && pieces.next(argument);
 }
 
+std::string_view firstArgument(std::string_view line) {
+    PieceCutter pieces(line, '\'');
+    std::string_view argument;
+    nextArgument(pieces, argument);
+    return argument;
+}
+
 /// The arguments of a creation line that follow the first. At the first one the line lacks the rest
 /// keep their values.
-void readLook(PieceCutter& pieces, MenuProp& menu) {
+void readLook(std::string_view line, MenuProp& menu) {
+    PieceCutter pieces(line, '\'');
+    std::string_view argument;
+    nextArgument(pieces, argument);
     for (std::string MenuProp::*const member :
          {&MenuProp::NBgColor, &MenuProp::HBgColor, &MenuProp::NFtColor, &MenuProp::HFtColor,
           &MenuProp::BgImg}) {
-        std::string_view argument;
         if (!nextArgument(pieces, argument))
             return;
         menu.*member = argument;
@@ -31,26 +40,17 @@ void readLook(PieceCutter& pieces, MenuProp& menu) {
 }
 
 void readMainMenu(std::string_view line, MenuProp& menu) {
-    PieceCutter pieces(line, '\'');
-    std::string_view orientation;
-    nextArgument(pieces, orientation);
-    menu.Columns = orientation == "horizontal" ? "20" : "1";
-    readLook(pieces, menu);
+    menu.Columns = firstArgument(line) == "horizontal" ? "20" : "1";
+    readLook(line, menu);
 }
 
 std::string idOfSubmenu(std::string_view line) {
-    PieceCutter pieces(line, '\'');
-    std::string_view id;
-    nextArgument(pieces, id);
-    return std::string(id);
+    return std::string(firstArgument(line));
 }
 
 void readSubmenu(std::string_view line, MenuProp& menu) {
-    PieceCutter pieces(line, '\'');
-    std::string_view id;
-    nextArgument(pieces, id);
     menu.Columns = "1";
-    readLook(pieces, menu);
+    readLook(line, menu);
 }
 
 constexpr CreationLine kCreationLines[] = {

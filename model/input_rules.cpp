@@ -1,6 +1,5 @@
 #include "model/input_rules.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,16 +9,13 @@
 #include <system_error>
 
 #include "text/ascii.h"
+#include "text/text_encoding.h"
 
 namespace zev {
 
 namespace {
 
 constexpr std::size_t kColorDigits = 6;
-
-bool isContinuationByte(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
 
 /// Takes the number that `text` begins with off it; nothing when there is none, or none that a
 /// double can hold.
@@ -53,11 +49,7 @@ std::string textOf(double number) {
 }  // namespace
 
 std::optional<std::int32_t> colorOf(std::string_view text) {
-    if (text.empty())
-        return std::nullopt;
-    text.remove_prefix(1);
-    while (!text.empty() && isContinuationByte(text.front()))
-        text.remove_prefix(1);
+    text.remove_prefix(firstCodePoint(text).size());
     if (text.empty())
         return std::nullopt;
     std::string digits(text.substr(0, kColorDigits));

@@ -31,42 +31,20 @@ MenuBranch::MenuBranch(std::string key, std::string text, ItemProp item) {
     m_nodes.push_back(index.extract(entry));
 }
 
-MenuTree::MenuTree(MenuTree&& other) noexcept
-    : m_nodes(std::exchange(other.m_nodes, {})), m_topLevel(std::exchange(other.m_topLevel, {})) {}
-
-MenuTree& MenuTree::operator=(MenuTree&& other) noexcept {
-    m_topLevel = std::exchange(other.m_topLevel, {});
-    m_nodes = std::exchange(other.m_nodes, {});
-    return *this;
-}
-
 std::span<const MenuNode* const> MenuTree::childrenOf(const MenuNode* parent) const {
     return parent ? parent->m_children : m_topLevel;
 }
 
-std::vector<MenuNode*>& MenuTree::siblingsUnder(const MenuNode* parent) {
-    return parent ? edit(*parent).m_children : m_topLevel;
-}
-
-std::span<const MenuNode* const> MenuTree::siblingsOf(const MenuNode& node) const {
-    return childrenOf(node.m_parent);
-}
-
 const MenuNode* MenuTree::nextSibling(const MenuNode& node) const {
-    const std::span<const MenuNode* const> siblings = siblingsOf(node);
+    const std::span<const MenuNode* const> siblings = childrenOf(node.m_parent);
     return node.m_row + 1 < siblings.size() ? siblings[node.m_row + 1] : nullptr;
 }
 
 const MenuNode* MenuTree::previousSibling(const MenuNode& node) const {
-    return node.m_row > 0 ? siblingsOf(node)[node.m_row - 1] : nullptr;
+    return node.m_row > 0 ? childrenOf(node.m_parent)[node.m_row - 1] : nullptr;
 }
 
 const MenuNode* MenuTree::find(const std::string& key) const {
-    const auto found = m_nodes.find(key);
-    return found == m_nodes.end() ? nullptr : &found->second;
-}
-
-MenuNode* MenuTree::find(const std::string& key) {
     const auto found = m_nodes.find(key);
     return found == m_nodes.end() ? nullptr : &found->second;
 }
@@ -102,13 +80,10 @@ MenuNode* MenuTree::append(const MenuNode* parent, std::string key, std::string 
         m_nodes.try_emplace(std::move(key), std::move(text), std::move(item));
     if (!isNew)
         return nullptr;
-    Siblings& siblings = siblingsUnder(parent);
-    MenuNode* const node = &entry->second;
-    node->m_key = &entry->first;
-    node->m_parent = parent ? &edit(*parent) : nullptr;
-    node->m_row = siblings.size();
-    siblings.push_back(node);
-    return node;
+    MenuNode& node = entry->second;
+    node.m_key = &entry->first;
+    attach(node, parent, childrenOf(parent).size());
+    return &node;
 }
 
 void MenuTree::insert(MenuBranch branch, const MenuNode* parent, std::size_t row) {
@@ -116,19 +91,12 @@ void MenuTree::insert(MenuBranch branch, const MenuNode* parent, std::size_t row
         [[maybe_unused]] const auto place = m_nodes.insert(std::move(node));
         assert(place.inserted);
     }
-    Siblings& siblings = siblingsUnder(parent);
-    assert(row <= siblings.size());
-    branch.m_top->m_parent = parent ? &edit(*parent) : nullptr;
-    siblings.insert(at(siblings, row), branch.m_top);
-    renumber(siblings, row);
+    attach(*branch.m_top, parent, row);
 }
 
 MenuBranch MenuTree::take(const MenuNode& node) {
     MenuBranch branch(edit(node));
-    Siblings& siblings = siblingsUnder(node.m_parent);
-    siblings.erase(at(siblings, node.m_row));
-    renumber(siblings, node.m_row);
-
+    detach(node);
     Siblings subtree = {branch.m_top};
     for (std::size_t i = 0; i < subtree.size(); ++i) {
         const Siblings& children = subtree[i]->m_children;
@@ -142,23 +110,28 @@ MenuBranch MenuTree::take(const MenuNode& node) {
 
 void MenuTree::move(const MenuNode& node, const MenuNode* parent, std::size_t row) {
     assert(!isInBranch(parent, node));
-    const std::size_t oldRow = node.m_row;
-    const bool isSameParent = parent == node.m_parent;
-    if (isSameParent && (row == oldRow || row == oldRow + 1))
-        return;
-
-    Siblings& oldSiblings = siblingsUnder(node.m_parent);
-    oldSiblings.erase(at(oldSiblings, oldRow));
-    renumber(oldSiblings, oldRow);
-
-    if (isSameParent && row > oldRow)
+    if (parent == node.m_parent && row > node.m_row)
         --row;
-    Siblings& newSiblings = siblingsUnder(parent);
-    assert(row <= newSiblings.size());
-    MenuNode& moved = edit(node);
-    moved.m_parent = parent ? &edit(*parent) : nullptr;
-    newSiblings.insert(at(newSiblings, row), &moved);
-    renumber(newSiblings, row);
+    detach(node);
+    attach(edit(node), parent, row);
+}
+
+std::vector<MenuNode*>& MenuTree::siblingsUnder(const MenuNode* parent) {
+    return parent ? edit(*parent).m_children : m_topLevel;
+}
+
+void MenuTree::attach(MenuNode& node, const MenuNode* parent, std::size_t row) {
+    Siblings& siblings = siblingsUnder(parent);
+    assert(row <= siblings.size());
+    node.m_parent = parent;
+    siblings.insert(at(siblings, row), &node);
+    renumber(siblings, row);
+}
+
+void MenuTree::detach(const MenuNode& node) {
+    Siblings& siblings = siblingsUnder(node.m_parent);
+    siblings.erase(at(siblings, node.m_row));
+    renumber(siblings, node.m_row);
 }
 
 void MenuTree::renumber(const std::vector<MenuNode*>& siblings, std::size_t firstRow) {

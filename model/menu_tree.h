@@ -23,9 +23,7 @@ class MenuNode {
     const std::string& key() const { return *m_key; }
     /// Null for a top-level node.
     const MenuNode* parent() const { return m_parent; }
-    MenuNode* parent() { return m_parent; }
     std::span<const MenuNode* const> children() const { return m_children; }
-    std::span<MenuNode* const> children() { return m_children; }
     /// Position among its siblings, counted from 0. Constant time.
     std::size_t row() const { return m_row; }
     bool hasChildren() const { return !m_children.empty(); }
@@ -40,7 +38,7 @@ class MenuNode {
     friend class MenuBranch;
     friend class MenuTree;
     const std::string* m_key = nullptr;  ///< lies in the tree's index
-    MenuNode* m_parent = nullptr;
+    const MenuNode* m_parent = nullptr;
     std::vector<MenuNode*> m_children;
     std::size_t m_row = 0;
 };
@@ -85,8 +83,8 @@ class MenuTree {
   public:
     MenuTree() = default;
     /// The nodes themselves move; `other` is empty afterwards.
-    MenuTree(MenuTree&& other) noexcept;
-    MenuTree& operator=(MenuTree&& other) noexcept;
+    MenuTree(MenuTree&& other) = default;
+    MenuTree& operator=(MenuTree&& other) = default;
     ~MenuTree() = default;
 
     bool isEmpty() const { return m_topLevel.empty(); }
@@ -95,15 +93,11 @@ class MenuTree {
     std::span<const MenuNode* const> topLevel() const { return m_topLevel; }
     /// Children of `parent`, or the top level when `parent` is null.
     std::span<const MenuNode* const> childrenOf(const MenuNode* parent) const;
-    /// The siblings of a node, itself included.
-    std::span<const MenuNode* const> siblingsOf(const MenuNode& node) const;
     const MenuNode* firstNode() const { return isEmpty() ? nullptr : m_topLevel.front(); }
-    MenuNode* firstNode() { return isEmpty() ? nullptr : m_topLevel.front(); }
     const MenuNode* nextSibling(const MenuNode& node) const;
     const MenuNode* previousSibling(const MenuNode& node) const;
     /// Null when no node has that key.
     const MenuNode* find(const std::string& key) const;
-    MenuNode* find(const std::string& key);
     /// The node that follows in depth-first order (a node before its children); null at the end.
     const MenuNode* nextInTreeOrder(const MenuNode& node) const;
     /// True when all ancestors are expanded.
@@ -126,6 +120,8 @@ class MenuTree {
 
   private:
     std::vector<MenuNode*>& siblingsUnder(const MenuNode* parent);
+    void attach(MenuNode& node, const MenuNode* parent, std::size_t row);
+    void detach(const MenuNode& node);
     static void renumber(const std::vector<MenuNode*>& siblings, std::size_t firstRow);
 
     MenuBranch::Nodes m_nodes;  ///< by key; they never move

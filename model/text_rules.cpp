@@ -2,16 +2,6 @@
 
 namespace zev {
 
-namespace {
-
-std::string withoutCharacter(std::string_view text, char unwanted) {
-    std::string result(text);
-    std::erase(result, unwanted);
-    return result;
-}
-
-}  // namespace
-
 std::string EscapeApostrophes(std::string_view text) {
     std::string result;
     result.reserve(text.size());
@@ -28,9 +18,9 @@ std::string EscapeApostrophes(std::string_view text) {
 std::string StripQuotes(std::string_view text, int mode) {
     std::string result(text);
     if (mode < 2)
-        result = withoutCharacter(result, '"');
+        std::erase(result, '"');
     if (mode >= 1)
-        result = withoutCharacter(result, '\'');
+        std::erase(result, '\'');
     return result;
 }
 

@@ -22,10 +22,8 @@ std::size_t lastCodePointOffset(std::string_view text) {
 
 std::string GetPropName(std::string_view line) {
     const std::size_t dot = line.find('.');
-    if (dot == kNpos)
-        return {};
     const std::size_t equals = line.find('=', dot);
-    if (equals == kNpos)
+    if (dot == kNpos || equals == kNpos)
         return {};
     return std::string(trimSpaces(line.substr(dot + 1, equals - dot - 1)));
 }

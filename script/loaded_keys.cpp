@@ -2,24 +2,15 @@
 
 namespace zev {
 
-namespace {
-
-constexpr std::string_view kPrefix = "KeyLoad ";
-
-}  // namespace
-
 std::string loadedMenuKey(std::string_view menuId) {
-    std::string key(kPrefix);
-    return key += menuId;
+    return std::string("KeyLoad ").append(menuId);
 }
 
 std::string loadedItemKey(std::string_view menuId, std::size_t position) {
-    std::string key(kPrefix);
-    if (menuId != kTopLevelMenuId) {
-        key += menuId;
-        key += 'i';
-    }
-    return key += std::to_string(position);
+    const std::string number = std::to_string(position);
+    if (menuId == kTopLevelMenuId)
+        return loadedMenuKey(number);
+    return loadedMenuKey(menuId) + 'i' + number;
 }
 
 }  // namespace zev

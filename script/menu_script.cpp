@@ -19,15 +19,22 @@ using Reason = LineWarning::Reason;
 /// Applies the lines of one script to a new menu, one after the other.
 class MenuScriptReader {
   public:
-    MenuScriptReader(const ScriptDialect& dialect, MenuContent& content)
-        : m_dialect(dialect), m_content(content) {}
+    MenuScriptReader(DefinitionLines& lines, const ScriptDialect& dialect, MenuContent& content)
+        : m_lines(lines), m_dialect(dialect), m_content(content) {}
 
+    std::vector<LineWarning> read() {
+        std::string_view line;
+        while (m_lines.next(line))
+            readLine(line);
+        return std::move(m_warnings);
+    }
+
+  private:
     /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
-    void readLine(std::string_view line, std::size_t number) {
+    void readLine(std::string_view line) {
         // A large file of other lines is passed quickly.
         if (!line.starts_with(m_dialect.start))
             return;
-        m_lineNumber = number;
         bool isUnderstood = false;
         if (matchesPattern(line, m_dialect.defaultLine))
             isUnderstood =
@@ -48,10 +55,11 @@ class MenuScriptReader {
             warn(Reason::NotUnderstood);
     }
 
-    std::vector<LineWarning> takeWarnings() { return std::move(m_warnings); }
-
-  private:
     bool isTopLevel() const { return m_menuId == kTopLevelMenuId; }
+
+    MenuProp& editMenuOf(const MenuNode& node) {
+        return m_content.tree.edit(node).item.MenuProperty.edit();
+    }
 
     void openMenu(const CreationLine& creation, std::string_view line) {
         m_menuId = creation.idOf ? creation.idOf(line) : std::string(kTopLevelMenuId);
@@ -64,7 +72,7 @@ class MenuScriptReader {
         if (!creation.idOf)
             creation.readLook(line, m_content.RootMenuProp);
         else if (m_menuNode)
-            creation.readLook(line, m_menuNode->item.MenuProperty.edit());
+            creation.readLook(line, editMenuOf(*m_menuNode));
     }
 
     bool readProperty(std::string_view line) {
@@ -72,7 +80,7 @@ class MenuScriptReader {
         if (isTopLevel())
             return SetProperty(m_content.RootMenuProp, name, GetPropValue(line));
         if (m_menuNode)
-            return SetProperty(m_menuNode->item.MenuProperty.edit(), name, GetPropValue(line));
+            return SetProperty(editMenuOf(*m_menuNode), name, GetPropValue(line));
         warn(Reason::UnknownMenu);
         return findMenuProperty(name) != nullptr;
     }
@@ -106,26 +114,22 @@ class MenuScriptReader {
         return false;
     }
 
-    void warn(Reason reason) { m_warnings.push_back({m_lineNumber, reason}); }
+    void warn(Reason reason) { m_warnings.push_back({m_lines.number(), reason}); }
 
+    DefinitionLines& m_lines;
     const ScriptDialect& m_dialect;
     MenuContent& m_content;
     std::vector<LineWarning> m_warnings;
-    std::size_t m_lineNumber = 0;
-    std::string m_menuId;            ///< menu of the last creation line; empty before the first
-    MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
-    std::size_t m_itemNumber = 0;    ///< item lines of that menu so far
+    std::string m_menuId;  ///< menu of the last creation line; empty before the first
+    const MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
+    std::size_t m_itemNumber = 0;          ///< item lines of that menu so far
 };
 
 }  // namespace
 
 std::vector<LineWarning> readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
                                         MenuContent& content) {
-    MenuScriptReader reader(dialect, content);
-    std::string_view line;
-    while (lines.next(line))
-        reader.readLine(line, lines.number());
-    return reader.takeWarnings();
+    return MenuScriptReader(lines, dialect, content).read();
 }
 
 }  // namespace zev

@@ -48,34 +48,23 @@ void assign(const PositionMember& position, MenuProp& prop, std::string_view val
             prop.*position.member = side;
 }
 
-const MenuProp& emptySet() {
-    static const MenuProp empty;
-    return empty;
-}
-
-const MenuProp& factorySet() {
-    static const MenuProp factory = [] {
-        MenuProp prop;
-        prop.SetDefault();
-        return prop;
-    }();
-    return factory;
-}
-
 /// What a property has where the rule leaves its line out.
 const MenuProp& setWithoutLine(LineRule rule, const MenuProp& defaults) {
     switch (rule) {
         case LineRule::WhenDifferent:
             return defaults;
-        case LineRule::UnlessFactory:
-            return factorySet();
+        case LineRule::UnlessFactory: {
+            static const MenuContent newMenu;
+            return newMenu.DefaultProp;
+        }
         case LineRule::UnlessStarting:
             return *newItemMenuProp();
         case LineRule::Never:
         case LineRule::WhenSet:
             break;
     }
-    return emptySet();
+    static const MenuProp empty;
+    return empty;
 }
 
 /// Appends the line of one row where its rule wants one. The row is a constant of its own function:

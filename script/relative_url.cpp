@@ -5,7 +5,6 @@
 
 #include "text/ascii.h"
 #include "text/path.h"
-#include "text/pattern.h"
 
 namespace zev {
 
@@ -19,9 +18,8 @@ constexpr std::string_view kParentStep = "../";
 bool isAddress(std::string_view url) {
     std::string lowerCase(url);
     std::transform(lowerCase.begin(), lowerCase.end(), lowerCase.begin(), asciiLower);
-    return matchesPattern(lowerCase, "http://*") || matchesPattern(lowerCase, "javascript:*") ||
-           matchesPattern(lowerCase, "mailto:*") || lowerCase == "ftp://" ||
-           lowerCase == "https://";
+    return lowerCase.starts_with("http://") || lowerCase.starts_with("javascript:") ||
+           lowerCase.starts_with("mailto:") || lowerCase == "ftp://" || lowerCase == "https://";
 }
 
 /// A URL with a leading slash starts at the root of the web site, which no folder of the system
@@ -44,6 +42,15 @@ std::string withSeparator(const Path& folder) {
     return path;
 }
 
+void rebaseItem(ItemProp& item, std::string_view oldFolder, std::string_view newFolder) {
+    for (std::string* url : {&item.URL, &item.ImageOut, &item.ImageOver})
+        *url = RebaseURL(oldFolder, newFolder, *url);
+    if (!item.MenuProperty->BgImg.empty()) {
+        std::string& background = item.MenuProperty.edit().BgImg;
+        background = RebaseURL(oldFolder, newFolder, background);
+    }
+}
+
 }  // namespace
 
 PathParts SplitPath(std::string_view path) {
@@ -61,14 +68,11 @@ std::string ToRelativeURL(std::string_view base, std::string_view path) {
     const char separator = folder.separator();
     const std::string start = withSeparator(folder);
     std::string_view folderRest = start;
-    std::size_t folderEnd = folderRest.find(separator);
-    std::size_t pathEnd = path.find(separator);
-    while (folderEnd != kNpos && pathEnd != kNpos &&
-           folderRest.substr(0, folderEnd) == path.substr(0, pathEnd)) {
-        folderRest.remove_prefix(folderEnd + 1);
-        path.remove_prefix(pathEnd + 1);
-        folderEnd = folderRest.find(separator);
-        pathEnd = path.find(separator);
+    std::size_t end = folderRest.find(separator);
+    while (end != kNpos && path.starts_with(folderRest.substr(0, end + 1))) {
+        folderRest.remove_prefix(end + 1);
+        path.remove_prefix(end + 1);
+        end = folderRest.find(separator);
     }
 
     std::string url;
@@ -103,19 +107,6 @@ std::string RebaseURL(std::string_view oldFolder, std::string_view newFolder,
         return std::string(url);
     return ToRelativeURL(newFolder, ToAbsolutePath(oldFolder, url));
 }
-
-namespace {
-
-void rebaseItem(ItemProp& item, std::string_view oldFolder, std::string_view newFolder) {
-    for (std::string* url : {&item.URL, &item.ImageOut, &item.ImageOver})
-        *url = RebaseURL(oldFolder, newFolder, *url);
-    if (!item.MenuProperty->BgImg.empty()) {
-        std::string& background = item.MenuProperty.edit().BgImg;
-        background = RebaseURL(oldFolder, newFolder, background);
-    }
-}
-
-}  // namespace
 
 void RebaseAllURLs(MenuContent& content, std::string_view oldFolder, std::string_view newFolder) {
     if (oldFolder == newFolder)

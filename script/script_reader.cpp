@@ -33,7 +33,6 @@ ReadResult ReadScript(std::string_view bytes, MenuContent& content) {
         result.warnings.begin(), result.warnings.end(), [](const LineWarning& warning) {
             return warning.reason != LineWarning::Reason::NotUnderstood;
         }));
-
     return result;
 }
 

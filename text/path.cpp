@@ -1,17 +1,11 @@
 #include "text/path.h"
 
 #include "text/ascii.h"
+#include "text/text_encoding.h"
 
 namespace zev {
 
 namespace {
-
-std::string_view firstCodePoint(std::string_view text) {
-    std::size_t length = text.empty() ? 0 : 1;
-    while (length > 0 && length < text.size() && (text[length] & 0xC0) == 0x80)
-        ++length;
-    return text.substr(0, length);
-}
 
 Path::Kind kindOf(std::string_view text) {
     if (text.starts_with('/'))

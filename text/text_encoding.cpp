@@ -62,6 +62,13 @@ bool isAscii(std::string_view bytes) {
     return skipAscii(bytes, 0) == bytes.size();
 }
 
+std::string_view firstCodePoint(std::string_view text) {
+    std::size_t length = text.empty() ? 0 : 1;
+    while (length > 0 && length < text.size() && (text[length] & 0xC0) == 0x80)
+        ++length;
+    return text.substr(0, length);
+}
+
 bool isValidUtf8(std::string_view bytes) {
     std::size_t offset = skipAscii(bytes, 0);
     while (offset < bytes.size()) {

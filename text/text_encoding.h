@@ -8,6 +8,9 @@ namespace zev {
 /// True when every byte is below 0x80.
 bool isAscii(std::string_view bytes);
 
+/// The first code point of a text in UTF-8; empty when the text is.
+std::string_view firstCodePoint(std::string_view text);
+
 /// True when `bytes` is well-formed UTF-8 (Unicode standard, table 3-7: no surrogates, no overlong
 /// forms).
 bool isValidUtf8(std::string_view bytes);

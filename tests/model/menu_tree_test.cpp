@@ -20,7 +20,7 @@ class MenuTreeTest : public testing::Test {
     void SetUp() override {
         Grow(tree, {{0, "A"}, {0, "B"}, {1, "B1"}, {2, "B11"}, {1, "B2"}, {0, "C"}});
     }
-    MenuNode& node(const std::string& key) { return *tree.find(key); }
+    MenuNode& node(const std::string& key) { return tree.edit(*tree.find(key)); }
 
     MenuTree tree;
 };
@@ -50,7 +50,7 @@ TEST_F(MenuTreeTest, NeighboursParentsAndChildren) {
     EXPECT_EQ(node("B").parent(), nullptr);
     EXPECT_EQ(tree.childrenOf(nullptr).size(), 3u);
     EXPECT_EQ(tree.childrenOf(&node("B")).size(), 2u);
-    EXPECT_EQ(tree.siblingsOf(node("B2")).data(), node("B").children().data());
+    EXPECT_EQ(tree.childrenOf(node("B2").parent()).data(), node("B").children().data());
     EXPECT_TRUE(node("B").hasChildren());
     EXPECT_FALSE(node("A").hasChildren());
 }
@@ -197,8 +197,8 @@ TEST(MenuTreeSize, AHundredThousandLevelsAreBuiltWalkedMovedAndRemoved) {
     EXPECT_EQ(count, kLevels);
 
     EXPECT_FALSE(tree.isVisible(*deepest));
-    for (MenuNode* ancestor = deepest->parent(); ancestor; ancestor = ancestor->parent())
-        ancestor->isExpanded = true;
+    for (const MenuNode* ancestor = deepest->parent(); ancestor; ancestor = ancestor->parent())
+        tree.edit(*ancestor).isExpanded = true;
     EXPECT_TRUE(tree.isVisible(*deepest));
     MenuNode* const other = tree.append(nullptr, "other", "other");
     tree.move(*top, other, 0);

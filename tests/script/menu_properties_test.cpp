@@ -89,11 +89,12 @@ TEST_P(EachProperty, OfTheDefaultsComesBackWhereItIsWritten) {
 }
 
 TEST_P(EachProperty, OfTheTopMenuAndOfASubmenuComesBackWhereItIsWritten) {
-    MenuNode* const node = document.tree.firstNode();
-    node->item.MenuProperty = newItemMenuProp();
+    const MenuNode* const node = document.tree.firstNode();
+    ItemProp& item = document.tree.edit(*node).item;
+    item.MenuProperty = newItemMenuProp();
     document.tree.append(node, "Key 1", "A1");
     setOtherValue(document.RootMenuProp, GetParam());
-    setOtherValue(node->item.MenuProperty.edit(), GetParam());
+    setOtherValue(item.MenuProperty.edit(), GetParam());
     const bool isWritten = GetParam().inMenu != LineRule::Never;
     EXPECT_EQ(written(document).find(line("zevmenu.")) != std::string::npos, isWritten);
     MenuProp expected = newDocument.RootMenuProp;

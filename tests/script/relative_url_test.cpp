@@ -390,7 +390,7 @@ TEST_F(RebaseAllURLsTest, LeavesTargetsCaptionsAndTheOtherBackgroundsAlone) {
 }
 
 TEST_F(RebaseAllURLsTest, TheSameFolderChangesNothing) {
-    document.tree.firstNode()->item.URL = R"(C:\x.html)";
+    document.tree.edit(*document.tree.firstNode()).item.URL = R"(C:\x.html)";
     RebaseAllURLs(document, R"(C:\web)", R"(C:\web)");
     EXPECT_EQ(document.tree.firstNode()->item.URL, R"(C:\x.html)");
 }

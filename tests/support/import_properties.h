@@ -54,8 +54,9 @@ inline std::string problemOfDocument(const MenuContent& document) {
     const MenuTree& tree = document.tree;
     for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
         ++count;
-        if (tree.find(node->key()) != node || node->row() >= tree.siblingsOf(*node).size() ||
-            tree.siblingsOf(*node)[node->row()] != node)
+        const auto siblings = tree.childrenOf(node->parent());
+        if (tree.find(node->key()) != node || node->row() >= siblings.size() ||
+            siblings[node->row()] != node)
             return "a node is not where it can be found";
         if (node->text != (node->item.IsRollover ? node->item.ImageOut : node->item.Caption))
             return "a node is not shown under its caption or image";
