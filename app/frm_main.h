@@ -54,10 +54,8 @@ class frmMain : public QMainWindow, public EditorView {
     void mnuFileOpen_Click() { m_fileCommands.mnuFileOpen_Click(); }
     void mnuFileSave_Click() { m_fileCommands.mnuFileSave_Click(); }
     void mnuFileSaveAs_Click() { m_fileCommands.mnuFileSaveAs_Click(); }
-    void mnuFileImportQuillmenu_Click() { m_importCommands.mnuFileImportQuillmenu_Click(); }
-    void mnuFileImportOrletBar_Click() { m_importCommands.mnuFileImportOrletBar_Click(); }
-    void mnuFileImportOrletMenu_Click() { m_importCommands.mnuFileImportOrletMenu_Click(); }
-    void mnuFileImportOrletButton_Click() { m_importCommands.mnuFileImportOrletButton_Click(); }
+    /// The entry of File > Import of this format.
+    void importMenu(const ImportFormat& format) { m_importCommands.run(format); }
     void mnuFileExit_Click();
     void mnuEditDefault_Click();
     void mnuEditMenuProperties_Click();

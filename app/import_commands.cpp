@@ -33,22 +33,6 @@ ImportCommands::ImportCommands(MenuDocument& document, FileCommands& fileCommand
                                MessageBox& messages)
     : m_document(document), m_fileCommands(fileCommands), m_messages(messages) {}
 
-void ImportCommands::mnuFileImportQuillmenu_Click() {
-    run(*findImportFormat("quillmenu"));
-}
-
-void ImportCommands::mnuFileImportOrletBar_Click() {
-    run(*findImportFormat("orletbar"));
-}
-
-void ImportCommands::mnuFileImportOrletMenu_Click() {
-    run(*findImportFormat("orletmenu"));
-}
-
-void ImportCommands::mnuFileImportOrletButton_Click() {
-    run(*findImportFormat("orletbutton"));
-}
-
 /// A cancelled dialog leaves the new document, as a file does that cannot be read.
 void ImportCommands::run(const ImportFormat& format) {
     // Where the person works; the new document does not know it any more.

@@ -17,10 +17,6 @@ class ImportCommands {
     ImportCommands(MenuDocument& document, FileCommands& fileCommands, MessageBox& messages);
 
     void run(const ImportFormat& format);
-    void mnuFileImportQuillmenu_Click();
-    void mnuFileImportOrletBar_Click();
-    void mnuFileImportOrletMenu_Click();
-    void mnuFileImportOrletButton_Click();
 
   private:
     void importFile(const ImportFormat& format, const std::string& path);
