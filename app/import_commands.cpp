@@ -1,6 +1,7 @@
 #include "app/import_commands.h"
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "messages/import_messages.h"
@@ -40,18 +41,14 @@ void ImportCommands::run(const ImportFormat& format) {
     if (!m_fileCommands.mnuFileNew_Click())
         return;
     const std::string path = m_fileCommands.chooseFile(format.fileFilter, folder);
-    if (!path.empty())
-        importFile(format, path);
-}
-
-void ImportCommands::importFile(const ImportFormat& format, const std::string& path) {
+    if (path.empty())
+        return;
     const FileResult<std::string> content = m_fileCommands.readTextFile(path);
     if (!content.isOk())
         return;
     MenuContent imported;
     const ImportResult result = importMenu(format, content.value(), imported);
     m_document.open(std::move(imported));
-    m_fileCommands.showDocument();
 
     MessageRequest notice;
     notice.text = "Finished importing " + path + ". " + std::to_string(result.warnings.size()) +

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "app/file_commands.h"
 #include "importers/import_menu.h"
 #include "model/menu_document.h"
@@ -19,8 +17,6 @@ class ImportCommands {
     void run(const ImportFormat& format);
 
   private:
-    void importFile(const ImportFormat& format, const std::string& path);
-
     MenuDocument& m_document;
     FileCommands& m_fileCommands;
     MessageBox& m_messages;
