@@ -34,6 +34,14 @@ bool hasNext(const MenuDocument& document) {
     return hasNode(document) && document.tree().nextSibling(*document.CurNode()) != nullptr;
 }
 
+/// Adds the entries of File > Import, one a format.
+std::vector<Command> withImports(std::vector<Command> rows) {
+    for (const ImportFormat& format : importFormats())
+        rows.push_back({{"mnuFileImport", format.menuEntry, format.title},
+                        [&format](frmMain& window) { window.importMenu(format); }});
+    return rows;
+}
+
 /// Buttons and separators are counted from 1.
 void nameLast(QToolBar& toolBar, QAction& last) {
     last.setObjectName(QString("tbToolBar_%1").arg(toolBar.actions().size()));
@@ -44,7 +52,7 @@ void nameLast(QToolBar& toolBar, QAction& last) {
 const std::vector<Command>& CommandActions::rows() {
     using Keeps = Command::Keeps;
     constexpr bool kLeavesKeyToText = true;
-    static const std::vector<Command> kRows = {
+    static const std::vector<Command> kRows = withImports({
         {{"", "mnuFile", QT_TR_NOOP("&File")}},
         {{"mnuFile", "mnuFileNew", QT_TR_NOOP("&New"), "Ctrl+N"},
          &frmMain::mnuFileNew_Click,
@@ -59,14 +67,6 @@ const std::vector<Command>& CommandActions::rows() {
         {{"mnuFile", "mnuFileSaveAs", QT_TR_NOOP("Save &As")}, &frmMain::mnuFileSaveAs_Click},
         {{"mnuFile"}},
         {{"mnuFile", "mnuFileImport", QT_TR_NOOP("&Import")}},
-        {{"mnuFileImport", "mnuFileImportQuillmenu", QT_TR_NOOP("Quillmenu")},
-         &frmMain::mnuFileImportQuillmenu_Click},
-        {{"mnuFileImport", "mnuFileImportOrletBar", QT_TR_NOOP("OrletBar")},
-         &frmMain::mnuFileImportOrletBar_Click},
-        {{"mnuFileImport", "mnuFileImportOrletMenu", QT_TR_NOOP("OrletMenu")},
-         &frmMain::mnuFileImportOrletMenu_Click},
-        {{"mnuFileImport", "mnuFileImportOrletButton", QT_TR_NOOP("OrletButton")},
-         &frmMain::mnuFileImportOrletButton_Click},
         {{"mnuFile"}},
         {{"mnuFile", "mnuFileExit", QT_TR_NOOP("E&xit")}, &frmMain::mnuFileExit_Click},
 
@@ -124,7 +124,7 @@ const std::vector<Command>& CommandActions::rows() {
         {{"mnuHelp", "mnuHelpAbout", QT_TR_NOOP("&About")}, &frmMain::mnuHelpAbout_Click},
         {{"mnuHelp", "mnuHelpSupport", QT_TR_NOOP("&Support && Upgrades")},
          &frmMain::mnuHelpSupport_Click},
-    };
+    });
     return kRows;
 }
 

@@ -50,7 +50,7 @@ struct Command {
 class CommandActions : public QObject {
     Q_OBJECT
   public:
-    /// In the order of the menus, which gives the toolbar its order and separators too.
+    /// Each menu's rows in its order, which gives the toolbar its order and separators too.
     static const std::vector<Command>& rows();
     /// The command whose toolbar button has this key; null when there is none.
     static const Command* withButton(const QString& key);

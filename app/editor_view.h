@@ -4,8 +4,9 @@
 
 namespace zev {
 
-/// What the editor's procedures (file commands, preview) ask of the window that shows the document.
-/// Implemented by the main window; tests have one without widgets.
+/// What the editor's procedures (file commands, preview) ask of the window that shows the document;
+/// what happens to the document the window is told by the document itself. Implemented by the main
+/// window; tests have one without widgets.
 class EditorView {
   public:
     virtual ~EditorView() = default;
@@ -13,16 +14,10 @@ class EditorView {
     virtual void validateFields() = 0;
     /// Stores the item panel into `CurNode`'s item; nothing without a `CurNode`.
     virtual void StoreItem() = 0;
-    /// Shows `CurNode`'s item in the panel, or empties and disables the panel without one. Never
-    /// changes `bModified`.
-    virtual void ShowItem() = 0;
     /// Fills the JavaScript tab (UTF-8, CR LF).
     virtual void showScript(const std::string& script) = 0;
-    /// Window caption: the program's name, and the definition file once there is one.
-    virtual void showCaption() = 0;
-    /// Fills the Default Menu Properties dialog from `DefaultProp`.
-    virtual void LoadDefaultDialog() = 0;
-    /// Derives the enabled commands from `bModified` and `CurNode`.
+    /// Derives the enabled commands from `bModified` and `CurNode`. Asked for where `bModified` was
+    /// cleared, which alone does not do it: Save stays usable after a save.
     virtual void Button_Update() = 0;
 };
 

@@ -20,11 +20,7 @@ FileCommands::FileCommands(MenuDocument& document, EditorView& view, const Edito
 
 void FileCommands::reset() {
     m_document.NewDocument();
-    m_view.LoadDefaultDialog();
     m_view.showScript("");
-    m_view.ShowItem();
-    m_view.showCaption();
-    m_view.Button_Update();
 }
 
 bool FileCommands::mnuFileNew_Click() {
@@ -36,8 +32,10 @@ bool FileCommands::mnuFileNew_Click() {
 
 void FileCommands::mnuFileOpen_Click() {
     const std::string path = chooseFile(kDefinitionFilter, definitionFolder());
-    if (!path.empty() && !openDefinition(path))
-        return;  // the menu in memory is still the one being edited, with its changes
+    if (!path.empty()) {
+        openDefinition(path);
+        return;
+    }
     // A cancelled dialog clears the mark too: Open asks nothing about unsaved changes, and Exit
     // after it ends without asking.
     m_document.markSaved();
@@ -103,27 +101,17 @@ FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
     return content;
 }
 
-void FileCommands::showDocument() {
-    m_view.showCaption();
-    m_view.ShowItem();
-    m_view.showScript(GenerateScript(m_document.content()));
-    m_view.LoadDefaultDialog();
-    m_view.Button_Update();
-}
-
-bool FileCommands::openDefinition(const std::string& path) {
+void FileCommands::openDefinition(const std::string& path) {
     const FileResult<std::string> content = readTextFile(path);
     if (!content.isOk())
-        return false;
+        return;
     MenuContent opened;
     const ReadResult result = ReadScript(content.value(), opened);
     m_document.open(std::move(opened), path, SplitPath(path).folder);
-    showDocument();
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
                                    " errors encountered during parsing");
     }
-    return true;
 }
 
 FileCommands::SaveOutcome FileCommands::saveAs() {
@@ -155,22 +143,18 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
     const std::string oldFile = m_document.SaveFile();
     const std::string oldFolder = m_document.SavePath();
     Changes rebasedBack;
-    if (isRebasing) {
+    if (isRebasing)
         rebasedBack = RebaseAllURLs(m_document, oldFolder, folder);
-        m_view.ShowItem();
-    }
     m_document.setFile(path, folder);
-    m_view.showCaption();
     if (SaveDefinition(path)) {
         m_document.markSaved();
         m_view.Button_Update();
         return true;
     }
     m_document.setFile(oldFile, oldFolder);
-    m_view.showCaption();
     if (isRebasing) {
         m_document.apply(std::move(rebasedBack));
-        m_view.ShowItem();
+        m_view.StoreItem();  // the label of the shown item goes back with its image
         m_view.showScript(GenerateScript(m_document.content()));
     }
     return false;

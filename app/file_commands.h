@@ -17,7 +17,8 @@ class FileCommands {
   public:
     FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services);
 
-    /// Resets document and view to a new, empty menu, as at start-up. Asks nothing.
+    /// Resets the document to a new, empty menu and empties the JavaScript tab, as at start-up.
+    /// Asks nothing.
     void reset();
     /// True when the document is a new one now; false when the person, or a save that failed, kept
     /// the old one.
@@ -39,12 +40,9 @@ class FileCommands {
     /// when it cannot be read, is too large for a definition, or is no text.
     FileResult<std::string> readTextFile(const std::string& path);
 
-    /// Brings the view up to a document whose content was replaced.
-    void showDocument();
-
     /// Opens the definition file at `path` (full path). On failure the person is told the path and
-    /// the reason, and the document in memory stays as it was. True when it was opened.
-    bool openDefinition(const std::string& path);
+    /// the reason, and the document in memory stays the one being edited, with its changes.
+    void openDefinition(const std::string& path);
 
     /// Stores the panel, puts the run-time files beside the definition, shows the script, and
     /// writes it to `path`, or to the preview script in `SavePath` when `path` is empty. Problems

@@ -1,6 +1,7 @@
 #include "app/frm_main.h"
 
 #include <QCloseEvent>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
@@ -51,12 +52,16 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     setStatusBar(sbStatusBar);
     resize(920, 660);
 
+    // Behind the tree's model: what is selected there must be there.
+    m_document.addObserver(*this);
+    fileChanged();
     m_fileCommands.reset();
     TreeView->setFocus();
 }
 
 // The widgets look at the document until they are gone.
 frmMain::~frmMain() {
+    m_document.removeObserver(*this);
     delete m_menuForm;
     delete m_defaultForm;
     delete takeCentralWidget();
@@ -83,7 +88,6 @@ void frmMain::buildTabs(QWidget* webBrowser) {
 
 QWidget* frmMain::buildMenuTab() {
     m_panel = new ItemPanel(m_document, m_services);
-    connect(m_panel, &ItemPanel::changed, this, &frmMain::Button_Update);
     // On a small screen the panel scrolls instead of forcing the window to its own height.
     auto* panelArea = new QScrollArea;
     panelArea->setWidget(m_panel);
@@ -113,8 +117,7 @@ QWidget* frmMain::buildMenuTab() {
 }
 
 void frmMain::buildDialogs() {
-    const DialogHost host{m_document, m_services.messages, m_services.dialogs,
-                          [this] { Button_Update(); }};
+    const DialogHost host{m_document, m_services.messages, m_services.dialogs};
     m_defaultForm = new frmDefaultProp(host, this);
     auto* advanced = new frmAdvProp(host, nullptr);
     m_menuForm = new frmMenuProp(host, *m_defaultForm, *advanced, this);
@@ -135,32 +138,12 @@ void frmMain::StoreItem() {
         return;
     // A label edited in the tree stands for the item as it was stored, perhaps with another type.
     m_panel->labelSelectedNode();
+    const QScopedValueRollback storing(m_isStoring, true);
     m_panel->StoreItem(m_document.CurNode());
-}
-
-void frmMain::ShowItem() {
-    if (m_document.CurNode() != nullptr) {
-        m_panel->ShowItem(m_document.CurNode());
-        m_panel->labelSelectedNode();
-    } else {
-        m_panel->ClearItemPanel();
-    }
-    TreeView->showSelection();
 }
 
 void frmMain::showScript(const std::string& script) {
     txtJavaScript->showScript(script);
-}
-
-void frmMain::showCaption() {
-    QString caption = kProgramName;
-    if (!m_document.SaveFile().empty())
-        caption += " (" + QString::fromStdString(m_document.SaveFile()) + ")";
-    setWindowTitle(caption);
-}
-
-void frmMain::LoadDefaultDialog() {
-    m_defaultForm->LoadDefaultDialog();
 }
 
 void frmMain::Button_Update() {
@@ -176,7 +159,8 @@ void frmMain::mnuFileExit_Click() {
 }
 
 void frmMain::mnuEditDefault_Click() {
-    LoadDefaultDialog();
+    // What was typed and cancelled is still in its boxes.
+    m_defaultForm->LoadDefaultDialog();
     m_defaultForm->exec();
 }
 
@@ -187,37 +171,24 @@ void frmMain::mnuEditMenuProperties_Click() {
 
 void frmMain::mnuEditAddMenuItem_Click() {
     StoreItem();
-    if (edit(addMenuItem) != EditResult::Done)
-        return;
-    ShowItem();
-    Button_Update();
+    edit(addMenuItem);
 }
 
 void frmMain::mnuEditAddSubmenuItem_Click() {
-    const bool makesCurrent = m_document.selectedNode() == nullptr;
-    if (makesCurrent)
+    // With a selection the panel goes on showing the same item, and keeps what is typed there.
+    if (m_document.selectedNode() == nullptr)
         StoreItem();
-    if (edit(addSubmenuItem) != EditResult::Done)
-        return;
-    if (makesCurrent)
-        ShowItem();
-    Button_Update();
+    edit(addSubmenuItem);
 }
+
+// Delete, Move Up and Move Down bring the commands up to date also when there is nothing to do:
+// that greys the Save which a save has left usable. Move Left and Move Right do not.
 
 void frmMain::mnuEditDelete_Click() {
-    if (edit(deleteItem) == EditResult::Done)
-        ShowItem();
+    edit(deleteItem);
+    // An item that was shown without being selected has not had its label until now.
+    m_panel->labelSelectedNode();
     Button_Update();
-}
-
-void frmMain::mnuEditMoveLeft_Click() {
-    if (edit(moveLeft) == EditResult::Done)
-        Button_Update();
-}
-
-void frmMain::mnuEditMoveRight_Click() {
-    if (edit(moveRight) == EditResult::Done)
-        Button_Update();
 }
 
 void frmMain::mnuEditMoveUp_Click() {
@@ -269,13 +240,11 @@ void frmMain::MenuTab_Click() {
 }
 
 void frmMain::TreeView_NodeClick(const MenuNode* node) {
-    const bool wasModified = m_document.bModified();
     StoreItem();
     m_document.select(node);
+    // Nothing is announced of a node that was current already, perhaps without being selected.
     m_panel->ShowItem(node);
     m_panel->labelSelectedNode();
-    if (!wasModified)
-        m_document.markSaved();
     Button_Update();
 }
 
@@ -315,21 +284,20 @@ void frmMain::leaveField() {
     leaveFocusedEdit(*this);
 }
 
-/// Runs a tree editing command and shows the tree that it leaves.
-EditResult frmMain::edit(EditResult (*command)(MenuDocument&)) {
+/// Runs a tree editing command; what it changes the document announces.
+void frmMain::edit(EditResult (*command)(MenuDocument&)) {
     const EditResult result = command(m_document);
-    if (result == EditResult::CounterExhausted) {
-        std::string notice =
-            "The menu has used all its " + std::to_string(kMaxItemCounter) + " item numbers.";
-        // An opened menu has used one number an item.
-        if (m_document.tree().size() < std::size_t(kMaxItemCounter))
-            notice += " Save it and open it again to add more items.";
-        m_services.messages.notice(notice);
-    }
-    if (result != EditResult::Done)
-        return result;
-    TreeView->showSelection();
-    return result;
+    // Ctrl with an arrow key may have left the selected row.
+    if (result == EditResult::Done)
+        TreeView->showSelection();
+    if (result != EditResult::CounterExhausted)
+        return;
+    std::string notice =
+        "The menu has used all its " + std::to_string(kMaxItemCounter) + " item numbers.";
+    // An opened menu has used one number an item.
+    if (m_document.tree().size() < std::size_t(kMaxItemCounter))
+        notice += " Save it and open it again to add more items.";
+    m_services.messages.notice(notice);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -340,6 +308,48 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::openAddress(const std::string& address) {
     OpenURL(address, m_document.programFolder(), m_services);
+}
+
+void frmMain::contentReplaced() {
+    selectedNodeChanged();
+    currentNodeChanged();
+    m_defaultForm->LoadDefaultDialog();
+    showScript(GenerateScript(m_document.content()));
+}
+
+void frmMain::itemChanged(const MenuNode& node) {
+    if (&node == m_document.CurNode() && !m_isStoring)
+        m_panel->ShowItem(&node);
+}
+
+void frmMain::menuChanged(const MenuPropOwner& owner) {
+    if (owner.kind == MenuPropOwner::Kind::Defaults)
+        m_defaultForm->LoadDefaultDialog();
+}
+
+void frmMain::currentNodeChanged() {
+    if (const MenuNode* node = m_document.CurNode())
+        m_panel->ShowItem(node);
+    else
+        m_panel->ClearItemPanel();
+    Button_Update();
+}
+
+void frmMain::selectedNodeChanged() {
+    TreeView->showSelection();
+}
+
+void frmMain::fileChanged() {
+    QString caption = kProgramName;
+    if (!m_document.SaveFile().empty())
+        caption += " (" + QString::fromStdString(m_document.SaveFile()) + ")";
+    setWindowTitle(caption);
+}
+
+// Save stays usable after a save, until another command.
+void frmMain::modifiedChanged() {
+    if (m_document.bModified())
+        Button_Update();
 }
 
 }  // namespace zev

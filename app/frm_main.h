@@ -22,12 +22,13 @@ class ScriptView;
 class frmDefaultProp;
 class frmMenuProp;
 
-/// The editor's main window. It builds and connects; what the commands do is decided elsewhere.
+/// The editor's main window. It builds and connects; what the commands do is decided elsewhere, and
+/// what they did to the document it is told by the document.
 ///
 /// Every menu entry, toolbar button and shortcut runs through `run`, which first leaves the field
 /// that is being edited, and at the end brings the tab that is shown up to date. The handlers
 /// themselves can be called at any time.
-class frmMain : public QMainWindow, public EditorView {
+class frmMain : public QMainWindow, public EditorView, private DocumentObserver {
     Q_OBJECT
   public:
     /// `programFolder`: the folder that holds the run-time files. `webBrowser`: the widget behind
@@ -37,34 +38,28 @@ class frmMain : public QMainWindow, public EditorView {
     ~frmMain() override;
 
     MenuDocument& document() { return m_document; }
-    FileCommands& fileCommands() { return m_fileCommands; }
 
     /// Opens the definition file at `path` (full path), as File > Open does with a chosen file.
     void openDefinition(const std::string& path);
 
     void validateFields() override;
     void StoreItem() override;
-    void ShowItem() override;
     void showScript(const std::string& script) override;
-    void showCaption() override;
-    void LoadDefaultDialog() override;
     void Button_Update() override;
 
     void mnuFileNew_Click() { m_fileCommands.mnuFileNew_Click(); }
     void mnuFileOpen_Click() { m_fileCommands.mnuFileOpen_Click(); }
     void mnuFileSave_Click() { m_fileCommands.mnuFileSave_Click(); }
     void mnuFileSaveAs_Click() { m_fileCommands.mnuFileSaveAs_Click(); }
-    void mnuFileImportQuillmenu_Click() { m_importCommands.mnuFileImportQuillmenu_Click(); }
-    void mnuFileImportOrletBar_Click() { m_importCommands.mnuFileImportOrletBar_Click(); }
-    void mnuFileImportOrletMenu_Click() { m_importCommands.mnuFileImportOrletMenu_Click(); }
-    void mnuFileImportOrletButton_Click() { m_importCommands.mnuFileImportOrletButton_Click(); }
+    /// The entry of File > Import of this format.
+    void importMenu(const ImportFormat& format) { m_importCommands.run(format); }
     void mnuFileExit_Click();
     void mnuEditDefault_Click();
     void mnuEditMenuProperties_Click();
     void mnuEditAddMenuItem_Click();
     void mnuEditAddSubmenuItem_Click();
-    void mnuEditMoveLeft_Click();
-    void mnuEditMoveRight_Click();
+    void mnuEditMoveLeft_Click() { edit(moveLeft); }
+    void mnuEditMoveRight_Click() { edit(moveRight); }
     void mnuEditMoveUp_Click();
     void mnuEditMoveDown_Click();
     void mnuEditDelete_Click();
@@ -92,8 +87,19 @@ class frmMain : public QMainWindow, public EditorView {
     void followDocument();
     void guard(const std::function<void()>& work);
     void leaveField();
-    EditResult edit(EditResult (*command)(MenuDocument&));
+    void edit(EditResult (*command)(MenuDocument&));
     void openAddress(const std::string& address);
+
+    void inserted() override { Button_Update(); }
+    void removed() override { Button_Update(); }
+    void moved() override { Button_Update(); }
+    void contentReplaced() override;
+    void itemChanged(const MenuNode& node) override;
+    void menuChanged(const MenuPropOwner& owner) override;
+    void currentNodeChanged() override;
+    void selectedNodeChanged() override;
+    void fileChanged() override;
+    void modifiedChanged() override;
 
     MenuDocument m_document;
     EditorServices m_services;
@@ -101,6 +107,8 @@ class frmMain : public QMainWindow, public EditorView {
     ImportCommands m_importCommands;
     CommandActions m_commands{*this};
     bool m_isEnding = false;
+    /// What is typed in the panel stays as it is, with its cursor, while it is stored.
+    bool m_isStoring = false;
 
     QTabWidget* MenuTab = nullptr;
     ItemPanel* m_panel = nullptr;

@@ -1,6 +1,7 @@
 #include "app/import_commands.h"
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "messages/import_messages.h"
@@ -33,22 +34,6 @@ ImportCommands::ImportCommands(MenuDocument& document, FileCommands& fileCommand
                                MessageBox& messages)
     : m_document(document), m_fileCommands(fileCommands), m_messages(messages) {}
 
-void ImportCommands::mnuFileImportQuillmenu_Click() {
-    run(*findImportFormat("quillmenu"));
-}
-
-void ImportCommands::mnuFileImportOrletBar_Click() {
-    run(*findImportFormat("orletbar"));
-}
-
-void ImportCommands::mnuFileImportOrletMenu_Click() {
-    run(*findImportFormat("orletmenu"));
-}
-
-void ImportCommands::mnuFileImportOrletButton_Click() {
-    run(*findImportFormat("orletbutton"));
-}
-
 /// A cancelled dialog leaves the new document, as a file does that cannot be read.
 void ImportCommands::run(const ImportFormat& format) {
     // Where the person works; the new document does not know it any more.
@@ -56,18 +41,14 @@ void ImportCommands::run(const ImportFormat& format) {
     if (!m_fileCommands.mnuFileNew_Click())
         return;
     const std::string path = m_fileCommands.chooseFile(format.fileFilter, folder);
-    if (!path.empty())
-        importFile(format, path);
-}
-
-void ImportCommands::importFile(const ImportFormat& format, const std::string& path) {
+    if (path.empty())
+        return;
     const FileResult<std::string> content = m_fileCommands.readTextFile(path);
     if (!content.isOk())
         return;
     MenuContent imported;
     const ImportResult result = importMenu(format, content.value(), imported);
     m_document.open(std::move(imported));
-    m_fileCommands.showDocument();
 
     MessageRequest notice;
     notice.text = "Finished importing " + path + ". " + std::to_string(result.warnings.size()) +

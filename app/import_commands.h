@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "app/file_commands.h"
 #include "importers/import_menu.h"
 #include "model/menu_document.h"
@@ -17,14 +15,8 @@ class ImportCommands {
     ImportCommands(MenuDocument& document, FileCommands& fileCommands, MessageBox& messages);
 
     void run(const ImportFormat& format);
-    void mnuFileImportQuillmenu_Click();
-    void mnuFileImportOrletBar_Click();
-    void mnuFileImportOrletMenu_Click();
-    void mnuFileImportOrletButton_Click();
 
   private:
-    void importFile(const ImportFormat& format, const std::string& path);
-
     MenuDocument& m_document;
     FileCommands& m_fileCommands;
     MessageBox& m_messages;

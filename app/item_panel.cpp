@@ -246,7 +246,6 @@ void ItemPanel::fieldChanged(const PropertyEdit& edit) {
     if (&edit == &labelSource())
         labelSelectedNode();
     m_document.markModified();
-    emit changed();
 }
 
 void ItemPanel::optNormal_Click() {

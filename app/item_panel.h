@@ -43,10 +43,6 @@ class ItemPanel : public QWidget {
     /// Takes a label that was edited in the tree into the field it stands for.
     void TreeView_AfterLabelEdit(const QString& label);
 
-  signals:
-    /// A field was changed by the person; `bModified` is set already.
-    void changed();
-
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;

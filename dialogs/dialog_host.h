@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "model/menu_document.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
@@ -14,7 +12,6 @@ struct DialogHost {
     MenuDocument& document;
     MessageBox& messages;
     CommonDialogs& dialogs;
-    std::function<void()> Button_Update;  ///< the window brings its commands up to date
 };
 
 }  // namespace zev

@@ -60,7 +60,6 @@ void frmDefaultProp::cmdOK_Click() {
     if (!cdFont.name.empty())
         storePreviewFont(prop);
     m_host.document.setMenu({MenuPropOwner::Kind::Defaults}, std::move(prop));
-    m_host.Button_Update();
     accept();
 }
 

@@ -119,7 +119,6 @@ void frmMenuProp::cmdOK_Click() {
         if (bFontSet)
             storePreviewFont(menu);
         m_host.document.setMenu(*edited, std::move(menu));
-        m_host.Button_Update();
     }
     accept();
 }

@@ -13,10 +13,10 @@ namespace zev {
 /// An earlier product whose menus can be read, and all that the editor and the command line say of
 /// it.
 struct ImportFormat {
-    std::string_view name;       ///< on the command line
-    std::string_view title;      ///< for people
-    std::string_view menuEntry;  ///< the object name of the editor's command
-    const char* fileFilter;      ///< of the dialog that asks for the file
+    std::string_view name;   ///< on the command line
+    const char* title;       ///< for people
+    const char* menuEntry;   ///< the object name of the editor's command
+    const char* fileFilter;  ///< of the dialog that asks for the file
     /// Reads the lines into the content of a new menu; returns the warnings.
     std::vector<LineWarning> (*read)(DefinitionLines& lines, MenuContent& content);
 };

@@ -188,8 +188,9 @@ void MenuDocument::open(MenuContent content, std::string SaveFile, std::string S
     setFile(std::move(SaveFile), std::move(SavePath));
     auto opened = std::make_unique<MenuContent>(std::move(content));
     const MenuNode* const first = opened->tree.firstNode();
-    apply(ReplaceContent{std::move(opened), {first, first}});
     markSaved();
+    // Last, so that whoever is told of it finds all else as it stays.
+    apply(ReplaceContent{std::move(opened), {first, first}});
 }
 
 void MenuDocument::open(MenuContent content) {

@@ -12,6 +12,7 @@
 #include "model/tree_editing.h"
 #include "platform/fake/fake_file_system.h"
 #include "platform/fake/fake_services.h"
+#include "script/script_writer.h"
 #include "tests/support/document_steps.h"
 
 namespace zev {
@@ -21,9 +22,12 @@ inline void failQtTest(const std::string& problem) {
 }
 
 /// A window without widgets: a panel of two fields, and what the person would see elsewhere.
-class PlainView : public EditorView {
+class PlainView : public EditorView, private DocumentObserver {
   public:
-    explicit PlainView(MenuDocument& document) : m_document(document) {}
+    explicit PlainView(MenuDocument& document) : m_document(document) {
+        m_document.addObserver(*this);
+    }
+    ~PlainView() override { m_document.removeObserver(*this); }
 
     std::string panelCaption;
     std::string panelURL;
@@ -45,17 +49,31 @@ class PlainView : public EditorView {
             item->URL = panelURL;
         }
     }
-    void ShowItem() override {
+    void showScript(const std::string& text) override { script = text; }
+    void Button_Update() override { isSaveEnabled = m_document.bModified(); }
+
+  private:
+    void contentReplaced() override {
+        currentNodeChanged();
+        script = GenerateScript(m_document.content());
+        shownDefaults = m_document.DefaultProp();
+        Button_Update();
+    }
+    void currentNodeChanged() override {
         const MenuNode* node = m_document.CurNode();
         panelCaption = node != nullptr ? node->item.Caption : "";
         panelURL = node != nullptr ? node->item.URL : "";
     }
-    void showScript(const std::string& text) override { script = text; }
-    void showCaption() override { shownFile = m_document.SaveFile(); }
-    void LoadDefaultDialog() override { shownDefaults = m_document.DefaultProp(); }
-    void Button_Update() override { isSaveEnabled = m_document.bModified(); }
+    void itemChanged(const MenuNode& node) override {
+        if (&node == m_document.CurNode())
+            currentNodeChanged();
+    }
+    void fileChanged() override { shownFile = m_document.SaveFile(); }
+    void modifiedChanged() override {
+        if (m_document.bModified())
+            Button_Update();
+    }
 
-  private:
     MenuDocument& m_document;
 };
 
@@ -75,10 +93,8 @@ struct Desk {
     void addItem(const std::string& caption, const std::string& url = "") {
         view.StoreItem();
         addMenuItem(document);
-        view.ShowItem();
         view.panelCaption = caption;
         view.panelURL = url;
-        view.Button_Update();
     }
 
     /// Saves the document as `path`; nothing is recalculated.

@@ -10,9 +10,9 @@ namespace zev {
 /// A product whose menus the editor imports, and a file of it. All these files hold one menu:
 /// "Home", and "Products" with "Boats" below it.
 struct ImportedProduct {
-    const char* name;   ///< the entry's caption
-    const char* entry;  ///< the entry's name
-    void (ImportCommands::*click)();
+    const char* name;    ///< the entry's caption
+    const char* entry;   ///< the entry's name
+    const char* format;  ///< its name
     const char* filter;
     std::string file;
     const char* columns;  ///< of the imported top menu
@@ -27,7 +27,7 @@ inline const std::vector<ImportedProduct>& ImportedProducts() {
     static const std::string kLines =
         ":Home|home.html|~\r\n:Products|products.html\r\n::Boats|boats.html\r\n";
     static const std::vector<ImportedProduct> kProducts = {
-        {"Quillmenu", "mnuFileImportQuillmenu", &ImportCommands::mnuFileImportQuillmenu_Click,
+        {"Quillmenu", "mnuFileImportQuillmenu", "quillmenu",
          "All Files (*.*)|*.*|JavaScript (*.js)|*.js",
          "qlm_state.nbgcolor = '#112233';\r\n"
          "qlmenu1 = new mainMenu('horizontal');\r\n"
@@ -36,12 +36,10 @@ inline const std::vector<ImportedProduct>& ImportedProducts() {
          "qlmenu1 = new subMenu('2');\r\n"
          "qlmenu1.addItems('Boats','boats.html','');\r\n",
          "20"},
-        {"OrletBar", "mnuFileImportOrletBar", &ImportCommands::mnuFileImportOrletBar_Click, kText,
-         kLines, "10"},
-        {"OrletMenu", "mnuFileImportOrletMenu", &ImportCommands::mnuFileImportOrletMenu_Click,
-         kText, kLines, "1"},
-        {"OrletButton", "mnuFileImportOrletButton", &ImportCommands::mnuFileImportOrletButton_Click,
-         kText, ":Home|~|home.html|~\r\n:Products|~|products.html\r\n::Boats|boats.html\r\n", "10"},
+        {"OrletBar", "mnuFileImportOrletBar", "orletbar", kText, kLines, "10"},
+        {"OrletMenu", "mnuFileImportOrletMenu", "orletmenu", kText, kLines, "1"},
+        {"OrletButton", "mnuFileImportOrletButton", "orletbutton", kText,
+         ":Home|~|home.html|~\r\n:Products|~|products.html\r\n::Boats|boats.html\r\n", "10"},
     };
     return kProducts;
 }

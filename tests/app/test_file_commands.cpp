@@ -64,7 +64,7 @@ void test_file_commands::resetShowsAnEmptyMenu() {
     Desk desk;
     desk.addItem("Home");
     desk.view.script = "old";
-    desk.view.shownFile = "/old.js";
+    desk.document.setFile("/old.js", "/");
     desk.commands.reset();
     QVERIFY(desk.isNewDocument());
     QCOMPARE(desk.view.script, std::string());

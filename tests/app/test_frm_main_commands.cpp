@@ -126,9 +126,49 @@ class test_frm_main_commands : public QObject {
         QVERIFY(!desk.document().bModified());
         QVERIFY(!desk.action("mnuFileSave").isEnabled());
         desk.document().select(desk.document().tree().nextSibling(*desk.document().CurNode()));
-        desk.window.ShowItem();
         QCOMPARE(desk.shownPanel(), "rollover||u|t|o|i");
         QVERIFY(!desk.document().bModified());
+    }
+
+    void theViewsFollowTheDocument() {
+        WindowDesk desk;
+        const MenuNode* a = desk.add("a");
+        desk.click(a);
+        test::editItem(desk.document(), *a)->URL = "new.html";
+        QCOMPARE(desk.field("txtURL").text(), "new.html");
+        desk.document().setFile("/site/menu.js", "/site");
+        QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator (/site/menu.js)");
+        test::editMenu(desk.document(), test::kDefaults)->Spacing = "17";
+        const auto* defaults = desk.window.findChild<QDialog*>("frmDefaultProp");
+        QCOMPARE(defaults->findChild<QLineEdit*>("txtSpacing")->text(), "17");
+        desk.document().select(nullptr);
+        QCOMPARE(desk.shownTree(), "a\n");
+        QCOMPARE(desk.shownPanel(), "normal|||||");
+        QVERIFY(!desk.action("mnuEditDelete").isEnabled());
+        desk.document().select(a);
+        QCOMPARE(desk.shownTree(), "*a\n");
+        QCOMPARE(desk.shownPanel(), "normal|a|new.html|||");
+        QVERIFY(desk.action("mnuEditDelete").isEnabled());
+    }
+
+    void anotherItemThatChangesLeavesThePanelAlone() {
+        WindowDesk desk;
+        const MenuNode* a = desk.add("a");
+        desk.add("b");
+        desk.type("txtURL", "typed.html");
+        test::editItem(desk.document(), *a)->URL = "new.html";
+        QCOMPARE(desk.field("txtURL").text(), "typed.html");
+    }
+
+    void savingLeavesTheCursorInTheFieldThatIsTypedIn() {
+        WindowDesk desk;
+        desk.add("a");
+        desk.saveAs("/site/menu.js");
+        desk.type("txtURL", "page.html");
+        desk.field("txtURL").setCursorPosition(4);
+        desk.choose("mnuFileSave");
+        QCOMPARE(desk.document().CurNode()->item.URL, "page.html");
+        QCOMPARE(desk.field("txtURL").cursorPosition(), 4);
     }
 
     void openingWhileAnotherMenuIsShownCarriesNothingOver() {

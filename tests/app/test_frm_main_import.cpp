@@ -82,7 +82,6 @@ class test_frm_main_import : public QObject {
         WindowDesk desk;
         desk.disk.addFile("/old/menu", imported.file);
         desk.document().setFile("/site/before.js", desk.document().SavePath());
-        desk.window.showCaption();
         desk.dialogs.expectOpenFile("/old/menu");
         desk.messages.expect("Finished importing /old/menu. 0 warnings encountered.");
         choose(desk, imported, byKeys);

@@ -22,7 +22,7 @@ struct ImportDesk : Desk {
     /// by the caller.
     void import(const ImportedProduct& product, const std::string& path) {
         dialogs.expectOpenFile(path);
-        (imports.*product.click)();
+        imports.run(*findImportFormat(product.format));
     }
     /// Imports `bytes` as a file of OrletBar, and gives the closing message.
     MessageRequest closingMessageFor(const std::string& bytes) {
@@ -159,7 +159,7 @@ void test_import_commands::aChangedMenuIsAskedAbout() {
     if (!chosen.isEmpty())
         desk.messages.expect(closingText("/old/menu", 0));
 
-    (desk.imports.*ImportedProducts()[product].click)();
+    desk.imports.run(*findImportFormat(ImportedProducts()[product].format));
     desk.dialogs.verify();
     desk.messages.verify();
     QCOMPARE(desk.countDialogs(Kind::OpenFile), std::size_t(goesOn ? 1 : 0));

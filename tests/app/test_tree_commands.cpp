@@ -139,7 +139,6 @@ class test_tree_commands : public QObject {
         const MenuNode* first = desk.add("First");
         desk.type("txtURL", "first.html");
         desk.document().apply(SetSelection{{nullptr, desk.document().CurNode()}});
-        desk.tree().showSelection();
         desk.window.mnuEditAddSubmenuItem_Click();
         QCOMPARE(desk.shownTree(), "First\nItem 1\n");
         QCOMPARE(desk.document().selectedNode(), nullptr);
@@ -445,7 +444,6 @@ class test_tree_commands : public QObject {
             full.tree.append(nullptr, std::to_string(i), "x");
         full.ItemCounter = kMaxItemCounter;
         desk.document().open(std::move(full));
-        desk.window.Button_Update();
         desk.messages.expect(notice.toStdString());
         desk.choose("mnuEditAddSubmenuItem");
         QCOMPARE(desk.document().tree().size(), std::size_t(items));
@@ -494,8 +492,6 @@ void test_tree_commands::itemsAreAddedAtTheEndOfAWideMenu() {
     for (int i = 0; i < 20000; ++i)
         wide.tree.append(nullptr, "k" + std::to_string(i), "Item of a wide menu");
     desk.document().open(std::move(wide));
-    desk.window.ShowItem();
-    desk.window.Button_Update();
     desk.choose("mnuEditAddMenuItem");
     QCOMPARE(desk.document().tree().size(), std::size_t(20001));
     QCOMPARE(desk.document().CurNode(), desk.document().tree().topLevel().back());

@@ -201,7 +201,6 @@ class test_tree_events : public QObject {
         const MenuNode* a = desk.add("a");
         desk.tree().setFocus();
         test::editItem(desk.document(), *a)->Caption = caption.toStdString();
-        desk.window.ShowItem();
         desk.forgetChanges();
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
             desk.doubleClick(a);
@@ -222,7 +221,6 @@ class test_tree_events : public QObject {
         const MenuNode* a = desk.add("a");
         const QString caption(50'000, 'x');
         test::editItem(desk.document(), *a)->Caption = caption.toStdString();
-        desk.window.ShowItem();
         desk.doubleClick(a);
         QTest::keyClick(desk.labelEditor(), Qt::Key_End);
         WindowDesk::pressKeys(*desk.labelEditor(), "y");

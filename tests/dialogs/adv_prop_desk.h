@@ -40,7 +40,7 @@ struct AdvDesk : DialogDesk {
     AdvDesk() { open(); }
     /// With another message box than the one that answers from a script.
     explicit AdvDesk(MessageBox& other) {
-        dialog = std::make_unique<frmAdvProp>(DialogHost{document, other, dialogs, [] {}}, &window);
+        dialog = std::make_unique<frmAdvProp>(DialogHost{document, other, dialogs}, &window);
         open();
     }
 

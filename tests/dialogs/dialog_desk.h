@@ -22,7 +22,7 @@ inline void failDialogTest(const std::string& problem) {
 
 /// A document with the items "a" (current), its child "a1", and "b", and services that answer from
 /// a script; and hands for the dialogs over it.
-struct DialogDesk {
+struct DialogDesk : private DocumentObserver {
     DialogDesk() {
         document.NewDocument();
         addMenuItem(document);
@@ -34,11 +34,10 @@ struct DialogDesk {
         b = document.CurNode();
         document.select(a);
         document.markSaved();
+        document.addObserver(*this);
     }
 
-    DialogHost host() {
-        return {document, messages, dialogs, [this] { ++updates; }};
-    }
+    DialogHost host() { return {document, messages, dialogs}; }
     /// Shows the dialog and waits until it has the focus.
     static void show(QWidget& dialog) {
         dialog.show();
@@ -82,10 +81,17 @@ struct DialogDesk {
     MenuDocument document{"/program"};
     FakeMessageBox messages{failDialogTest};
     FakeCommonDialogs dialogs{failDialogTest};
-    int updates = 0;  ///< calls of `Button_Update`
+    int updates = 0;           ///< how often the window was told to update its commands
+    bool wasModified = false;  ///< the document then
     const MenuNode* a = nullptr;
     const MenuNode* a1 = nullptr;
     const MenuNode* b = nullptr;
+
+  private:
+    void modifiedChanged() override {
+        ++updates;
+        wasModified = document.bModified();
+    }
 };
 
 }  // namespace zev

@@ -96,14 +96,8 @@ class test_frm_default_prop : public QObject {
 
     void theWindowIsBroughtUpToDateWhenTheDocumentIsMarked() {
         DefaultsDesk desk;
-        bool wasModified = false;
-        frmDefaultProp dialog({desk.document, desk.messages, desk.dialogs,
-                               [&] { wasModified = desk.document.bModified(); }});
-        dialog.LoadDefaultDialog();
-        Form form(dialog);
-        form.show();
-        form.click("cmdOK");
-        QVERIFY(wasModified);
+        desk.form.click("cmdOK");
+        QVERIFY(desk.wasModified);
     }
 
     void enterInAnyFieldIsOK_data() {

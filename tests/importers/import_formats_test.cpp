@@ -14,7 +14,8 @@ TEST(ImportFormats, HaveNamesOfTheirOwnByWhichTheyAreFound) {
     for (const ImportFormat& format : importFormats()) {
         SCOPED_TRACE(format.name);
         EXPECT_EQ(findImportFormat(format.name), &format);
-        for (const std::string_view name : {format.name, format.title, format.menuEntry})
+        for (const std::string_view name :
+             {format.name, std::string_view(format.title), std::string_view(format.menuEntry)})
             EXPECT_TRUE(names.insert(name).second) << name;
     }
     EXPECT_EQ(findImportFormat(""), nullptr);
