@@ -57,11 +57,6 @@ class HtmlAttributeReader {
     std::size_t m_position;
 };
 
-/// Finds the first attribute of this name, in whatever case; false when there is none. `position`
-/// as for the reader.
-bool findHtmlAttribute(std::string_view tag, std::size_t position, std::string_view name,
-                       HtmlAttribute& attribute);
-
 // Every tag of a page goes through the states below: they are here so that the compiler can make
 // one function of them and of whoever reads.
 

@@ -17,12 +17,11 @@ constexpr unsigned kGreaterThan = 0x008;
 constexpr unsigned kLessThan = 0x010;
 constexpr unsigned kDoubleQuote = 0x020;
 constexpr unsigned kSingleQuote = 0x040;
-constexpr unsigned kLetter = 0x080;
-constexpr unsigned kUpperCase = 0x100;
+constexpr unsigned kUpperCase = 0x080;
 /// After "<", begins a start tag, a comment or the like, whatever follows.
-constexpr unsigned kMarkupStart = 0x200;
+constexpr unsigned kMarkupStart = 0x100;
 /// Begins the name of an element whose content is no markup.
-constexpr unsigned kRawInitial = 0x400;
+constexpr unsigned kRawInitial = 0x200;
 }  // namespace html_character
 
 inline constexpr std::array<std::uint16_t, 256> kHtmlCharacters = [] {
@@ -41,8 +40,8 @@ inline constexpr std::array<std::uint16_t, 256> kHtmlCharacters = [] {
     add("<", kLessThan);
     add("\"", kDoubleQuote);
     add("'", kSingleQuote);
-    add("abcdefghijklmnopqrstuvwxyz", kLetter | kMarkupStart);
-    add("ABCDEFGHIJKLMNOPQRSTUVWXYZ", kLetter | kMarkupStart | kUpperCase);
+    add("abcdefghijklmnopqrstuvwxyz", kMarkupStart);
+    add("ABCDEFGHIJKLMNOPQRSTUVWXYZ", kMarkupStart | kUpperCase);
     add("!?", kMarkupStart);
     add("inpstxINPSTX", kRawInitial);
     return table;

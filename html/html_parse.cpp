@@ -12,6 +12,19 @@ namespace zev {
 
 namespace {
 
+/// Finds the first attribute of this name, in whatever case; false when there is none. `nameEnd`
+/// is where the tag's name ends.
+bool findHtmlAttribute(std::string_view tag, std::size_t nameEnd, std::string_view name,
+                       HtmlAttribute& attribute) {
+    ServerBlocks blocks(tag);
+    HtmlAttributeReader reader(tag, blocks, nameEnd);
+    while (reader.next(attribute))
+        if (equalsIgnoringCase(
+                tag.substr(attribute.nameBegin, attribute.nameEnd - attribute.nameBegin), name))
+            return true;
+    return false;
+}
+
 /// The value as it can stand between such quotes. Quotes in blocks of server-side code stay: they
 /// are the code's, not the value's.
 std::string quoted(std::string_view value, char quote) {

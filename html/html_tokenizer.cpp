@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "html/html_attributes.h"
 #include "html/html_characters.h"
 #include "text/ascii.h"
 
@@ -30,7 +29,8 @@ HtmlTokenizer::HtmlTokenizer(std::string_view page)
 
 /// The content of an element that holds no markup, or what comes after it when there is none.
 void HtmlTokenizer::rawTextState(HtmlToken& token) {
-    const std::size_t end = endOfRawText(m_position);
+    const std::size_t end =
+        m_rawElement == kPlaintext ? m_page.size() : endOfRawText(m_position, m_rawElement);
     m_rawElement = {};
     if (end > m_position)
         takeText(token, end);
@@ -44,15 +44,18 @@ void HtmlTokenizer::noTagState(HtmlToken& token) {
     token.name = "!";
     token.hasUpperCase = false;
     token.text = {};
+    const std::size_t blockEnd = m_blocks.endOf(m_position);
+    if (blockEnd != m_position) {
+        // The text of a block stays empty: nobody is to look into it.
+        takeMarkup(token, blockEnd - 1);
+        return;
+    }
     switch (m_page[m_position + 1]) {
         case '!':
             markupDeclarationOpenState(token);
             break;
         case '?':
             processingInstructionState(token);
-            break;
-        case '%':
-            serverBlockState(token, m_blocks.endOf(m_position) - 1);
             break;
         default:  // "</" before something else than a name
             bogusCommentState(token, m_position + 2);
@@ -62,7 +65,7 @@ void HtmlTokenizer::noTagState(HtmlToken& token) {
 /// The content of an element that holds no markup: a script's goes with its start tag.
 void HtmlTokenizer::afterStartTagState(HtmlToken& token) {
     if (equalsIgnoringCase(token.name, kScript)) {
-        const std::size_t scriptEnd = scriptDataState(m_position);
+        const std::size_t scriptEnd = endOfRawText(m_position, kScript);
         token.text = slice(m_position, scriptEnd);
         token.source = slice(token.offset, scriptEnd);
         m_position = scriptEnd;
@@ -76,11 +79,8 @@ void HtmlTokenizer::afterStartTagState(HtmlToken& token) {
 }
 
 void HtmlTokenizer::markupDeclarationOpenState(HtmlToken& token) {
-    const std::size_t blockEnd = m_blocks.endOf(m_position);
     const std::size_t content = m_position + 2;
-    if (blockEnd != m_position) {
-        serverBlockState(token, blockEnd - 1);
-    } else if (m_page.substr(content).starts_with("--")) {
+    if (m_page.substr(content).starts_with("--")) {
         commentStartState(token);
     } else {
         bogusCommentState(token, content);
@@ -103,18 +103,12 @@ void HtmlTokenizer::commentStartState(HtmlToken& token) {
 }
 
 void HtmlTokenizer::processingInstructionState(HtmlToken& token) {
-    const std::size_t content = m_position + 2;
-    const std::size_t blockEnd = m_blocks.endOf(m_position);
-    if (blockEnd != m_position) {
-        serverBlockState(token, blockEnd - 1);
-        return;
-    }
     // The last block of a page may lack its end. Only what can hardly be anything else is taken for
     // one: all the rest of the page is in it.
-    const std::string_view start = m_page.substr(content, 3);
+    const std::string_view start = m_page.substr(m_position + 2, 3);
     if (equalsIgnoringCase(start, "php") || start.starts_with('=') ||
         (!start.empty() && isHtmlSpace(start.front())))
-        serverBlockState(token, m_page.size());
+        takeMarkup(token, m_page.size());
     else
         bogusCommentState(token, m_position + 1);
 }
@@ -126,29 +120,14 @@ void HtmlTokenizer::bogusCommentState(HtmlToken& token, std::size_t textBegin) {
     takeMarkup(token, end);
 }
 
-/// Its text stays empty: nobody is to look into it.
-void HtmlTokenizer::serverBlockState(HtmlToken& token, std::size_t insideEnd) {
-    takeMarkup(token, insideEnd);
-}
-
-std::size_t HtmlTokenizer::endOfRawText(std::size_t position) {
-    if (m_rawElement == kPlaintext)
-        return m_page.size();
+/// The content of an element ends at its end tag; a script's escaped parts have rules of their own.
+std::size_t HtmlTokenizer::endOfRawText(std::size_t position, std::string_view element) {
     std::size_t lessThan = find('<', position);
-    while (lessThan < m_page.size() && !isEndTagOf(lessThan, m_rawElement)) {
-        const std::size_t blockEnd = m_blocks.endOf(lessThan);
-        lessThan = find('<', blockEnd == lessThan ? lessThan + 1 : blockEnd);
-    }
-    return lessThan;
-}
-
-std::size_t HtmlTokenizer::scriptDataState(std::size_t position) {
-    std::size_t lessThan = find('<', position);
-    while (lessThan < m_page.size() && !isEndTagOf(lessThan, kScript)) {
+    while (lessThan < m_page.size() && !isEndTagOf(lessThan, element)) {
         const std::size_t blockEnd = m_blocks.endOf(lessThan);
         if (blockEnd != lessThan)
             position = blockEnd;
-        else if (m_page.substr(lessThan, 4) == "<!--")
+        else if (element == kScript && m_page.substr(lessThan, 4) == "<!--")
             position = scriptDataEscapedState(lessThan + 2);
         else
             position = lessThan + 1;

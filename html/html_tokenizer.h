@@ -35,16 +35,13 @@ class HtmlTokenizer {
     void commentStartState(HtmlToken& token);
     void processingInstructionState(HtmlToken& token);
     void bogusCommentState(HtmlToken& token, std::size_t textBegin);
-    void serverBlockState(HtmlToken& token, std::size_t insideEnd);
 
     // These look from an offset on and give the offset where what they name ends.
-    std::size_t endOfRawText(std::size_t position);
-    std::size_t scriptDataState(std::size_t position);
+    std::size_t endOfRawText(std::size_t position, std::string_view element);
     std::size_t scriptDataEscapedState(std::size_t position);
 
     std::size_t attributesEnd(std::size_t position);
     bool isMarkup(std::size_t position);
-    bool isLetter(std::size_t position) const;
     static bool mayHaveRawContent(std::string_view name);
     bool isTagOf(std::size_t nameBegin, std::string_view element) const;
     bool isEndTagOf(std::size_t lessThan, std::string_view element) const;
@@ -91,7 +88,7 @@ inline void HtmlTokenizer::dataState(HtmlToken& token) {
 inline void HtmlTokenizer::tagOpenState(HtmlToken& token) {
     const bool isEndTag = m_page[m_position + 1] == '/';
     const std::size_t nameBegin = m_position + (isEndTag ? 2 : 1);
-    if (isLetter(nameBegin)) {
+    if (nameBegin < m_page.size() && isAsciiLetter(m_page[nameBegin])) {
         token.kind = isEndTag ? HtmlToken::Kind::EndTag : HtmlToken::Kind::StartTag;
         tagNameState(token, nameBegin);
     } else {
@@ -138,10 +135,6 @@ inline bool HtmlTokenizer::isMarkup(std::size_t position) {
     if ((htmlCharacter(m_page[next]) & html_character::kMarkupStart) != 0)
         return true;
     return m_page[next] == '/' ? next + 1 < m_page.size() : m_blocks.endOf(position) != position;
-}
-
-inline bool HtmlTokenizer::isLetter(std::size_t position) const {
-    return position < m_page.size() && isAsciiLetter(m_page[position]);
 }
 
 /// Rules most elements out by what is quickly looked at.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "html/html_characters.h"
 #include "text/ascii.h"
 
 namespace zev {
@@ -55,21 +54,15 @@ std::size_t ServerBlocks::endOfComment(std::size_t lessThan) {
         pairComments(lessThan);
         m_arePaired = true;
     }
-    const std::size_t end = endOfPaired(lessThan);
-    return end == kNone ? lessThan : end;
-}
-
-/// The end of the comment that begins at this offset; npos without one.
-std::size_t ServerBlocks::endOfPaired(std::size_t begin) {
     // Whoever reads a page asks in its order: then it is the comment asked for last or the next.
     for (int i = 0; i < 2 && m_nextComment < m_comments.size(); ++i, ++m_nextComment)
-        if (m_comments[m_nextComment].begin == begin)
+        if (m_comments[m_nextComment].begin == lessThan)
             return m_comments[m_nextComment].end;
     const auto found = std::lower_bound(
-        m_comments.begin(), m_comments.end(), begin,
+        m_comments.begin(), m_comments.end(), lessThan,
         [](const Comment& comment, std::size_t offset) { return comment.begin < offset; });
     m_nextComment = static_cast<std::size_t>(found - m_comments.begin());
-    return found != m_comments.end() && found->begin == begin ? found->end : kNone;
+    return found != m_comments.end() && found->begin == lessThan ? found->end : lessThan;
 }
 
 /// Pairs every "<!---" from offset `first` on with its "--->".
@@ -90,7 +83,7 @@ void ServerBlocks::pairComments(std::size_t first) {
         if (isOpening && !isClosing) {
             open.push_back(isThree ? m_comments.size() : kNone);
             if (isThree)
-                m_comments.push_back({dashes - 2, kNone});
+                m_comments.push_back({dashes - 2, dashes - 2});
         } else if (isClosing && !isOpening && !open.empty() && (isThree || open.back() == kNone)) {
             if (open.back() != kNone)
                 m_comments[open.back()].end = end + 1;

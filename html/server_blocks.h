@@ -38,7 +38,7 @@ class ServerBlocks {
     }
 
   private:
-    /// A "<!---" and the offset after its "--->", npos without one.
+    /// A "<!---" and the offset after its "--->", or its own without one.
     struct Comment {
         std::size_t begin;
         std::size_t end;
@@ -53,7 +53,6 @@ class ServerBlocks {
     std::size_t endOfQuestion(std::size_t lessThan);
     std::size_t endOfPercent(std::size_t lessThan);
     std::size_t endOfComment(std::size_t lessThan);
-    std::size_t endOfPaired(std::size_t begin);
     std::size_t after(EndMark& mark, std::size_t from) const;
     void pairComments(std::size_t first);
 

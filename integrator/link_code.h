@@ -20,12 +20,12 @@ struct PopupPlacement {
 };
 
 /// Reference to the definition file. `definitionURL` goes into the code as it is.
-std::string definitionReference(std::string_view definitionURL);
+std::string definitionReference(const std::string& definitionURL);
 
 /// Code of a horizontal or vertical menu: the reference and the call that draws the menu in place.
-std::string menuCode(std::string_view definitionURL);
+std::string menuCode(const std::string& definitionURL);
 
 /// Hyperlink that opens, and beside the mouse also closes, the submenu of this id.
-std::string popupLinkCode(std::string_view submenuId, const PopupPlacement& placement);
+std::string popupLinkCode(const std::string& submenuId, const PopupPlacement& placement);
 
 }  // namespace zev

@@ -89,12 +89,10 @@ void PageIntegrator::integratePage(const std::string& path) {
         return;
     }
     appendLine("Processing " + path);
-    if (const std::optional<PageError> error = IntegrateFile(path)) {
+    if (const std::optional<PageError> error = IntegrateFile(path))
         reportError(path, *error);
-        m_hasFailed = true;
-        return;
-    }
-    WriteFileReport();
+    else
+        WriteFileReport();
     if (!m_status.bSuccess)
         m_hasFailed = true;
 }

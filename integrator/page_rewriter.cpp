@@ -50,9 +50,7 @@ bool addHandler(HtmlParse& parser, std::string_view event) {
     const std::string_view old = parser.Attribute(event);
     if (contains(old, "ZEVLoadMenu()"))
         return false;
-    std::string handler(kHandlerCall);
-    handler += old;
-    parser.SetAttribute(event, handler);
+    parser.SetAttribute(event, joined({kHandlerCall, old}));
     return true;
 }
 

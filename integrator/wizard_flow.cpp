@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "script/relative_url.h"
-#include "text/ascii.h"
 #include "text/path.h"
 #include "text/pattern.h"
 

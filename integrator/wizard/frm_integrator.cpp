@@ -15,13 +15,13 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <initializer_list>
 
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
 #include "messages/integration_messages.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
-#include "text/path.h"
 
 namespace zev {
 
@@ -103,8 +103,6 @@ frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringLi
 }
 
 void frmIntegrator::Initialize() {
-    cboIntegration->setCurrentIndex(0);
-    cboMenuList->clear();
     cboIntegration_Click();
     setRunning(false);
     updateFrames();
@@ -134,22 +132,14 @@ void frmIntegrator::updateFrames() {
     btnNext->setAccessibleName(btnNext->text().remove(u'&'));
 }
 
-bool frmIntegrator::isPopup() const {
-    return cboIntegration->currentIndex() == kPopupKind;
-}
-
 WizardAnswers frmIntegrator::answers() const {
     return {chkBackup->isChecked(),
             m_chkKeepScripts->isChecked(),
             txtPath->text().toStdString(),
             txtMenuDef->text().toStdString(),
-            isPopup(),
+            cboIntegration->currentIndex() == kPopupKind,
             cboMenuList->currentData().toString().toStdString(),
             {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()}};
-}
-
-void frmIntegrator::showNotice(WizardNotice notice) {
-    m_services.messages.notice(noticeText(notice));
 }
 
 void frmIntegrator::btnNext_Click() {
@@ -157,7 +147,7 @@ void frmIntegrator::btnNext_Click() {
     const NextOutcome outcome = m_flow.NextStep(answers());
     showReport();
     if (outcome.notice)
-        showNotice(*outcome.notice);
+        m_services.messages.notice(noticeText(*outcome.notice));
     switch (outcome.action) {
         case NextOutcome::Action::ShowStep:
             if (m_flow.step() == WizardFlow::kLastStep)
@@ -267,14 +257,14 @@ void frmIntegrator::showHints() {
 }
 
 void frmIntegrator::cboIntegration_Click() {
-    if (const std::optional<WizardNotice> notice = m_flow.checkKind(answers())) {
+    const WizardAnswers given = answers();
+    if (const std::optional<WizardNotice> notice = m_flow.checkKind(given)) {
         cboIntegration->setCurrentIndex(0);
-        showNotice(*notice);
+        m_services.messages.notice(noticeText(*notice));
         return;
     }
-    for (QWidget* control : {static_cast<QWidget*>(cboMenuList), static_cast<QWidget*>(optMouse),
-                             static_cast<QWidget*>(optXY)})
-        control->setEnabled(isPopup());
+    for (QWidget* control : std::initializer_list<QWidget*>{cboMenuList, optMouse, optXY})
+        control->setEnabled(given.isPopup);
     optXY_Change();
 }
 
@@ -321,10 +311,10 @@ void frmIntegrator::ShowResultMessage() {
                  "containing <head></head> and <body></body> tags"));
     txtCode->setPlainText(QString::fromStdString(m_flow.code()));
     txtLinkCode->setPlainText(QString::fromStdString(m_flow.linkCode()));
-    for (QWidget* widget : {static_cast<QWidget*>(txtCode), static_cast<QWidget*>(m_btnCopyCode)})
+    for (QWidget* widget : std::initializer_list<QWidget*>{txtCode, m_btnCopyCode})
         widget->setVisible(hasSucceeded);
-    for (QWidget* widget : {static_cast<QWidget*>(lblLinkCode), static_cast<QWidget*>(txtLinkCode),
-                            static_cast<QWidget*>(m_btnCopyLinkCode)})
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{lblLinkCode, txtLinkCode, m_btnCopyLinkCode})
         widget->setVisible(hasSucceeded && !m_flow.linkCode().empty());
 }
 

@@ -76,7 +76,6 @@ class frmIntegrator : public QDialog {
                             void (frmIntegrator::*click)());
 
     WizardAnswers answers() const;
-    void showNotice(WizardNotice notice);
     void countScripts();
     void showScriptCount();
     void showHints();
@@ -85,7 +84,6 @@ class frmIntegrator : public QDialog {
     void showReport();
     void setRunning(bool isRunning);
     void updateFrames();
-    bool isPopup() const;
 
     IntegratorServices m_services;
     WizardFlow m_flow;
