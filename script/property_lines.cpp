@@ -72,21 +72,21 @@ const MenuProp& setWithoutLine(LineRule rule, const MenuProp& defaults) {
 template <std::size_t kRow, LineRule kRule>
 void appendLine(std::string& text, std::string_view object, const MenuProp& prop,
                 const MenuProp& defaults) {
-    constexpr const MenuPropertyRow& row = kMenuProperties[kRow];
-    constexpr const auto& kind = std::get<row.member.index()>(row.member);
+    constexpr const MenuPropertyRow& kProperty = kMenuProperties[kRow];
+    constexpr const auto& kKind = std::get<kProperty.member.index()>(kProperty.member);
     if constexpr (kRule != LineRule::Never) {
-        if (prop.*kind.member == setWithoutLine(kRule, defaults).*kind.member)
+        if (prop.*kKind.member == setWithoutLine(kRule, defaults).*kKind.member)
             return;
-        const std::string_view value = textOf(kind, prop);
+        const std::string_view value = textOf(kKind, prop);
         if (value.empty() && kRule != LineRule::UnlessStarting)
             return;
         text += object;
-        text += row.name;
-        text += row.form == LineForm::Number ? " = " : " = '";
+        text += kProperty.name;
+        text += kProperty.form == LineForm::Number ? " = " : " = '";
         text += value;
-        text += row.form == LineForm::Number   ? ";\r\n"
-                : row.form == LineForm::Points ? "pt';\r\n"
-                                               : "';\r\n";
+        text += kProperty.form == LineForm::Number   ? ";\r\n"
+                : kProperty.form == LineForm::Points ? "pt';\r\n"
+                                                     : "';\r\n";
     }
 }
 
@@ -97,9 +97,9 @@ void appendDefaults(std::string& text, const MenuProp& prop, std::index_sequence
 
 template <std::size_t kRow>
 void appendMenuLine(std::string& text, const MenuProp& prop, const MenuProp& defaults) {
-    constexpr const MenuPropertyRow& row = kMenuProperties[kRow];
-    if (row.special != Special::Font || prop.FontSet)
-        appendLine<kRow, row.inMenu>(text, "zevmenu.", prop, defaults);
+    constexpr const MenuPropertyRow& kProperty = kMenuProperties[kRow];
+    if (kProperty.special != Special::Font || prop.FontSet)
+        appendLine<kRow, kProperty.inMenu>(text, "zevmenu.", prop, defaults);
 }
 
 template <std::size_t... kRow>
