@@ -8,19 +8,16 @@
 #include <filesystem>
 #include <system_error>
 
+#include "text/path.h"
+
 namespace zev {
 
 namespace {
 
 void splitPath(WriteTarget& target) {
-    const std::size_t separator = target.path.rfind('/');
-    if (separator == std::string::npos) {
-        target.folder = ".";
-        target.name = target.path;
-        return;
-    }
-    target.folder = target.path.substr(0, separator == 0 ? 1 : separator);
-    target.name = target.path.substr(separator + 1);
+    const Path path = Path::onThisSystem(target.path);
+    target.name = path.name();
+    target.folder = path.folder().empty() ? "." : path.folder();
 }
 
 /// Links in the proc file system, /proc/self/fd/1 for example, lead to an open file. Their text
