@@ -286,10 +286,15 @@ void frmMain::leaveField() {
 
 /// Runs a tree editing command; what it changes the document announces.
 void frmMain::edit(EditResult (*command)(MenuDocument&)) {
-    const EditResult result = command(m_document);
-    // Ctrl with an arrow key may have left the selected row.
-    if (result == EditResult::Done)
+    const EditResult result = [&] {
+        const QScopedValueRollback editing(m_isEditing, true);
+        return command(m_document);
+    }();
+    // Also where the selection stays: Ctrl with an arrow key may have left the selected row.
+    if (result == EditResult::Done) {
         TreeView->showSelection();
+        Button_Update();
+    }
     if (result != EditResult::CounterExhausted)
         return;
     std::string notice =
@@ -332,11 +337,17 @@ void frmMain::currentNodeChanged() {
         m_panel->ShowItem(node);
     else
         m_panel->ClearItemPanel();
-    Button_Update();
+    followChange();
 }
 
 void frmMain::selectedNodeChanged() {
-    TreeView->showSelection();
+    if (!m_isEditing)
+        TreeView->showSelection();
+}
+
+void frmMain::followChange() {
+    if (!m_isEditing)
+        Button_Update();
 }
 
 void frmMain::fileChanged() {
@@ -349,7 +360,7 @@ void frmMain::fileChanged() {
 // Save stays usable after a save, until another command.
 void frmMain::modifiedChanged() {
     if (m_document.bModified())
-        Button_Update();
+        followChange();
 }
 
 }  // namespace zev

@@ -88,11 +88,12 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void guard(const std::function<void()>& work);
     void leaveField();
     void edit(EditResult (*command)(MenuDocument&));
+    void followChange();
     void openAddress(const std::string& address);
 
-    void inserted() override { Button_Update(); }
-    void removed() override { Button_Update(); }
-    void moved() override { Button_Update(); }
+    void inserted() override { followChange(); }
+    void removed() override { followChange(); }
+    void moved() override { followChange(); }
     void contentReplaced() override;
     void itemChanged(const MenuNode& node) override;
     void menuChanged(const MenuPropOwner& owner) override;
@@ -109,6 +110,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     bool m_isEnding = false;
     /// What is typed in the panel stays as it is, with its cursor, while it is stored.
     bool m_isStoring = false;
+    /// A tree command is made of several changes; commands and selection follow the last one.
+    bool m_isEditing = false;
 
     QTabWidget* MenuTab = nullptr;
     ItemPanel* m_panel = nullptr;
