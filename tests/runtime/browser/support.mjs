@@ -5,11 +5,12 @@ import { createServer } from 'node:http';
 import { join } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { inflateSync } from 'node:zlib';
+import { library } from '../library.mjs';
 import { engine, startBrowser } from './support_engines.mjs';
 
 export { engine };
 
-export const libraryFolder = fileURLToPath(new URL('../../../runtime/', import.meta.url));
+export const libraryFolder = fileURLToPath(library);
 export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.meta.url));
 
 const types = { html: 'text/html', xhtml: 'application/xhtml+xml', js: 'text/javascript', svg: 'image/svg+xml' };
@@ -19,8 +20,8 @@ const folders = { runtime: libraryFolder, samples: samplesFolder };
 const patienceMs = 20000;
 
 /*
- * Starts the browser and the server. Paths of the server: /runtime/ and /samples/ are the folders of
- * the repository, everything else comes from `files` (path -> text, a function that gives it or a promise of
+ * Starts the browser and the server. Paths of the server: /runtime/ is the folder of the built
+ * library, /samples/ that of the repository, everything else comes from `files` (path -> text, a function that gives it or a promise of
  * it, or { text, headers, delayMs });
  * any other .html answers with an empty page, as a place for links to lead to. The options are
  * startBrowser()'s.

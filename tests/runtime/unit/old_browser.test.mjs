@@ -4,9 +4,10 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import test from 'node:test';
 import vm from 'node:vm';
+import { library } from '../library.mjs';
 
 function sourceOf(name) {
-    return readFileSync(new URL('../../../runtime/' + name, import.meta.url), 'utf8');
+    return readFileSync(new URL(name, library), 'utf8');
 }
 
 // What JavaScript 1.2 lacks of the third edition of ECMAScript, which is the oldest acorn knows.

@@ -3,8 +3,9 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import test from 'node:test';
 import vm from 'node:vm';
+import { library } from '../library.mjs';
 
-const source = readFileSync(new URL('../../../runtime/zevmenu_dom.js', import.meta.url), 'utf8');
+const source = readFileSync(new URL('zevmenu_dom.js', library), 'utf8');
 
 function loadSums() {
     const window = { ZEVMenu: { shared: { state: {} } }, addEventListener() {} };

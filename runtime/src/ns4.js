@@ -5,7 +5,6 @@
  * language is JavaScript 1.2. These browsers do not tell a script its own address, so links are
  * those of the definition file as they stand.
  */
-(function () {
 
 var shared = ZEVMenu.shared, menus = shared.state.menus, isWritten = false;
 
@@ -48,5 +47,3 @@ shared.writeLinks = function () {
         document.write(listOf(top));
     }
 };
-
-})();

@@ -1,0 +1,98 @@
+// ---- Page: elements, styles, events ----
+
+function submenuOf(link) {
+    const menu = state.menus[link.zevSubmenu];
+    return menu?.zevItems.some(Boolean) ? menu : null;
+}
+
+function around(element, property) {
+    while (element && !element[property]) element = element.parentNode;
+    return element;
+}
+
+function linkAt(element) {
+    return around(element, 'zevSubmenu');
+}
+
+function boxAt(element) {
+    return around(element, 'zevMenu');
+}
+
+function linksOf(box) {
+    return Array.from(box.children, line => line.firstChild);
+}
+
+function depthAt(element) {
+    return depthOf(boxAt(element));
+}
+
+function isRtlAt(element) {
+    return getComputedStyle(element).direction == 'rtl';
+}
+
+function isOpen(link) {
+    return link.getAttribute('aria-expanded') == 'true';
+}
+
+// An attribute of null is taken away.
+function mark(element, attributes) {
+    Object.keys(attributes).forEach(name => {
+        if (attributes[name] == null) element.removeAttribute(name);
+        else element.setAttribute(name, attributes[name]);
+    });
+}
+
+function promote(box, role) {
+    const isRow = box.className != 'list', isBar = role == 'menubar';
+    mark(box, { role });
+    if (isRow != isBar) mark(box, { 'aria-orientation': isRow ? 'horizontal' : 'vertical' });
+    linksOf(box).forEach((link, index) => {
+        mark(link.parentNode, { role: 'none' });
+        mark(link, { role: 'menuitem', tabindex: isBar && !index ? 0 : -1 });
+        if (submenuOf(link)) mark(link, { 'aria-haspopup': true, 'aria-expanded': false });
+    });
+}
+
+function itemOf(menu) {
+    const [, parentId, position] = /^(?:(.*)i)?(.*)/.exec(menu.zevId);
+    return state.menus[parentId || '0']?.zevItems[position - 1];
+}
+
+function boxOf(menu) {
+    if (!menu.zevBox) {
+        const box = menu.zevBox = shared.buildBox(menu), item = itemOf(menu);
+        box.hidden = true;
+        if (item) mark(box, { 'aria-label': shared.nameOf(menu, item) });
+        promote(box, 'menu');
+    }
+    return menu.zevBox;
+}
+
+function ensureBox(menu) {
+    const box = boxOf(menu);
+    if (!state.layer) {
+        state.layer = shared.createHost('layer');
+        attend(state.layer, true);
+    }
+    if (!state.layer.isConnected) document.body.appendChild(state.layer);
+    if (!box.isConnected) state.layer.shadowRoot.appendChild(box);
+    return box;
+}
+
+function buildAhead(box) {
+    // Until the page has loaded, its scripts may add to the definition.
+    if (!box || document.readyState != 'complete') return;
+    const isRunning = state.ahead.length;
+    state.ahead = linksOf(box).map(submenuOf)
+        .filter(menu => menu && !menu.zevBox && !state.ahead.includes(menu) &&
+                menu.zevItems.length <= fixed.itemsAhead)
+        .slice(0, fixed.menusAhead).concat(state.ahead);
+    if (!isRunning) buildWhenIdle();
+}
+
+function buildWhenIdle() {
+    if (state.ahead.length) state.building = (window.requestIdleCallback || setTimeout)(() => {
+        boxOf(state.ahead.shift());
+        buildWhenIdle();
+    });
+}

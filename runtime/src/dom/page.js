@@ -1,0 +1,79 @@
+// ---- What is added, and taken away again ----
+
+function listen(target, isOn, listeners, isCapturing) {
+    const change = isOn ? 'addEventListener' : 'removeEventListener';
+    Object.keys(listeners).forEach(type => target[change](type, listeners[type], isCapturing));
+}
+
+// The page, while a submenu is open.
+function watch(isOn) {
+    listen(document, isOn, { keydown: onEscape, pointerdown: onOutside }, true);
+    listen(window, isOn, { scroll: placeAll }, true);
+    listen(window, isOn, { resize: placeAll });
+}
+
+// The top menu, or the layer of the submenus.
+function attend(host, isOn) {
+    listen(host.shadowRoot, isOn, { scroll: placeAll }, true);
+    listen(host.shadowRoot, isOn, {
+        pointerover: onPointerOver, pointermove: onPointerMove, pointerdown: onPress,
+        click: onClick, keydown: onKeyDown, focusin: onFocusIn
+    });
+    listen(host, isOn, { pointerleave: onPointerLeave });
+}
+
+shared.serve = function (isOn) {
+    listen(document, isOn, {
+        pointerdown: onPress, click: onPageClick, keydown: onPageKey, DOMContentLoaded: finish
+    });
+    listen(window, isOn, { load: onLoad });
+};
+
+shared.adoptBar = function () {
+    attend(state.bar, true);
+    promote(state.barBox, 'menubar');
+    if (!state.bar.closest('nav,[role=navigation]')) mark(state.bar, { role: 'navigation' });
+    // The mouse may have been there first.
+    const link = state.barBox.querySelector('li:hover>a');
+    if (link) openSubmenu(link);
+    buildAhead(state.barBox);
+};
+
+function finish() {
+    openEarly();
+    document.querySelectorAll(popupLinks).forEach(adopt);
+    Object.keys(state.menus).forEach(id => {
+        if (id == '0' || itemOf(state.menus[id])) return;
+        warn(`menu ${id} has no item to open from`);
+    });
+}
+
+function onLoad() {
+    buildAhead(state.barBox);
+}
+
+shared.refresh = function () {
+    if (document.readyState != 'loading') finish();
+    placeAll();
+};
+
+shared.stop = function () {
+    const { bar, barBox, layer } = state;
+    closeFrom(0);
+    dropCrossing();
+    (window.cancelIdleCallback || clearTimeout)(state.building);
+    shared.serve(false);
+    if (barBox) attend(bar, false);
+    if (layer) {
+        attend(layer, false);
+        layer.remove();
+    }
+    document.querySelectorAll('[aria-haspopup]').forEach(release);
+};
+
+if (!state.isRemoved) {
+    shared.serve(true);
+    if (document.readyState != 'loading') finish();
+    if (state.barBox) shared.adoptBar();
+    openEarly();
+}

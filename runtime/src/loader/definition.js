@@ -1,0 +1,63 @@
+// ---- Definition ----
+
+function submenuId(menu, position) {
+    return (menu.zevId == '0' ? '' : menu.zevId + 'i') + position;
+}
+
+function ZEVMenu(id) {
+    var script = document.currentScript;
+    this.zevId = asText(id) || '';
+    this.zevItems = [];         // null where a mistaken item keeps its number
+    this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';
+    if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(this.zevId)) {
+        warn('"' + this.zevId + '" is not a menu id');
+    } else if (state.menus[this.zevId]) {
+        warn('menu ' + this.zevId + ' is defined twice; the first is used');
+    } else {
+        state.menus[this.zevId] = this;
+        // ZEVDisplayMenu may have been called first.
+        if (state.bar && this.zevId == '0') state.drawing = setTimeout(drawTop, 0);
+        if (state.isRemoved && shared.serve) shared.serve(true);
+        state.isRemoved = false;
+    }
+}
+
+function addItem(menu, isGood, item) {
+    var position = menu.zevItems.length + 1;
+    if (!isGood) warn('item ' + position + ' of menu ' + menu.zevId + ' is mistaken');
+    menu.zevItems[position - 1] = isGood ? item : null;
+}
+
+ZEVMenu.prototype.AddItem = function (caption, url, target) {
+    caption = asText(caption);
+    addItem(this, caption != null,
+        { caption: caption, url: asText(url) || '', target: asText(target) || '' });
+};
+
+ZEVMenu.prototype.AddRollover = function (url, imageOut, imageOver, target) {
+    var out = asText(imageOut), over = asText(imageOver) || out;
+    addItem(this, out,
+        { url: asText(url) || '', imageOut: out, imageOver: over, target: asText(target) || '' });
+};
+
+var noMenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
+function warnOfItem() {
+    warn('an item stands before any menu');
+}
+
+// URL() throws at some hosts, which follow two slashes.
+function resolve(menu, url) {
+    url = url.replace(/^[\x00- ]+|[\x00-\x1f]/g, '');
+    return !menu.zevFile || url == '' || /^([#?]|[\\\/][\\\/]|[a-z][a-z0-9+.\-]*:)/i.test(url) ? url
+        : new URL(url, menu.zevFile).href;
+}
+
+// "pages/our_team.html" is "our team".
+function nameFromFiles(item) {
+    return nameFromFile(item.url) || nameFromFile(item.imageOut);
+}
+
+function nameFromFile(url) {
+    return url.replace(/^javascript:.*|[?].*$/i, '').replace(/^.*#(.)/, '$1').replace(/[#\/]+$/, '')
+        .replace(/^.*\//, '').replace(/\.[a-z0-9]+$/i, '').replace(/(%20|[_+\-])+/g, ' ');
+}

@@ -1,0 +1,93 @@
+// ---- A menu's box and its items ----
+
+// Read in another document: as HTML in an XML page too, and before anything is fetched.
+var workshop;
+function parse(menu, html) {
+    var text = html.replace(/&nbsp;/g, '\xa0'), names = ['src', 'href'], linked, i, k, value;
+    if (!/[<&]/.test(text)) return document.createTextNode(text);
+    if (!workshop) workshop = document.implementation.createHTMLDocument('').createElement('template');
+    workshop.innerHTML = html;
+    for (k = 0; k < 2; k++) {
+        linked = workshop.content.querySelectorAll('[' + names[k] + ']');
+        for (i = 0; i < linked.length; i++) {
+            value = linked[i].getAttribute(names[k]);
+            linked[i].setAttribute(names[k], resolve(menu, value));
+        }
+    }
+    return document.importNode(workshop.content, true);
+}
+
+function wordsOf(node) {
+    var words = node.nodeType == 3 ? node.data : node.alt || '', child;
+    for (child = node.firstChild; child; child = child.nextSibling) words += wordsOf(child);
+    return words;
+}
+
+function nameOf(menu, item) {
+    return item.imageOut ? nameFromFiles(item) : wordsOf(parse(menu, item.caption));
+}
+
+function addPicture(link, className, url) {
+    var picture = append(link, 'img', className);
+    picture.alt = link.zevName;
+    picture.src = url;
+}
+
+function addItemTo(box, menu, position, settings) {
+    var item = menu.zevItems[position - 1], before = settings.htmlBefore, after = settings.htmlAfter;
+    var link = append(append(box, 'li'), 'a', item.imageOut && 'rollover');
+    // A script runs in this page; the menu's frame is for its pages.
+    var target = item.target || (/^ *javascript:/i.test(item.url) ? '' : settings.target);
+    link.zevSubmenu = submenuId(menu, position);
+    if (item.url) link.setAttribute('href', resolve(menu, item.url));
+    if (item.url && target) link.setAttribute('target', target);
+    if (item.imageOut) {
+        link.zevName = nameFromFiles(item);
+        addPicture(link, 'out', resolve(menu, item.imageOut));
+        addPicture(link, 'over', resolve(menu, item.imageOver));
+    } else {
+        link.appendChild(parse(menu, item.caption));
+        link.zevName = wordsOf(link);
+        // What stands around the caption is no part of the name.
+        if (before || after) link.setAttribute('aria-label', link.zevName);
+        link.insertBefore(parse(menu, before), link.firstChild);
+        link.appendChild(parse(menu, after));
+    }
+}
+
+function addDivider(line, menu, html) {
+    var divider = append(line, 'span', 'divider');
+    divider.setAttribute('aria-hidden', 'true');
+    divider.appendChild(parse(menu, html));
+}
+
+function styleBox(box, menu, settings) {
+    var style = box.style, image = settings.bgimage, name, row;
+    for (name in properties) {
+        row = properties[name];
+        if (row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
+    }
+    if (image) style.backgroundImage = 'url("' + resolve(menu, image).replace(/["\\]/g, '\\$&') + '")';
+    if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + settings.columns + ',auto)';
+}
+
+function buildBox(menu) {
+    var box = document.createElement('ul'), settings = {}, count = 0, name, i;
+    for (name in properties) settings[name] = setting(menu, name);
+    var columns = settings.columns, hasDivider = settings.hspacing && !/^(&nbsp;)?$/.test(settings.divider);
+    for (i = 1; i <= menu.zevItems.length; i++) {
+        if (menu.zevItems[i - 1]) {
+            if (hasDivider && count && (columns == 1 || count % columns)) {
+                addDivider(box.lastChild, menu, settings.divider);
+            }
+            addItemTo(box, menu, i, settings);
+            count++;
+        }
+    }
+    box.className = columns == 1 ? 'list' : columns >= count ? 'bar' : 'grid';
+    styleBox(box, menu, settings);
+    // A divider fills the space itself.
+    if (hasDivider) box.style[columns == 1 ? 'rowGap' : 'columnGap'] = 0;
+    box.zevMenu = menu;
+    return box;
+}

@@ -1,0 +1,58 @@
+var styleText = [
+    // Inline boxes do not take part in the page's underlining.
+    ':host{all:initial!important;display:block!important;width:fit-content!important;',
+    'max-width:100%!important;line-height:0!important}',
+    ':host([data-zev=layer]){position:absolute!important;left:0!important;top:0!important;',
+    'width:100px!important;max-width:none!important;z-index:2147483647!important}',
+    'ul{display:inline-flex;vertical-align:top;line-height:normal;box-sizing:border-box;margin:0;padding:0;width:max-content;max-width:100%;',
+    'gap:var(--zev-space);box-shadow:3px 3px 6px var(--zev-shadow)}',
+    'ul.list,ul.list>li{flex-direction:column}',
+    'ul.bar{flex-wrap:wrap}',
+    'ul.grid{display:inline-grid}',
+    'ul[role=menu]{position:absolute;overscroll-behavior:contain}',
+    'ul[hidden]{display:none}',
+    'li{display:flex;min-width:0}',
+    'a{box-sizing:border-box;flex:auto;min-width:0;overflow-wrap:break-word;cursor:pointer;',
+    'padding:var(--zev-padding);border:var(--zev-border);background:var(--zev-nbg);',
+    'color:var(--zev-nft);text-decoration:none}',
+    'a:is(:hover,:focus,[aria-expanded=true]){background:var(--zev-hbg);color:var(--zev-hft)}',
+    'a:focus-visible{outline:2px solid;outline-offset:-2px}',
+    // Both pictures share one cell, so that nothing moves.
+    'a.rollover{display:grid;justify-content:start}',
+    'a.rollover>img{grid-area:1/1}',
+    'img.over,a:is(:hover,:focus,[aria-expanded=true])>img.out{visibility:hidden}',
+    'a:is(:hover,:focus,[aria-expanded=true])>img.over{visibility:visible}',
+    'span.divider{flex:none;min-width:var(--zev-space);min-height:var(--zev-space);',
+    'text-align:center;align-self:center;color:var(--zev-nft)}',
+    'ul.list>li>span.divider{align-self:stretch}',
+    '@media(forced-colors:active){a:is(:hover,[aria-expanded=true]){outline:2px solid;',
+    'outline-offset:-2px}}',
+    '@media print{ul[role=menu]{display:none}}'
+].join('');
+
+// Firefox until 100 and Safari until 16.3 cannot construct style sheets.
+var sheet;
+function addStyle(root) {
+    if (CSSStyleSheet.prototype.replaceSync && document.adoptedStyleSheets) {
+        if (!sheet) {
+            sheet = new CSSStyleSheet();
+            sheet.replaceSync(styleText);
+        }
+        root.adoptedStyleSheets = [sheet];
+    } else {
+        append(root, 'style').textContent = styleText;
+    }
+}
+
+function append(parent, name, className) {
+    var element = document.createElement(name);
+    if (className) element.className = className;
+    return parent.appendChild(element);
+}
+
+function createHost(kind) {
+    var host = document.createElement('div');
+    host.setAttribute('data-zev', kind);
+    addStyle(host.attachShadow({ mode: 'open' }));
+    return host;
+}

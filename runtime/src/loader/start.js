@@ -1,0 +1,40 @@
+// Takes a menu definition and draws its top menu. Keeps to JavaScript 1.2 (no try, no ===), because
+// every browser ever made may meet it.
+if (window.ZEVMenu) return;
+
+// All that changes while the library is at work.
+function emptyState() {
+    return {
+        menus: {},          // by id
+        told: {},           // warnings given
+        renderer: null,     // script element
+        isRemoved: false,   // by destroy(), and no menu defined since
+        drawing: 0,         // timer of drawTop
+        bar: null,          // the page's element around the top menu
+        barBox: null,       // the top menu
+        layer: null,        // the page's element around the submenus
+        levels: [],         // open submenus, the deepest last
+        ahead: [],          // menus still to be built
+        building: 0,        // timer or idle callback of the next of them
+        earlyCall: null,    // a ZEVMenuOpen that came too early
+        actingLink: null,   // the pop-up link that a key or tap is to open
+        over: null,         // { box, link } under the mouse
+        lastPoint: null,    // { x, y } of the mouse
+        crossing: null,     // { from, timer } of a mouse on its way to a submenu
+        press: {},          // the last pointerdown on a link, until the click
+        typed: { text: '', time: 0 }    // the last letters
+    };
+}
+
+var state = emptyState();
+var shared = {
+    state: state, destroy: destroy, warn: warn, setting: setting, submenuId: submenuId,
+    createHost: createHost, buildBox: buildBox, nameOf: nameOf, nameFromFiles: nameFromFiles
+};
+
+var isModern = document.getElementById && document.documentElement.attachShadow;
+
+function warn(text) {
+    if (!state.told[text] && window.console && console.warn) console.warn('ZEVMenu: ' + text);
+    state.told[text] = true;
+}
