@@ -14,7 +14,8 @@ export const libraryFolder = fileURLToPath(library);
 export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.meta.url));
 
 const types = { html: 'text/html', xhtml: 'application/xhtml+xml', js: 'text/javascript', svg: 'image/svg+xml' };
-const folders = { runtime: libraryFolder, samples: samplesFolder };
+// The sample pages name the library's folder as seen from the checkout.
+const folders = { runtime: libraryFolder, 'build/release/bin': libraryFolder, samples: samplesFolder };
 
 // How long the tests wait for what must come; a busy machine can be slow.
 const patienceMs = 20000;
@@ -49,7 +50,7 @@ export async function startLab(options = {}) {
 
 async function answer(files, request, response) {
     const path = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
-    const [, folder, name] = /^\/(runtime|samples)\/(.*)$/.exec(path) || [];
+    const [, folder, name] = /^\/(runtime|build\/release\/bin|samples)\/(.*)$/.exec(path) || [];
     const given = files.get(path);
     const { text = typeof given == 'function' ? await given() : given, headers = {}, delayMs = 0 } = given ?? {};
     const found = path == '/listener.js' ? listenerText : text !== undefined ? text
