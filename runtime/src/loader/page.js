@@ -3,7 +3,7 @@
 function drawTop() {
     var menu = state.menus['0'];
     if (!state.bar || state.barBox || !menu || !menu.zevItems.length) return;
-    state.barBox = state.bar.shadowRoot.appendChild(buildBox(menu));
+    state.barBox = append(state.bar.shadowRoot, 'div').appendChild(buildBox(menu));
     if (shared.adoptBar) shared.adoptBar();
 }
 

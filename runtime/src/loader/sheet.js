@@ -1,8 +1,12 @@
 var styleText = [
-    // Inline boxes do not take part in the page's underlining.
-    ':host{all:initial!important;display:block!important;width:fit-content!important;',
-    'max-width:100%!important;line-height:0!important}',
-    ':host([data-zev=layer]){position:absolute!important;left:0!important;top:0!important;',
+    // Whether the menu is visible is the page's matter, so the host has to have that of the page's
+    // style; without a box of its own it can have the rest too. Inline boxes do not take part in
+    // the page's underlining.
+    ':host{display:contents!important;zoom:1!important}',
+    ':host>div{all:initial;visibility:inherit;display:block;width:fit-content;max-width:100%;',
+    'line-height:0}',
+    ':host([data-zev=layer]){all:initial!important;visibility:inherit!important;',
+    'display:block!important;line-height:0!important;position:absolute!important;left:0!important;top:0!important;',
     'width:100px!important;max-width:none!important;z-index:2147483647!important}',
     'ul{display:inline-flex;vertical-align:top;line-height:normal;box-sizing:border-box;margin:0;padding:0;width:max-content;max-width:100%;',
     'gap:var(--zev-space);box-shadow:3px 3px 6px var(--zev-shadow)}',
@@ -21,7 +25,7 @@ var styleText = [
     'a.rollover{display:grid;justify-content:start}',
     'a.rollover>img{grid-area:1/1}',
     'img.over,a:is(:hover,:focus,[aria-expanded=true])>img.out{visibility:hidden}',
-    'a:is(:hover,:focus,[aria-expanded=true])>img.over{visibility:visible}',
+    'a:is(:hover,:focus,[aria-expanded=true])>img.over{visibility:inherit}',
     'span.divider{flex:none;min-width:var(--zev-space);min-height:var(--zev-space);',
     'text-align:center;align-self:center;color:var(--zev-nft)}',
     'ul.list>li>span.divider{align-self:stretch}',
@@ -51,7 +55,8 @@ function append(parent, name, className) {
 }
 
 function createHost(kind) {
-    var host = document.createElement('div');
+    // Of a name that no style sheet of the page tells of.
+    var host = document.createElement('zev-menu');
     host.setAttribute('data-zev', kind);
     addStyle(host.attachShadow({ mode: 'open' }));
     return host;
