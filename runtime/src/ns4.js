@@ -6,7 +6,10 @@
  * those of the definition file as they stand.
  */
 
-var shared = ZEVMenu.shared, menus = shared.state.menus, isWritten = false;
+var shared = window.ZEVMenu && ZEVMenu.shared;
+// A page may load it by hand, though its browser needs none, or has it.
+if (!shared || shared.isModern || shared.writeLinks) return;
+var menus = shared.state.menus, isWritten = false;
 
 function text(value) {
     return typeof value == 'string' ? value : '';

@@ -19,7 +19,7 @@ function boxAt(element) {
 }
 
 function linksOf(box) {
-    return Array.from(box.children, line => line.firstChild);
+    return [...box.children].map(line => line.firstChild);
 }
 
 function depthAt(element) {

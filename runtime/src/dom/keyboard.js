@@ -84,7 +84,7 @@ function onKeyDown(event) {
     const links = linksOf(boxAt(link));
     // Tab goes on from where closing puts the focus. WebKit names Shift+Tab only by its code.
     if (key == 'Tab' || event.code == 'Tab') return closeFrom(0);
-    if (arrows[key]) {
+    if (/^Arrow/.test(key)) {
         onArrow(link, arrows[key]);
     } else if (key == 'Home') {
         moveTo(links[0]);

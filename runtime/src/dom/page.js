@@ -24,7 +24,8 @@ function attend(host, isOn) {
 
 shared.serve = function (isOn) {
     listen(document, isOn, {
-        pointerdown: onPress, click: onPageClick, keydown: onPageKey, DOMContentLoaded: finish
+        pointerdown: onPress, click: onPageClick, keydown: onPageKey, mouseover: onPageOver,
+        mouseout: onPageOut, focusin: onPageFocus, DOMContentLoaded: finish
     });
     listen(window, isOn, { load: onLoad });
 };
@@ -69,6 +70,7 @@ shared.stop = function () {
         layer.remove();
     }
     document.querySelectorAll('[aria-haspopup]').forEach(release);
+    Object.values(state.menus).forEach(menu => { menu.zevBox = null; });
 };
 
 if (!state.isRemoved) {
@@ -76,4 +78,5 @@ if (!state.isRemoved) {
     if (document.readyState != 'loading') finish();
     if (state.barBox) shared.adoptBar();
     openEarly();
+    answer(document.querySelector(`:is(${popupLinks}):hover`), 'onmouseover');
 }

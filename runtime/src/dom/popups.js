@@ -1,7 +1,7 @@
 // ---- Links of pop-ups ----
 
 const handlers = ['onmouseover', 'onclick', 'onfocus'];
-const popupLinks = handlers.map(name => `[${name}*="ZEVMenuOpen"]`).join();
+const popupLinks = '[data-zev-popup],' + handlers.map(name => `[${name}*="ZEVMenuOpen"]`).join();
 const anyLink = 'a,area,button,input,[tabindex],' + popupLinks;
 
 // Known by its attributes, or from its first call on.
@@ -29,7 +29,8 @@ function release(link) {
 
 shared.openPopup = function (call) {
     const { id, isEvent, x, y } = call, { levels, actingLink } = state, menu = state.menus[id];
-    if (!document.body || (document.readyState == 'loading' && !menu)) {
+    const isEarly = !menu && (document.readyState == 'loading' || state.isAwaiting);
+    if (isEarly || !shared.ofDocument('body')) {
         state.earlyCall = call;
         return;
     }
@@ -45,30 +46,70 @@ shared.openPopup = function (call) {
     // By a key, a tap or the focus the menu opens below the link.
     const isBelow = link && isEvent && (actingLink || x == null);
     openLevel(0, {
-        menu, box: ensureBox(menu), opener: link,
+        menu, box: ensureBox(menu, link), opener: link,
         point: isBelow ? null : { x: x || 0, y: y || 0 },
-        wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(document.body)) : '',
+        wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(shared.ofDocument('body'))) : '',
         offset: isBelow || !isEvent ? 0 : fixed.besideMousePx
     });
 };
+
+const handlerCall = /ZEVMenuOpen *\( *["']zev1(i\d+)?["'] *, *["']([\di]+)["'] *,(?: *(-?\d+) *, *(-?\d+))?/;
+
+// The call that a link makes without a handler, or that its handler would if a policy let it run.
+function callOf(link, name) {
+    const id = link.getAttribute('data-zev-popup'), text = link[name] ? '' : link.getAttribute(name);
+    if (id) return name != 'onfocus' && { id, link, isEvent: true };
+    const [, parent = '', rest, x, y] = handlerCall.exec(text) || [];
+    return rest && { id: (parent + 'i' + rest).slice(1), link, isEvent: !x, x, y };
+}
+
+function answer(link, name, { pageX, pageY } = {}) {
+    const call = link && callOf(link, name);
+    if (call) shared.openPopup({ ...call, x: call.x ?? pageX, y: call.y ?? pageY });
+}
+
+function onPageOver(event) {
+    answer(popupLinkAt(event), 'onmouseover', event);
+}
+
+function onPageFocus(event) {
+    answer(popupLinkAt(event), 'onfocus');
+}
+
+function onPageOut(event) {
+    const link = popupLinkAt(event), level = state.levels[0];
+    if (!link || !(link.hasAttribute('data-zev-popup') || (!link.onmouseout && /ZEVMenuClose/.test(link.getAttribute('onmouseout'))))) return;
+    state.earlyCall = null;
+    if (level?.opener == link) shared.closePopup(level.menu.zevId);
+}
 
 // By its handler, or as its listener did last.
 function openFrom(link, event) {
     const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name)));
     state.actingLink = link;
     try {
+        const call = callOf(link, name) || (link.zevPopup && { id: link.zevPopup, isEvent: true });
         if (link[name]) link[name](event);
-        else if (link.zevPopup) shared.openPopup({ id: link.zevPopup, isEvent: true });
+        else if (call) shared.openPopup(call);
     } finally {
         state.actingLink = null;
     }
     return isOpen(link);
 }
 
+// The click that follows the mouse's arrival on the button keeps open what that opened.
+function toggle(button, event) {
+    event.preventDefault();
+    if (state.levels[0]?.opener == button && state.levels[0].isClicked) return closeFrom(0);
+    if (openFrom(button, event)) state.levels[0].isClicked = true;
+}
+
 function onPageClick(event) {
     const link = popupLinkAt(event);
     if (!link) return;
     const { type, wasOpen } = takePress(), isTap = type != 'mouse' && !wasOpen;
+    if (link.matches('button[data-zev-popup],input[data-zev-popup]')) return toggle(link, event);
+    if (!link.hasAttribute('data-zev-popup')) answer(link, 'onclick', event);
     // An empty address would load the page anew.
     if (link.getAttribute('href') == '' || isTap) event.preventDefault();
     if (isTap && !isOpen(link)) openFrom(link, event);

@@ -5,18 +5,20 @@ function submenuId(menu, position) {
 }
 
 function ZEVMenu(id) {
-    var script = document.currentScript;
+    var script = ofDocument('currentScript'), menus = state.barBox ? state.next : state.menus;
     this.zevId = asText(id) || '';
     this.zevItems = [];         // null where a mistaken item keeps its number
     this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';
     if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(this.zevId)) {
         warn('"' + this.zevId + '" is not a menu id');
-    } else if (state.menus[this.zevId]) {
+    } else if (menus[this.zevId]) {
         warn('menu ' + this.zevId + ' is defined twice; the first is used');
     } else {
-        state.menus[this.zevId] = this;
-        // ZEVDisplayMenu may have been called first.
-        if (state.bar && this.zevId == '0') state.drawing = setTimeout(drawTop, 0);
+        menus[this.zevId] = this;
+        // It may belong to the menu that is drawn, or to one that will take its place.
+        if (!state.next['0'] && !state.menus[this.zevId]) state.menus[this.zevId] = this;
+        // Its place may have been named first.
+        if (this.zevId == '0' && (state.bar || markedPlace())) state.drawing = setTimeout(draw, 0);
         if (state.isRemoved && shared.serve) shared.serve(true);
         state.isRemoved = false;
     }

@@ -6,12 +6,16 @@ function parse(menu, html) {
     var text = html.replace(/&nbsp;/g, '\xa0'), names = ['src', 'href'], linked, i, k, value;
     if (!/[<&]/.test(text)) return document.createTextNode(text);
     if (!workshop) workshop = document.implementation.createHTMLDocument('').createElement('template');
-    workshop.innerHTML = html;
+    // What stays where a policy refuses HTML.
+    workshop.content.textContent = text;
+    attempt(function () {
+        workshop.innerHTML = trusted('HTML', html);
+    });
     for (k = 0; k < 2; k++) {
         linked = workshop.content.querySelectorAll('[' + names[k] + ']');
         for (i = 0; i < linked.length; i++) {
             value = linked[i].getAttribute(names[k]);
-            linked[i].setAttribute(names[k], resolve(menu, value));
+            linked[i].setAttribute(names[k], trusted('ScriptURL', resolve(menu, value)));
         }
     }
     return document.importNode(workshop.content, true);
@@ -65,7 +69,7 @@ function styleBox(box, menu, settings) {
     var style = box.style, image = settings.bgimage, name, row;
     for (name in properties) {
         row = properties[name];
-        if (row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
+        if (isOwn(properties, name) && row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
     }
     if (image) style.backgroundImage = 'url("' + resolve(menu, image).replace(/["\\]/g, '\\$&') + '")';
     if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + settings.columns + ',auto)';
@@ -73,7 +77,9 @@ function styleBox(box, menu, settings) {
 
 function buildBox(menu) {
     var box = document.createElement('ul'), settings = {}, count = 0, name, i;
-    for (name in properties) settings[name] = setting(menu, name);
+    for (name in properties) {
+        if (isOwn(properties, name)) settings[name] = setting(menu, name);
+    }
     var columns = settings.columns, hasDivider = settings.hspacing && !/^(&nbsp;)?$/.test(settings.divider);
     for (i = 1; i <= menu.zevItems.length; i++) {
         if (menu.zevItems[i - 1]) {

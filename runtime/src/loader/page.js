@@ -7,22 +7,43 @@ function drawTop() {
     if (shared.adoptBar) shared.adoptBar();
 }
 
+// The page's element that stands for a call of ZEVDisplayMenu.
+function markedPlace() {
+    return isModern && document.querySelector('[data-zevmenu]');
+}
+
+function draw() {
+    if (markedPlace() && !state.isRemoved) ZEVDisplayMenu();
+    else drawTop();
+}
+
 // A handler or the page's head names no place, and gets the start of the page.
 function placeBar() {
-    var script = document.currentScript;
-    if (script && script.parentNode && script.parentNode != document.head) {
+    var script = ofDocument('currentScript'), body = ofDocument('body'), place = markedPlace();
+    if (place) {
+        place.appendChild(state.bar);
+    } else if (script && script.parentNode && script.parentNode != ofDocument('head')) {
         script.parentNode.insertBefore(state.bar, script);
-    } else if (document.body) {
-        document.body.insertBefore(state.bar, document.body.firstChild);
+    } else if (body) {
+        body.insertBefore(state.bar, body.firstChild);
     } else {
         document.addEventListener('DOMContentLoaded', placeBar);
     }
+}
+
+// The old menu has left the page with the part that held it.
+function startAfresh() {
+    takeAway(state.next['0'] ? state.next : state.menus);
+    if (!shared.serve) return;
+    shared.serve(true);
+    shared.refresh();
 }
 
 window.ZEVDisplayMenu = function () {
     if (shared.writeLinks) {
         shared.writeLinks();
     } else if (isModern) {
+        if (state.barBox && !state.bar.isConnected) startAfresh();
         if (!state.bar) state.bar = createHost('bar');
         if (!state.bar.isConnected) placeBar();
         drawTop();
@@ -30,7 +51,7 @@ window.ZEVDisplayMenu = function () {
 };
 
 window.ZEVCreateMenu = window.ZEVLoadMenu = function () {
-    drawTop();
+    draw();
     if (shared.refresh && !state.isRemoved) shared.refresh();
 };
 
@@ -54,14 +75,22 @@ window.ZEVMenuClose = function (a, b) {
     if (shared.closePopup) shared.closePopup(popupId(a, b));
 };
 
-// Takes away what was added, but for the global names. The next definition starts again.
-function destroy() {
+function takeAway(menus) {
+    var scripts = state.scripts;
     if (shared.stop) shared.stop();
     clearTimeout(state.drawing);
     document.removeEventListener('DOMContentLoaded', placeBar);
+    document.removeEventListener('DOMContentLoaded', draw);
     if (state.bar) state.bar.remove();
-    if (state.renderer) state.renderer.remove();
     Object.assign(state, emptyState());
+    state.menus = menus;
+    state.scripts = scripts;
+}
+
+// Takes away what was added, but for the global names. The next definition starts again.
+function destroy() {
+    takeAway({});
+    while (state.scripts.length) state.scripts.pop().remove();
     state.isRemoved = true;
     window.zevmenu = noMenu;
 }
@@ -71,17 +100,36 @@ window.ZEVMenu = ZEVMenu;
 window.zev_state = window.zev_state || {};
 window.zevmenu = noMenu;
 
-var own = document.currentScript;
+var own = ofDocument('currentScript');
+var definition = own && own.getAttribute('data-definition');
 var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
 if (prefix == '' && own && own.src) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
 
-if (isModern) {
-    var renderer = state.renderer = document.createElement('script');
-    renderer.src = prefix + 'zevmenu_dom.js';
-    renderer.onerror = function () {
-        warn(renderer.src + ' did not load; submenus do not open');
+// What the page trusts this file with holds for those that it asks for.
+function load(url, loss, onLoad) {
+    var script = document.createElement('script');
+    if (own && own.nonce) script.nonce = own.nonce;
+    script.onload = onLoad;
+    script.onerror = function () {
+        warn(url + ' did not load; ' + loss);
     };
-    (document.head || document.documentElement).appendChild(renderer);
+    attempt(function () {
+        script.src = trusted('ScriptURL', url);
+        (ofDocument('head') || document.documentElement).appendChild(script);
+        state.scripts.push(script);
+    });
+}
+
+if (isModern) {
+    load(prefix + 'zevmenu_dom.js', 'submenus do not open');
+    document.addEventListener('DOMContentLoaded', draw);
+    if (definition) {
+        state.isAwaiting = true;
+        load(definition, 'there is no menu', function () {
+            state.isAwaiting = false;
+            ZEVLoadMenu();
+        });
+    }
 } else {
     document.write('<script language="JavaScript1.2" src="' + prefix +
         'zevmenu_ns4.js"><\/script>');

@@ -56,7 +56,7 @@ var properties = {
 
 // Empty means "not set", but "nothing" where it is HTML.
 function ownSetting(owner, name) {
-    var value = owner ? owner[name] : null;
+    var value = owner && isOwn(owner, name) ? owner[name] : null;
     if (value == null || (asText(value) == '' && !/^(html|divider)/.test(name))) return null;
     value = properties[name][0](value);
     if (value == null) {

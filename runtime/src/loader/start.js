@@ -1,15 +1,17 @@
 // Takes a menu definition and draws its top menu. Keeps to JavaScript 1.2 (no try, no ===), because
 // every browser ever made may meet it.
-if (window.ZEVMenu) return;
+if (typeof window.ZEVMenu == 'function') return;
 
 // All that changes while the library is at work.
 function emptyState() {
     return {
         menus: {},          // by id
+        next: {},           // those defined after the top menu was drawn, by id
         told: {},           // warnings given
-        renderer: null,     // script element
+        scripts: [],        // elements of what was loaded
+        isAwaiting: false,  // the definition that the loader's own element names
         isRemoved: false,   // by destroy(), and no menu defined since
-        drawing: 0,         // timer of drawTop
+        drawing: 0,         // timer of draw
         bar: null,          // the page's element around the top menu
         barBox: null,       // the top menu
         layer: null,        // the page's element around the submenus
@@ -29,12 +31,42 @@ function emptyState() {
 var state = emptyState();
 var shared = {
     state: state, destroy: destroy, warn: warn, setting: setting, submenuId: submenuId,
-    createHost: createHost, buildBox: buildBox, nameOf: nameOf, nameFromFiles: nameFromFiles
+    createHost: createHost, buildBox: buildBox, nameOf: nameOf, nameFromFiles: nameFromFiles,
+    ofDocument: ofDocument
 };
 
-var isModern = document.getElementById && document.documentElement.attachShadow;
+var isModern = shared.isModern = document.getElementById && document.documentElement.attachShadow;
+
+// Not document[name], which can be an element of the page (<img name="currentScript">).
+function ofDocument(name) {
+    return isModern && Object.getOwnPropertyDescriptor(Document.prototype, name).get.call(document);
+}
 
 function warn(text) {
     if (!state.told[text] && window.console && console.warn) console.warn('ZEVMenu: ' + text);
     state.told[text] = true;
+}
+
+// The pages' scripts may have given all objects more properties.
+function isOwn(object, name) {
+    return Object.prototype.hasOwnProperty.call(object, name);
+}
+
+// Does what a page's policy may refuse with an error, which this language cannot catch.
+function attempt(action) {
+    new Promise(action).then(null, function (error) {
+        warn(error.message);
+    });
+}
+
+// For pages that demand Trusted Types. Captions and addresses are the site's own.
+var policy;
+if (window.trustedTypes && trustedTypes.createPolicy) {
+    attempt(function () {
+        policy = trustedTypes.createPolicy('zevmenu', { createHTML: asText, createScriptURL: asText });
+    });
+}
+
+function trusted(kind, text) {
+    return policy ? policy['create' + kind](text) : text;
 }

@@ -26,7 +26,8 @@ async function showWithLateRenderer() {
     });
     lab.files.set('/site/menu.js', nested);
     lab.files.set('/site/late.html', pageText({ library: '/late/', before:
-        `<a id="link" href="" onmouseover="ZEVMenuOpen('zev1', '3', event)">Menu</a>` }));
+        `<a id="link" href="" onmouseover="ZEVMenuOpen('zev1', '3', event)">Menu</a>
+        <a id="bare" href="boats.html" data-zev-popup="2i1">Boats</a>` }));
     await page.setViewport({ width: 800, height: 600 });
     await page.mouse.move(799, 599);
     await page.goto(lab.origin + '/site/late.html', { waitUntil: 'domcontentloaded' });
@@ -51,4 +52,13 @@ test('an early pop-up opens when the renderer has arrived', async () => {
     assert.equal(await shown(page, 'Map'), '');
     arrive();
     await waitShown(page, 'Map');
+});
+
+test('the pop-up of a link without handlers opens when the renderer has arrived and the mouse is there', async () => {
+    const arrive = await showWithLateRenderer();
+    await until(() => page.$('#bare'), 'the link');
+    await page.hover('#bare');
+    assert.equal(await shown(page, 'Canoes'), '');
+    arrive();
+    await waitShown(page, 'Canoes');
 });

@@ -146,14 +146,14 @@ export function pageText({
 }
 
 /*
- * Shows a page with the given definition in the lab's tab and waits until the library is ready; the
- * mouse is then in the window's lower right corner. Options: those of pageText(), `definition` and
- * the delay of its answer, `path` of the page, `headers` of its answer, and the window's width,
- * height, hasTouch.
+ * Shows a page with the given definition in the lab's tab and waits until the library is ready (unless
+ * `awaitsLibrary` is false); the mouse is then in the window's lower right corner. Options: those of
+ * pageText(), `definition` and the delay of its answer, `path` of the page, `headers` of its answer,
+ * and the window's width, height, hasTouch.
  */
 async function show(page, origin, files, options) {
     const { definition = nested, definitionDelayMs = 0, path = '/site/page.html', headers = {} } = options;
-    const { width = 800, height = 600, hasTouch = false } = options;
+    const { width = 800, height = 600, hasTouch = false, awaitsLibrary = true } = options;
     files.set('/site/menu.js', { text: definition, delayMs: definitionDelayMs });
     files.set(path, { text: pageText(options), headers });
     await page.setViewport({ width, height, hasTouch });
@@ -161,7 +161,7 @@ async function show(page, origin, files, options) {
     page.warnings = [];
     page.errors = [];
     await page.goto(origin + path);
-    await waitReady(page);
+    if (awaitsLibrary) await waitReady(page);
     return page;
 }
 
@@ -215,7 +215,7 @@ function look(names, selector, property) {
         }
         return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom).toJSON();
     };
-    const roots = Array.from(document.querySelectorAll('[data-zev]'), host => host.shadowRoot);
+    const roots = [...document.querySelectorAll('[data-zev]')].map(host => host.shadowRoot);
     return names.map(name => {
         const selected = `li > a:is([aria-label="${name}"], :has(> img[alt="${name}"]))`;
         const link = roots.map(root => root.querySelector(selected)).find(Boolean);
