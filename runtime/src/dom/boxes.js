@@ -68,13 +68,31 @@ function boxOf(menu) {
     return menu.zevBox;
 }
 
-function ensureBox(menu) {
+// What of the page lies above the rest of it, and holds the opener.
+function topAround(opener) {
+    const isTop = node => node.matches?.('dialog[open],[popover]') || node == document.fullscreenElement;
+    let node = opener;
+    while (node && !isTop(node)) node = node.assignedSlot || node.parentNode || node.host;
+    return node != document.documentElement && node;
+}
+
+// There the layer has to be too, and above it; each time anew, as what was opened last lies highest.
+function raise(layer, top) {
+    const home = top || shared.ofDocument('body');
+    if (layer.parentNode != home) home.appendChild(layer);
+    mark(layer, { popover: null });
+    if (!top || !layer.showPopover || !layer.isConnected) return;
+    mark(layer, { popover: 'manual' });
+    layer.showPopover();
+}
+
+function ensureBox(menu, opener) {
     const box = boxOf(menu);
     if (!state.layer) {
         state.layer = shared.createHost('layer');
         attend(state.layer, true);
     }
-    if (!state.layer.isConnected) document.body.appendChild(state.layer);
+    if (!opener || !depthAt(opener)) raise(state.layer, topAround(opener));
     if (!box.isConnected) state.layer.shadowRoot.appendChild(box);
     return box;
 }

@@ -103,6 +103,8 @@ function onEscape(event) {
     if (event.key != 'Escape') return;
     const index = state.levels.findIndex(level => level.box.contains(focused()));
     closeFrom(Math.max(index, 0));
+    // The next one closes the dialog.
+    if (state.layer.hasAttribute('popover')) event.preventDefault();
 }
 
 function onOutside(event) {

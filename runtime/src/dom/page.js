@@ -5,11 +5,29 @@ function listen(target, isOn, listeners, isCapturing) {
     Object.keys(listeners).forEach(type => target[change](type, listeners[type], isCapturing));
 }
 
-// The page, while a submenu is open.
+// This one and those of its frames, as far as they are the site's own.
+function documentsIn(page) {
+    const frames = [...page.querySelectorAll('iframe,frame,object')];
+    return [page].concat(...frames.map(frame => frame.contentDocument ? documentsIn(frame.contentDocument) : []));
+}
+
+function wholePage() {
+    let top = window;
+    while (top.frameElement) top = top.parent;
+    return documentsIn(top.document);
+}
+
+function onBlur() {
+    closeFrom(0);
+}
+
+// The page, while a submenu is open. What happens in another site's frame shows as a loss of the focus.
 function watch(isOn) {
-    listen(document, isOn, { keydown: onEscape, pointerdown: onOutside }, true);
+    if (isOn) state.watched = wholePage();
+    state.watched.forEach(page => listen(page, isOn, { pointerdown: onOutside }, true));
+    listen(document, isOn, { keydown: onEscape }, true);
     listen(window, isOn, { scroll: placeAll }, true);
-    listen(window, isOn, { resize: placeAll });
+    listen(window, isOn, { resize: placeAll, blur: onBlur });
 }
 
 // The top menu, or the layer of the submenus.

@@ -5,7 +5,7 @@ function levelOf(link) {
     if (!menu) return null;
     const isBelowRow = !menu.zevId.includes('i') && setting(top, 'columns') > 1;
     const side = setting(menu, 'position', isBelowRow && top);
-    return { menu, box: ensureBox(menu), opener: link, wish: realSide(side, isRtlAt(link)),
+    return { menu, box: ensureBox(menu, link), opener: link, wish: realSide(side, isRtlAt(link)),
              offset: setting(null, 'menuoffset') };
 }
 
@@ -29,7 +29,7 @@ function anchorOf(level) {
 }
 
 function placeLevel(level) {
-    const { box } = level, { style } = box, isRtl = isRtlAt(level.opener || document.body);
+    const { box } = level, { style } = box, isRtl = isRtlAt(level.opener || shared.ofDocument('body'));
     const root = document.scrollingElement || document.documentElement;
     const frame = { width: root.clientWidth, height: root.clientHeight };
     const origin = rectOf(state.layer), anchor = anchorOf(level);
@@ -92,7 +92,9 @@ function hide(level) {
     const { box, opener } = level;
     level.observer?.disconnect();
     if (opener) {
-        if (box.contains(focused())) opener.focus();
+        // From a frame that was left it would take the focus away from what was clicked.
+        const mayFocus = window.parent == window || document.hasFocus();
+        if (mayFocus && box.contains(focused())) opener.focus();
         mark(opener, { 'aria-expanded': false });
     }
     box.style.pointerEvents = 'none';

@@ -16,6 +16,7 @@ function emptyState() {
         barBox: null,       // the top menu
         layer: null,        // the page's element around the submenus
         levels: [],         // open submenus, the deepest last
+        watched: [],        // documents in which a click closes them
         ahead: [],          // menus still to be built
         building: 0,        // timer or idle callback of the next of them
         earlyCall: null,    // a ZEVMenuOpen that came too early
