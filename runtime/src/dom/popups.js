@@ -65,22 +65,35 @@ function openFrom(link, event) {
     return isOpen(link);
 }
 
+function hasOwnAddress(link) {
+    return !['', '#', null].includes(link.getAttribute('href'));
+}
+
 function onPageClick(event) {
     const link = popupLinkAt(event);
     if (!link) return;
-    const { type, wasOpen } = takePress(), isTap = type != 'mouse' && !wasOpen;
+    const { pointer = '', wasOpen = false } = takePress(), hasAddress = hasOwnAddress(link);
+    const meaning = isModified(event) ? 'follow'
+        : meaningOfClick({ pointer, wasOpen, hasAddress, hasSubmenu: pointer != 'mouse' });
     // An empty address would load the page anew.
-    if (link.getAttribute('href') == '' || isTap) event.preventDefault();
-    if (isTap && !isOpen(link)) openFrom(link, event);
+    if (link.getAttribute('href') == '' || meaning != 'follow') event.preventDefault();
+    if (meaning == 'close') return closeFrom(0);
+    if (meaning == 'follow') return;
+    if (!isOpen(link)) openFrom(link, event);
+    if (meaning == 'enter') enterPopup(link);
+}
+
+function enterPopup(link) {
+    if (isOpen(link)) enter(state.levels[0].box);
 }
 
 function onPageKey(event) {
     const link = popupLinkAt(event), { key } = event;
     if (!link || hasModifier(event)) return;
-    const isPress = key == 'Enter' || key == 'ArrowDown' || (key == ' ' && !link.matches('[href]'));
-    if (!isPress || !openFrom(link, event)) return;
+    if (key == 'Enter' && hasOwnAddress(link)) return followByKey();
+    if (!['Enter', 'ArrowDown', ' '].includes(key) || !openFrom(link, event)) return;
     event.preventDefault();
-    enter(state.levels[0].box);
+    enterPopup(link);
 }
 
 function openEarly() {
