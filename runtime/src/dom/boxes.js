@@ -42,10 +42,23 @@ function mark(element, attributes) {
     });
 }
 
+function isAccordion(box) {
+    return box.classList.contains('inside');
+}
+
+function isList(box) {
+    return box.classList.contains('list') || isAccordion(box);
+}
+
+function orient(box) {
+    const isRow = !isList(box), isBar = box.getAttribute('role') == 'menubar';
+    mark(box, { 'aria-orientation': isRow == isBar ? null : isRow ? 'horizontal' : 'vertical' });
+}
+
 function promote(box, role) {
-    const isRow = box.className != 'list', isBar = role == 'menubar';
+    const isBar = role == 'menubar';
     mark(box, { role });
-    if (isRow != isBar) mark(box, { 'aria-orientation': isRow ? 'horizontal' : 'vertical' });
+    orient(box);
     linksOf(box).forEach((link, index) => {
         mark(link.parentNode, { role: 'none' });
         mark(link, { role: 'menuitem', tabindex: isBar && !index ? 0 : -1 });
@@ -93,7 +106,6 @@ function ensureBox(menu, opener) {
         attend(state.layer, true);
     }
     if (!opener || !depthAt(opener)) raise(state.layer, topAround(opener));
-    if (!box.isConnected) state.layer.shadowRoot.appendChild(box);
     return box;
 }
 

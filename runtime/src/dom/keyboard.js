@@ -21,26 +21,17 @@ function openAndEnter(link, isAtEnd) {
     if (level?.opener == link) enter(level.box, isAtEnd);
 }
 
-function sideOfSubmenu(link) {
-    if (isOpen(link)) return state.levels[depthAt(link)].side;
-    const level = levelOf(link);
-    if (!level) return '';
-    const wasHidden = level.box.hidden;
-    placeLevel(level);
-    level.box.hidden = wasHidden;
-    return level.side;
-}
-
 function moveTo(target) {
-    const depth = depthAt(target), hadOpen = state.levels.length;
-    closeFrom(depth);
+    const depth = depthAt(target), child = state.levels[depth], hadOpen = state.levels.length;
+    // An accordion stays open below the item.
+    if (!child || !isInside(child)) closeFrom(depth);
     target.focus();
-    if (!depth && hadOpen) openSubmenu(target);
+    if (!depth && hadOpen && (!child || !isInside(child))) openSubmenu(target);
 }
 
 function nextLink(link, reading) {
     const box = boxAt(link), links = linksOf(box);
-    const columns = setting(box.zevMenu, 'columns');
+    const columns = isList(box) ? 1 : setting(box.zevMenu, 'columns');
     return links[neighbour(links.indexOf(link), links.length, columns, reading)];
 }
 
@@ -49,16 +40,18 @@ function onArrow(link, direction) {
     const reading = realSide(direction, isRtlAt(link));
     const next = nextLink(link, reading);
     if (next) return moveTo(next);
-    const side = sideOfSubmenu(link);
-    if (side == direction) return openAndEnter(link);
-    if (level?.opener && level.side == opposite[direction]) return closeFrom(depth - 1);
-    if (side && !level && side == opposite[direction]) return openAndEnter(link, true);
-    if (side && (reading == 'right' || reading == 'bottom')) return openAndEnter(link);
-    // From a submenu below a row the key goes on to the row's neighbour.
-    const root = level && state.levels[0].opener;
-    const isGridEnd = boxAt(link).className == 'grid' && !isBeside(reading);
-    const beyond = root?.zevSubmenu && !isGridEnd && nextLink(root, reading);
-    if (beyond) moveTo(beyond);
+    const meaning = meaningOfArrow({ direction, reading, side: sideOfSubmenu(link),
+                                     own: level?.opener ? level.side : '', isTop: !level });
+    if (meaning == 'close') closeFrom(depth - 1);
+    else if (meaning == 'beyond') goBeyond(link, reading);
+    else if (meaning) openAndEnter(link, meaning == 'enterLast');
+}
+
+function goBeyond(link, reading) {
+    const root = state.levels[0]?.opener;
+    const isGridEnd = !isList(boxAt(link)) && boxAt(link).classList.contains('grid') && !isBeside(reading);
+    const next = depthAt(link) && root?.zevSubmenu && !isGridEnd && nextLink(root, reading);
+    if (next) moveTo(next);
 }
 
 const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', ArrowUp: 'top' };
@@ -78,6 +71,11 @@ function hasModifier(event) {
     return event.ctrlKey || event.altKey || event.metaKey;
 }
 
+// A new window or a download.
+function isModified(event) {
+    return hasModifier(event) || event.shiftKey;
+}
+
 function onKeyDown(event) {
     const link = event.target, { key } = event;
     if (!link.zevSubmenu || hasModifier(event)) return;
@@ -92,17 +90,21 @@ function onKeyDown(event) {
         moveTo(links[links.length - 1]);
     } else if (!onLetter(link, event)) {
         if (key != ' ' && key != 'Enter') return;
+        if (key == 'Enter' && link.hasAttribute('href')) return followByKey();
         if (submenuOf(link)) openAndEnter(link);
-        else if (key == ' ') link.click();
-        else return;
+        else link.click();
     }
     event.preventDefault();
 }
 
+// The browser makes a click of the key.
+function followByKey() {
+    state.press = { pointer: 'key' };
+}
+
 function onEscape(event) {
     if (event.key != 'Escape') return;
-    const index = state.levels.findIndex(level => level.box.contains(focused()));
-    closeFrom(Math.max(index, 0));
+    closeFrom(Math.max(depthAt(focused()) - 1, 0));
     // The next one closes the dialog.
     if (state.layer.hasAttribute('popover')) event.preventDefault();
 }

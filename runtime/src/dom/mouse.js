@@ -16,16 +16,20 @@ function onPointerLeave(event) {
 
 function onPress(event) {
     const link = linkAt(event.target) || popupLinkAt(event);
-    if (link) state.press = { type: event.pointerType, wasOpen: isOpen(link) };
+    if (link) state.press = { pointer: event.pointerType, wasOpen: isOpen(link) };
 }
 
-// A finger or an assistive technology, which presses nothing, first opens and then follows.
 function onClick(event) {
     const link = linkAt(event.target);
     if (!link) return;
-    const { type, wasOpen } = takePress();
-    const isFirst = type != 'mouse' && !(type ? wasOpen : isOpen(link)) && submenuOf(link);
-    if (isFirst) event.preventDefault();
-    if (!isFirst && link.hasAttribute('href')) closeFrom(0);
-    else openSubmenu(link);
+    const hasAddress = link.hasAttribute('href'), { pointer = '', wasOpen = isOpen(link) } = takePress();
+    const meaning = isModified(event) ? 'follow' : meaningOfClick({
+        pointer, wasOpen, hasAddress, hasSubmenu: submenuOf(link) != null,
+        isAccordion: pointer == 'mouse' && isList(boxAt(link)) && sideOfSubmenu(link) == 'inside'
+    });
+    if (meaning != 'follow') event.preventDefault();
+    else if (hasAddress) closeFrom(0);
+    if (meaning == 'open') openSubmenu(link);
+    if (meaning == 'enter') openAndEnter(link);
+    if (meaning == 'close') closeFrom(depthAt(link));
 }

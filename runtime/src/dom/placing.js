@@ -28,25 +28,87 @@ function anchorOf(level) {
     return { left: x, right: x, top: y, bottom: y };
 }
 
-function placeLevel(level) {
-    const { box } = level, { style } = box, isRtl = isRtlAt(level.opener || shared.ofDocument('body'));
+function frameSize() {
     const root = document.scrollingElement || document.documentElement;
-    const frame = { width: root.clientWidth, height: root.clientHeight };
-    const origin = rectOf(state.layer), anchor = anchorOf(level);
-    const pixels = length => unzoomed(length, origin, 100) + 'px';
+    return { width: root.clientWidth, height: root.clientHeight };
+}
+
+// Into the layer or after an item. What is moved would lose the focus.
+function move(box, isMisplaced, insert) {
+    if (!isMisplaced) return;
+    const link = box.contains(focused()) ? focused() : null;
+    insert(box);
+    link?.focus();
+}
+
+// Of the layer, where `origin` is its rectangle in the window.
+function pixels(length, origin) {
+    return unzoomed(length, origin, 100) + 'px';
+}
+
+// Shows the box in its own size in the layer, to be measured.
+function lay(box, frame) {
+    const { style } = box, { shadowRoot } = state.layer, maxWidth = pixels(frame.width, rectOf(state.layer));
+    box.classList.remove('inside');
+    move(box, box.parentNode != shadowRoot, () => shadowRoot.appendChild(box));
     box.hidden = false;
+    Object.assign(style, { maxWidth, maxHeight: '', overflowY: '' });
+}
+
+function isHolder(level) {
+    return isSteady(state.levels.indexOf(level) + 1 || state.levels.length);
+}
+
+// Where the level is to stand. One that is inside its parent keeps the size it had outside.
+function spotOf(level) {
+    const { box, opener } = level, isRtl = isRtlAt(opener || shared.ofDocument('body'));
+    const parent = opener?.zevSubmenu && boxAt(opener);
+    if (parent && isAccordion(parent)) return { side: 'inside' };
+    const frame = frameSize(), isFixed = isHolder(level);
     box.dir = isRtl ? 'rtl' : 'ltr';
-    style.maxWidth = pixels(frame.width);
-    style.maxHeight = style.overflowY = '';
-    if (rectOf(box).height > frame.height) {
-        style.maxHeight = pixels(frame.height);
+    if (!level.size || level.side != 'inside') {
+        lay(box, frame);
+        level.size = rectOf(box);
+    }
+    const kind = isFixed ? 'fixed' : parent && isList(parent) ? 'list' : '';
+    return place(anchorOf(level), level.size, isFixed ? level.side : level.wish, level.offset, frame, isRtl, kind);
+}
+
+function placeLevel(level) {
+    const { box } = level, { style } = box, was = level.side, spot = spotOf(level);
+    level.side = spot.side;
+    if (isInside(level)) return placeInside(level);
+    if (was == 'inside') return placeLevel(level);
+    const origin = rectOf(state.layer);
+    if (isHolder(level)) style.maxWidth = pixels(spot.width, origin);
+    if (level.size.height > spot.height) {
+        style.maxHeight = pixels(spot.height, origin);
         style.overflowY = 'auto';
     }
-    const size = rectOf(box);
-    const spot = place(anchor, size, level.wish, level.offset, frame, isRtl);
-    style.left = pixels(spot.left - origin.left);
-    style.top = pixels(spot.top - origin.top);
-    level.side = spot.side;
+    style.left = pixels(spot.left - origin.left, origin);
+    style.top = pixels(spot.top - origin.top, origin);
+    orient(box);
+}
+
+// In the flow, below its item.
+function placeInside({ box, opener }) {
+    const { style } = box, parent = boxAt(opener);
+    box.classList.add('inside');
+    box.hidden = false;
+    style.maxWidth = style.maxHeight = style.overflowY = '';
+    style.setProperty('--zev-indent', (parseFloat(parent.style.getPropertyValue('--zev-indent')) || 0) + 1 + 'em');
+    move(box, opener.nextSibling != box, () => opener.after(box));
+    orient(box);
+}
+
+// After an accordion has grown or shrunk: the box around it, and of that the part where `shown` is.
+function settle(shown) {
+    const holder = state.levels.filter(level => !isInside(level)).pop();
+    if (!holder) return;
+    placeLevel(holder);
+    if (!shown) return;
+    const frame = rectOf(holder.box), { bottom } = rectOf(shown.box), { top } = rectOf(shown.opener);
+    holder.box.scrollTop += Math.min(Math.max(0, bottom - frame.bottom), top - frame.top);
 }
 
 function fade(level, direction, onEnd) {
@@ -62,6 +124,7 @@ function follow(level) {
     level.observer = new IntersectionObserver(entries => {
         // -1 if closed, but told in spite of disconnect().
         const index = state.levels.indexOf(level);
+        if (level.opener.isConnected && isSteady(index)) return;
         const isLeft = !level.opener.isConnected || !level.box.contains(focused());
         if (index >= 0 && isLeft && !entries[entries.length - 1].isIntersecting) closeFrom(index);
     });
@@ -72,18 +135,23 @@ function placeAll(event) {
     state.levels.slice(event ? depthAt(event.target) : 0).forEach(placeLevel);
 }
 
+// What is open in the layer is a landmark.
+function nameLayer() {
+    const [first] = state.levels, isUsed = first && !isInside(first);
+    mark(state.layer, { role: isUsed ? 'navigation' : null,
+                        'aria-label': isUsed ? first.box.getAttribute('aria-label') || '' : null });
+}
+
 function show(level) {
     const { box, opener } = level;
     // Measured first and marked then, so that styles are calculated once.
     follow(level);
     placeLevel(level);
+    if (isInside(level)) settle(level);
     box.style.pointerEvents = '';
     if (opener) mark(opener, { 'aria-expanded': true });
-    if (state.levels.length == 1) {
-        const name = box.getAttribute('aria-label') || '';
-        mark(state.layer, { role: 'navigation', 'aria-label': name });
-        watch(true);
-    }
+    nameLayer();
+    if (state.levels.length == 1) watch(true);
     fade(level, 'reverse', () => {});
     buildAhead(box);
 }
@@ -97,15 +165,32 @@ function hide(level) {
         if (mayFocus && box.contains(focused())) opener.focus();
         mark(opener, { 'aria-expanded': false });
     }
-    box.style.pointerEvents = 'none';
-    fade(level, 'normal', () => { box.hidden = true; });
-    if (!state.levels.length) {
-        mark(state.layer, { role: null, 'aria-label': null });
-        watch(false);
+    if (isInside(level)) {
+        box.hidden = true;
+        box.remove();
+        settle();
+    } else {
+        box.style.pointerEvents = 'none';
+        fade(level, 'normal', () => { box.hidden = true; });
     }
+    nameLayer();
+    if (!state.levels.length) watch(false);
 }
 
-function openSubmenu(link) {
+// The mouse opens none that would stand inside its parent.
+function openSubmenu(link, isHover) {
     const depth = depthAt(link), level = levelOf(link);
-    if (level && state.levels[depth]?.menu != level.menu) openLevel(depth, level);
+    if (!level || state.levels[depth]?.menu == level.menu) return;
+    const mayBeInside = isHover && isList(boxAt(link));
+    if (!mayBeInside || sideOfSubmenu(link) != 'inside') openLevel(depth, level);
+}
+
+// Where the submenu of an item stands or would stand; '' if there is none.
+function sideOfSubmenu(link) {
+    if (isOpen(link)) return state.levels[depthAt(link)].side;
+    const level = levelOf(link);
+    if (!level) return '';
+    const { side } = spotOf(level);
+    level.box.hidden = true;
+    return side;
 }

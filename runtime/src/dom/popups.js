@@ -97,31 +97,43 @@ function openFrom(link, event) {
     return isOpen(link);
 }
 
-// The click that follows the mouse's arrival on the button keeps open what that opened.
-function toggle(button, event) {
-    event.preventDefault();
-    if (state.levels[0]?.opener == button && state.levels[0].isClicked) return closeFrom(0);
-    if (openFrom(button, event)) state.levels[0].isClicked = true;
+function hasOwnAddress(link) {
+    return !['', '#', null].includes(link.getAttribute('href'));
+}
+
+// On a button the mouse is a finger; its first click keeps open what its arrival there opened.
+function pressOn(link) {
+    const press = takePress();
+    if (press.pointer != 'mouse' || !link.matches('button[data-zev-popup],input[data-zev-popup]')) return press;
+    return { pointer: 'touch', wasOpen: isOpen(link) && state.levels[0].isClicked };
 }
 
 function onPageClick(event) {
     const link = popupLinkAt(event);
     if (!link) return;
-    const { type, wasOpen } = takePress(), isTap = type != 'mouse' && !wasOpen;
-    if (link.matches('button[data-zev-popup],input[data-zev-popup]')) return toggle(link, event);
     if (!link.hasAttribute('data-zev-popup')) answer(link, 'onclick', event);
+    const { pointer = '', wasOpen = false } = pressOn(link), hasAddress = hasOwnAddress(link);
+    const meaning = isModified(event) ? 'follow'
+        : meaningOfClick({ pointer, wasOpen, hasAddress, hasSubmenu: pointer != 'mouse' });
     // An empty address would load the page anew.
-    if (link.getAttribute('href') == '' || isTap) event.preventDefault();
-    if (isTap && !isOpen(link)) openFrom(link, event);
+    if (link.getAttribute('href') == '' || meaning != 'follow') event.preventDefault();
+    if (meaning == 'close') return closeFrom(0);
+    if (meaning == 'follow') return;
+    if (isOpen(link) || openFrom(link, event)) state.levels[0].isClicked = true;
+    if (meaning == 'enter') enterPopup(link);
+}
+
+function enterPopup(link) {
+    if (isOpen(link)) enter(state.levels[0].box);
 }
 
 function onPageKey(event) {
     const link = popupLinkAt(event), { key } = event;
     if (!link || hasModifier(event)) return;
-    const isPress = key == 'Enter' || key == 'ArrowDown' || (key == ' ' && !link.matches('[href]'));
-    if (!isPress || !openFrom(link, event)) return;
+    if (key == 'Enter' && hasOwnAddress(link)) return followByKey();
+    if (!['Enter', 'ArrowDown', ' '].includes(key) || !openFrom(link, event)) return;
     event.preventDefault();
-    enter(state.levels[0].box);
+    enterPopup(link);
 }
 
 function openEarly() {

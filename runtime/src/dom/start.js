@@ -10,6 +10,7 @@ const { state, setting, warn } = shared;
 const fixed = {
     restMs: 200,            // a mouse that rests so long stays
     typingMs: 700,          // letters that follow sooner belong together
+    rowPx: 44,              // what a box shows at least, in the smallest window too
     besideMousePx: 8,       // from the mouse to its pop-up
     menusAhead: 50,         // submenus of a box that are built before they open
     itemsAhead: 200         // in each of them

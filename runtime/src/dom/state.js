@@ -19,13 +19,22 @@ function closeFrom(depth) {
     }
 }
 
+function isInside(level) {
+    return level.side == 'inside';
+}
+
+// An accordion and what holds one: the mouse's coming and going changes nothing there.
+function isSteady(index) {
+    return state.levels.slice(index).some(isInside);
+}
+
 // Lets all but the first `depth` levels close after the delay.
 function keep(depth) {
     state.levels.forEach((level, index) => {
         if (index < depth) {
             clearTimeout(level.timer);
             level.timer = 0;
-        } else if (!level.timer) {
+        } else if (!level.timer && !isSteady(index)) {
             level.timer = setTimeout(() => closeFrom(state.levels.indexOf(level)),
                                      setting(null, 'closedelay'));
         }
@@ -59,7 +68,7 @@ function hover() {
     dropCrossing();
     if (link && child?.opener == link) return keep(depth + 1);
     keep(depth);
-    if (link) openSubmenu(link);
+    if (link) openSubmenu(link, true);
 }
 
 function dropCrossing() {
@@ -71,6 +80,33 @@ function pointAway() {
     state.lastPoint = state.over = null;
     dropCrossing();
     keep(0);
+}
+
+/*
+ * What a click on an item means: 'follow' its link, 'open' its submenu, 'enter' it too, 'close' it. `pointer`
+ * is what was pressed: '' for a click that nothing pressed, as assistive technology makes it, 'key' for the key
+ * that follows links. In an accordion a mouse is a finger.
+ */
+function meaningOfClick({ pointer, wasOpen, hasSubmenu, hasAddress, isAccordion }) {
+    if (!hasSubmenu || pointer == 'key') return 'follow';
+    if (pointer == 'mouse' && !isAccordion) return hasAddress ? 'follow' : 'open';
+    if (!wasOpen) return pointer ? 'open' : 'enter';
+    return hasAddress ? 'follow' : 'close';
+}
+
+/*
+ * What an arrow means that leads to no neighbour: 'enter' the item's submenu, 'enterLast', 'close' the one the
+ * item is in, go 'beyond' it along the top menu; '' for nothing. `side` is that of the item's submenu, '' if it
+ * has none; `own` that of the one it is in, '' if it is in none or that has no item; `reading` is the
+ * direction as from left to right.
+ */
+function meaningOfArrow({ direction, reading, side, own, isTop }) {
+    if (side == direction || (side == 'inside' && reading == 'right')) return 'enter';
+    if (own == 'inside' ? reading == 'left' : own && own == opposite[direction]) return 'close';
+    if (side && isTop && side == opposite[direction]) return 'enterLast';
+    if (side && side != 'inside' && (reading == 'right' || reading == 'bottom')) return 'enter';
+    // From a submenu below a row the key goes on to the row's neighbour.
+    return own == 'inside' ? '' : 'beyond';
 }
 
 function takePress() {

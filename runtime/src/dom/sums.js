@@ -15,17 +15,40 @@ function shift(start, length, limit) {
     return Math.max(0, Math.min(start, limit - length));
 }
 
-// Flips to the opposite side if only that has room, then shifts into the window.
-function place(anchor, size, side, offset, frame, isRtl) {
-    const starts = { right: anchor.right + offset, left: anchor.left - offset - size.width,
-                     bottom: anchor.bottom + offset, top: anchor.top - offset - size.height };
-    const length = isBeside(side) ? 'width' : 'height';
-    const fits = side => shift(starts[side], size[length], frame[length]) == starts[side];
-    const real = !fits(side) && fits(opposite[side]) ? opposite[side] : side;
-    const spot = { left: isRtl && side ? anchor.right - size.width : anchor.left, top: anchor.top };
-    if (side) spot[isBeside(side) ? 'left' : 'top'] = starts[real];
-    return { left: shift(spot.left, size.width, frame.width),
-             top: shift(spot.top, size.height, frame.height), side: real };
+// How much of the window is on each side of the anchor.
+function roomsAround(anchor, offset, { width, height }) {
+    return { right: Math.min(width - anchor.right - offset, width), left: Math.min(anchor.left - offset, width),
+             bottom: Math.min(height - anchor.bottom - offset, height),
+             top: Math.min(anchor.top - offset, height) };
+}
+
+// The wished side, or the opposite one if only that has room. If neither has: in a list inside it, beside
+// all else below; above or below where there is more. A fixed wish is done.
+function sideOf(rooms, size, wish, kind) {
+    const length = isBeside(wish) ? size.width : size.height, other = opposite[wish];
+    if (!wish || kind == 'fixed' || length <= rooms[wish]) return wish;
+    if (length <= rooms[other]) return other;
+    if (isBeside(wish)) return kind == 'list' ? 'inside' : sideOf(rooms, size, 'bottom');
+    return rooms[other] > rooms[wish] ? other : wish;
+}
+
+/*
+ * Where a box of that size stands: `left` and `top` in the window, the `width` and `height` it may have at
+ * most, and its `side`. Across its side it is shifted into the window. It leaves its anchor free, unless that
+ * takes the whole window: a row can be reached then too. `kind` is 'list' where the anchor is an item of a
+ * list, 'fixed' where the box is to stay on the side of its wish.
+ */
+function place(anchor, size, wish, offset, frame, isRtl, kind) {
+    const rooms = roomsAround(anchor, offset, frame), side = sideOf(rooms, size, wish, kind);
+    const isStacked = side == 'bottom' || side == 'top';
+    const limit = isStacked ? Math.max(rooms[side], fixed.rowPx) : frame.height;
+    const width = Math.min(size.width, frame.width), height = Math.min(size.height, limit);
+    const starts = { right: anchor.right + offset, left: anchor.left - offset - width,
+                     bottom: anchor.bottom + offset, top: anchor.top - offset - height };
+    const spot = { left: isRtl && side ? anchor.right - width : anchor.left, top: anchor.top };
+    if (side in starts) spot[isBeside(side) ? 'left' : 'top'] = starts[side];
+    return { left: shift(spot.left, width, frame.width), top: shift(spot.top, height, frame.height),
+             width: isBeside(side) ? rooms[side] : frame.width, height: limit, side };
 }
 
 // In a zoomed page `ruler` pixels of the layer are as wide as `origin`.
