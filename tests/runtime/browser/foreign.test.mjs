@@ -67,3 +67,13 @@ test('an image of the name body does not keep pop-ups from opening', async () =>
     await page.hover('#link');
     await waitShown(page, 'Map');
 });
+
+// The file for browsers without a DOM is none of this browser's.
+for (const where of ['before', 'after']) {
+    test(`the menu works in a page that loads zevmenu_ns4.js by hand ${where} the loader`, async () => {
+        const [ns4, loader] = ['ns4', 'loader'].map(name => source(`/runtime/zevmenu_${name}.js`));
+        await lab.show({ loader: where == 'before' ? ns4 + loader : loader + ns4 });
+        await assertWorks();
+        assert.equal(await page.$('body > ul'), null);
+    });
+}

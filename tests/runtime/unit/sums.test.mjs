@@ -9,7 +9,7 @@ const source = readFileSync(new URL('zevmenu_dom.js', library), 'utf8');
 
 function loadSums() {
     const window = { ZEVMenu: { shared: { state: {} } }, addEventListener() {} };
-    const document = { readyState: 'loading', addEventListener() {} };
+    const document = { readyState: 'loading', addEventListener() {}, querySelector() {} };
     vm.runInNewContext(source, { window, document });
     return window.ZEVMenu.shared.sums;
 }
