@@ -145,6 +145,12 @@ bool wouldMerge(char before, char after) {
            (before == after && std::string_view("+-/").find(before) != kNone);
 }
 
+// A line cannot end a statement after the one or before the other.
+bool isWithinStatement(char before, char after) {
+    return std::string_view("{([,&|?:=").find(before) != kNone ||
+           std::string_view("})],.&|?:").find(after) != kNone;
+}
+
 }  // namespace
 
 std::optional<std::string> stripScript(std::string_view source) {
@@ -159,10 +165,13 @@ std::optional<std::string> stripScript(std::string_view source) {
         const std::string_view gap = source.substr(position, start - position);
         if (start == source.size())
             return result;
-        if (!last.empty() && gap.find('\n') != kNone)
-            result += '\n';
-        else if (!gap.empty() && !last.empty() && wouldMerge(last.back(), source[start]))
-            result += ' ';
+        if (!last.empty() && !gap.empty()) {
+            const bool isLineEnd = gap.find('\n') != kNone;
+            if (isLineEnd && !isWithinStatement(last.back(), source[start]))
+                result += '\n';
+            else if (!isLineEnd && wouldMerge(last.back(), source[start]))
+                result += ' ';
+        }
         const std::size_t end = scanner.endOfToken(start, last);
         if (end == kNone)
             return std::nullopt;

@@ -7,7 +7,7 @@
 namespace zev {
 
 /// A script without its comments and without the white space that its meaning does not need. Line
-/// ends between tokens stay, one each, so that no statement runs into the next and the line that a
+/// ends stay between statements, one each, so that none runs into the next and the line that a
 /// browser names in an error can be read. Nothing within strings, template literals and regular
 /// expressions is touched. `source` is UTF-8. Nothing when a comment, string, template literal or
 /// regular expression does not end.

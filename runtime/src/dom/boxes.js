@@ -1,10 +1,5 @@
 // ---- Page: elements, styles, events ----
 
-function submenuOf(link) {
-    const menu = state.menus[link.zevSubmenu];
-    return menu?.zevItems.some(Boolean) ? menu : null;
-}
-
 function around(element, property) {
     while (element && !element[property]) element = element.parentNode;
     return element;
@@ -43,11 +38,11 @@ function mark(element, attributes) {
 }
 
 function isAccordion(box) {
-    return box.classList.contains('inside');
+    return box.matches('.inside,.folded');
 }
 
 function isList(box) {
-    return box.classList.contains('list') || isAccordion(box);
+    return box.matches('.list,.inside,.folded');
 }
 
 function orient(box) {
@@ -63,12 +58,53 @@ function promote(box, role) {
         mark(link.parentNode, { role: 'none' });
         mark(link, { role: 'menuitem', tabindex: isBar && !index ? 0 : -1 });
         if (submenuOf(link)) mark(link, { 'aria-haspopup': true, 'aria-expanded': false });
+        shared.addMark(link, box.zevMenu);
+        markCurrent(link);
+    });
+}
+
+// ---- The items of the page that is shown ----
+
+function markCurrent(link) {
+    mark(link, { 'aria-current': link.zevItem.zevCurrent || null });
+}
+
+function parentOf(menu) {
+    return state.menus[/^(.*)i/.exec(menu.zevId)?.[1] || '0'];
+}
+
+// Of the page that an item leads to, without its fragment; '' if it leads to none.
+function addressOf(menu, { url }) {
+    const link = document.createElement('a');
+    if (!url || /^ *(#|javascript:)/i.test(url)) return '';
+    link.href = shared.resolve(menu, url);
+    return link.href.replace(/#.*/, '');
+}
+
+function findCurrent() {
+    const here = location.href.replace(/#.*/, ''), menus = Object.values(state.menus), found = [];
+    for (const menu of menus) {
+        for (const item of menu.zevItems) {
+            const isCurrent = item && addressOf(menu, item) == here;
+            if (item) item.zevCurrent = isCurrent ? 'page' : '';
+            if (isCurrent) found.push(menu);
+        }
+    }
+    for (let menu of found) {
+        for (let item; (item = itemOf(menu)); menu = parentOf(menu)) item.zevCurrent ||= 'true';
+    }
+    [state.barBox, ...menus.map(menu => menu.zevBox)].forEach(box => box && linksOf(box).forEach(markCurrent));
+}
+
+function lookUpCurrent() {
+    state.looking ||= whenIdle(() => {
+        state.looking = 0;
+        findCurrent();
     });
 }
 
 function itemOf(menu) {
-    const [, parentId, position] = /^(?:(.*)i)?(.*)/.exec(menu.zevId);
-    return state.menus[parentId || '0']?.zevItems[position - 1];
+    return parentOf(menu)?.zevItems[/\d+$/.exec(menu.zevId) - 1];
 }
 
 function boxOf(menu) {
@@ -120,8 +156,12 @@ function buildAhead(box) {
     if (!isRunning) buildWhenIdle();
 }
 
+function whenIdle(job) {
+    return (window.requestIdleCallback || setTimeout)(job);
+}
+
 function buildWhenIdle() {
-    if (state.ahead.length) state.building = (window.requestIdleCallback || setTimeout)(() => {
+    if (state.ahead.length) state.building = whenIdle(() => {
         boxOf(state.ahead.shift());
         buildWhenIdle();
     });

@@ -6,13 +6,13 @@ function focused() {
 
 function onFocusIn(event) {
     const link = event.target;
-    if (!link.zevSubmenu || boxAt(link) != state.barBox) return;
+    if (boxAt(link) != state.barBox || !link.zevSubmenu) return;
     linksOf(state.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
 }
 
 function enter(box, isAtEnd) {
-    const links = linksOf(box), link = links[isAtEnd ? links.length - 1 : 0];
-    link?.focus();
+    const links = linksOf(box);
+    moveTo(links[isAtEnd ? links.length - 1 : 0]);
 }
 
 function openAndEnter(link, isAtEnd) {
@@ -41,7 +41,7 @@ function onArrow(link, direction) {
     const next = nextLink(link, reading);
     if (next) return moveTo(next);
     const meaning = meaningOfArrow({ direction, reading, side: sideOfSubmenu(link),
-                                     own: level?.opener ? level.side : '', isTop: !level });
+                                     own: !level?.opener ? '' : isFlat(level) ? 'inside' : level.side, isTop: !level });
     if (meaning == 'close') closeFrom(depth - 1);
     else if (meaning == 'beyond') goBeyond(link, reading);
     else if (meaning) openAndEnter(link, meaning == 'enterLast');
@@ -79,15 +79,17 @@ function isModified(event) {
 function onKeyDown(event) {
     const link = event.target, { key } = event;
     if (!link.zevSubmenu || hasModifier(event)) return;
-    const links = linksOf(boxAt(link));
     // Tab goes on from where closing puts the focus. WebKit names Shift+Tab only by its code.
     if (key == 'Tab' || event.code == 'Tab') return closeFrom(0);
-    if (/^Arrow/.test(key)) {
+    if (link == state.foldLink) {
+        if (!['Enter', ' ', 'ArrowDown', 'ArrowUp'].includes(key)) return;
+        openAndEnter(link, key == 'ArrowUp');
+    } else if (/^Arrow/.test(key)) {
         onArrow(link, arrows[key]);
     } else if (key == 'Home') {
-        moveTo(links[0]);
+        enter(boxAt(link));
     } else if (key == 'End') {
-        moveTo(links[links.length - 1]);
+        enter(boxAt(link), true);
     } else if (!onLetter(link, event)) {
         if (key != ' ' && key != 'Enter') return;
         if (key == 'Enter' && link.hasAttribute('href')) return followByKey();

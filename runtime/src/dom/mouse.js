@@ -19,13 +19,17 @@ function onPress(event) {
     if (link) state.press = { pointer: event.pointerType, wasOpen: isOpen(link) };
 }
 
+function isAccordionAt(link) {
+    return link == state.foldLink || (isList(boxAt(link)) && sideOfSubmenu(link) == 'inside');
+}
+
 function onClick(event) {
     const link = linkAt(event.target);
     if (!link) return;
     const hasAddress = link.hasAttribute('href'), { pointer = '', wasOpen = isOpen(link) } = takePress();
     const meaning = isModified(event) ? 'follow' : meaningOfClick({
         pointer, wasOpen, hasAddress, hasSubmenu: submenuOf(link) != null,
-        isAccordion: pointer == 'mouse' && isList(boxAt(link)) && sideOfSubmenu(link) == 'inside'
+        isAccordion: pointer == 'mouse' && isAccordionAt(link)
     });
     if (meaning != 'follow') event.preventDefault();
     else if (hasAddress) closeFrom(0);

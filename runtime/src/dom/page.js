@@ -27,7 +27,7 @@ function watch(isOn) {
     state.watched.forEach(page => listen(page, isOn, { pointerdown: onOutside }, true));
     listen(document, isOn, { keydown: onEscape }, true);
     listen(window, isOn, { scroll: placeAll }, true);
-    listen(window, isOn, { resize: placeAll, blur: onBlur });
+    listen(window, isOn, { resize: placeAll, blur: onBlur, beforeprint: onPrint });
 }
 
 // The top menu, or the layer of the submenus.
@@ -38,6 +38,7 @@ function attend(host, isOn) {
         click: onClick, keydown: onKeyDown, focusin: onFocusIn
     });
     listen(host, isOn, { pointerleave: onPointerLeave });
+    if (host == state.bar && state.fold) listen(state.fold, isOn, { change: refold });
 }
 
 shared.serve = function (isOn) {
@@ -50,12 +51,19 @@ shared.serve = function (isOn) {
 
 shared.adoptBar = function () {
     attend(state.bar, true);
-    promote(state.barBox, 'menubar');
-    if (!state.bar.closest('nav,[role=navigation]')) mark(state.bar, { role: 'navigation' });
+    const { bar, barBox } = state, label = setting(barBox.zevMenu, 'label');
+    mark(barBox, { 'aria-label': label, dir: isRtlAt(bar) ? 'rtl' : null });
+    promote(barBox, 'menubar');
+    if (!bar.closest('nav,[role=navigation]')) mark(bar, { role: 'navigation', 'aria-label': label });
+    adoptFold();
     // The mouse may have been there first.
-    const link = state.barBox.querySelector('li:hover>a');
-    if (link) openSubmenu(link);
-    buildAhead(state.barBox);
+    const link = barBox.querySelector('li:hover>a');
+    if (link) {
+        state.over = { box: barBox, link };
+        hover();
+    }
+    lookUpCurrent();
+    buildAhead(barBox);
 };
 
 function finish() {
@@ -72,6 +80,7 @@ function onLoad() {
 }
 
 shared.refresh = function () {
+    lookUpCurrent();
     if (document.readyState != 'loading') finish();
     placeAll();
 };
@@ -80,7 +89,7 @@ shared.stop = function () {
     const { bar, barBox, layer } = state;
     closeFrom(0);
     dropCrossing();
-    (window.cancelIdleCallback || clearTimeout)(state.building);
+    [state.building, state.looking].forEach(window.cancelIdleCallback || clearTimeout);
     shared.serve(false);
     if (barBox) attend(bar, false);
     if (layer) {

@@ -1,12 +1,11 @@
 // ---- Showing and placing ----
 
 function levelOf(link) {
-    const menu = submenuOf(link), top = state.menus['0'];
+    const menu = submenuOf(link), isFolded = link == state.foldLink;
     if (!menu) return null;
-    const isBelowRow = !menu.zevId.includes('i') && setting(top, 'columns') > 1;
-    const side = setting(menu, 'position', isBelowRow && top);
-    return { menu, box: ensureBox(menu, link), opener: link, wish: realSide(side, isRtlAt(link)),
-             offset: setting(null, 'menuoffset') };
+    return { menu, box: ensureBox(menu, link), opener: link, isFolded,
+             wish: isFolded ? 'bottom' : realSide(shared.wishedSide(menu), isRtlAt(link)),
+             offset: isFolded ? 0 : setting(null, 'menuoffset') };
 }
 
 // Chromium before 128 and Safari do not tell an element's zoom, and divide its rectangle by it.
@@ -47,12 +46,16 @@ function pixels(length, origin) {
 }
 
 // Shows the box in its own size in the layer, to be measured.
-function lay(box, frame) {
+function lay({ box, isFolded }, frame) {
     const { style } = box, { shadowRoot } = state.layer, maxWidth = pixels(frame.width, rectOf(state.layer));
     box.classList.remove('inside');
     move(box, box.parentNode != shadowRoot, () => shadowRoot.appendChild(box));
     box.hidden = false;
     Object.assign(style, { maxWidth, maxHeight: '', overflowY: '' });
+    if (!isFolded) return;
+    box.classList.add('folded');
+    mark(box, { role: 'menu' });
+    style.width = maxWidth;
 }
 
 function isHolder(level) {
@@ -63,11 +66,11 @@ function isHolder(level) {
 function spotOf(level) {
     const { box, opener } = level, isRtl = isRtlAt(opener || shared.ofDocument('body'));
     const parent = opener?.zevSubmenu && boxAt(opener);
+    box.dir = isRtl ? 'rtl' : 'ltr';
     if (parent && isAccordion(parent)) return { side: 'inside' };
     const frame = frameSize(), isFixed = isHolder(level);
-    box.dir = isRtl ? 'rtl' : 'ltr';
     if (!level.size || level.side != 'inside') {
-        lay(box, frame);
+        lay(level, frame);
         level.size = rectOf(box);
     }
     const kind = isFixed ? 'fixed' : parent && isList(parent) ? 'list' : '';
@@ -112,10 +115,14 @@ function settle(shown) {
 }
 
 function fade(level, direction, onEnd) {
-    const duration = setting(level.menu, 'ffade') * 1000;
+    // A short opening, where none is written.
+    const seconds = setting(level.menu, 'ffade'), duration = seconds === '' && direction == 'reverse'
+        ? fixed.openingMs : seconds * 1000;
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
     level.box.getAnimations().forEach(fading => fading.cancel());
-    level.box.animate([{}, { opacity: 0 }], { duration, direction }).onfinish = onEnd;
+    // What measures colours at such a short moment is not to take it for the menu's own.
+    const end = seconds === '' ? { filter: 'opacity(0)' } : { opacity: 0 };
+    level.box.animate([{}, end], { duration, direction }).onfinish = onEnd;
 }
 
 // Closes a level whose opener goes out of sight; an image's area has no box to be watched.
@@ -142,6 +149,13 @@ function nameLayer() {
                         'aria-label': isUsed ? first.box.getAttribute('aria-label') || '' : null });
 }
 
+// The mark points to where the submenu is, or will be.
+function turnMark({ opener, isFolded }, side) {
+    const reading = isFolded && isOpen(opener) ? 'top' : isFolded || side == 'inside' ? 'bottom'
+        : realSide(side, isRtlAt(opener || shared.ofDocument('body')));
+    if (opener?.hasAttribute('data-side')) mark(opener, { 'data-side': reading });
+}
+
 function show(level) {
     const { box, opener } = level;
     // Measured first and marked then, so that styles are calculated once.
@@ -150,6 +164,7 @@ function show(level) {
     if (isInside(level)) settle(level);
     box.style.pointerEvents = '';
     if (opener) mark(opener, { 'aria-expanded': true });
+    turnMark(level, level.side);
     nameLayer();
     if (state.levels.length == 1) watch(true);
     fade(level, 'reverse', () => {});
@@ -165,10 +180,13 @@ function hide(level) {
         if (mayFocus && box.contains(focused())) opener.focus();
         mark(opener, { 'aria-expanded': false });
     }
+    turnMark(level, level.wish);
     if (isInside(level)) {
         box.hidden = true;
         box.remove();
         settle();
+    } else if (level.isFolded) {
+        putBack(box);
     } else {
         box.style.pointerEvents = 'none';
         fade(level, 'normal', () => { box.hidden = true; });

@@ -12,6 +12,7 @@ function openLevel(depth, level) {
 }
 
 function closeFrom(depth) {
+    clearTimeout(state.opening);
     while (state.levels.length > depth) {
         const level = state.levels.pop();
         clearTimeout(level.timer);
@@ -23,9 +24,14 @@ function isInside(level) {
     return level.side == 'inside';
 }
 
+// What the fold button opened is an accordion too.
+function isFlat(level) {
+    return isInside(level) || level.isFolded;
+}
+
 // An accordion and what holds one: the mouse's coming and going changes nothing there.
 function isSteady(index) {
-    return state.levels.slice(index).some(isInside);
+    return state.levels.slice(index).some(isFlat);
 }
 
 // Lets all but the first `depth` levels close after the delay.
@@ -68,10 +74,15 @@ function hover() {
     dropCrossing();
     if (link && child?.opener == link) return keep(depth + 1);
     keep(depth);
-    if (link) openSubmenu(link, true);
+    if (!link) return;
+    // A bar that is open switches at once.
+    const delay = state.levels.length ? 0 : setting(state.menus['0'], 'opendelay');
+    if (delay) state.opening = setTimeout(() => openSubmenu(link, true), delay);
+    else openSubmenu(link, true);
 }
 
 function dropCrossing() {
+    clearTimeout(state.opening);
     clearTimeout(state.crossing?.timer);
     state.crossing = null;
 }

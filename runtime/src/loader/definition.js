@@ -4,11 +4,25 @@ function submenuId(menu, position) {
     return (menu.zevId == '0' ? '' : menu.zevId + 'i') + position;
 }
 
+// The menu that opens from an item's link, or null.
+function submenuOf(link) {
+    var menu = state.menus[link.zevSubmenu], i;
+    for (i = 0; menu && i < menu.zevItems.length; i++) if (menu.zevItems[i]) return menu;
+    return null;
+}
+
+// As from left to right.
+function wishedSide(menu) {
+    var top = state.menus['0'], isBelowRow = !/i/.test(menu.zevId) && setting(top, 'columns') > 1;
+    return setting(menu, 'position', isBelowRow && top);
+}
+
 function ZEVMenu(id) {
     var script = ofDocument('currentScript'), menus = state.barBox ? state.next : state.menus;
     this.zevId = asText(id) || '';
     this.zevItems = [];         // null where a mistaken item keeps its number
     this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';
+    if (this.zevId == '0') takeOver(this);
     if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(this.zevId)) {
         warn('"' + this.zevId + '" is not a menu id');
     } else if (menus[this.zevId]) {
@@ -56,7 +70,7 @@ function resolve(menu, url) {
 
 // "pages/our_team.html" is "our team".
 function nameFromFiles(item) {
-    return nameFromFile(item.url) || nameFromFile(item.imageOut);
+    return nameFromFile(item.url) || nameFromFile(item.imageOut).replace(/ (out|off|normal)$/i, '');
 }
 
 function nameFromFile(url) {

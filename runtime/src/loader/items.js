@@ -52,10 +52,28 @@ function addItemTo(box, menu, position, settings) {
     } else {
         link.appendChild(parse(menu, item.caption));
         link.zevName = wordsOf(link);
+        if (!/\S/.test(link.textContent)) link.className = 'picture';
         // What stands around the caption is no part of the name.
         if (before || after) link.setAttribute('aria-label', link.zevName);
         link.insertBefore(parse(menu, before), link.firstChild);
         link.appendChild(parse(menu, after));
+    }
+    link.zevItem = item;
+    addMark(link, menu);
+}
+
+// A picture has none.
+function addMark(link, menu) {
+    var html = setting(state.menus['0'], 'marker'), submenu = submenuOf(link), mark;
+    if (!submenu || html == 'none' || link.className || link.zevIsMarked) return;
+    link.zevIsMarked = true;
+    if (html) {
+        mark = append(link, 'span', 'mark');
+        mark.setAttribute('aria-hidden', 'true');
+        mark.appendChild(parse(menu, html));
+        link.insertBefore(mark, link.firstChild);
+    } else {
+        link.setAttribute('data-side', wishedSide(submenu));
     }
 }
 
@@ -65,12 +83,18 @@ function addDivider(line, menu, html) {
     divider.appendChild(parse(menu, html));
 }
 
+function isSet(menu, name) {
+    return ownSetting(menu, name) != null || ownSetting(window.zev_state, name) != null;
+}
+
 function styleBox(box, menu, settings) {
     var style = box.style, image = settings.bgimage, name, row;
     for (name in properties) {
         row = properties[name];
         if (isOwn(properties, name) && row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
     }
+    style.setProperty('--zev-row', isSet(menu, 'cellpadding') ? '0px' : '24px');
+    if (isSet(menu, 'menuborder')) style.outline = 'none';
     if (image) style.backgroundImage = 'url("' + resolve(menu, image).replace(/["\\]/g, '\\$&') + '")';
     if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + settings.columns + ',auto)';
 }
@@ -96,4 +120,21 @@ function buildBox(menu) {
     if (hasDivider) box.style[columns == 1 ? 'rowGap' : 'columnGap'] = 0;
     box.zevMenu = menu;
     return box;
+}
+
+// Stands for the top menu in a narrow window, and looks like one of its items.
+function addFold(menu) {
+    var width = setting(menu, 'fold'), label = setting(menu, 'label'), looks = Object.assign({}, menu), box;
+    if (!width) return;
+    looks.zevItems = [{ caption: label.replace(/&/g, '&amp;').replace(/</g, '&lt;'), url: '', target: '' }];
+    box = state.bar.shadowRoot.lastChild.appendChild(buildBox(looks));
+    box.className = 'fold';
+    box.zevMenu = null;
+    state.foldLink = box.querySelector('a');
+    state.foldLink.zevSubmenu = '0';
+    addMark(state.foldLink, menu);
+    state.foldLink.onclick = function () { state.isFoldAsked = !state.isFoldAsked; };
+    // A window may be a fraction of a pixel wider than a whole number.
+    state.fold = matchMedia('(max-width:' + (width - 0.02) + 'px)');
+    if (state.fold.matches) state.bar.setAttribute('data-folded', '');
 }

@@ -3,7 +3,10 @@
 function drawTop() {
     var menu = state.menus['0'];
     if (!state.bar || state.barBox || !menu || !menu.zevItems.length) return;
-    state.barBox = append(state.bar.shadowRoot, 'div').appendChild(buildBox(menu));
+    state.barBox = buildBox(menu);
+    if (state.bar.closest('[dir]')) state.barBox.dir = state.bar.closest('[dir]').dir;
+    addFold(menu);
+    state.bar.shadowRoot.lastChild.appendChild(state.barBox);
     if (shared.adoptBar) shared.adoptBar();
 }
 

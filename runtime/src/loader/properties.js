@@ -49,7 +49,11 @@ var properties = {
     position: [asSide, 'right'],
     menuoffset: [asNumber(-1e4, 1e4), 1],               // pixels
     closedelay: [asNumber(0, 1e9), 500],                // milliseconds
-    ffade: [asNumber(0, 5), 0],                         // seconds
+    opendelay: [asNumber(0, 1e9), 80],                  // milliseconds
+    marker: [asText, ''],
+    fold: [asNumber(0, 1e5), 0],                        // pixels
+    label: [asText, 'Site menu'],
+    ffade: [asNumber(0, 5), ''],                        // seconds; not set is a short one
     fopacity: [asNumber(1, 100), 100, 'opacity', '%'],
     fshadow: [asCss('color'), 'transparent', '--zev-shadow']
 };
@@ -72,4 +76,13 @@ function setting(menu, name, other) {
     if (value == null) value = ownSetting(other, name);
     if (value == null) value = ownSetting(window.zev_state, name);
     return value == null ? properties[name][1] : value;
+}
+
+// What was set for the whole menu before its definition. The next menu has its own.
+var ofBar = ['opendelay', 'marker', 'fold', 'label'];
+function takeOver(menu) {
+    for (var i = 0; i < ofBar.length; i++) {
+        menu[ofBar[i]] = setting(null, ofBar[i]);
+        delete window.zev_state[ofBar[i]];
+    }
 }

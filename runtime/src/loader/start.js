@@ -12,6 +12,9 @@ function emptyState() {
         isAwaiting: false,  // the definition that the loader's own element names
         isRemoved: false,   // by destroy(), and no menu defined since
         drawing: 0,         // timer of draw
+        fold: null,         // media query: the top menu is a button
+        foldLink: null,     // of that button
+        isFoldAsked: false, // by a click that came too early
         bar: null,          // the page's element around the top menu
         barBox: null,       // the top menu
         layer: null,        // the page's element around the submenus
@@ -19,9 +22,11 @@ function emptyState() {
         watched: [],        // documents in which a click closes them
         ahead: [],          // menus still to be built
         building: 0,        // timer or idle callback of the next of them
+        looking: 0,         // timer or idle callback of the search for the page's own items
         earlyCall: null,    // a ZEVMenuOpen that came too early
         actingLink: null,   // the pop-up link that a key or tap is to open
         over: null,         // { box, link } under the mouse
+        opening: 0,         // timer of what the mouse is on
         lastPoint: null,    // { x, y } of the mouse
         crossing: null,     // { from, timer } of a mouse on its way to a submenu
         press: {},          // the last pointerdown on a link, until the click
@@ -31,8 +36,9 @@ function emptyState() {
 
 var state = emptyState();
 var shared = {
-    state: state, destroy: destroy, warn: warn, setting: setting, submenuId: submenuId,
-    createHost: createHost, buildBox: buildBox, nameOf: nameOf, nameFromFiles: nameFromFiles,
+    state: state, destroy: destroy, warn: warn, setting: setting,
+    submenuId: submenuId, submenuOf: submenuOf, wishedSide: wishedSide, resolve: resolve,
+    createHost: createHost, buildBox: buildBox, addMark: addMark, nameOf: nameOf, nameFromFiles: nameFromFiles,
     ofDocument: ofDocument
 };
 

@@ -320,12 +320,12 @@ test('R4: the menu is a landmark, unless it stands in one, and what is open anot
     await lab.show({ definition: nested.replace("'Boats'", "'<i>Big</i> boats'") });
     const landmarks = () => page.$$eval('[data-zev]', hosts => hosts.map(host =>
         [host.dataset.zev, host.getAttribute('role') || '-', host.getAttribute('aria-label') || '-'].join(' ')));
-    assert.deepEqual(await landmarks(), ['bar navigation -']);
+    assert.deepEqual(await landmarks(), ['bar navigation Site menu']);
     await hover(page, 'Products', 'Big boats');
-    assert.deepEqual(await landmarks(), ['bar navigation -', 'layer navigation Products']);
+    assert.deepEqual(await landmarks(), ['bar navigation Site menu', 'layer navigation Products']);
     assert.deepEqual(await attributes('ul[role=menu]', ['aria-label']), ['Products', 'Big boats']);
     await press('Escape');
-    assert.deepEqual(await landmarks(), ['bar navigation -', 'layer - -']);
+    assert.deepEqual(await landmarks(), ['bar navigation Site menu', 'layer - -']);
     await lab.show({ before: '<nav>', after: '</nav>' });
     assert.deepEqual(await landmarks(), ['bar - -']);
 });
