@@ -117,22 +117,19 @@ function boxOf(menu) {
     return menu.zevBox;
 }
 
-// What of the page lies above the rest of it, and holds the opener.
+// The dialog or popover that holds the opener, whatever shadow trees lie between them.
 function topAround(opener) {
-    const isTop = node => node.matches?.('dialog[open],[popover]') || node == document.fullscreenElement;
-    let node = opener;
-    while (node && !isTop(node)) node = node.assignedSlot || node.parentNode || node.host;
-    return node != document.documentElement && node;
+    return opener && (opener.closest('dialog[open],[popover]') || topAround(opener.getRootNode().host));
 }
 
-// There the layer has to be too, and above it; each time anew, as what was opened last lies highest.
+// Puts the layer there too, above it: what was opened last lies highest.
 function raise(layer, top) {
-    const home = top || shared.ofDocument('body');
+    const home = top || document.body;
     if (layer.parentNode != home) home.appendChild(layer);
     mark(layer, { popover: null });
-    if (!top || !layer.showPopover || !layer.isConnected) return;
+    if (!top) return;
     mark(layer, { popover: 'manual' });
-    layer.showPopover();
+    layer.showPopover?.();
 }
 
 function ensureBox(menu, opener) {

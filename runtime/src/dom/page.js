@@ -5,16 +5,10 @@ function listen(target, isOn, listeners, isCapturing) {
     Object.keys(listeners).forEach(type => target[change](type, listeners[type], isCapturing));
 }
 
-// This one and those of its frames, as far as they are the site's own.
+// The documents of a page and its frames, as far as they are the site's own.
 function documentsIn(page) {
-    const frames = [...page.querySelectorAll('iframe,frame,object')];
-    return [page].concat(...frames.map(frame => frame.contentDocument ? documentsIn(frame.contentDocument) : []));
-}
-
-function wholePage() {
-    let top = window;
-    while (top.frameElement) top = top.parent;
-    return documentsIn(top.document);
+    const frames = [...page.querySelectorAll('iframe,frame')].map(frame => frame.contentDocument);
+    return [page, ...frames.filter(Boolean).flatMap(documentsIn)];
 }
 
 function onBlur() {
@@ -23,7 +17,9 @@ function onBlur() {
 
 // The page, while a submenu is open. What happens in another site's frame shows as a loss of the focus.
 function watch(isOn) {
-    if (isOn) state.watched = wholePage();
+    let top = window;
+    while (top.frameElement) top = top.parent;
+    if (isOn) state.watched = documentsIn(top.document);
     state.watched.forEach(page => listen(page, isOn, { pointerdown: onOutside }, true));
     listen(document, isOn, { keydown: onEscape }, true);
     listen(window, isOn, { scroll: placeAll }, true);
@@ -43,8 +39,8 @@ function attend(host, isOn) {
 
 shared.serve = function (isOn) {
     listen(document, isOn, {
-        pointerdown: onPress, click: onPageClick, keydown: onPageKey, mouseover: onPageOver,
-        mouseout: onPageOut, focusin: onPageFocus, DOMContentLoaded: finish
+        pointerdown: onPress, click: onPageClick, keydown: onPageKey, mouseover: onArrival, focusin: onArrival,
+        mouseout: onLeaving, DOMContentLoaded: finish
     });
     listen(window, isOn, { load: onLoad });
 };

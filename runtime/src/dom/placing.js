@@ -64,7 +64,7 @@ function isHolder(level) {
 
 // Where the level is to stand. One that is inside its parent keeps the size it had outside.
 function spotOf(level) {
-    const { box, opener } = level, isRtl = isRtlAt(opener || shared.ofDocument('body'));
+    const { box, opener } = level, isRtl = isRtlAt(opener || document.body);
     const parent = opener?.zevSubmenu && boxAt(opener);
     box.dir = isRtl ? 'rtl' : 'ltr';
     if (parent && isAccordion(parent)) return { side: 'inside' };
@@ -152,7 +152,7 @@ function nameLayer() {
 // The mark points to where the submenu is, or will be.
 function turnMark({ opener, isFolded }, side) {
     const reading = isFolded && isOpen(opener) ? 'top' : isFolded || side == 'inside' ? 'bottom'
-        : realSide(side, isRtlAt(opener || shared.ofDocument('body')));
+        : realSide(side, isRtlAt(opener || document.body));
     if (opener?.hasAttribute('data-side')) mark(opener, { 'data-side': reading });
 }
 

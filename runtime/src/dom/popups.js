@@ -29,8 +29,8 @@ function release(link) {
 
 shared.openPopup = function (call) {
     const { id, isEvent, x, y } = call, { levels, actingLink } = state, menu = state.menus[id];
-    const isEarly = !menu && (document.readyState == 'loading' || state.isAwaiting);
-    if (isEarly || !shared.ofDocument('body')) {
+    const isEarly = !menu && (document.readyState == 'loading' || !state.menus['0']);
+    if (isEarly || !document.body) {
         state.earlyCall = call;
         return;
     }
@@ -48,18 +48,18 @@ shared.openPopup = function (call) {
     openLevel(0, {
         menu, box: ensureBox(menu, link), opener: link,
         point: isBelow ? null : { x: x || 0, y: y || 0 },
-        wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(shared.ofDocument('body'))) : '',
+        wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(document.body)) : '',
         offset: isBelow || !isEvent ? 0 : fixed.besideMousePx
     });
 };
 
-const handlerCall = /ZEVMenuOpen *\( *["']zev1(i\d+)?["'] *, *["']([\di]+)["'] *,(?: *(-?\d+) *, *(-?\d+))?/;
-
 // The call that a link makes without a handler, or that its handler would if a policy let it run.
+const handlerCall = /ZEVMenuOpen\W+zev1(i\d+)?\W+([\di]+)(?:\W+?(-?\d+)\W+?(-?\d+))?/;
+
 function callOf(link, name) {
-    const id = link.getAttribute('data-zev-popup'), text = link[name] ? '' : link.getAttribute(name);
-    if (id) return name != 'onfocus' && { id, link, isEvent: true };
-    const [, parent = '', rest, x, y] = handlerCall.exec(text) || [];
+    const own = link.getAttribute('data-zev-popup');
+    if (own) return name == 'onmouseover' && { id: own, link, isEvent: true };
+    const [, parent = '', rest, x, y] = handlerCall.exec(link[name] ? '' : link.getAttribute(name)) || [];
     return rest && { id: (parent + 'i' + rest).slice(1), link, isEvent: !x, x, y };
 }
 
@@ -68,24 +68,21 @@ function answer(link, name, { pageX, pageY } = {}) {
     if (call) shared.openPopup({ ...call, x: call.x ?? pageX, y: call.y ?? pageY });
 }
 
-function onPageOver(event) {
-    answer(popupLinkAt(event), 'onmouseover', event);
+// Of the mouse or the focus.
+function onArrival(event) {
+    answer(popupLinkAt(event), event.type == 'focusin' ? 'onfocus' : 'onmouseover', event);
 }
 
-function onPageFocus(event) {
-    answer(popupLinkAt(event), 'onfocus');
-}
-
-function onPageOut(event) {
+function onLeaving(event) {
     const link = popupLinkAt(event), level = state.levels[0];
-    if (!link || !(link.hasAttribute('data-zev-popup') || (!link.onmouseout && /ZEVMenuClose/.test(link.getAttribute('onmouseout'))))) return;
+    if (!link || link.onmouseout || !link.matches('[data-zev-popup],[onmouseout*=ZEVMenuClose]')) return;
     state.earlyCall = null;
     if (level?.opener == link) shared.closePopup(level.menu.zevId);
 }
 
 // By its handler, or as its listener did last.
 function openFrom(link, event) {
-    const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name)));
+    const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name))) || handlers[0];
     state.actingLink = link;
     try {
         const call = callOf(link, name) || (link.zevPopup && { id: link.zevPopup, isEvent: true });
@@ -111,7 +108,7 @@ function pressOn(link) {
 function onPageClick(event) {
     const link = popupLinkAt(event);
     if (!link) return;
-    if (!link.hasAttribute('data-zev-popup')) answer(link, 'onclick', event);
+    answer(link, 'onclick', event);
     const { pointer = '', wasOpen = false } = pressOn(link), hasAddress = hasOwnAddress(link);
     const meaning = isModified(event) ? 'follow'
         : meaningOfClick({ pointer, wasOpen, hasAddress, hasSubmenu: pointer != 'mouse' });

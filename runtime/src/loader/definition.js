@@ -18,7 +18,7 @@ function wishedSide(menu) {
 }
 
 function ZEVMenu(id) {
-    var script = ofDocument('currentScript'), menus = state.barBox ? state.next : state.menus;
+    var script = currentScript(), menus = state.barBox ? state.next : state.menus;
     this.zevId = asText(id) || '';
     this.zevItems = [];         // null where a mistaken item keeps its number
     this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';

@@ -6,16 +6,12 @@ function parse(menu, html) {
     var text = html.replace(/&nbsp;/g, '\xa0'), names = ['src', 'href'], linked, i, k, value;
     if (!/[<&]/.test(text)) return document.createTextNode(text);
     if (!workshop) workshop = document.implementation.createHTMLDocument('').createElement('template');
-    // What stays where a policy refuses HTML.
-    workshop.content.textContent = text;
-    attempt(function () {
-        workshop.innerHTML = trusted('HTML', html);
-    });
+    workshop.innerHTML = policy.createHTML(html);
     for (k = 0; k < 2; k++) {
         linked = workshop.content.querySelectorAll('[' + names[k] + ']');
         for (i = 0; i < linked.length; i++) {
             value = linked[i].getAttribute(names[k]);
-            linked[i].setAttribute(names[k], trusted('ScriptURL', resolve(menu, value)));
+            linked[i].setAttribute(names[k], policy.createScriptURL(resolve(menu, value)));
         }
     }
     return document.importNode(workshop.content, true);
@@ -91,7 +87,7 @@ function styleBox(box, menu, settings) {
     var style = box.style, image = settings.bgimage, name, row;
     for (name in properties) {
         row = properties[name];
-        if (isOwn(properties, name) && row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
+        if (row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
     }
     style.setProperty('--zev-row', isSet(menu, 'cellpadding') ? '0px' : '24px');
     if (isSet(menu, 'menuborder')) style.outline = 'none';
@@ -101,9 +97,7 @@ function styleBox(box, menu, settings) {
 
 function buildBox(menu) {
     var box = document.createElement('ul'), settings = {}, count = 0, name, i;
-    for (name in properties) {
-        if (isOwn(properties, name)) settings[name] = setting(menu, name);
-    }
+    for (name in properties) settings[name] = setting(menu, name);
     var columns = settings.columns, hasDivider = settings.hspacing && !/^(&nbsp;)?$/.test(settings.divider);
     for (i = 1; i <= menu.zevItems.length; i++) {
         if (menu.zevItems[i - 1]) {
@@ -124,7 +118,7 @@ function buildBox(menu) {
 
 // Stands for the top menu in a narrow window, and looks like one of its items.
 function addFold(menu) {
-    var width = setting(menu, 'fold'), label = setting(menu, 'label'), looks = Object.assign({}, menu), box;
+    var width = setting(menu, 'fold'), label = setting(menu, 'label'), looks = Object.create(menu), box;
     if (!width) return;
     looks.zevItems = [{ caption: label.replace(/&/g, '&amp;').replace(/</g, '&lt;'), url: '', target: '' }];
     box = state.bar.shadowRoot.lastChild.appendChild(buildBox(looks));

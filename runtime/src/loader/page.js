@@ -22,10 +22,10 @@ function draw() {
 
 // A handler or the page's head names no place, and gets the start of the page.
 function placeBar() {
-    var script = ofDocument('currentScript'), body = ofDocument('body'), place = markedPlace();
+    var script = currentScript(), body = document.body, place = markedPlace();
     if (place) {
         place.appendChild(state.bar);
-    } else if (script && script.parentNode && script.parentNode != ofDocument('head')) {
+    } else if (script && script.parentNode && script.parentNode != document.head) {
         script.parentNode.insertBefore(state.bar, script);
     } else if (body) {
         body.insertBefore(state.bar, body.firstChild);
@@ -103,7 +103,7 @@ window.ZEVMenu = ZEVMenu;
 window.zev_state = window.zev_state || {};
 window.zevmenu = noMenu;
 
-var own = ofDocument('currentScript');
+var own = currentScript();
 var definition = own && own.getAttribute('data-definition');
 var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
 if (prefix == '' && own && own.src) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
@@ -111,28 +111,19 @@ if (prefix == '' && own && own.src) prefix = own.src.replace(/[^\/]*([?#].*)?$/,
 // What the page trusts this file with holds for those that it asks for.
 function load(url, loss, onLoad) {
     var script = document.createElement('script');
-    if (own && own.nonce) script.nonce = own.nonce;
+    if (own) script.nonce = own.nonce;
     script.onload = onLoad;
     script.onerror = function () {
         warn(url + ' did not load; ' + loss);
     };
-    attempt(function () {
-        script.src = trusted('ScriptURL', url);
-        (ofDocument('head') || document.documentElement).appendChild(script);
-        state.scripts.push(script);
-    });
+    script.src = policy.createScriptURL(url);
+    state.scripts.push((document.head || document.documentElement).appendChild(script));
 }
 
 if (isModern) {
     load(prefix + 'zevmenu_dom.js', 'submenus do not open');
     document.addEventListener('DOMContentLoaded', draw);
-    if (definition) {
-        state.isAwaiting = true;
-        load(definition, 'there is no menu', function () {
-            state.isAwaiting = false;
-            ZEVLoadMenu();
-        });
-    }
+    if (definition) load(definition, 'there is no menu', ZEVLoadMenu);
 } else {
     document.write('<script language="JavaScript1.2" src="' + prefix +
         'zevmenu_ns4.js"><\/script>');

