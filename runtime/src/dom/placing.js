@@ -114,12 +114,16 @@ function settle(shown) {
     holder.box.scrollTop += Math.min(Math.max(0, bottom - frame.bottom), top - frame.top);
 }
 
+function stopFading(box) {
+    box.getAnimations().forEach(fading => fading.cancel());
+}
+
 function fade(level, direction, onEnd) {
     // A short opening, where none is written.
     const seconds = setting(level.menu, 'ffade'), duration = seconds === '' && direction == 'reverse'
         ? fixed.openingMs : seconds * 1000;
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
-    level.box.getAnimations().forEach(fading => fading.cancel());
+    stopFading(level.box);
     // What measures colours at such a short moment is not to take it for the menu's own.
     const end = seconds === '' ? { filter: 'opacity(0)' } : { opacity: 0 };
     level.box.animate([{}, end], { duration, direction }).onfinish = onEnd;
