@@ -1,7 +1,6 @@
 // join_scripts OUT SOURCE...: makes the file that pages load of its sources, in one function, so
 // that they share their names and the page sees none.
 
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -34,9 +33,7 @@ int main(int argc, char** argv) {
     if (text.empty())
         return 1;
     std::ofstream out(argv[1], std::ios::binary);
-    out << "/* " << std::filesystem::path(argv[1]).filename().string()
-        << ": run-time library of ZEVMenu Creator */\n(function(){\n"
-        << text << "})();\n";
+    out << "(function(){\n" << text << "})();\n";
     out.close();
     return out ? 0 : 1;
 }

@@ -66,45 +66,33 @@ function promote(box, role) {
 // ---- The items of the page that is shown ----
 
 function markCurrent(link) {
-    mark(link, { 'aria-current': link.zevItem.zevCurrent || null });
+    mark(link, { 'aria-current': link.zevItem.zevCurrent });
 }
 
-function parentOf(menu) {
-    return state.menus[/^(.*)i/.exec(menu.zevId)?.[1] || '0'];
-}
-
-// Of the page that an item leads to, without its fragment; '' if it leads to none.
-function addressOf(menu, { url }) {
+// Whether a menu, or one below it, leads to the page that is shown. A link within the page does not count.
+function findCurrent(menu, here) {
     const link = document.createElement('a');
-    if (!url || /^ *(#|javascript:)/i.test(url)) return '';
-    link.href = shared.resolve(menu, url);
-    return link.href.replace(/#.*/, '');
-}
-
-function findCurrent() {
-    const here = location.href.replace(/#.*/, ''), menus = Object.values(state.menus), found = [];
-    for (const menu of menus) {
-        for (const item of menu.zevItems) {
-            const isCurrent = item && addressOf(menu, item) == here;
-            if (item) item.zevCurrent = isCurrent ? 'page' : '';
-            if (isCurrent) found.push(menu);
-        }
-    }
-    for (let menu of found) {
-        for (let item; (item = itemOf(menu)); menu = parentOf(menu)) item.zevCurrent ||= 'true';
-    }
-    [state.barBox, ...menus.map(menu => menu.zevBox)].forEach(box => box && linksOf(box).forEach(markCurrent));
+    return menu.zevItems.filter((item, index) => {
+        if (!item) return false;
+        const below = state.menus[shared.submenuId(menu, index + 1)], isOnWay = below && findCurrent(below, here);
+        link.href = shared.resolve(menu, item.url);
+        const isHere = /^[^#]/.test(item.url) && link.href.split('#')[0] == here;
+        return (item.zevCurrent = isHere ? 'page' : isOnWay ? 'true' : null);
+    }).length;
 }
 
 function lookUpCurrent() {
     state.looking ||= whenIdle(() => {
+        const { menus, barBox } = state, top = menus['0'];
         state.looking = 0;
-        findCurrent();
+        if (top) findCurrent(top, location.href.split('#')[0]);
+        [barBox, ...Object.values(menus).map(menu => menu.zevBox)].forEach(box => box && linksOf(box).forEach(markCurrent));
     });
 }
 
 function itemOf(menu) {
-    return parentOf(menu)?.zevItems[/\d+$/.exec(menu.zevId) - 1];
+    const [, parentId, position] = /^(?:(.*)i)?(.*)/.exec(menu.zevId);
+    return state.menus[parentId || '0']?.zevItems[position - 1];
 }
 
 function boxOf(menu) {

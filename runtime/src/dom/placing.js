@@ -95,11 +95,10 @@ function placeLevel(level) {
 
 // In the flow, below its item.
 function placeInside({ box, opener }) {
-    const { style } = box, parent = boxAt(opener);
+    const { style } = box;
     box.classList.add('inside');
     box.hidden = false;
     style.maxWidth = style.maxHeight = style.overflowY = '';
-    style.setProperty('--zev-indent', (parseFloat(parent.style.getPropertyValue('--zev-indent')) || 0) + 1 + 'em');
     move(box, opener.nextSibling != box, () => opener.after(box));
     orient(box);
 }
@@ -114,14 +113,18 @@ function settle(shown) {
     holder.box.scrollTop += Math.min(Math.max(0, bottom - frame.bottom), top - frame.top);
 }
 
+function stopFading(box) {
+    box.getAnimations().forEach(fading => fading.cancel());
+}
+
 function fade(level, direction, onEnd) {
     // A short opening, where none is written.
-    const seconds = setting(level.menu, 'ffade'), duration = seconds === '' && direction == 'reverse'
-        ? fixed.openingMs : seconds * 1000;
+    const seconds = setting(level.menu, 'ffade'), isCalm = seconds === '' && direction == 'reverse';
+    const duration = isCalm ? fixed.openingMs : seconds * 1000;
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
-    level.box.getAnimations().forEach(fading => fading.cancel());
+    stopFading(level.box);
     // What measures colours at such a short moment is not to take it for the menu's own.
-    const end = seconds === '' ? { filter: 'opacity(0)' } : { opacity: 0 };
+    const end = isCalm ? { filter: 'opacity(0)' } : { opacity: 0 };
     level.box.animate([{}, end], { duration, direction }).onfinish = onEnd;
 }
 
@@ -150,10 +153,9 @@ function nameLayer() {
 }
 
 // The mark points to where the submenu is, or will be.
-function turnMark({ opener, isFolded }, side) {
-    const reading = isFolded && isOpen(opener) ? 'top' : isFolded || side == 'inside' ? 'bottom'
-        : realSide(side, isRtlAt(opener || document.body));
-    if (opener?.hasAttribute('data-side')) mark(opener, { 'data-side': reading });
+function turnMark({ opener, box }, side) {
+    if (!opener?.hasAttribute('data-side')) return;
+    mark(opener, { 'data-side': side == 'inside' ? 'bottom' : realSide(side, box.dir == 'rtl') });
 }
 
 function show(level) {

@@ -17,7 +17,7 @@ var styleText = [
     'ul[role=menu]{position:absolute;overscroll-behavior:contain;outline-offset:-1px;',
     'outline:1px solid color-mix(in srgb,var(--zev-nft) 35%,transparent)}',
     'ul:is(.inside,.folded){display:flex;flex-direction:column}',
-    'ul.inside{position:static;width:auto;box-shadow:none}',
+    'ul.inside{position:static;width:auto;padding-inline-start:1em;background-color:var(--zev-nbg);box-shadow:none}',
     'ul:is(.inside,.folded)>li{flex-direction:column}',
     'ul[hidden]{display:none}',
     'li{display:flex;min-width:0}',
@@ -29,10 +29,9 @@ var styleText = [
     'a:not([class]){min-height:var(--zev-row);align-content:center}',
     '@media(pointer:coarse){ul{--zev-row:44px!important}}',
     ':host(:not([data-folded]))>div>ul.fold,:host([data-folded])>div>ul:not(.fold){display:none}',
-    'ul.inside>li>a{padding-inline-start:calc(var(--zev-padding) + var(--zev-indent))}',
     'a:is(:hover,:focus,[aria-expanded=true]){background:var(--zev-hbg);color:var(--zev-hft)}',
     // Around the text, on whatever colours; in a box that scrolls it would be cut off.
-    'a:focus-visible{position:relative;z-index:1;outline:2px solid #fff;box-shadow:0 0 0 4px #000}',
+    'a:focus-visible{position:relative;z-index:1;outline:2px solid #fff;outline-offset:0;box-shadow:0 0 0 4px #000}',
     'ul[style*=overflow]>li>a:focus-visible{outline-offset:-4px;box-shadow:inset 0 0 0 2px #000}',
     '.mark,a[data-side]::before{float:right;float:inline-end;margin-inline:.8em .15em}',
     'a[data-side]::before{content:"";box-sizing:border-box;width:.45em;height:.45em;margin-top:.37em;',
@@ -43,6 +42,7 @@ var styleText = [
     '[data-side=top]{--zev-turn:-45deg}',
     // A closed row of an accordion opens where its line ends.
     ':is(.inside,.folded)>li>a[aria-expanded=false]{--zev-turn:45deg}',
+    '.fold a[aria-expanded=true]{--zev-turn:-45deg}',
     // Both pictures share one cell, so that nothing moves.
     'a.rollover{display:grid;justify-content:start}',
     'a.rollover>img{grid-area:1/1}',
