@@ -28,7 +28,7 @@ function release(link) {
 }
 
 shared.openPopup = function (call) {
-    const { id, isEvent, x, y } = call, { levels, actingLink } = state, menu = state.menus[id];
+    const id = popupId(call.of), { isEvent, x, y } = call, { levels, actingLink } = state, menu = state.menus[id];
     const isEarly = !menu && (document.readyState == 'loading' || !state.menus['0']);
     if (isEarly || !document.body) {
         state.earlyCall = call;
@@ -38,7 +38,7 @@ shared.openPopup = function (call) {
     const isLink = call.link instanceof Element && call.link.matches(anyLink);
     const link = isLink ? call.link : actingLink;
     if (link) {
-        link.zevPopup = id;
+        link.zevPopup = call.of;
         adopt(link);
     }
     if (levels[0]?.menu == menu && levels[0].opener == link) return keep(1);
@@ -47,20 +47,26 @@ shared.openPopup = function (call) {
     const isBelow = link && isEvent && (actingLink || x == null);
     openLevel(0, {
         menu, box: ensureBox(menu, link), opener: link,
-        point: isBelow ? null : { x: x || 0, y: y || 0 },
+        point: isBelow ? null : { x: +x || 0, y: +y || 0 },
         wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(document.body)) : '',
         offset: isBelow || !isEvent ? 0 : fixed.besideMousePx
     });
 };
 
+// Of 'zev1' and the id, or 'zev1i' + N and the rest of it.
+function popupId(of) {
+    const [, parent = '', rest] = /^zev1(i\d+)? ([1-9][\di]*)$/.exec(of) || [];
+    return rest ? (parent + 'i' + rest).slice(1) : '';
+}
+
 // The call that a link makes without a handler, or that its handler would if a policy let it run.
-const handlerCall = /ZEVMenuOpen\W+zev1(i\d+)?\W+([\di]+)(?:\W+?(-?\d+)\W+?(-?\d+))?/;
+const handlerCall = /ZEVMenuOpen\W+(zev1\w*)\W+([\di]+)(?:\W+?(-?\d+)\W+?(-?\d+))?/;
 
 function callOf(link, name) {
     const own = link.getAttribute('data-zev-popup');
-    if (own) return name == 'onmouseover' && { id: own, link, isEvent: true };
-    const [, parent = '', rest, x, y] = handlerCall.exec(link[name] ? '' : link.getAttribute(name)) || [];
-    return rest && { id: (parent + 'i' + rest).slice(1), link, isEvent: !x, x, y };
+    if (own) return name == 'onmouseover' && { of: 'zev1 ' + own, link, isEvent: true };
+    const [, a, b, x, y] = handlerCall.exec(link[name] ? '' : link.getAttribute(name)) || [];
+    return b && { of: `${a} ${b}`, link, isEvent: !x, x, y };
 }
 
 function answer(link, name, { pageX, pageY } = {}) {
@@ -74,10 +80,10 @@ function onArrival(event) {
 }
 
 function onLeaving(event) {
-    const link = popupLinkAt(event), level = state.levels[0];
+    const link = popupLinkAt(event);
     if (!link || link.onmouseout || !link.matches('[data-zev-popup],[onmouseout*=ZEVMenuClose]')) return;
     state.earlyCall = null;
-    if (level?.opener == link) shared.closePopup(level.menu.zevId);
+    shared.closePopup(link.zevPopup);
 }
 
 // By its handler, or as its listener did last.
@@ -85,7 +91,7 @@ function openFrom(link, event) {
     const name = handlers.find(name => /ZEVMenuOpen/.test(link.getAttribute(name))) || handlers[0];
     state.actingLink = link;
     try {
-        const call = callOf(link, name) || (link.zevPopup && { id: link.zevPopup, isEvent: true });
+        const call = callOf(link, name) || (link.zevPopup && { of: link.zevPopup, isEvent: true });
         if (link[name]) link[name](event);
         else if (call) shared.openPopup(call);
     } finally {

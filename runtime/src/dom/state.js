@@ -47,10 +47,10 @@ function keep(depth) {
     });
 }
 
-shared.closePopup = function (id) {
+shared.closePopup = function (of) {
     // Browsers may tell of the arrival on the pop-up before the leaving of the link.
     const isInside = state.over && depthOf(state.over.box) > 0;
-    if (state.levels[0]?.menu.zevId == id && !isInside) keep(0);
+    if (state.levels[0]?.menu.zevId == popupId(of) && !isInside) keep(0);
 };
 
 function pointAt(box, link, point) {

@@ -32,7 +32,7 @@ function ZEVMenu(id) {
         // It may belong to the menu that is drawn, or to one that will take its place.
         if (!state.next['0'] && !state.menus[this.zevId]) state.menus[this.zevId] = this;
         // Its place may have been named first.
-        if (this.zevId == '0' && (state.bar || markedPlace())) state.drawing = setTimeout(draw, 0);
+        if (this.zevId == '0' && (state.bar || findPlace())) state.drawing = setTimeout(draw, 0);
         if (state.isRemoved && shared.serve) shared.serve(true);
         state.isRemoved = false;
     }

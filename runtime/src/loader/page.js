@@ -11,26 +11,30 @@ function drawTop() {
 }
 
 // The page's element that stands for a call of ZEVDisplayMenu.
-function markedPlace() {
+function findPlace() {
     return isModern && document.querySelector('[data-zevmenu]');
 }
 
 function draw() {
-    if (markedPlace() && !state.isRemoved) ZEVDisplayMenu();
+    if (findPlace() && !state.isRemoved) ZEVDisplayMenu();
     else drawTop();
+}
+
+// What was asked for in the page's head has its place now.
+function onReady() {
+    if (state.bar && !state.bar.isConnected) ZEVDisplayMenu();
+    else draw();
 }
 
 // A handler or the page's head names no place, and gets the start of the page.
 function placeBar() {
-    var script = currentScript(), body = document.body, place = markedPlace();
+    var script = currentScript(), body = document.body, place = findPlace();
     if (place) {
         place.appendChild(state.bar);
     } else if (script && script.parentNode && script.parentNode != document.head) {
         script.parentNode.insertBefore(state.bar, script);
     } else if (body) {
         body.insertBefore(state.bar, body.firstChild);
-    } else {
-        document.addEventListener('DOMContentLoaded', placeBar);
     }
 }
 
@@ -58,36 +62,26 @@ window.ZEVCreateMenu = window.ZEVLoadMenu = function () {
     if (shared.refresh && !state.isRemoved) shared.refresh();
 };
 
-// 'zev1' and the id, or 'zev1i' + N and the rest of it.
-function popupId(a, b) {
-    var call = /^zev1(i\d+)? ([1-9][\di]*)$/.exec(asText(a) + ' ' + asText(b));
-    return call ? ((call[1] || '') + 'i' + call[2]).substring(1) : '';
-}
-
 // An event's data are gone when a waiting call is done.
 window.ZEVMenuOpen = function (a, b, x, y) {
-    var event = x && typeof x == 'object' ? x : null, coordinate = asNumber(-1e7, 1e7);
-    var call = { id: popupId(a, b), link: event && event.currentTarget, isEvent: event != null,
-        x: coordinate(event ? event.pageX : x), y: coordinate(event ? event.pageY : y) };
+    var event = x && typeof x == 'object' ? x : null;
+    var call = { of: asText(a) + ' ' + asText(b), link: event && event.currentTarget, isEvent: event != null,
+        x: event ? event.pageX : asText(x), y: event ? event.pageY : asText(y) };
     if (shared.openPopup) shared.openPopup(call);
     else state.earlyCall = call;
 };
 
 window.ZEVMenuClose = function (a, b) {
     state.earlyCall = null;
-    if (shared.closePopup) shared.closePopup(popupId(a, b));
+    if (shared.closePopup) shared.closePopup(asText(a) + ' ' + asText(b));
 };
 
 function takeAway(menus) {
-    var scripts = state.scripts;
     if (shared.stop) shared.stop();
     clearTimeout(state.drawing);
-    document.removeEventListener('DOMContentLoaded', placeBar);
-    document.removeEventListener('DOMContentLoaded', draw);
+    document.removeEventListener('DOMContentLoaded', onReady);
     if (state.bar) state.bar.remove();
-    Object.assign(state, emptyState());
-    state.menus = menus;
-    state.scripts = scripts;
+    Object.assign(state, emptyState(), { menus: menus, scripts: state.scripts });
 }
 
 // Takes away what was added, but for the global names. The next definition starts again.
@@ -109,21 +103,21 @@ var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
 if (prefix == '' && own && own.src) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
 
 // What the page trusts this file with holds for those that it asks for.
-function load(url, loss, onLoad) {
+function load(url) {
     var script = document.createElement('script');
     if (own) script.nonce = own.nonce;
-    script.onload = onLoad;
     script.onerror = function () {
-        warn(url + ' did not load; ' + loss);
+        warn(url + ' did not load');
     };
     script.src = policy.createScriptURL(url);
-    state.scripts.push((document.head || document.documentElement).appendChild(script));
+    state.scripts.push(script);
+    return (document.head || document.documentElement).appendChild(script);
 }
 
 if (isModern) {
-    load(prefix + 'zevmenu_dom.js', 'submenus do not open');
-    document.addEventListener('DOMContentLoaded', draw);
-    if (definition) load(definition, 'there is no menu', ZEVLoadMenu);
+    load(prefix + 'zevmenu_dom.js');
+    document.addEventListener('DOMContentLoaded', onReady);
+    if (definition) load(definition).onload = ZEVLoadMenu;
 } else {
     document.write('<script language="JavaScript1.2" src="' + prefix +
         'zevmenu_ns4.js"><\/script>');

@@ -44,8 +44,7 @@ var isModern = shared.isModern = document.getElementById && document.documentEle
 
 // Not the document's property itself, which can be an element of the page (<img name="currentScript">).
 function currentScript() {
-    return isModern &&
-        Object.getOwnPropertyDescriptor(Document.prototype, 'currentScript').get.call(document);
+    return isModern && Document.prototype.__lookupGetter__('currentScript').call(document);
 }
 
 function warn(text) {
@@ -55,4 +54,4 @@ function warn(text) {
 
 // For pages that demand Trusted Types. Captions and addresses are the site's own.
 var policy = { createHTML: asText, createScriptURL: asText };
-if (window.trustedTypes && trustedTypes.createPolicy) policy = trustedTypes.createPolicy('zevmenu', policy);
+if (window.trustedTypes) policy = trustedTypes.createPolicy('zevmenu', policy);
