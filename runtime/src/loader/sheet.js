@@ -33,7 +33,7 @@ var styleText = [
     // Around the text, on whatever colours; in a box that scrolls it would be cut off.
     'a:focus-visible{position:relative;z-index:1;outline:2px solid #fff;outline-offset:0;box-shadow:0 0 0 4px #000}',
     'ul[style*=overflow]>li>a:focus-visible{outline-offset:-4px;box-shadow:inset 0 0 0 2px #000}',
-    '.mark,a[data-side]::before{float:right;float:inline-end;margin-inline:.8em .15em}',
+    '.mark,a[data-side]::before{float:right;float:inline-end;margin-inline:.7em .4em}',
     'a[data-side]::before{content:"";box-sizing:border-box;width:.45em;height:.45em;margin-top:.37em;',
     'border:solid;border-width:.13em .13em 0 0;transform:scaleX(var(--zev-x,1)) rotate(var(--zev-turn,45deg))}',
     '[dir=rtl]{--zev-x:-1}',

@@ -1,9 +1,7 @@
 // The button that stands for the top menu in a narrow window.
 import assert from 'node:assert/strict';
-import { readFileSync } from 'node:fs';
-import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, engine, focus, hover, isNamed, isShown, item, libraryFolder, nested, pageText, pause,
+import { boxRect, engine, focus, hover, isNamed, isShown, item, nested, pause,
     printedColours, rect, shown, startLab, until, waitAt, waitGone, waitShown } from './support.mjs';
 
 let lab, page;
@@ -187,23 +185,6 @@ test('an open menu is closed when the window gets wide, and is a bar again', asy
     for (const name of all) tops.push((await rect(page, name)).top);
     assert.equal(new Set(tops).size, 1);
     assert.equal(await isShown(page, 'Boats'), false);
-});
-
-test('a click before the second file has arrived opens as soon as it has', async () => {
-    let arrive;
-    const arrival = new Promise(resolve => { arrive = resolve; });
-    const text = name => readFileSync(join(libraryFolder, name), 'utf8');
-    lab.files.set('/late/zevmenu_loader.js', text('zevmenu_loader.js'));
-    lab.files.set('/late/zevmenu_dom.js', () => arrival.then(() => text('zevmenu_dom.js')));
-    lab.files.set('/site/menu.js', folding);
-    lab.files.set('/site/late.html', pageText({ library: '/late/', handlers: '' }));
-    await page.setViewport({ width: 320, height: 568, hasTouch: false });
-    const loaded = page.goto(lab.origin + '/site/late.html');
-    await until(() => page.$('[data-zev=bar]').catch(() => null), 'the button');
-    await click(label);
-    arrive();
-    await loaded;
-    await waitShown(page, 'Home');
 });
 
 test('printed, it is a list, whether open or closed', { skip: engine != 'chromium' &&
