@@ -177,9 +177,7 @@ function hide(level) {
     const { box, opener } = level;
     level.observer?.disconnect();
     if (opener) {
-        // From a frame that was left it would take the focus away from what was clicked.
-        const mayFocus = window.parent == window || document.hasFocus();
-        if (mayFocus && box.contains(focused())) opener.focus();
+        if (box.contains(focused())) opener.focus();
         mark(opener, { 'aria-expanded': false });
     }
     turnMark(level, level.wish);

@@ -100,7 +100,7 @@ window.zevmenu = noMenu;
 var own = currentScript();
 var definition = own && own.getAttribute('data-definition');
 var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
-if (prefix == '' && own && own.src) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
+if (prefix == '' && own) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
 
 // What the page trusts this file with holds for those that it asks for.
 function load(url) {

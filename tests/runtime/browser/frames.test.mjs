@@ -102,6 +102,15 @@ for (const [where, x, y] of outside) {
     }
 }
 
+test('a menu in a frame of another site does not take the focus back from what was clicked outside', async () => {
+    await showInFrame(foreign);
+    await page.mouse.click(200, 250);
+    for (const key of ['Tab', 'ArrowRight', 'ArrowDown']) await page.keyboard.press(key);
+    await page.mouse.click(100, 410);
+    await page.keyboard.press('a');
+    assert.equal(await page.$eval('#outer', outer => document.activeElement.id + ' ' + outer.value), 'outer a');
+});
+
 test('the menu leaves the pages of other frames as they were when it has closed', async () => {
     await showWithFrame(lab.origin);
     await page.evaluate(() => {

@@ -13,7 +13,7 @@ after(() => lab.close());
 afterEach(() => assert.deepEqual([page.errors, page.warnings], [[], []]));
 
 const menu = source('menu.js') + script('ZEVDisplayMenu();');
-const look = 'style="width: 300px; height: 120px; margin: 30px; padding: 10px; overflow: auto; transform: translate(5px)"';
+const look = 'style="width: 260px; height: 40px; margin: 30px; padding: 10px; overflow: auto; transform: translate(5px)"';
 
 // [what, markup around the menu, how it is opened and closed]
 const tops = [
