@@ -147,7 +147,7 @@ bool wouldMerge(char before, char after) {
 
 // A line cannot end a statement after the one or before the other.
 bool isWithinStatement(char before, char after) {
-    return std::string_view("{([,&|?:=").find(before) != kNone ||
+    return std::string_view("{([,&|?:=;").find(before) != kNone ||
            std::string_view("})],.&|?:").find(after) != kNone;
 }
 

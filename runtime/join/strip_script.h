@@ -6,9 +6,9 @@
 
 namespace zev {
 
-/// A script without its comments and without the white space that its meaning does not need. Line
-/// ends stay between statements, one each, so that none runs into the next and the line that a
-/// browser names in an error can be read. Nothing within strings, template literals and regular
+/// A script without its comments and without the white space that its meaning does not need. A line
+/// end stays where a statement may end by it and after a block, so that the line that a browser
+/// names in an error is that of a function. Nothing within strings, template literals and regular
 /// expressions is touched. `source` is UTF-8. Nothing when a comment, string, template literal or
 /// regular expression does not end.
 ///

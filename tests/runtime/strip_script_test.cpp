@@ -31,7 +31,7 @@ const StripCase kCases[] = {
     {"a regular expression stays", "x = /a  \\/ [/'\"] \\[/g . test( y )",
      "x=/a  \\/ [/'\"] \\[/g.test(y)"},
     {"also after a word that is no operand", "return / +'/.test( y )", "return/ +'/.test(y)"},
-    {"a division is none", "a = b / c ; // d'\n(e) / f / [1] / 2", "a=b/c;\n(e)/f/[1]/2"},
+    {"a division is none", "a = b / c ; // d'\n(e) / f / [1] / 2", "a=b/c;(e)/f/[1]/2"},
     {"a division by a regular expression keeps its space", "a / /b/", "a/ /b/"},
     {"a template literal stays", "`a  // b ${ c( `d  }` , '}' ) } /* e */`  + f",
      "`a  // b ${ c( `d  }` , '}' ) } /* e */`+f"},

@@ -69,15 +69,21 @@ function markCurrent(link) {
     mark(link, { 'aria-current': link.zevItem.zevCurrent });
 }
 
-// Whether a menu, or one below it, leads to the page that is shown. A link within the page does not count.
+// An address without its fragment; '' for a place in the page, and for what is no address.
+function pageAt(menu, url) {
+    try {
+        return /^[^#]/.test(url) ? new URL(shared.resolve(menu, url), document.baseURI).href.split('#')[0] : '';
+    } catch {
+        return '';
+    }
+}
+
+// Whether a menu, or one below it, leads to the page that is shown.
 function findCurrent(menu, here) {
-    const link = document.createElement('a');
     return menu.zevItems.filter((item, index) => {
         if (!item) return false;
         const below = state.menus[shared.submenuId(menu, index + 1)], isOnWay = below && findCurrent(below, here);
-        link.href = shared.resolve(menu, item.url);
-        const isHere = /^[^#]/.test(item.url) && link.href.split('#')[0] == here;
-        return (item.zevCurrent = isHere ? 'page' : isOnWay ? 'true' : null);
+        return (item.zevCurrent = pageAt(menu, item.url) == here ? 'page' : isOnWay ? 'true' : null);
     }).length;
 }
 

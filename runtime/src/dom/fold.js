@@ -23,7 +23,7 @@ function refold() {
 
 // The top menu in its place on the page, which shows it when the button does not.
 function putBack(box) {
-    stopFading(box);
+    box.zevFading?.cancel();
     box.classList.remove('folded');
     mark(box, { role: 'menubar' });
     orient(box);

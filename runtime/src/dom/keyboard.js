@@ -12,7 +12,7 @@ function onFocusIn(event) {
 
 function enter(box, isAtEnd) {
     const links = linksOf(box);
-    moveTo(links[isAtEnd ? links.length - 1 : 0]);
+    if (links.length) moveTo(links[isAtEnd ? links.length - 1 : 0]);
 }
 
 function openAndEnter(link, isAtEnd) {

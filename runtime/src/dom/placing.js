@@ -113,19 +113,16 @@ function settle(shown) {
     holder.box.scrollTop += Math.min(Math.max(0, bottom - frame.bottom), top - frame.top);
 }
 
-function stopFading(box) {
-    box.getAnimations().forEach(fading => fading.cancel());
-}
-
 function fade(level, direction, onEnd) {
     // A short opening, where none is written.
     const seconds = setting(level.menu, 'ffade'), isCalm = seconds === '' && direction == 'reverse';
     const duration = isCalm ? fixed.openingMs : seconds * 1000;
+    level.box.zevFading?.cancel();
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
-    stopFading(level.box);
     // What measures colours at such a short moment is not to take it for the menu's own.
     const end = isCalm ? { filter: 'opacity(0)' } : { opacity: 0 };
-    level.box.animate([{}, end], { duration, direction }).onfinish = onEnd;
+    level.box.zevFading = level.box.animate([{}, end], { duration, direction });
+    level.box.zevFading.onfinish = onEnd;
 }
 
 // Closes a level whose opener goes out of sight; an image's area has no box to be watched.

@@ -52,3 +52,16 @@ for (const { name, sources } of joins) {
         assert.doesNotMatch(served, /\n\s/);
     });
 }
+
+// What a page, its elements and its events are spoken to by.
+const pageNames = ['document', 'window', 'location', 'getComputedStyle', 'matchMedia', 'classList', 'style', 'querySelector',
+    'setAttribute', 'getAttribute', 'focus', 'getBoundingClientRect', 'addEventListener', 'preventDefault', 'event'];
+
+for (const [part, source] of [['the sums', 'dom/sums.js'], ['the state', 'dom/state.js']]) {
+    test(`${part} speak to no page and no element`, () => {
+        const text = readFileSync(new URL('src/' + source, runtime), 'utf8');
+        const names = Array.from(tokenizer(text, { ecmaVersion: 'latest' }), ({ value }) => value);
+        assert.ok(names.length > 100);
+        assert.deepEqual(names.filter(name => pageNames.includes(name)), []);
+    });
+}
