@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <iostream>
 
+#include "messages/definition_messages.h"
 #include "platform/posix/posix_descriptor.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
@@ -65,18 +66,29 @@ FileResult<std::string> readMenuFile(const FileSystem& files, const std::string&
     return error;
 }
 
-std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
-                                         MenuContent& content) {
-    const FileResult<std::string> bytes = readMenuFile(files, path);
+std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
+                                              MenuContent& content) {
+    FileResult<std::string> bytes = readMenuFile(files, path);
     if (!bytes.isOk()) {
         printProblem(bytes.error());
         return {};
     }
-    const ReadResult result = ReadScript(bytes.value(), content);
+    const ReadResult result = ReadScript(bytes.take(), content);
     if (result.errorCount == 0)
-        return ExitStatus::Done;
+        return DefinitionInput{path};
     std::cerr << result.errorCount << " errors encountered during parsing\n";
-    return ExitStatus::Counted;
+    if (result.itemsLeftOut > 0)
+        printProblem(itemsLeftOutText(path == "-" ? kStandardInput : path, result.itemsLeftOut));
+    return DefinitionInput{path, ExitStatus::Counted, result.itemsLeftOut};
+}
+
+bool mayReplace(const FileSystem& files, const std::string& output, const DefinitionInput& input) {
+    const std::string read = input.path == "-" ? "/dev/stdin" : input.path;
+    const std::string written = output.empty() || output == "-" ? "/dev/stdout" : output;
+    if (input.itemsLeftOut == 0 || !files.isSameFile(read, written))
+        return true;
+    printProblem(written + ": " + losesItemsText(input.itemsLeftOut));
+    return false;
 }
 
 bool writeDefinition(FileSystem& files, const std::string& path, const MenuContent& content) {

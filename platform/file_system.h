@@ -29,6 +29,8 @@ class FileResult {
     bool isOk() const { return std::holds_alternative<T>(m_state); }
     /// Only when `isOk()`.
     const T& value() const { return std::get<T>(m_state); }
+    /// Moves the value out; only when `isOk()`.
+    T take() { return std::move(std::get<T>(m_state)); }
     /// Only when not `isOk()`.
     const FileError& error() const { return std::get<FileError>(m_state); }
 
@@ -51,6 +53,9 @@ class FileSystem {
     /// True when both paths lead to one folder of the disk, by links, letter case or spelling. A
     /// path to no folder is never the same.
     virtual bool isSameFolder(const std::string& left, const std::string& right) const = 0;
+    /// True when both paths lead to one regular file of the disk, by links, letter case or
+    /// spelling.
+    virtual bool isSameFile(const std::string& left, const std::string& right) const = 0;
     /// True when new files can be made in the folder.
     virtual bool isWritableFolder(const std::string& path) const = 0;
     /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge).

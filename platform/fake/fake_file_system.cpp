@@ -64,12 +64,21 @@ bool FakeFileSystem::isFolder(const std::string& path) const {
     return m_folders.contains(path);
 }
 
+std::string FakeFileSystem::folderAt(const std::string& path) const {
+    const auto alias = m_folderOfAlias.find(path);
+    return alias == m_folderOfAlias.end() ? path : alias->second;
+}
+
 bool FakeFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
-    const auto folderAt = [&](const std::string& path) {
-        const auto alias = m_folderOfAlias.find(path);
-        return alias == m_folderOfAlias.end() ? path : alias->second;
-    };
     return isFolder(folderAt(left)) && folderAt(left) == folderAt(right);
+}
+
+bool FakeFileSystem::isSameFile(const std::string& left, const std::string& right) const {
+    const auto fileAt = [&](const std::string& path) {
+        const std::string folder = folderOf(path);
+        return folderAt(folder) + path.substr(folder.size());
+    };
+    return FileExists(fileAt(left)) && fileAt(left) == fileAt(right);
 }
 
 bool FakeFileSystem::isWritableFolder(const std::string& path) const {
@@ -172,6 +181,10 @@ bool FailingFileSystem::isFolder(const std::string& path) const {
 
 bool FailingFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
     return m_inner.isSameFolder(left, right);
+}
+
+bool FailingFileSystem::isSameFile(const std::string& left, const std::string& right) const {
+    return m_inner.isSameFile(left, right);
 }
 
 bool FailingFileSystem::isWritableFolder(const std::string& path) const {

@@ -21,7 +21,7 @@ class FakeFileSystem : public FileSystem {
     void addFolder(const std::string& path);
     /// Adds a file, and the folders it lies in.
     void addFile(const std::string& path, const std::string& bytes);
-    /// Gives the folder a second path, by which `isSameFolder` knows it.
+    /// Gives the folder a second path, by which `isSameFolder` and `isSameFile` know it.
     void addFolderAlias(const std::string& folder, const std::string& alias);
     /// In such a folder no file can be made, replaced or deleted.
     void setWritable(const std::string& folder, bool isWritable);
@@ -31,6 +31,7 @@ class FakeFileSystem : public FileSystem {
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
+    bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
@@ -42,6 +43,9 @@ class FakeFileSystem : public FileSystem {
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
 
   private:
+    /// The folder that a path leads to.
+    std::string folderAt(const std::string& path) const;
+
     std::map<std::string, std::string> m_files;
     std::set<std::string> m_folders;
     std::map<std::string, std::string> m_folderOfAlias;
@@ -49,8 +53,7 @@ class FakeFileSystem : public FileSystem {
 };
 
 /// Passes everything on to another file system, and breaks what it was told to break. A broken
-/// operation changes nothing. Questions (`FileExists` and the three about folders) never break and
-/// are not counted.
+/// operation changes nothing. Questions (those that give a bool) never break and are not counted.
 class FailingFileSystem : public FileSystem {
   public:
     /// `inner` is not owned and must outlive this object.
@@ -66,6 +69,7 @@ class FailingFileSystem : public FileSystem {
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
+    bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;

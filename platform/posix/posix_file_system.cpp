@@ -14,6 +14,19 @@
 
 namespace zev {
 
+namespace {
+
+/// True when both paths lead to one thing of this kind (S_IFDIR...).
+bool isSame(const std::string& left, const std::string& right, mode_t kind) {
+    struct stat one {};
+    struct stat other {};
+    return ::stat(left.c_str(), &one) == 0 && ::stat(right.c_str(), &other) == 0 &&
+           (one.st_mode & S_IFMT) == kind && one.st_dev == other.st_dev &&
+           one.st_ino == other.st_ino;
+}
+
+}  // namespace
+
 bool PosixFileSystem::FileExists(const std::string& path) const {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
@@ -25,10 +38,11 @@ bool PosixFileSystem::isFolder(const std::string& path) const {
 }
 
 bool PosixFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
-    struct stat one {};
-    struct stat other {};
-    return ::stat(left.c_str(), &one) == 0 && ::stat(right.c_str(), &other) == 0 &&
-           S_ISDIR(one.st_mode) && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+    return isSame(left, right, S_IFDIR);
+}
+
+bool PosixFileSystem::isSameFile(const std::string& left, const std::string& right) const {
+    return isSame(left, right, S_IFREG);
 }
 
 bool PosixFileSystem::isWritableFolder(const std::string& path) const {

@@ -12,6 +12,7 @@ class PosixFileSystem : public FileSystem {
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
+    bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;

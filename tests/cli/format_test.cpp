@@ -129,5 +129,58 @@ TEST_F(FormatTest, TakesAVeryLongLineAndAVeryDeepMenu) {
               std::string::npos);
 }
 
+/// With three items more than a menu can hold, the last in a menu that one of them opens.
+std::string overfullDefinition() {
+    std::string text = "zevmenu = new ZEVMenu('0');\n";
+    for (int item = 0; item < 32769; ++item)
+        text += "zevmenu.AddItem('', '', '');\n";
+    return text + "zevmenu = new ZEVMenu('32768');\nzevmenu.AddItem('', '', '');\n";
+}
+
+TEST_F(FormatTest, DoesNotWriteAMenuThatLostItemsOntoItsInput) {
+    const std::string overfull = overfullDefinition();
+    makeFile(folder / "in.js", overfull);
+    std::filesystem::create_symlink("in.js", folder / "link.js");
+    std::filesystem::create_hard_link(folder / "in.js", folder / "hard.js");
+    const std::string counted =
+        "3 errors encountered during parsing\n"
+        "zevmenu: in.js: 3 items left out; a menu holds 32767 at most\n";
+    for (const std::string output : {"in.js", "./in.js", "link.js", "hard.js"}) {
+        for (std::vector<std::string> arguments :
+             {std::vector<std::string>{"format"},
+              {"rebase", "--from", "/site", "--to", "/site/sub"}}) {
+            arguments.insert(arguments.end(), {"in.js", "-o", output});
+            const ProgramResult result = run(arguments);
+            EXPECT_EQ(result.status, 3);
+            EXPECT_EQ(result.problems,
+                      counted + "zevmenu: " + output +
+                          ": not written, as it would lose the 3 items left out\n");
+        }
+    }
+    EXPECT_EQ(run({"publish", "in.js", "."}).status, 3);
+    EXPECT_EQ(contentOf(folder / "in.js"), overfull);
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"hard.js", "in.js", "link.js"}));
+}
+
+TEST_F(FormatTest, WritesAMenuThatLostItemsElsewhere) {
+    makeFile(folder / "in.js", overfullDefinition());
+    makeFile(folder / "out.js", "");
+    const ProgramResult result = run({"format", "in.js", "-o", "out.js"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(run({"format", "in.js"}).output, contentOf(folder / "out.js"));
+    EXPECT_EQ(run({"format", "out.js", "-o", "out.js"}).status, 0);
+}
+
+TEST_F(FormatTest, KnowsItsInputAlsoAsStandardInput) {
+    makeFile(folder / "in.js", overfullDefinition());
+    const std::string program = ZEVMENU_PROGRAM;
+    const ProgramResult result = runProgramAt(
+        "/bin/sh", {"-c", "'" + program + "' format - -o in.js < in.js"}, folder.path());
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.problems.find("zevmenu: standard input: 3 items left out"), std::string::npos)
+        << result.problems;
+    EXPECT_EQ(contentOf(folder / "in.js"), overfullDefinition());
+}
+
 }  // namespace
 }  // namespace zev::test

@@ -126,7 +126,8 @@ TEST_F(PublishTest, NamesAScriptThatCouldNotBeReplaced) {
     const ProgramResult result = run({"publish", "menu.js", "site"});
     EXPECT_EQ(result.status, 3);
     EXPECT_EQ(result.problems,
-              "zevmenu: Error: site/zevmenu_dom.js not saved. Please check path permissions\n");
+              "zevmenu: Error: site/zevmenu_dom.js not saved. Please check path permissions "
+              "(Is a directory)\n");
     EXPECT_EQ(contentOf(folder / "site/menu.js"), kSmallDefinition);
 }
 

@@ -167,6 +167,21 @@ TEST_F(PosixFileSystemTest, KnowsOneFolderByAllItsPaths) {
     EXPECT_FALSE(files.isSameFolder(folder / "file", folder / "file"));
 }
 
+TEST_F(PosixFileSystemTest, KnowsAFileByEveryPath) {
+    makeFile(folder / "file", "x");
+    makeFile(folder / "other", "x");
+    std::filesystem::create_symlink("file", folder / "link");
+    std::filesystem::create_hard_link(folder / "file", folder / "hard");
+    std::filesystem::create_directory(folder / "sub");
+    for (const char* const same : {"file", "link", "hard", "./file", "sub/../file"})
+        EXPECT_TRUE(files.isSameFile(folder / "file", folder / same)) << same;
+    for (const char* const other : {"other", "File", "missing", "sub"})
+        EXPECT_FALSE(files.isSameFile(folder / "file", folder / other)) << other;
+    EXPECT_FALSE(files.isSameFile(folder / "missing", folder / "missing"));
+    EXPECT_FALSE(files.isSameFile(folder / "sub", folder / "sub"));
+    EXPECT_FALSE(files.isSameFile("/dev/null", "/dev/null"));
+}
+
 TEST_F(PosixFileSystemTest, KnowsAFolderThatForbidsNewFiles) {
     if (geteuid() == 0)
         GTEST_SKIP() << "root may write everywhere; see platform.as_ordinary_user";
