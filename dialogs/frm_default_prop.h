@@ -16,6 +16,7 @@ class frmDefaultProp : public PropertyDialog {
 
   private:
     QGroupBox* makeMenuFrame();
+    QGroupBox* makeAdditionalFrame();
     void cmdFont_Click() override;
     void cmdOK_Click() override;
 };

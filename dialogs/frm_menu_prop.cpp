@@ -49,7 +49,7 @@ QGroupBox* frmMenuProp::makeMenuFrame() {
         {"Spacing", tr("&Spacing:"), tr("Spacing between menu items"), &MenuProp::Spacing,
          range(0, 1000), Changed},
     };
-    addBoxes(frame, boxes);
+    addBoxes(gridOf(frame), boxes);
     return frame;
 }
 
