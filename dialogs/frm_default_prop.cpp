@@ -77,14 +77,14 @@ void frmDefaultProp::LoadDefaultDialog() {
 
 void frmDefaultProp::cmdFont_Click() {
     cdFont = previewFont();
-    chooseFont();
+    m_hasChosenFont = chooseFont(cdFont) || m_hasChosenFont;
 }
 
 void frmDefaultProp::cmdOK_Click() {
     MenuProp prop = m_host.document.DefaultProp();
     storeBoxes(prop);
     // Fonts that nobody looked at in the font dialog stay exactly as they are in the file.
-    if (!cdFont.name.empty())
+    if (m_hasChosenFont || !cdFont.name.empty())
         storePreviewFont(prop);
     m_host.document.setMenu({MenuPropOwner::Kind::Defaults}, std::move(prop));
     accept();

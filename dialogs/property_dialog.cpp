@@ -187,8 +187,8 @@ void PropertyDialog::storePreviewFont(MenuProp& prop) const {
     prop.FontWeight = font.isBold;
 }
 
-bool PropertyDialog::chooseFont() {
-    const std::optional<FontChoice> chosen = m_host.dialogs.chooseFont(cdFont);
+bool PropertyDialog::chooseFont(const FontChoice& initial) {
+    const std::optional<FontChoice> chosen = m_host.dialogs.chooseFont(initial);
     if (!chosen.has_value())
         return false;
     cdFont = *chosen;

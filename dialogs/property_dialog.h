@@ -52,9 +52,9 @@ class PropertyDialog : public PropertyForm {
     const FontChoice& previewFont() const;
     /// Writes the font of `lblFont`, its size as a whole number.
     void storePreviewFont(MenuProp& prop) const;
-    /// Shows the font dialog with what `cdFont` holds. True when the person chose a font, which
-    /// `cdFont` and the previews then have.
-    bool chooseFont();
+    /// Shows the font dialog with `initial`. True when the person chose a font, which `cdFont` and
+    /// the previews then have.
+    bool chooseFont(const FontChoice& initial);
 
     virtual void cmdFont_Click() = 0;
 

@@ -273,6 +273,15 @@ class test_frm_default_prop : public QObject {
         QCOMPARE(desk.prop().FontSize, "9");
     }
 
+    void aSizeChosenWhereThereIsNoFamilyIsStoredAlone() {
+        DefaultsDesk desk([](MenuProp& prop) { prop.FontFamily = ""; });
+        desk.dialogs.expectChooseFont(FontChoice{"", 20, false, false});
+        desk.form.click("cmdFont");
+        desk.form.click("cmdOK");
+        QCOMPARE(desk.prop().FontFamily, "");
+        QCOMPARE(desk.prop().FontSize, "20");
+    }
+
     void aSizeThatNoFontHasIsShownAsTenPoints_data() {
         QTest::addColumn<QString>("stored");
         QTest::addColumn<float>("points");
