@@ -26,6 +26,19 @@ TEST_F(FormatTest, WritesAFileOfTheProgramsOwnAsItIs) {
     EXPECT_EQ(result.problems, "");
 }
 
+TEST_F(FormatTest, KeepsTheOptionalDefaultsAsTheyAre) {
+    std::string definition = kSmallDefinition;
+    definition.insert(definition.find("\r\n\r\n") + 2,
+                      "zev_state.marker = '<b>+</b>';\r\n"
+                      "zev_state.fold = 640;\r\n"
+                      "zev_state.opendelay = 0;\r\n"
+                      "zev_state.label = 'Bob\\'s shop';\r\n");
+    const ProgramResult result = run({"format", "-"}, definition);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, definition);
+    EXPECT_EQ(result.problems, "");
+}
+
 TEST_F(FormatTest, TakesHandWrittenLinesIntoTheProgramsForm) {
     std::string handWritten = kSmallDefinition;
     for (std::size_t at = 0; (at = handWritten.find("\r\n", at)) != std::string::npos;)
