@@ -168,7 +168,10 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     m_view.showScript(script);
     const std::string target =
         path.empty() ? Path(m_document.SavePath()).child(kPreviewScript) : path;
-    const FileOutcome failure = m_services.files.writeFile(target, definitionFileBytes(script));
+    const std::string bytes = definitionFileBytes(script);
+    // The preview script has a name that the person did not choose.
+    const FileOutcome failure = path.empty() ? m_services.files.writeOwnFile(target, bytes)
+                                             : m_services.files.writeFile(target, bytes);
     if (failure)
         m_services.messages.notice("Could not save " + target + ": " + failure->reason);
     return !failure;
@@ -187,7 +190,7 @@ void FileCommands::updatePreview() {
 }
 
 void FileCommands::loadPreview() {
-    SaveDefinition(Path(m_document.SavePath()).child(kPreviewScript));
+    SaveDefinition("");
     m_previewedScript = GenerateScript(m_document.content());
     m_previewedFolder = m_document.SavePath();
     // Also after a failure: the preview shows whatever is there.

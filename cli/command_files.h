@@ -30,8 +30,9 @@ void printProblem(const FileError& error);
 /// Writes to standard output. False, with the problem printed, when not all of it could be written.
 bool writeStandardOutput(std::string_view bytes);
 
-/// The bytes of the text file `path` ("-": standard input). The error may also be that no menu is
-/// in it: it is not text, or too large.
+/// The bytes of the text file `path` ("-": standard input). Pipes are read only by the names that a
+/// shell gives what it hands over, "/dev/stdin" and "/dev/fd/63". The error may also be that no
+/// menu is in it: it is not text, or too large.
 FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path);
 
 /// Reads the definition `path` ("-": standard input) into a new menu and prints the number of

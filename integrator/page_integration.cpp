@@ -123,7 +123,7 @@ std::optional<PageError> PageIntegrator::replacePage(const std::string& path, st
     // Copying reads a whole file; two texts of a page's size in memory would be one too many.
     std::string().swap(bytes);
     if (!error && m_options.hasBackups) {
-        error = m_files.CopyFile(path, path + ".bak");
+        error = m_files.backUpFile(path, path + ".bak");
         if (error)
             code = PageError::Code::NotBackedUp;
     }

@@ -53,18 +53,29 @@ class FileSystem {
     virtual bool isSameFolder(const std::string& left, const std::string& right) const = 0;
     /// True when new files can be made in the folder.
     virtual bool isWritableFolder(const std::string& path) const = 0;
-    /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge).
+    /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge), and
+    /// so, at once, is what has no content of its own: a pipe, socket or device.
     virtual FileResult<std::string> readFile(const std::string& path,
                                              std::uint64_t maxBytes) const = 0;
-    /// Replaces the content of `path`, or makes the file.
+    /// Replaces the content of `path`, which the person named, or makes the file. A link is
+    /// followed and stays; a pipe or device is written to.
     virtual FileOutcome writeFile(const std::string& path, std::string_view bytes) = 0;
+    /// The same for a file that the program names itself, in a folder that may come from a
+    /// stranger: a link is replaced by the file, a pipe, socket or device is an error.
+    virtual FileOutcome writeOwnFile(const std::string& path, std::string_view bytes) = 0;
     /// The same for a file that the caller reads and deletes itself before it ends: nobody else can
     /// read it, nothing of an old file is kept, and the power may fail on it. That saves the waits
-    /// for the disk, which are most of what `writeFile` costs. A failure leaves no file.
+    /// for the disk, which are most of what `writeFile` costs. Links, pipes, sockets and devices as
+    /// for `writeOwnFile`. A failure leaves no file.
     virtual FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) = 0;
     /// Makes `destination` a copy of `source`'s bytes, replacing it. The error names the file at
     /// fault.
     virtual FileOutcome CopyFile(const std::string& source, const std::string& destination) = 0;
+    /// Makes `backup` a copy of the file `path`, which is about to be replaced. It has the owner,
+    /// group, mode and attributes of `path` from its first byte on, and where it cannot have them
+    /// is open to nobody who may not read `path`. Links and the like as for `writeOwnFile`. A
+    /// `path` that may not be written is refused. The error names the file at fault.
+    virtual FileOutcome backUpFile(const std::string& path, const std::string& backup) = 0;
     virtual FileOutcome DeleteFile(const std::string& path) = 0;
     /// Makes the folder and those above it that are missing. A folder that is there is no error.
     virtual FileOutcome makeFolder(const std::string& path) = 0;

@@ -45,6 +45,11 @@ void FakeFileSystem::addFile(const std::string& path, const std::string& bytes) 
     m_files[path] = bytes;
 }
 
+void FakeFileSystem::addLink(const std::string& path, const std::string& target) {
+    addFolder(folderOf(path));
+    m_targetOfLink[path] = target;
+}
+
 void FakeFileSystem::addFolderAlias(const std::string& folder, const std::string& alias) {
     m_folderOfAlias[alias] = folder;
 }
@@ -57,7 +62,7 @@ void FakeFileSystem::setWritable(const std::string& folder, bool isWritable) {
 }
 
 bool FakeFileSystem::FileExists(const std::string& path) const {
-    return m_files.contains(path);
+    return m_files.contains(withoutLink(path));
 }
 
 bool FakeFileSystem::isFolder(const std::string& path) const {
@@ -80,7 +85,7 @@ FileResult<std::string> FakeFileSystem::readFile(const std::string& path,
                                                  std::uint64_t maxBytes) const {
     if (isFolder(path))
         return isAFolder(path);
-    const auto file = m_files.find(path);
+    const auto file = m_files.find(withoutLink(path));
     if (file == m_files.end())
         return notFound(path);
     if (file->second.size() > maxBytes)
@@ -95,12 +100,18 @@ FileOutcome FakeFileSystem::writeFile(const std::string& path, std::string_view 
         return notFound(path);
     if (!isWritableFolder(folderOf(path)))
         return noPermission(path);
-    m_files[path] = bytes;
+    m_files[withoutLink(path)] = bytes;
     return {};
 }
 
-FileOutcome FakeFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
+FileOutcome FakeFileSystem::writeOwnFile(const std::string& path, std::string_view bytes) {
+    if (isWritableFolder(folderOf(path)))
+        m_targetOfLink.erase(path);
     return writeFile(path, bytes);
+}
+
+FileOutcome FakeFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
+    return writeOwnFile(path, bytes);
 }
 
 FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::string& destination) {
@@ -110,6 +121,13 @@ FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::strin
     return writeFile(destination, bytes.value());
 }
 
+FileOutcome FakeFileSystem::backUpFile(const std::string& path, const std::string& backup) {
+    const FileResult<std::string> bytes = readFile(path, UINT64_MAX);
+    if (!bytes.isOk())
+        return bytes.error();
+    return writeOwnFile(backup, bytes.value());
+}
+
 FileOutcome FakeFileSystem::DeleteFile(const std::string& path) {
     if (isFolder(path))
         return isAFolder(path);
@@ -117,7 +135,8 @@ FileOutcome FakeFileSystem::DeleteFile(const std::string& path) {
         return notFound(path);
     if (!isWritableFolder(folderOf(path)))
         return noPermission(path);
-    m_files.erase(path);
+    if (m_targetOfLink.erase(path) == 0)
+        m_files.erase(path);
     return {};
 }
 
@@ -150,6 +169,11 @@ FileResult<std::vector<std::string>> FakeFileSystem::listFolder(const std::strin
     for (const std::string& folder : m_folders)
         addName(folder);
     return std::vector<std::string>(names.begin(), names.end());
+}
+
+std::string FakeFileSystem::withoutLink(const std::string& path) const {
+    const auto link = m_targetOfLink.find(path);
+    return link == m_targetOfLink.end() ? path : link->second;
 }
 
 FailingFileSystem::FailingFileSystem(FileSystem& inner) : m_inner(inner) {}
@@ -190,6 +214,11 @@ FileOutcome FailingFileSystem::writeFile(const std::string& path, std::string_vi
     return error ? error : m_inner.writeFile(path, bytes);
 }
 
+FileOutcome FailingFileSystem::writeOwnFile(const std::string& path, std::string_view bytes) {
+    const FileOutcome error = nextOperation(path);
+    return error ? error : m_inner.writeOwnFile(path, bytes);
+}
+
 FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
     const FileOutcome error = nextOperation(path);
     return error ? error : m_inner.writeTemporaryFile(path, bytes);
@@ -200,6 +229,13 @@ FileOutcome FailingFileSystem::CopyFile(const std::string& source, const std::st
     if (!error)
         error = errorOfPath(destination);
     return error ? error : m_inner.CopyFile(source, destination);
+}
+
+FileOutcome FailingFileSystem::backUpFile(const std::string& path, const std::string& backup) {
+    FileOutcome error = nextOperation(path);
+    if (!error)
+        error = errorOfPath(backup);
+    return error ? error : m_inner.backUpFile(path, backup);
 }
 
 FileOutcome FailingFileSystem::DeleteFile(const std::string& path) {

@@ -16,8 +16,10 @@ class PosixFileSystem : public FileSystem {
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
     FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome writeOwnFile(const std::string& path, std::string_view bytes) override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
+    FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;

@@ -6,6 +6,12 @@
 
 namespace zev {
 
+/// What becomes of a link where a file is to be written.
+enum class Links {
+    Followed,  ///< the file it leads to is written: the person named the path
+    Replaced   ///< a file takes its place: the program chose the name itself
+};
+
 /// Where a write to some path ends up.
 struct WriteTarget {
     std::string path;         ///< the file itself: its last component is no symbolic link
@@ -19,8 +25,9 @@ struct WriteTarget {
     int ownDescriptor = -1;  ///< the descriptor that a name such as /dev/stdout stands for, or -1
 };
 
-/// Follows symbolic links to the file that a write to `path` is about. It need not exist, also at
-/// the end of a link. Returns 0 or an errno; EISDIR for a folder.
-int resolveWriteTarget(const std::string& path, WriteTarget& target);
+/// Finds the file that a write to `path` is about. It need not exist, also at the end of a link.
+/// Where links are replaced, a symbolic link or one of several hard links counts as no file.
+/// Returns 0 or an errno; EISDIR for a folder.
+int resolveWriteTarget(const std::string& path, Links links, WriteTarget& target);
 
 }  // namespace zev

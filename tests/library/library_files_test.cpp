@@ -26,6 +26,16 @@ TEST(CopyLibraryFileTest, ReplacesAnOlderDestination) {
     EXPECT_EQ(files.allFiles().at("/site/a.js"), "new");
 }
 
+TEST(CopyLibraryFileTest, TakesThePlaceOfALink) {
+    FakeFileSystem files;
+    files.addFile("/program/a.js", "new");
+    files.addFile("/home/rc", "mine");
+    files.addLink("/site/a.js", "/home/rc");
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::Copied);
+    EXPECT_EQ(files.allFiles().at("/site/a.js"), "new");
+    EXPECT_EQ(files.allFiles().at("/home/rc"), "mine");
+}
+
 TEST(CopyLibraryFileTest, DoesNothingWhenBothPathsNameOneFileOfTheDisk) {
     FakeFileSystem disk;
     disk.addFile("/Program/A.js", "one");
@@ -111,7 +121,7 @@ TEST(CopyLibraryTest, IntoItsOwnFolderItCopiesOnlyThePreviewPage) {
     EXPECT_TRUE(
         copyLibrary(files, Path("/program"), Path("/program"), CopiedFiles::ScriptsAndPreviewPage)
             .empty());
-    EXPECT_EQ(files.operationCount(), 1U);
+    EXPECT_EQ(files.operationCount(), 2U);  // it is read and written
     EXPECT_EQ(disk.allFiles().at("/program/orlet_temp.html"), "zevmenu.html");
 }
 
