@@ -170,8 +170,8 @@ bool FileCommands::SaveDefinition(const std::string& path) {
         path.empty() ? Path(m_document.SavePath()).child(kPreviewScript) : path;
     const std::string bytes = definitionFileBytes(script);
     // The preview script has a name that the person did not choose.
-    const FileOutcome failure = path.empty() ? m_services.files.writeOwnFile(target, bytes)
-                                             : m_services.files.writeFile(target, bytes);
+    const Links links = path.empty() ? Links::Replaced : Links::Followed;
+    const FileOutcome failure = m_services.files.writeFile(target, bytes, links);
     if (failure)
         m_services.messages.notice("Could not save " + target + ": " + failure->reason);
     return !failure;

@@ -103,7 +103,7 @@ bool writeDefinition(FileSystem& files, const std::string& path, const MenuConte
     const std::string bytes = definitionFileBytes(GenerateScript(content));
     if (path.empty() || path == "-")
         return writeStandardOutput(bytes);
-    if (const FileOutcome error = files.writeFile(path, bytes)) {
+    if (const FileOutcome error = files.writeFile(path, bytes, Links::Followed)) {
         printProblem(*error);
         return false;
     }

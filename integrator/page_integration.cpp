@@ -128,7 +128,7 @@ std::optional<PageError> PageIntegrator::replacePage(const std::string& path, st
             code = PageError::Code::NotBackedUp;
     }
     if (!error)
-        error = m_files.CopyFile(temporary, path);
+        error = m_files.CopyFile(temporary, path, Links::Followed);
     if (error) {
         if (m_files.FileExists(temporary))
             m_files.DeleteFile(temporary);

@@ -20,12 +20,8 @@ CopyOutcome CopyLibraryFile(FileSystem& files, const std::string& source,
         return {CopyResult::SamePlace, {}, {}};
     if (!files.FileExists(source))
         return {CopyResult::SourceMissing, source, {}};
-    // Not deleted first: the new file replaces the old file whole, so that a failure leaves it
-    // intact.
-    const FileResult<std::string> bytes = files.readFile(source, kMaxRunTimeFileBytes);
-    if (!bytes.isOk())
-        return {CopyResult::NotSaved, destination, bytes.error().reason};
-    if (const FileOutcome error = files.writeOwnFile(destination, bytes.value()))
+    // Not deleted first: the copy replaces the old file whole, so that a failure leaves it intact.
+    if (const FileOutcome error = files.CopyFile(source, destination, Links::Replaced))
         return {CopyResult::NotSaved, destination, error->reason};
     return {};
 }

@@ -30,7 +30,7 @@ FileOutcome updateFile(FileSystem& files, const std::string& source,
     const FileResult<std::string> present = files.readFile(destination, kMaxRunTimeFileBytes);
     if (present.isOk() && present.value() == wanted.value())
         return {};
-    return files.writeOwnFile(destination, wanted.value());
+    return files.writeFile(destination, wanted.value(), Links::Replaced);
 }
 
 /// Brings a folder with all it holds up to date; files that only `destination` has stay.

@@ -93,39 +93,34 @@ FileResult<std::string> FakeFileSystem::readFile(const std::string& path,
     return file->second;
 }
 
-FileOutcome FakeFileSystem::writeFile(const std::string& path, std::string_view bytes) {
+FileOutcome FakeFileSystem::writeFile(const std::string& path, std::string_view bytes,
+                                      Links links) {
     if (isFolder(path))
         return isAFolder(path);
     if (!isFolder(folderOf(path)))
         return notFound(path);
     if (!isWritableFolder(folderOf(path)))
         return noPermission(path);
+    if (links == Links::Replaced)
+        m_targetOfLink.erase(path);
     m_files[withoutLink(path)] = bytes;
     return {};
 }
 
-FileOutcome FakeFileSystem::writeOwnFile(const std::string& path, std::string_view bytes) {
-    if (isWritableFolder(folderOf(path)))
-        m_targetOfLink.erase(path);
-    return writeFile(path, bytes);
-}
-
 FileOutcome FakeFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
-    return writeOwnFile(path, bytes);
+    return writeFile(path, bytes, Links::Replaced);
 }
 
-FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::string& destination) {
+FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::string& destination,
+                                     Links links) {
     const FileResult<std::string> bytes = readFile(source, UINT64_MAX);
     if (!bytes.isOk())
         return bytes.error();
-    return writeFile(destination, bytes.value());
+    return writeFile(destination, bytes.value(), links);
 }
 
 FileOutcome FakeFileSystem::backUpFile(const std::string& path, const std::string& backup) {
-    const FileResult<std::string> bytes = readFile(path, UINT64_MAX);
-    if (!bytes.isOk())
-        return bytes.error();
-    return writeOwnFile(backup, bytes.value());
+    return CopyFile(path, backup, Links::Replaced);
 }
 
 FileOutcome FakeFileSystem::DeleteFile(const std::string& path) {
@@ -209,14 +204,10 @@ FileResult<std::string> FailingFileSystem::readFile(const std::string& path,
     return m_inner.readFile(path, maxBytes);
 }
 
-FileOutcome FailingFileSystem::writeFile(const std::string& path, std::string_view bytes) {
+FileOutcome FailingFileSystem::writeFile(const std::string& path, std::string_view bytes,
+                                         Links links) {
     const FileOutcome error = nextOperation(path);
-    return error ? error : m_inner.writeFile(path, bytes);
-}
-
-FileOutcome FailingFileSystem::writeOwnFile(const std::string& path, std::string_view bytes) {
-    const FileOutcome error = nextOperation(path);
-    return error ? error : m_inner.writeOwnFile(path, bytes);
+    return error ? error : m_inner.writeFile(path, bytes, links);
 }
 
 FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
@@ -224,11 +215,12 @@ FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::
     return error ? error : m_inner.writeTemporaryFile(path, bytes);
 }
 
-FileOutcome FailingFileSystem::CopyFile(const std::string& source, const std::string& destination) {
+FileOutcome FailingFileSystem::CopyFile(const std::string& source, const std::string& destination,
+                                        Links links) {
     FileOutcome error = nextOperation(source);
     if (!error)
         error = errorOfPath(destination);
-    return error ? error : m_inner.CopyFile(source, destination);
+    return error ? error : m_inner.CopyFile(source, destination, links);
 }
 
 FileOutcome FailingFileSystem::backUpFile(const std::string& path, const std::string& backup) {

@@ -69,12 +69,9 @@ FileResult<std::string> PosixFileSystem::readFile(const std::string& path,
     return bytes;
 }
 
-FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view bytes) {
-    return replaceFile(path, bytes, Links::Followed, m_leftovers);
-}
-
-FileOutcome PosixFileSystem::writeOwnFile(const std::string& path, std::string_view bytes) {
-    return replaceFile(path, bytes, Links::Replaced, m_leftovers);
+FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view bytes,
+                                       Links links) {
+    return replaceFile(path, bytes, links, m_leftovers);
 }
 
 FileOutcome PosixFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
@@ -98,11 +95,12 @@ FileOutcome PosixFileSystem::writeTemporaryFile(const std::string& path, std::st
     return fileErrorOf(error, path);
 }
 
-FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::string& destination) {
+FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::string& destination,
+                                      Links links) {
     const FileResult<std::string> bytes = readFile(source, kMaxCopyBytes);
     if (!bytes.isOk())
         return bytes.error();
-    return replaceFile(destination, bytes.value(), Links::Followed, m_leftovers);
+    return replaceFile(destination, bytes.value(), links, m_leftovers);
 }
 
 FileOutcome PosixFileSystem::backUpFile(const std::string& path, const std::string& backup) {

@@ -4,13 +4,9 @@
 
 #include <string>
 
-namespace zev {
+#include "platform/file_system.h"
 
-/// What becomes of a link where a file is to be written.
-enum class Links {
-    Followed,  ///< the file it leads to is written: the person named the path
-    Replaced   ///< a file takes its place: the program chose the name itself
-};
+namespace zev {
 
 /// Where a write to some path ends up.
 struct WriteTarget {

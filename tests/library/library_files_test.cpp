@@ -121,7 +121,7 @@ TEST(CopyLibraryTest, IntoItsOwnFolderItCopiesOnlyThePreviewPage) {
     EXPECT_TRUE(
         copyLibrary(files, Path("/program"), Path("/program"), CopiedFiles::ScriptsAndPreviewPage)
             .empty());
-    EXPECT_EQ(files.operationCount(), 2U);  // it is read and written
+    EXPECT_EQ(files.operationCount(), 1U);
     EXPECT_EQ(disk.allFiles().at("/program/orlet_temp.html"), "zevmenu.html");
 }
 

@@ -39,9 +39,9 @@ TEST_F(PosixFileSystemTest, ReadsBackEveryByteItWrote) {
     std::string bytes(300'000, 'x');
     for (std::size_t i = 0; i < bytes.size(); ++i)
         bytes[i] = static_cast<char>(i % 256);
-    ASSERT_FALSE(files.writeFile(folder / "a", bytes));
+    ASSERT_FALSE(files.writeFile(folder / "a", bytes, Links::Followed));
     EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), bytes);
-    ASSERT_FALSE(files.writeFile(folder / "a", ""));
+    ASSERT_FALSE(files.writeFile(folder / "a", "", Links::Followed));
     EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), "");
 }
 
@@ -177,7 +177,7 @@ TEST_F(PosixFileSystemTest, RefusesAtOnceToReadWhatIsNoFile) {
         ASSERT_FALSE(result.isOk()) << c.path;
         EXPECT_EQ(result.error().path, c.path);
         EXPECT_EQ(result.error().reason, c.reason) << c.path;
-        const FileOutcome copied = files.CopyFile(c.path, folder / "copy");
+        const FileOutcome copied = files.CopyFile(c.path, folder / "copy", Links::Followed);
         ASSERT_TRUE(copied) << c.path;
         EXPECT_EQ(copied->reason, c.reason) << c.path;
     }
@@ -198,7 +198,7 @@ TEST_F(PosixFileSystemTest, PutsNoFileOfItsOwnInThePlaceOfAPipeOrSocket) {
         const std::string path = folder / c.name;
         const auto before = std::filesystem::status(path).type();
         for (const FileOutcome& error :
-             {files.writeOwnFile(path, "x"), files.writeTemporaryFile(path, "x"),
+             {files.writeFile(path, "x", Links::Replaced), files.writeTemporaryFile(path, "x"),
               files.backUpFile(folder / "page", path)}) {
             ASSERT_TRUE(error) << c.name;
             EXPECT_EQ(error->path, path);
@@ -251,10 +251,12 @@ TEST_F(PosixFileSystemTest, KnowsAFolderThatForbidsNewFiles) {
 TEST_F(PosixFileSystemTest, CopiesBytesAndNamesTheFileAtFault) {
     makeFile(folder / "a", "content");
     makeFile(folder / "b", "a much longer old content");
-    EXPECT_FALSE(files.CopyFile(folder / "a", folder / "b"));
+    EXPECT_FALSE(files.CopyFile(folder / "a", folder / "b", Links::Followed));
     EXPECT_EQ(contentOf(folder / "b"), "content");
-    EXPECT_EQ(files.CopyFile(folder / "missing", folder / "b").value().path, folder / "missing");
-    EXPECT_EQ(files.CopyFile(folder / "a", folder / "no/b").value().path, folder / "no/b");
+    EXPECT_EQ(files.CopyFile(folder / "missing", folder / "b", Links::Followed).value().path,
+              folder / "missing");
+    EXPECT_EQ(files.CopyFile(folder / "a", folder / "no/b", Links::Followed).value().path,
+              folder / "no/b");
     EXPECT_EQ(contentOf(folder / "b"), "content");
 }
 

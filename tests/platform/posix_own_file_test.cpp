@@ -55,7 +55,7 @@ TEST_F(PosixOwnFileTest, TakesThePlaceOfALinkAndLeavesWhatItLedTo) {
     std::filesystem::create_hard_link(folder / "home/rc", folder / "hard");
     for (const char* const name :
          {"to file", "to link", "to nothing", "to folder", "to device", "to output", "hard"}) {
-        const FileOutcome error = files.writeOwnFile(folder / name, "new");
+        const FileOutcome error = files.writeFile(folder / name, "new", Links::Replaced);
         ASSERT_FALSE(error) << name << ": " << error->reason;
         EXPECT_TRUE(S_ISREG(statusOf(name).st_mode)) << name;
         EXPECT_EQ(contentOf(folder / name), "new") << name;
@@ -67,7 +67,7 @@ TEST_F(PosixOwnFileTest, TakesThePlaceOfALinkAndLeavesWhatItLedTo) {
 TEST_F(PosixOwnFileTest, KeepsTheModeOfTheFileItReplaces) {
     makeFile(folder / "a", "old");
     setMode("a", 0640);
-    ASSERT_FALSE(files.writeOwnFile(folder / "a", "new"));
+    ASSERT_FALSE(files.writeFile(folder / "a", "new", Links::Replaced));
     EXPECT_EQ(contentOf(folder / "a"), "new");
     EXPECT_EQ(modeOf("a"), 0640U);
 }
@@ -76,7 +76,7 @@ TEST_F(PosixOwnFileTest, RefusesADevice) {
     const std::string device = folder / "device";
     if (mknod(device.c_str(), S_IFCHR | 0600, makedev(1, 3)) != 0)
         GTEST_SKIP() << "devices cannot be made here";
-    const FileOutcome error = files.writeOwnFile(device, "x");
+    const FileOutcome error = files.writeFile(device, "x", Links::Replaced);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->reason, "Is a device");
     EXPECT_TRUE(S_ISCHR(statusOf("device").st_mode));
@@ -94,8 +94,8 @@ TEST_F(PosixOwnFileTest, IsNeverWrittenThroughALinkThatComesMeanwhile) {
             std::filesystem::rename(folder / "file", path);
         }
     });
-    for (int i = 0; i < 300; ++i) {
-        files.writeOwnFile(path, "new");
+    for (int i = 0; i < 50; ++i) {
+        files.writeFile(path, "new", Links::Replaced);
         files.writeTemporaryFile(path, "new");
         files.backUpFile(folder / "precious", path);
     }
