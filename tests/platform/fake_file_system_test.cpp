@@ -27,6 +27,22 @@ TEST(FakeFileSystemTest, KnowsDriveLetterPaths) {
     EXPECT_EQ(files.listFolder("C:\\web").value(), (std::vector<std::string>{"a.js", "b.js"}));
 }
 
+TEST(FakeFileSystemTest, ALinkIsFollowedOrReplaced) {
+    FakeFileSystem files;
+    files.addFile("/home/rc", "mine");
+    files.addLink("/web/link", "/home/rc");
+    EXPECT_EQ(files.readFile("/web/link", kNoLimit).value(), "mine");
+    EXPECT_FALSE(files.writeFile("/web/link", "new", Links::Followed));
+    EXPECT_EQ(files.allFiles().at("/home/rc"), "new");
+    EXPECT_FALSE(files.writeFile("/web/link", "own", Links::Replaced));
+    EXPECT_EQ(files.allFiles().at("/home/rc"), "new");
+    EXPECT_EQ(files.allFiles().at("/web/link"), "own");
+    files.addLink("/web/other", "/home/rc");
+    EXPECT_FALSE(files.DeleteFile("/web/other"));
+    EXPECT_FALSE(files.FileExists("/web/other"));
+    EXPECT_TRUE(files.FileExists("/home/rc"));
+}
+
 TEST(FakeFileSystemTest, FailsAsARealDiskDoes) {
     FakeFileSystem files;
     files.addFile("/web/a.js", "four");
