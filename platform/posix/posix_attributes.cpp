@@ -95,15 +95,6 @@ bool copyOwner(const struct stat& status, int descriptor) {
            ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0;
 }
 
-/// True when the file has exactly these bits; some systems drop bits without an error.
-bool setMode(int descriptor, mode_t mode) {
-    const auto hasMode = [&] {
-        struct stat own {};
-        return ::fstat(descriptor, &own) == 0 && (own.st_mode & 07777) == mode;
-    };
-    return hasMode() || (::fchmod(descriptor, mode) == 0 && hasMode());
-}
-
 }  // namespace
 
 Carried copyAttributes(const std::string& path, const struct stat& status, int descriptor) {
@@ -112,8 +103,12 @@ Carried copyAttributes(const std::string& path, const struct stat& status, int d
         ::fstat(descriptor, &own) != 0)
         return Carried::Less;
     const bool isOwnerKept = own.st_uid == status.st_uid;
+    const mode_t mode = status.st_mode & (isOwnerKept ? 07777 : 0777);
     // Last, for the two before may change it.
-    if (!setMode(descriptor, status.st_mode & (isOwnerKept ? 07777 : 0777)))
+    if ((own.st_mode & 07777) != mode && ::fchmod(descriptor, mode) != 0)
+        return Carried::Failed;
+    // Some systems drop bits without an error.
+    if (::fstat(descriptor, &own) != 0 || (own.st_mode & 07777) != mode)
         return Carried::Less;
     return isOwnerKept ? Carried::All : Carried::AllButOwner;
 }

@@ -10,7 +10,8 @@ namespace zev {
 enum class Carried {
     All,
     AllButOwner,  ///< nor the rights tied to the owner, to run with his or the group's
-    Less          ///< unknown: some of it, with an access that may be wider than that of the file
+    Less,         ///< unknown: some of it, with an access that may be wider than that of the file
+    Failed  ///< the same, for even the mode of a file of one's own cannot be set; errno tells why
 };
 
 /// Gives the open file `descriptor` the owner, group, mode and extended attributes (access control

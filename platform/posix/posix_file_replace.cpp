@@ -174,7 +174,8 @@ RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model
         const Carried carried = copyAttributes(model->path, model->status, side.descriptor());
         if (model == &target && carried != Carried::All)
             return {0, true};
-        if (carried == Carried::Less && ::fchmod(side.descriptor(), 0600) != 0)
+        if (carried == Carried::Failed ||
+            (carried == Carried::Less && ::fchmod(side.descriptor(), 0600) != 0))
             return {errno};
     }
     int error = writeAll(side.descriptor(), bytes);
