@@ -1,6 +1,6 @@
 #include "library/changed_files.h"
 
-#include "built_files.h"
+#include "library/built_files.h"
 #include "text/hash.h"
 
 namespace zev {
