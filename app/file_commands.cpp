@@ -190,7 +190,10 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     m_view.showScript(script);
     const std::string target =
         path.empty() ? Path(m_document.SavePath()).child(kPreviewScript) : path;
-    const FileOutcome failure = m_services.files.writeFile(target, definitionFileBytes(script));
+    const std::string bytes = definitionFileBytes(script);
+    // The preview script has a name that the person did not choose.
+    const Links links = path.empty() ? Links::Replaced : Links::Followed;
+    const FileOutcome failure = m_services.files.writeFile(target, bytes, links);
     if (failure)
         addLine(notice.text, "Could not save " + target + ": " + failure->reason);
     if (!notice.text.empty())
@@ -211,7 +214,7 @@ void FileCommands::updatePreview() {
 }
 
 void FileCommands::loadPreview() {
-    SaveDefinition(Path(m_document.SavePath()).child(kPreviewScript));
+    SaveDefinition("");
     m_previewedScript = GenerateScript(m_document.content());
     m_previewedFolder = m_document.SavePath();
     // Also after a failure: the preview shows whatever is there.

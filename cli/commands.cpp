@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/command_paths.h"
+#include "library/changed_files.h"
 #include "library/library_files.h"
 #include "library/program_folder.h"
 #include "messages/import_messages.h"
@@ -19,12 +20,17 @@ namespace {
 
 ExitStatus publishLibrary(FileSystem& files, const std::string& executable, const Path& folder) {
     const FileResult<std::string> installed = findInstalledFolder(files, executable);
-    std::vector<CopyOutcome> problems;
-    if (installed.isOk())
-        problems =
-            copyLibrary(files, Path::onThisSystem(installed.value()), folder, CopiedFiles::Scripts);
-    else
-        problems = {{CopyResult::SourceMissing, installed.error().path, {}}};
+    if (!installed.isOk()) {
+        printProblem(copyProblemText({CopyResult::SourceMissing, installed.error().path, {}}));
+        return ExitStatus::FileProblem;
+    }
+    const Path source = Path::onThisSystem(installed.value());
+    const std::string changed = changedFilesText(
+        installed.value(), changedRunTimeFiles(files, source, CopiedFiles::Scripts));
+    if (!changed.empty())
+        printProblem(changed);
+    const std::vector<CopyOutcome> problems =
+        copyLibrary(files, source, folder, CopiedFiles::Scripts);
     for (const CopyOutcome& problem : problems)
         printProblem(problem.reason.empty()
                          ? copyProblemText(problem)

@@ -102,7 +102,8 @@ ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) 
     std::string output = codeOfAll(*groups, options);
     if (options.report.empty()) {
         output = withUnixLineEnds(report) + output;
-    } else if (const FileOutcome error = files.writeFile(options.report, report + "\r\n")) {
+    } else if (const FileOutcome error =
+                   files.writeFile(options.report, report + "\r\n", Links::Followed)) {
         printProblem(*error);
         return ExitStatus::FileProblem;
     }

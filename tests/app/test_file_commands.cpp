@@ -80,6 +80,7 @@ class test_file_commands : public QObject {
     void anEmptyPathMeansThePreviewScript();
     void previewOfAMenuNeverSavedUsesTheProgramsFolder();
     void previewOfASavedMenuWritesBesideIt();
+    void onlyTheFileThatThePersonNamedIsWrittenThroughALink();
     void previewCleansAndStoresThePanelFirst();
     void previewChangesNeitherFileNorChangesMark();
     void previewTellsOfEachMissingFileAndIsShownAllTheSame_data();
@@ -553,6 +554,27 @@ void test_file_commands::previewOfASavedMenuWritesBesideIt() {
     QCOMPARE(desk.bytesOf("/site/menu.js"), saved);
     QVERIFY(!desk.isOnDisk("/program/orlet_temp.js"));
     QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/site/orlet_temp.html"});
+}
+
+void test_file_commands::onlyTheFileThatThePersonNamedIsWrittenThroughALink() {
+    Desk desk;
+    desk.disk.addFile("/home/menu.js", "old");
+    desk.disk.addLink("/site/menu.js", "/home/menu.js");
+    std::vector<std::string> ownFiles = kSavedBeside;
+    ownFiles.push_back("orlet_temp.js");
+    for (const std::string& name : ownFiles) {
+        desk.disk.addFile("/home/" + name, "mine");
+        desk.disk.addLink("/site/" + name, "/home/" + name);
+    }
+    desk.addItem("Home");
+    desk.saveAs("/site/menu.js");
+    desk.commands.showPreview();
+    QVERIFY(desk.bytesOf("/home/menu.js").find("Home") != std::string::npos);
+    QVERIFY(!desk.isOnDisk("/site/menu.js"));
+    for (const std::string& name : ownFiles) {
+        QCOMPARE(desk.bytesOf("/home/" + name), std::string("mine"));
+        QVERIFY(desk.isOnDisk("/site/" + name));
+    }
 }
 
 void test_file_commands::previewCleansAndStoresThePanelFirst() {

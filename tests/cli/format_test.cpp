@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -116,6 +117,50 @@ TEST_F(FormatTest, OutputThatCannotBeWrittenIsNamedAndTheOldFileStays) {
         EXPECT_EQ(result.problems, c.problem);
     }
     EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"in.js", "sub"}));
+}
+
+TEST_F(FormatTest, RefusesAPipeOrDeviceAtOnce) {
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("pipe", folder / "link.js");
+    struct Case {
+        const char* input;
+        const char* problem;
+    };
+    const Case cases[] = {
+        {"pipe", "zevmenu: pipe: Is a pipe\n"},
+        {"link.js", "zevmenu: link.js: Is a pipe\n"},
+        {"/dev/zero", "zevmenu: /dev/zero: Is a device\n"},
+    };
+    for (const Case& c : cases) {
+        const ProgramResult result = run({"format", c.input});
+        EXPECT_EQ(result.status, 3) << c.input;
+        EXPECT_EQ(result.problems, c.problem);
+    }
+}
+
+TEST_F(FormatTest, ReadsThePipesThatTheShellHandsOver) {
+    makeFile(folder / "in.js", kSmallDefinition);
+    for (const char* const path : {"-", "/dev/stdin", "/dev/fd/0", "/dev/fd/7"}) {
+        const std::string script = "cat in.js | { exec 7<&0; exec " + std::string(ZEVMENU_PROGRAM) +
+                                   " format " + path + "; }";
+        const ProgramResult result = runProgramAt("/bin/sh", {"-c", script}, folder.path());
+        EXPECT_EQ(result.status, 0) << path << ": " << result.problems;
+        EXPECT_EQ(result.output, kSmallDefinition) << path;
+    }
+}
+
+TEST_F(FormatTest, AFileBeyondTheUsersLimitIsAnErrorAndNotTheEnd) {
+    makeFile(folder / "in.js", kSmallDefinition);
+    makeFile(folder / "old.js", "old");
+    for (const char* const output : {"new.js", "old.js"}) {
+        const std::string script =
+            "ulimit -f 1; exec " + std::string(ZEVMENU_PROGRAM) + " format in.js -o " + output;
+        const ProgramResult result = runProgramAt("/bin/sh", {"-c", script}, folder.path());
+        EXPECT_EQ(result.status, 3);
+        EXPECT_EQ(result.problems, "zevmenu: " + std::string(output) + ": File too large\n");
+    }
+    EXPECT_EQ(contentOf(folder / "old.js"), "old");
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"in.js", "old.js"}));
 }
 
 TEST_F(FormatTest, WritesToThePlaceOfAnOpenStandardOutput) {
