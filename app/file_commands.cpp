@@ -1,6 +1,7 @@
 #include "app/file_commands.h"
 
 #include "library/library_files.h"
+#include "messages/definition_messages.h"
 #include "messages/library_messages.h"
 #include "script/relative_url.h"
 #include "script/script_reader.h"
@@ -13,12 +14,19 @@ namespace {
 /// Behind "All Files", each filter has the kind of file that is usually wanted.
 constexpr int kUsualKind = 2;
 
+void addLine(std::string& text, const std::string& line) {
+    if (!text.empty())
+        text += '\n';
+    text += line;
+}
+
 }  // namespace
 
 FileCommands::FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services)
     : m_document(document), m_view(view), m_services(services) {}
 
 void FileCommands::reset() {
+    m_overfullFile.clear();
     m_document.NewDocument();
     m_view.showScript("");
 }
@@ -43,7 +51,7 @@ void FileCommands::mnuFileOpen_Click() {
 }
 
 void FileCommands::mnuFileSave_Click() {
-    if (m_document.SaveFile().empty()) {
+    if (m_document.SaveFile().empty() || wouldLoseItems(m_document.SaveFile())) {
         saveAs();
         return;
     }
@@ -102,16 +110,24 @@ FileResult<std::string> FileCommands::readTextFile(const std::string& path) {
 }
 
 void FileCommands::openDefinition(const std::string& path) {
-    const FileResult<std::string> content = readTextFile(path);
+    FileResult<std::string> content = readTextFile(path);
     if (!content.isOk())
         return;
     MenuContent opened;
-    const ReadResult result = ReadScript(content.value(), opened);
+    const ReadResult result = ReadScript(content.take(), opened);
+    m_overfullFile = result.itemsLeftOut > 0 ? path : "";
     m_document.open(std::move(opened), path, SplitPath(path).folder);
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
                                    " errors encountered during parsing");
     }
+    if (result.itemsLeftOut > 0)
+        m_services.messages.notice(itemsLeftOutText(path, result.itemsLeftOut) +
+                                   ".\nSave asks for another name, so that the file keeps them.");
+}
+
+bool FileCommands::wouldLoseItems(const std::string& path) const {
+    return !m_overfullFile.empty() && m_services.files.isSameFile(path, m_overfullFile);
 }
 
 FileCommands::SaveOutcome FileCommands::saveAs() {
@@ -124,6 +140,12 @@ FileCommands::SaveOutcome FileCommands::saveAs() {
     const std::string path = m_services.dialogs.saveFile(request);
     if (path.empty())
         return SaveOutcome::Cancelled;
+    if (wouldLoseItems(path)) {
+        m_services.messages.notice("Could not save " + path +
+                                   ": it holds items that were left out when it was opened, and "
+                                   "would lose them. Please choose another name.");
+        return SaveOutcome::Failed;
+    }
     // Before the URLs are recalculated, so that what was typed a moment ago is recalculated too
     // and not lost when the panel shows the result.
     m_view.StoreItem();
@@ -162,15 +184,20 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
 
 bool FileCommands::SaveDefinition(const std::string& path) {
     m_view.StoreItem();
-    copyRunTimeFiles();
+    MessageRequest notice = copyRunTimeFiles();
     // What is written comes from the writer and never back out of the JavaScript tab.
     const std::string script = GenerateScript(m_document.content());
     m_view.showScript(script);
     const std::string target =
         path.empty() ? Path(m_document.SavePath()).child(kPreviewScript) : path;
-    const FileOutcome failure = m_services.files.writeFile(target, definitionFileBytes(script));
+    const std::string bytes = definitionFileBytes(script);
+    // The preview script has a name that the person did not choose.
+    const Links links = path.empty() ? Links::Replaced : Links::Followed;
+    const FileOutcome failure = m_services.files.writeFile(target, bytes, links);
     if (failure)
-        m_services.messages.notice("Could not save " + target + ": " + failure->reason);
+        addLine(notice.text, "Could not save " + target + ": " + failure->reason);
+    if (!notice.text.empty())
+        m_services.messages.show(notice);
     return !failure;
 }
 
@@ -187,19 +214,24 @@ void FileCommands::updatePreview() {
 }
 
 void FileCommands::loadPreview() {
-    SaveDefinition(Path(m_document.SavePath()).child(kPreviewScript));
+    SaveDefinition("");
     m_previewedScript = GenerateScript(m_document.content());
     m_previewedFolder = m_document.SavePath();
     // Also after a failure: the preview shows whatever is there.
     m_services.browser.load(Path(m_document.SavePath()).child(kPreviewPage));
 }
 
-void FileCommands::copyRunTimeFiles() {
-    const std::vector<CopyOutcome> problems =
-        copyLibrary(m_services.files, Path(m_document.programFolder()), Path(m_document.SavePath()),
-                    CopiedFiles::ScriptsAndPreviewPage);
-    for (const CopyOutcome& problem : problems)
-        m_services.messages.notice(copyProblemText(problem));
+/// Gives back what the person is to be told, without text when all is well.
+MessageRequest FileCommands::copyRunTimeFiles() {
+    MessageRequest notice;
+    for (const CopyOutcome& problem :
+         copyLibrary(m_services.files, Path(m_document.programFolder()),
+                     Path(m_document.SavePath()), CopiedFiles::ScriptsAndPreviewPage)) {
+        addLine(notice.text, copyProblemText(problem));
+        if (!problem.reason.empty())
+            addLine(notice.details, problem.path + ": " + problem.reason);
+    }
+    return notice;
 }
 
 }  // namespace zev

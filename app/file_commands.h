@@ -24,6 +24,8 @@ class FileCommands {
     /// the old one.
     bool mnuFileNew_Click();
     void mnuFileOpen_Click();
+    /// Of a file that holds more items than a document can, and of a document never saved, as
+    /// `mnuFileSaveAs_Click`; that never writes over such a file.
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
     /// True when the program is to end now.
@@ -41,12 +43,13 @@ class FileCommands {
     FileResult<std::string> readTextFile(const std::string& path);
 
     /// Opens the definition file at `path` (full path). On failure the person is told the path and
-    /// the reason, and the document in memory stays the one being edited, with its changes.
+    /// the reason, and the document in memory stays the one being edited, with its changes. Of what
+    /// was left out on success the person is told the number.
     void openDefinition(const std::string& path);
 
     /// Stores the panel, puts the run-time files beside the definition, shows the script, and
-    /// writes it to `path`, or to the preview script in `SavePath` when `path` is empty. Problems
-    /// are shown; true when the definition itself was written.
+    /// writes it to `path`, or to the preview script in `SavePath` when `path` is empty. All
+    /// problems are shown in one message; true when the definition itself was written.
     bool SaveDefinition(const std::string& path);
 
     /// Cleans and stores the panel, writes the preview files into `SavePath` and loads the preview
@@ -63,11 +66,15 @@ class FileCommands {
     bool saveDocumentAs(const std::string& path, const std::string& folder, bool isRebasing);
     bool mayDiscardDocument();
     void loadPreview();
-    void copyRunTimeFiles();
+    MessageRequest copyRunTimeFiles();
+    /// True when `path` is the file that the document was read from without all its items.
+    bool wouldLoseItems(const std::string& path) const;
 
     MenuDocument& m_document;
     EditorView& m_view;
     EditorServices m_services;
+    /// The file the document was read from, when it holds more items than the document.
+    std::string m_overfullFile;
     /// What the browser was last told to show.
     std::string m_previewedScript;
     std::string m_previewedFolder;

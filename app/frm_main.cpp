@@ -1,6 +1,7 @@
 #include "app/frm_main.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSplitter>
@@ -20,6 +21,8 @@
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
 #include "integrator/wizard/frm_integrator.h"
+#include "library/changed_files.h"
+#include "messages/library_messages.h"
 #include "script/script_writer.h"
 #include "script/submenu_list.h"
 #include "text/path.h"
@@ -47,9 +50,7 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
             [this](const Command& command) { run(command.click); });
     buildTabs(webBrowser);
     buildDialogs();
-    auto* sbStatusBar = new QStatusBar(this);
-    sbStatusBar->setObjectName("sbStatusBar");
-    setStatusBar(sbStatusBar);
+    buildStatusBar();
     resize(920, 660);
 
     // Behind the tree's model: what is selected there must be there.
@@ -84,6 +85,26 @@ void frmMain::buildTabs(QWidget* webBrowser) {
     connect(MenuTab, &QTabWidget::currentChanged, this,
             [this] { guard([this] { MenuTab_Click(); }); });
     setCentralWidget(MenuTab);
+}
+
+/// Says once, at the start, when the run-time files that go with every menu are not the program's.
+void frmMain::buildStatusBar() {
+    auto* sbStatusBar = new QStatusBar(this);
+    sbStatusBar->setObjectName("sbStatusBar");
+    setStatusBar(sbStatusBar);
+    const std::string& folder = m_document.programFolder();
+    const std::string text = changedFilesText(
+        folder,
+        changedRunTimeFiles(m_services.files, Path(folder), CopiedFiles::ScriptsAndPreviewPage));
+    if (text.empty())
+        return;
+    auto* changedFiles = new QLabel(QString::fromStdString(text));
+    changedFiles->setObjectName("changedFiles");
+    changedFiles->setTextFormat(Qt::PlainText);
+    changedFiles->setToolTip(changedFiles->text().toHtmlEscaped());
+    // A long path must not make the window wide.
+    changedFiles->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    sbStatusBar->addWidget(changedFiles, 1);
 }
 
 QWidget* frmMain::buildMenuTab() {

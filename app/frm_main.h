@@ -81,6 +81,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
 
   private:
     void buildTabs(QWidget* webBrowser);
+    void buildStatusBar();
     QWidget* buildMenuTab();
     void buildDialogs();
     void run(const std::function<void(frmMain&)>& command);

@@ -43,11 +43,11 @@ void ImportCommands::run(const ImportFormat& format) {
     const std::string path = m_fileCommands.chooseFile(format.fileFilter, folder);
     if (path.empty())
         return;
-    const FileResult<std::string> content = m_fileCommands.readTextFile(path);
+    FileResult<std::string> content = m_fileCommands.readTextFile(path);
     if (!content.isOk())
         return;
     MenuContent imported;
-    const ImportResult result = importMenu(format, content.value(), imported);
+    const ImportResult result = importMenu(format, content.take(), imported);
     m_document.open(std::move(imported));
 
     MessageRequest notice;

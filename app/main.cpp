@@ -4,6 +4,8 @@
 #include <QMetaObject>
 #include <QStandardPaths>
 
+#include <csignal>
+
 #include "app/frm_main.h"
 #include "app/icons.h"
 #include "app/preview_picture.h"
@@ -81,6 +83,9 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // A file that would grow beyond the user's limit for files is an error of the write, not the
+    // end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
     QCoreApplication::setApplicationName("zevmenu-creator");
     QCoreApplication::setApplicationVersion(ZEV_VERSION);
     QCommandLineParser parser;

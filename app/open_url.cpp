@@ -29,7 +29,7 @@ void OpenURL(const std::string& address, const std::string& programFolder,
     const std::string scratchFile = programFolder + "~temp.htm";
     // Where that place cannot be written the browser opens all the same: its program is found by
     // the file's name.
-    const bool hasScratchFile = !services.files.writeFile(scratchFile, kScratchContent);
+    const bool hasScratchFile = !services.files.writeTemporaryFile(scratchFile, kScratchContent);
     const std::string browser = services.shell.FindExecutable(scratchFile);
     if (trimSpaces(browser).empty())
         showBrowserProblem(services, "Browser Not Found", "Could not find associated browser");

@@ -1,6 +1,8 @@
 #include "app/script_view.h"
 
 #include <QFontDatabase>
+#include <algorithm>
+#include <string_view>
 
 namespace zev {
 
@@ -10,17 +12,22 @@ namespace {
 /// would stall the window for minutes.
 constexpr qsizetype kMaxShownLine = 10'000;
 
-QString withoutOverlongLines(const QString& whole) {
+/// Line by line: of a script of hundreds of megabytes a second whole text would be too many.
+QString withoutOverlongLines(std::string_view script) {
+    constexpr std::size_t kMaxBytesOfUnit = 4;
     QString shown;
-    shown.reserve(whole.size());
-    for (qsizetype start = 0; start < whole.size();) {
-        const qsizetype newline = whole.indexOf(u'\n', start);
-        const qsizetype end = newline < 0 ? whole.size() : newline + 1;
-        const bool isOverlong = end - start > kMaxShownLine;
-        shown += QStringView(whole).sliced(start, isOverlong ? kMaxShownLine : end - start);
-        if (isOverlong)
-            shown += u"\u2026\n"_qs;
-        start = end;
+    while (!script.empty()) {
+        const std::size_t newline = script.find('\n');
+        const std::string_view line =
+            script.substr(0, newline == std::string_view::npos ? newline : newline + 1);
+        const std::size_t begun =
+            std::min<std::size_t>(line.size(), kMaxBytesOfUnit * kMaxShownLine);
+        const QString text = QString::fromUtf8(line.data(), static_cast<qsizetype>(begun));
+        if (text.size() > kMaxShownLine)
+            shown += text.first(kMaxShownLine) + u"\u2026\n"_qs;
+        else
+            shown += text;
+        script.remove_prefix(line.size());
     }
     return shown;
 }
@@ -40,7 +47,7 @@ void ScriptView::showScript(const std::string& script) {
     if (script == m_script)
         return;
     m_script = script;
-    setPlainText(withoutOverlongLines(QString::fromStdString(script)));
+    setPlainText(withoutOverlongLines(script));
 }
 
 }  // namespace zev

@@ -4,8 +4,11 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <charconv>
 #include <iostream>
+#include <system_error>
 
+#include "messages/definition_messages.h"
 #include "platform/posix/posix_descriptor.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
@@ -17,10 +20,28 @@ namespace {
 constexpr const char* kStandardInput = "standard input";
 constexpr const char* kStandardOutput = "standard output";
 
-FileResult<std::string> readStandardInput() {
+/// What the shell handed over: standard input, and "/dev/fd/63", which it writes for "<(command)".
+/// -1 for any other path.
+int handedDescriptor(std::string_view path) {
+    constexpr std::string_view kDescriptors = "/dev/fd/";
+    if (path == "-" || path == "/dev/stdin")
+        return STDIN_FILENO;
+    if (!path.starts_with(kDescriptors))
+        return -1;
+    path.remove_prefix(kDescriptors.size());
+    int descriptor = -1;
+    const auto [end, problem] = std::from_chars(path.data(), path.data() + path.size(), descriptor);
+    return problem == std::errc() && end == path.data() + path.size() ? descriptor : -1;
+}
+
+std::string nameOf(const std::string& path) {
+    return path == "-" ? kStandardInput : path;
+}
+
+FileResult<std::string> readHanded(int descriptor, const std::string& path) {
     std::string bytes;
-    if (const int error = readAll(STDIN_FILENO, kMaxDefinitionFileBytes, bytes))
-        return fileErrorOf(error, kStandardInput);
+    if (const int error = readAll(descriptor, kMaxDefinitionFileBytes, bytes))
+        return fileErrorOf(error, nameOf(path));
     return bytes;
 }
 
@@ -51,13 +72,13 @@ bool writeStandardOutput(std::string_view bytes) {
 }
 
 FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path) {
+    const int handed = handedDescriptor(path);
     FileResult<std::string> bytes =
-        path == "-" ? readStandardInput() : files.readFile(path, kMaxDefinitionFileBytes);
+        handed >= 0 ? readHanded(handed, path) : files.readFile(path, kMaxDefinitionFileBytes);
     if (bytes.isOk()) {
         if (!isBinary(bytes.value()))
             return bytes;
-        const std::string name = path == "-" ? kStandardInput : path;
-        return FileError{FileError::Code::Other, name, "is not a text file"};
+        return FileError{FileError::Code::Other, nameOf(path), "is not a text file"};
     }
     FileError error = bytes.error();
     if (error.code == FileError::Code::TooLarge)
@@ -65,25 +86,36 @@ FileResult<std::string> readMenuFile(const FileSystem& files, const std::string&
     return error;
 }
 
-std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
-                                         MenuContent& content) {
-    const FileResult<std::string> bytes = readMenuFile(files, path);
+std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
+                                              MenuContent& content) {
+    FileResult<std::string> bytes = readMenuFile(files, path);
     if (!bytes.isOk()) {
         printProblem(bytes.error());
         return {};
     }
-    const ReadResult result = ReadScript(bytes.value(), content);
+    const ReadResult result = ReadScript(bytes.take(), content);
     if (result.errorCount == 0)
-        return ExitStatus::Done;
+        return DefinitionInput{path};
     std::cerr << result.errorCount << " errors encountered during parsing\n";
-    return ExitStatus::Counted;
+    if (result.itemsLeftOut > 0)
+        printProblem(itemsLeftOutText(path == "-" ? kStandardInput : path, result.itemsLeftOut));
+    return DefinitionInput{path, ExitStatus::Counted, result.itemsLeftOut};
+}
+
+bool mayReplace(const FileSystem& files, const std::string& output, const DefinitionInput& input) {
+    const std::string read = input.path == "-" ? "/dev/stdin" : input.path;
+    const std::string written = output.empty() || output == "-" ? "/dev/stdout" : output;
+    if (input.itemsLeftOut == 0 || !files.isSameFile(read, written))
+        return true;
+    printProblem(written + ": " + losesItemsText(input.itemsLeftOut));
+    return false;
 }
 
 bool writeDefinition(FileSystem& files, const std::string& path, const MenuContent& content) {
     const std::string bytes = definitionFileBytes(GenerateScript(content));
     if (path.empty() || path == "-")
         return writeStandardOutput(bytes);
-    if (const FileOutcome error = files.writeFile(path, bytes)) {
+    if (const FileOutcome error = files.writeFile(path, bytes, Links::Followed)) {
         printProblem(*error);
         return false;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,14 +31,26 @@ void printProblem(const FileError& error);
 /// Writes to standard output. False, with the problem printed, when not all of it could be written.
 bool writeStandardOutput(std::string_view bytes);
 
-/// The bytes of the text file `path` ("-": standard input). The error may also be that no menu is
-/// in it: it is not text, or too large.
+/// The bytes of the text file `path` ("-": standard input). Pipes are read only by the names that a
+/// shell gives what it hands over, "/dev/stdin" and "/dev/fd/63". The error may also be that no
+/// menu is in it: it is not text, or too large.
 FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path);
 
+/// The definition that a command has read.
+struct DefinitionInput {
+    std::string path;                      ///< "-": standard input
+    ExitStatus status = ExitStatus::Done;  ///< or Counted
+    std::size_t itemsLeftOut = 0;          ///< beyond those that a menu can hold
+};
+
 /// Reads the definition `path` ("-": standard input) into a new menu and prints the number of
-/// errors in it. Nothing, with the problem printed, when it cannot be read; else Done or Counted.
-std::optional<ExitStatus> readDefinition(const FileSystem& files, const std::string& path,
-                                         MenuContent& content);
+/// errors in it, and of items left out. Nothing, with the problem printed, when it cannot be read.
+std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
+                                              MenuContent& content);
+
+/// True when the menu may be written to `output` ("-" or empty: standard output). False, with the
+/// problem printed, when that is the file that was read, which would lose the items left out.
+bool mayReplace(const FileSystem& files, const std::string& output, const DefinitionInput& input);
 
 /// Writes the menu as definition file `path`; "-" and an empty path are standard output. False,
 /// with the problem printed, when it cannot be written.

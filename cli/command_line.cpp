@@ -155,7 +155,8 @@ std::string refuseNoPosition(const std::string& text) {
 }
 
 std::string refuseNoEntry(const std::string& text) {
-    return submenuIdOf(text).empty() ? "must be an entry as \"zevmenu submenus\" prints it" : "";
+    return isSubmenuId(submenuIdOf(text)) ? ""
+                                          : "must be an entry as \"zevmenu submenus\" prints it";
 }
 
 /// What the options of a popup menu were given as.

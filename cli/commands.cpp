@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/command_paths.h"
+#include "library/changed_files.h"
 #include "library/library_files.h"
 #include "library/program_folder.h"
 #include "messages/import_messages.h"
@@ -19,14 +20,21 @@ namespace {
 
 ExitStatus publishLibrary(FileSystem& files, const std::string& executable, const Path& folder) {
     const FileResult<std::string> installed = findInstalledFolder(files, executable);
-    std::vector<CopyOutcome> problems;
-    if (installed.isOk())
-        problems =
-            copyLibrary(files, Path::onThisSystem(installed.value()), folder, CopiedFiles::Scripts);
-    else
-        problems = {{CopyResult::SourceMissing, installed.error().path, {}}};
+    if (!installed.isOk()) {
+        printProblem(copyProblemText({CopyResult::SourceMissing, installed.error().path, {}}));
+        return ExitStatus::FileProblem;
+    }
+    const Path source = Path::onThisSystem(installed.value());
+    const std::string changed = changedFilesText(
+        installed.value(), changedRunTimeFiles(files, source, CopiedFiles::Scripts));
+    if (!changed.empty())
+        printProblem(changed);
+    const std::vector<CopyOutcome> problems =
+        copyLibrary(files, source, folder, CopiedFiles::Scripts);
     for (const CopyOutcome& problem : problems)
-        printProblem(copyProblemText(problem));
+        printProblem(problem.reason.empty()
+                         ? copyProblemText(problem)
+                         : copyProblemText(problem) + " (" + problem.reason + ")");
     return problems.empty() ? ExitStatus::Done : ExitStatus::FileProblem;
 }
 
@@ -34,20 +42,20 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable, cons
 
 ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output) {
     MenuContent& content = commandContent();
-    const std::optional<ExitStatus> status = readDefinition(files, input, content);
-    if (!status || !writeDefinition(files, output, content))
+    const std::optional<DefinitionInput> read = readDefinition(files, input, content);
+    if (!read || !mayReplace(files, output, *read) || !writeDefinition(files, output, content))
         return ExitStatus::FileProblem;
-    return *status;
+    return read->status;
 }
 
 ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {
-    const FileResult<std::string> bytes = readMenuFile(files, options.input);
+    FileResult<std::string> bytes = readMenuFile(files, options.input);
     if (!bytes.isOk()) {
         printProblem(bytes.error());
         return ExitStatus::FileProblem;
     }
     MenuContent& content = commandContent();
-    const ImportResult result = importMenu(*options.format, bytes.value(), content);
+    const ImportResult result = importMenu(*options.format, bytes.take(), content);
     if (!writeDefinition(files, options.output, content))
         return ExitStatus::FileProblem;
     if (options.isVerbose)
@@ -69,22 +77,22 @@ ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options) {
     if (!from || !to)
         return ExitStatus::FileProblem;
     MenuContent& content = commandContent();
-    const std::optional<ExitStatus> status = readDefinition(files, options.input, content);
-    if (!status)
+    const std::optional<DefinitionInput> read = readDefinition(files, options.input, content);
+    if (!read || !mayReplace(files, options.output, *read))
         return ExitStatus::FileProblem;
     RebaseAllURLs(content, *from, *to);
-    return writeDefinition(files, options.output, content) ? *status : ExitStatus::FileProblem;
+    return writeDefinition(files, options.output, content) ? read->status : ExitStatus::FileProblem;
 }
 
 ExitStatus submenusCommand(const FileSystem& files, const std::string& input) {
     MenuContent& content = commandContent();
-    const std::optional<ExitStatus> status = readDefinition(files, input, content);
-    if (!status)
+    const std::optional<DefinitionInput> read = readDefinition(files, input, content);
+    if (!read)
         return ExitStatus::FileProblem;
     std::string lines;
     for (const Submenu& submenu : ListSubmenus(content))
         lines += submenuEntry(submenu) + "\n";
-    return writeStandardOutput(lines) ? *status : ExitStatus::FileProblem;
+    return writeStandardOutput(lines) ? read->status : ExitStatus::FileProblem;
 }
 
 ExitStatus publishCommand(FileSystem& files, const std::string& executable,
@@ -99,19 +107,22 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
         return ExitStatus::WrongUse;
     }
     MenuContent& content = commandContent();
-    const std::optional<ExitStatus> status = readDefinition(files, input, content);
-    if (!status)
+    const std::optional<DefinitionInput> read = readDefinition(files, input, content);
+    if (!read)
         return ExitStatus::FileProblem;
     if (!files.isFolder(folder)) {
         printProblem(folder + ": is not a folder");
         return ExitStatus::FileProblem;
     }
     const Path target = Path::onThisSystem(folder);
+    const std::string definition = target.child(name);
+    if (!mayReplace(files, definition, *read))
+        return ExitStatus::FileProblem;
     const ExitStatus libraryStatus = publishLibrary(files, executable, target);
     // As when the editor saves, the definition is written whatever became of the scripts.
-    if (!writeDefinition(files, target.child(name), content))
+    if (!writeDefinition(files, definition, content))
         return ExitStatus::FileProblem;
-    return libraryStatus == ExitStatus::Done ? *status : libraryStatus;
+    return libraryStatus == ExitStatus::Done ? read->status : libraryStatus;
 }
 
 }  // namespace zev

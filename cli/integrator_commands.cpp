@@ -86,17 +86,24 @@ ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) 
     std::string report;
     bool hasFailed = false;
     for (const PageGroup& group : *groups) {
-        PageIntegrator integrator(files, {{group.urls.library, options.keepsOtherScripts},
-                                          options.hasBackups,
-                                          options.isDryRun});
-        integrator.IntegratePages(group.files);
-        report += integrator.report();
-        hasFailed = hasFailed || integrator.hasFailed();
+        for (const std::string& name : group.files.names) {
+            PageIntegrator integrator(files, {{group.urls.library, options.keepsOtherScripts},
+                                              options.hasBackups,
+                                              options.isDryRun});
+            integrator.IntegratePages({group.files.folder, {name}});
+            report += integrator.report();
+            if (!integrator.hasFailed())
+                continue;
+            hasFailed = true;
+            if (!options.report.empty())
+                printProblem(pagePath(group.files.folder, name) + ": failed; see the report");
+        }
     }
     std::string output = codeOfAll(*groups, options);
     if (options.report.empty()) {
         output = withUnixLineEnds(report) + output;
-    } else if (const FileOutcome error = files.writeFile(options.report, report + "\r\n")) {
+    } else if (const FileOutcome error =
+                   files.writeFile(options.report, report + "\r\n", Links::Followed)) {
         printProblem(*error);
         return ExitStatus::FileProblem;
     }

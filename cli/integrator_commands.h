@@ -34,7 +34,8 @@ struct IntegrateOptions {
 };
 
 /// Integrates the pages, writes the report and prints the code to paste, which differs between
-/// pages of different folders. Counted when any page failed.
+/// pages of different folders. Counted when any page failed; when the report goes to a file, each
+/// that did is named on standard error.
 ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options);
 
 }  // namespace zev

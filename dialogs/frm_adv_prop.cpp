@@ -57,7 +57,7 @@ QGroupBox* frmAdvProp::makeAdvancedFrame() {
         {"CellPadding", tr("Ce&ll Padding:"), tr("Padding around each menu item"),
          &MenuProp::CellPadding, range(0, 10), PropertyEdit::CheckedWhen::Changed},
     };
-    addBoxes(frame, boxes);
+    addBoxes(gridOf(frame), boxes);
     firstBox()->setMinimumWidth(kTextWidth * fontMetrics().averageCharWidth());
     return frame;
 }
@@ -71,7 +71,7 @@ QGroupBox* frmAdvProp::makeFilterFrame() {
         {"Opacity", tr("&Opacity (1 - 100):"), tr("Menu opacity. 1: Transparent. 100: Opaque"),
          &MenuProp::FilterOpacity, range(1, 100)},
     };
-    addBoxes(frame, boxes);
+    addBoxes(gridOf(frame), boxes);
     addColor(frame, "Shadow", &MenuProp::FilterShadow,
              {tr("&Shadow Color:"), tr("S&elect Color"), tr("Shadow Color"),
               tr("Select Shadow Color"), tr("Menu shadow color")});

@@ -16,8 +16,11 @@ class frmDefaultProp : public PropertyDialog {
 
   private:
     QGroupBox* makeMenuFrame();
+    QGroupBox* makeAdditionalFrame();
     void cmdFont_Click() override;
     void cmdOK_Click() override;
+
+    bool m_hasChosenFont = false;  ///< perhaps one without a name, of which only the size was set
 };
 
 }  // namespace zev

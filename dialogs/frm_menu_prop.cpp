@@ -49,7 +49,7 @@ QGroupBox* frmMenuProp::makeMenuFrame() {
         {"Spacing", tr("&Spacing:"), tr("Spacing between menu items"), &MenuProp::Spacing,
          range(0, 1000), Changed},
     };
-    addBoxes(frame, boxes);
+    addBoxes(gridOf(frame), boxes);
     return frame;
 }
 
@@ -79,7 +79,8 @@ bool frmMenuProp::fill() {
 void frmMenuProp::cmdFont_Click() {
     if (bFontSet)
         cdFont = previewFont();
-    if (chooseFont())
+    // Where the font dialog held none yet, it opens with the font that the menu inherits.
+    if (chooseFont(cdFont == FontChoice() ? previewFont() : cdFont))
         bFontSet = true;
 }
 

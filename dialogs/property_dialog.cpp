@@ -67,9 +67,9 @@ void PropertyDialog::addPreviewedColor(QGroupBox* frame, const QString& name,
 
 QGroupBox* PropertyDialog::makeBackgroundFrame() {
     QGroupBox* frame = makeFrame("FrameBackground", tr("Background Settings"));
-    txtBgImg =
-        addBox(frame, {"BgImg", tr("&Image:"), tr("Menu background image"), &MenuProp::BgImg},
-               kButtonColumn);
+    txtBgImg = addBox(gridOf(frame),
+                      {"BgImg", tr("&Image:"), tr("Menu background image"), &MenuProp::BgImg},
+                      kButtonColumn);
     txtBgImg->setMinimumWidth(kUrlWidth * fontMetrics().averageCharWidth());
     QPushButton* cmdBrowseBgImg =
         makeButton("cmdBrowseBgImg", tr("&Browse"), frame, [this] { cmdBrowseBgImg_Click(); });
@@ -121,7 +121,7 @@ void PropertyDialog::addPreviews(QGroupBox* frame) {
     gridOf(frame)->addLayout(previews, gridOf(frame)->rowCount(), kLabelColumn, 1, kColumns);
 }
 
-void PropertyDialog::arrange(QBoxLayout* left, QBoxLayout* right) {
+void PropertyDialog::arrange(QBoxLayout* left, QBoxLayout* right, QWidget* below) {
     auto* frames = new QHBoxLayout;
     frames->addLayout(left);
     frames->addLayout(right, 1);
@@ -129,6 +129,8 @@ void PropertyDialog::arrange(QBoxLayout* left, QBoxLayout* right) {
     addClosingButtons(closing);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(frames, 1);
+    if (below)
+        layout->addWidget(below);
     layout->addLayout(closing);
 }
 
@@ -185,8 +187,8 @@ void PropertyDialog::storePreviewFont(MenuProp& prop) const {
     prop.FontWeight = font.isBold;
 }
 
-bool PropertyDialog::chooseFont() {
-    const std::optional<FontChoice> chosen = m_host.dialogs.chooseFont(cdFont);
+bool PropertyDialog::chooseFont(const FontChoice& initial) {
+    const std::optional<FontChoice> chosen = m_host.dialogs.chooseFont(initial);
     if (!chosen.has_value())
         return false;
     cdFont = *chosen;

@@ -32,8 +32,9 @@ class PropertyDialog : public PropertyForm {
     QGroupBox* makeFontFrame(const QString& tooltip);
     static void addRow(QGroupBox* frame, QPushButton* button);
     void addPreviews(QGroupBox* frame);
-    /// Puts `left` beside `right`, and `cmdOK` and `cmdCancel` below them.
-    void arrange(QBoxLayout* left, QBoxLayout* right);
+    /// Puts `left` beside `right`, then `below` where there is one, and `cmdOK` and `cmdCancel` at
+    /// the end.
+    void arrange(QBoxLayout* left, QBoxLayout* right, QWidget* below = nullptr);
 
     /// Fills the list as well. The previews stay as they are.
     void showBoxes(const MenuProp& prop) override;
@@ -51,9 +52,9 @@ class PropertyDialog : public PropertyForm {
     const FontChoice& previewFont() const;
     /// Writes the font of `lblFont`, its size as a whole number.
     void storePreviewFont(MenuProp& prop) const;
-    /// Shows the font dialog with what `cdFont` holds. True when the person chose a font, which
-    /// `cdFont` and the previews then have.
-    bool chooseFont();
+    /// Shows the font dialog with `initial`. True when the person chose a font, which `cdFont` and
+    /// the previews then have.
+    bool chooseFont(const FontChoice& initial);
 
     virtual void cmdFont_Click() = 0;
 

@@ -13,6 +13,10 @@ TextCheck range(double lower, double upper) {
     return [lower, upper](std::string_view text) { return CheckRange(text, lower, upper); };
 }
 
+TextCheck wholeRange(double lower, double upper) {
+    return [lower, upper](std::string_view text) { return checkWholeRange(text, lower, upper); };
+}
+
 CheckedText escaped(std::string_view text) {
     return {EscapeApostrophes(text), ""};
 }

@@ -19,6 +19,9 @@ using TextCheck = std::function<CheckedText(std::string_view)>;
 /// `CheckRange` with these bounds.
 TextCheck range(double lower, double upper);
 
+/// `checkWholeRange` with these bounds.
+TextCheck wholeRange(double lower, double upper);
+
 /// `EscapeApostrophes`.
 CheckedText escaped(std::string_view text);
 

@@ -1,5 +1,6 @@
 #include "dialogs/property_form.h"
 
+#include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -29,20 +30,28 @@ QGridLayout* PropertyForm::gridOf(const QGroupBox* frame) {
     return static_cast<QGridLayout*>(frame->layout());
 }
 
-PropertyEdit* PropertyForm::addBox(QGroupBox* frame, const PropertyBox& box, int end) {
-    const PropertyField field = PropertyField::make(box.name, box.caption, box.tooltip, frame);
-    const int row = gridOf(frame)->rowCount();
-    gridOf(frame)->addWidget(field.label, row, kLabelColumn);
-    gridOf(frame)->addWidget(field.edit, row, kBoxColumn, 1, end - kBoxColumn);
+QGridLayout* PropertyForm::addGrid(QBoxLayout* parts, int stretch) {
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(kBoxColumn, 1);
+    parts->addLayout(grid, stretch);
+    return grid;
+}
+
+PropertyEdit* PropertyForm::addBox(QGridLayout* grid, const PropertyBox& box, int end) {
+    const PropertyField field =
+        PropertyField::make(box.name, box.caption, box.tooltip, grid->parentWidget());
+    const int row = grid->rowCount();
+    grid->addWidget(field.label, row, kLabelColumn);
+    grid->addWidget(field.edit, row, kBoxColumn, 1, end - kBoxColumn);
     if (box.check)
         field.edit->setCheck(box.check, box.checkedWhen, m_host.messages);
     m_boxes.push_back({field.edit, box.member});
     return field.edit;
 }
 
-void PropertyForm::addBoxes(QGroupBox* frame, std::span<const PropertyBox> boxes) {
+void PropertyForm::addBoxes(QGridLayout* grid, std::span<const PropertyBox> boxes) {
     for (const PropertyBox& box : boxes)
-        addBox(frame, box);
+        addBox(grid, box);
 }
 
 PropertyEdit* PropertyForm::addColor(QGroupBox* frame, const QString& name,

@@ -49,9 +49,11 @@ class PropertyForm : public QDialog {
     /// A frame for rows of a label and what it stands for.
     QGroupBox* makeFrame(const QString& name, const QString& title);
     static QGridLayout* gridOf(const QGroupBox* frame);
-    /// Adds a row to a frame; its box ends before the column `end`.
-    PropertyEdit* addBox(QGroupBox* frame, const PropertyBox& box, int end = kColumns);
-    void addBoxes(QGroupBox* frame, std::span<const PropertyBox> boxes);
+    /// For rows that are not to be as wide as their frame; stands in `parts`, which has a widget.
+    static QGridLayout* addGrid(QBoxLayout* parts, int stretch);
+    /// Adds a row; its box ends before the column `end`.
+    PropertyEdit* addBox(QGridLayout* grid, const PropertyBox& box, int end = kColumns);
+    void addBoxes(QGridLayout* grid, std::span<const PropertyBox> boxes);
     /// Adds a row with a colour. Its button leaves the box once more after the colour dialog.
     PropertyEdit* addColor(QGroupBox* frame, const QString& name, std::string MenuProp::*member,
                            const ColorTexts& texts);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <utility>
 
 #include "importers/orlet_reader.h"
 #include "importers/quillmenu_reader.h"
@@ -41,12 +42,12 @@ const ImportFormat* findImportFormat(std::string_view name) {
     return found == std::end(kFormats) ? nullptr : found;
 }
 
-ImportResult importMenu(const ImportFormat& format, std::string_view bytes, MenuContent& content) {
-    DefinitionLines lines(bytes);
+ImportResult importMenu(const ImportFormat& format, std::string bytes, MenuContent& content) {
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 16;
     content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
+    DefinitionLines lines(std::move(bytes));
     return {format.read(lines, content)};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -37,6 +38,6 @@ struct ImportResult {
 /// `bytes` is the file's whole content, with the encodings and line ends of a definition file.
 /// Lines that mean nothing are skipped. Afterwards the first node is current and selected and
 /// `bModified` is false.
-ImportResult importMenu(const ImportFormat& format, std::string_view bytes, MenuContent& content);
+ImportResult importMenu(const ImportFormat& format, std::string bytes, MenuContent& content);
 
 }  // namespace zev

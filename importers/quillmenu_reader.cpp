@@ -1,6 +1,5 @@
 #include "importers/quillmenu_reader.h"
 
-#include <string>
 #include <string_view>
 
 #include "script/menu_script.h"
@@ -44,10 +43,6 @@ void readMainMenu(std::string_view line, MenuProp& menu) {
     readLook(line, menu);
 }
 
-std::string idOfSubmenu(std::string_view line) {
-    return std::string(firstArgument(line));
-}
-
 void readSubmenu(std::string_view line, MenuProp& menu) {
     menu.Columns = "1";
     readLook(line, menu);
@@ -55,7 +50,7 @@ void readSubmenu(std::string_view line, MenuProp& menu) {
 
 constexpr CreationLine kCreationLines[] = {
     {"qlmenu1 = new mainMenu('*');", nullptr, readMainMenu},
-    {"qlmenu1 = new subMenu('*');", idOfSubmenu, readSubmenu}};
+    {"qlmenu1 = new subMenu('*');", firstArgument, readSubmenu}};
 
 constexpr ScriptDialect kQuillmenu = {.start = "qlm",
                                       .defaultLine = "qlm_state.*=*;",
@@ -68,7 +63,10 @@ constexpr ScriptDialect kQuillmenu = {.start = "qlm",
 }  // namespace
 
 std::vector<LineWarning> readQuillmenu(DefinitionLines& lines, MenuContent& content) {
-    return readMenuScript(lines, kQuillmenu, content);
+    std::vector<LineWarning> warnings;
+    readMenuScript(lines, kQuillmenu, content,
+                   [&](const LineWarning& warning) { warnings.push_back(warning); });
+    return warnings;
 }
 
 }  // namespace zev

@@ -14,6 +14,24 @@ std::string argumentsOf(const std::string& submenuId) {
     return "'zev1i" + submenuId.substr(0, split) + "', '" + submenuId.substr(split + 1) + "'";
 }
 
+/// What would end an attribute in double quotes or its tag, or break its line, percent-encoded.
+std::string withinAttribute(std::string_view url) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string encoded;
+    for (const char c : url) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool isControl = byte < 0x20 || byte == 0x7F;
+        if (isControl || c == '"' || c == '<' || c == '>') {
+            encoded += '%';
+            encoded += kDigits[byte >> 4];
+            encoded += kDigits[byte & 0xF];
+        } else {
+            encoded += c;
+        }
+    }
+    return encoded;
+}
+
 }  // namespace
 
 std::string MenuList_GetString(std::string_view entry) {
@@ -21,7 +39,8 @@ std::string MenuList_GetString(std::string_view entry) {
 }
 
 std::string definitionReference(const std::string& definitionURL) {
-    return "<script language=\"JavaScript1.2\" src=\"" + definitionURL + "\"></script>";
+    return "<script language=\"JavaScript1.2\" src=\"" + withinAttribute(definitionURL) +
+           "\"></script>";
 }
 
 std::string menuCode(const std::string& definitionURL) {

@@ -19,13 +19,16 @@ struct PopupPlacement {
     std::string y;  ///< both go into the code as they are
 };
 
-/// Reference to the definition file. `definitionURL` goes into the code as it is.
+/// Reference to the definition file. `definitionURL` goes into the code as it is, but for double
+/// quotes, angle brackets and control characters, line breaks among them: each is written as "%22"
+/// and the like.
 std::string definitionReference(const std::string& definitionURL);
 
 /// Code of a horizontal or vertical menu: the reference and the call that draws the menu in place.
 std::string menuCode(const std::string& definitionURL);
 
-/// Hyperlink that opens, and beside the mouse also closes, the submenu of this id.
+/// Hyperlink that opens, and beside the mouse also closes, the submenu of this id, which goes into
+/// the code as it is: see `isSubmenuId`.
 std::string popupLinkCode(const std::string& submenuId, const PopupPlacement& placement);
 
 }  // namespace zev

@@ -123,12 +123,12 @@ std::optional<PageError> PageIntegrator::replacePage(const std::string& path, st
     // Copying reads a whole file; two texts of a page's size in memory would be one too many.
     std::string().swap(bytes);
     if (!error && m_options.hasBackups) {
-        error = m_files.CopyFile(path, path + ".bak");
+        error = m_files.backUpFile(path, path + ".bak");
         if (error)
             code = PageError::Code::NotBackedUp;
     }
     if (!error)
-        error = m_files.CopyFile(temporary, path);
+        error = m_files.CopyFile(temporary, path, Links::Followed);
     if (error) {
         if (m_files.FileExists(temporary))
             m_files.DeleteFile(temporary);

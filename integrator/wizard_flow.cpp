@@ -148,7 +148,7 @@ bool WizardFlow::mayClose() {
 }
 
 FileOutcome WizardFlow::saveReport(const std::string& path) const {
-    return m_files.writeFile(path, m_report + "\r\n");
+    return m_files.writeFile(path, m_report + "\r\n", Links::Followed);
 }
 
 }  // namespace zev

@@ -21,7 +21,7 @@ CopyOutcome CopyLibraryFile(FileSystem& files, const std::string& source,
     if (!files.FileExists(source))
         return {CopyResult::SourceMissing, source, {}};
     // Not deleted first: the copy replaces the old file whole, so that a failure leaves it intact.
-    if (const FileOutcome error = files.CopyFile(source, destination))
+    if (const FileOutcome error = files.CopyFile(source, destination, Links::Replaced))
         return {CopyResult::NotSaved, destination, error->reason};
     return {};
 }

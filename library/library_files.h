@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,9 @@ namespace zev {
 /// The three run-time scripts that lie beside every saved definition.
 inline constexpr std::array<std::string_view, 3> kLibraryFiles = {
     "zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"};
+
+/// More than any run-time file has.
+inline constexpr std::uint64_t kMaxRunTimeFileBytes = std::uint64_t{64} << 20;
 
 /// The page template in the program's folder; the preview page is a copy of it.
 inline constexpr std::string_view kPageTemplate = "zevmenu.html";

@@ -1,6 +1,5 @@
 #include "library/program_folder.h"
 
-#include <cstdint>
 #include <vector>
 
 #include "library/library_files.h"
@@ -25,14 +24,13 @@ std::string joinPath(const std::string& folder, std::string_view name) {
 /// than a copy of the version before.
 FileOutcome updateFile(FileSystem& files, const std::string& source,
                        const std::string& destination) {
-    constexpr std::uint64_t kMaxBytes = std::uint64_t{64} << 20;
-    const FileResult<std::string> wanted = files.readFile(source, kMaxBytes);
+    const FileResult<std::string> wanted = files.readFile(source, kMaxRunTimeFileBytes);
     if (!wanted.isOk())
         return wanted.error();
-    const FileResult<std::string> present = files.readFile(destination, kMaxBytes);
+    const FileResult<std::string> present = files.readFile(destination, kMaxRunTimeFileBytes);
     if (present.isOk() && present.value() == wanted.value())
         return {};
-    return files.writeFile(destination, wanted.value());
+    return files.writeFile(destination, wanted.value(), Links::Replaced);
 }
 
 /// Brings a folder with all it holds up to date; files that only `destination` has stay.

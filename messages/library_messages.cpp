@@ -15,4 +15,14 @@ std::string copyProblemText(const CopyOutcome& outcome) {
     return {};
 }
 
+std::string changedFilesText(const std::string& folder,
+                             const std::vector<std::string_view>& names) {
+    if (names.empty())
+        return {};
+    std::string text = folder + ": not the files this program was built with:";
+    for (const std::string_view name : names)
+        text.append(name == names.front() ? " " : ", ").append(name);
+    return text;
+}
+
 }  // namespace zev

@@ -87,6 +87,15 @@ CheckedText CheckRange(std::string_view text, double lower, double upper) {
     return {"", "Please enter a value between " + textOf(lower) + " and " + textOf(upper)};
 }
 
+CheckedText checkWholeRange(std::string_view text, double lower, double upper) {
+    CheckedText checked = CheckRange(text, lower, upper);
+    const double value = numberOf(checked.text).value_or(0);
+    if (value != std::floor(value))
+        checked = {
+            "", "Please enter a whole number between " + textOf(lower) + " and " + textOf(upper)};
+    return checked;
+}
+
 CheckedText CheckInteger(std::string_view text) {
     if (text.empty())
         return {};

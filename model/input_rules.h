@@ -39,8 +39,11 @@ struct CheckedText {
 /// number are dropped; a refused text is replaced by none.
 CheckedText CheckRange(std::string_view text, double lower, double upper);
 
-/// The same with a number that rounds (half to even) to a signed 16-bit integer. The message names
-/// another range, and is meant to: its wording is fixed.
+/// The same without fractions: "2.5" is refused, "1e3" is not.
+CheckedText checkWholeRange(std::string_view text, double lower, double upper);
+
+/// `CheckRange` with a number that rounds (half to even) to a signed 16-bit integer. The message
+/// names another range, and is meant to: its wording is fixed.
 CheckedText CheckInteger(std::string_view text);
 
 /// The number at the beginning of `text`, or 0 when there is none: "10pt" is 10. It begins with a

@@ -36,6 +36,10 @@ struct MenuProp {
     std::string FilterOpacity;  ///< percent, 1 to 100
     std::string FilterShadow;   ///< shadow colour
     std::string FilterFade;     ///< seconds, 0 to 5
+    std::string marker;         ///< HTML of the mark at items with a submenu; defaults only
+    std::string fold;           ///< pixels; narrower windows fold the top menu; defaults only
+    std::string openDelay;      ///< milliseconds; defaults only
+    std::string label;          ///< the menu's name for assistive technology; defaults only
 
     bool operator==(const MenuProp&) const = default;
 

@@ -96,6 +96,10 @@ inline constexpr auto kMenuProperties = [] {
         {"target", TextMember{&P::Target}, Quoted, Never, WhenSet},
         {"cellpadding", TextMember{&P::CellPadding, "1"}, Number, Never, UnlessFactory},
         {"divider", TextMember{&P::Divider, nullptr, "&nbsp;"}, Quoted, Never, UnlessStarting},
+        {"marker", TextMember{&P::marker}, Quoted, WhenSet, Never},
+        {"fold", TextMember{&P::fold}, Number, WhenSet, Never},
+        {"opendelay", TextMember{&P::openDelay}, Number, WhenSet, Never},
+        {"label", TextMember{&P::label}, Quoted, WhenSet, Never},
     });
 }();
 

@@ -28,7 +28,8 @@ struct ChosenFiles {
 
 /// A font as a person chooses it.
 struct FontChoice {
-    std::string name;  ///< family; empty: the dialog starts with the system's own
+    /// Family, or several as in a style sheet; empty: the dialog starts with the system's own.
+    std::string name;
     float points = 0;  ///< size; 0: the same
     bool isItalic = false;
     bool isBold = false;
@@ -55,7 +56,8 @@ class CommonDialogs {
     /// A colour value, preselected with `initial`. The part for mixing colours is open from the
     /// start.
     virtual std::optional<std::int32_t> chooseColor(std::int32_t initial) = 0;
-    /// A font that exists on this system, preselected with `initial` as far as that does.
+    /// A font, preselected with `initial` as far as that exists on this system. What the person
+    /// leaves as it is shown comes back as it is in `initial`; a family that is chosen exists.
     virtual std::optional<FontChoice> chooseFont(const FontChoice& initial) = 0;
 };
 

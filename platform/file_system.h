@@ -29,6 +29,8 @@ class FileResult {
     bool isOk() const { return std::holds_alternative<T>(m_state); }
     /// Only when `isOk()`.
     const T& value() const { return std::get<T>(m_state); }
+    /// Moves the value out; only when `isOk()`.
+    T take() { return std::move(std::get<T>(m_state)); }
     /// Only when not `isOk()`.
     const FileError& error() const { return std::get<FileError>(m_state); }
 
@@ -38,6 +40,15 @@ class FileResult {
 
 /// Outcome of an operation that yields nothing: empty on success.
 using FileOutcome = std::optional<FileError>;
+
+/// What becomes of a link where a file is to be written.
+enum class Links {
+    /// The file it leads to is written, and so is a pipe or device. For paths the person named.
+    Followed,
+    /// A file takes its place; a pipe, socket or device is an error. For names that the program
+    /// chose itself, in a folder that may come from a stranger.
+    Replaced
+};
 
 /// The file operations the program needs. Whatever it writes for the user is whole or not there at
 /// all: after a failure the target holds its old content and nothing is left beside it.
@@ -51,20 +62,31 @@ class FileSystem {
     /// True when both paths lead to one folder of the disk, by links, letter case or spelling. A
     /// path to no folder is never the same.
     virtual bool isSameFolder(const std::string& left, const std::string& right) const = 0;
+    /// True when both paths lead to one regular file of the disk, by links, letter case or
+    /// spelling.
+    virtual bool isSameFile(const std::string& left, const std::string& right) const = 0;
     /// True when new files can be made in the folder.
     virtual bool isWritableFolder(const std::string& path) const = 0;
-    /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge).
+    /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge), and
+    /// so, at once, is what has no content of its own: a pipe, socket or device.
     virtual FileResult<std::string> readFile(const std::string& path,
                                              std::uint64_t maxBytes) const = 0;
     /// Replaces the content of `path`, or makes the file.
-    virtual FileOutcome writeFile(const std::string& path, std::string_view bytes) = 0;
+    virtual FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) = 0;
     /// The same for a file that the caller reads and deletes itself before it ends: nobody else can
     /// read it, nothing of an old file is kept, and the power may fail on it. That saves the waits
-    /// for the disk, which are most of what `writeFile` costs. A failure leaves no file.
+    /// for the disk, which are most of what `writeFile` costs. A link is replaced. A failure leaves
+    /// no file.
     virtual FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) = 0;
     /// Makes `destination` a copy of `source`'s bytes, replacing it. The error names the file at
     /// fault.
-    virtual FileOutcome CopyFile(const std::string& source, const std::string& destination) = 0;
+    virtual FileOutcome CopyFile(const std::string& source, const std::string& destination,
+                                 Links links) = 0;
+    /// Makes `backup` a copy of the file `path`, which is about to be replaced. It has the owner,
+    /// group, mode and attributes of `path` from its first byte on, and where it cannot have them
+    /// is open to nobody who may not read `path`. A link `backup` is replaced. A `path` that may
+    /// not be written is refused. The error names the file at fault.
+    virtual FileOutcome backUpFile(const std::string& path, const std::string& backup) = 0;
     virtual FileOutcome DeleteFile(const std::string& path) = 0;
     /// Makes the folder and those above it that are missing. A folder that is there is no error.
     virtual FileOutcome makeFolder(const std::string& path) = 0;

@@ -1,12 +1,14 @@
 #include "script/definition_lines.h"
 
+#include <utility>
+
 #include "text/ascii.h"
 #include "text/text_encoding.h"
 
 namespace zev {
 
-DefinitionLines::DefinitionLines(std::string_view bytes)
-    : m_rest(decodeDefinition(bytes, m_converted)) {}
+DefinitionLines::DefinitionLines(std::string bytes)
+    : m_text(std::move(bytes)), m_rest(decodeDefinition(m_text, m_text)) {}
 
 bool DefinitionLines::next(std::string_view& line) {
     if (m_rest.empty())

@@ -12,8 +12,9 @@ namespace zev {
 /// A line ends at LF; a CR before it is dropped.
 class DefinitionLines {
   public:
-    /// `bytes` is the file's whole content and must outlive this object.
-    explicit DefinitionLines(std::string_view bytes);
+    /// `bytes` is the file's whole content. Of bytes that had to be converted only the text is
+    /// kept.
+    explicit DefinitionLines(std::string bytes);
     DefinitionLines(const DefinitionLines&) = delete;
     DefinitionLines& operator=(const DefinitionLines&) = delete;
 
@@ -25,7 +26,7 @@ class DefinitionLines {
     bool next(std::string_view& line);
 
   private:
-    std::string m_converted;
+    std::string m_text;
     std::string_view m_rest;
     std::size_t m_number = 0;
 };

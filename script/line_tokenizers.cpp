@@ -20,15 +20,15 @@ std::size_t lastCodePointOffset(std::string_view text) {
 
 }  // namespace
 
-std::string GetPropName(std::string_view line) {
+std::string_view GetPropName(std::string_view line) {
     const std::size_t dot = line.find('.');
     const std::size_t equals = line.find('=', dot);
     if (dot == kNpos || equals == kNpos)
         return {};
-    return std::string(trimSpaces(line.substr(dot + 1, equals - dot - 1)));
+    return trimSpaces(line.substr(dot + 1, equals - dot - 1));
 }
 
-std::string GetPropValue(std::string_view line) {
+std::string_view GetPropValue(std::string_view line) {
     const std::size_t apostrophe = line.find('\'');
     const std::size_t doubleQuote = line.find('"');
     std::size_t start;
@@ -48,10 +48,10 @@ std::string GetPropValue(std::string_view line) {
     if (end == kNpos || end == start)
         end = lastCodePointOffset(line);
     const std::size_t first = start == kNpos ? 0 : start + 1;
-    return end <= first ? std::string() : std::string(line.substr(first, end - first));
+    return end <= first ? std::string_view() : line.substr(first, end - first);
 }
 
-std::string GetMenuId(std::string_view line) {
+std::string_view GetMenuId(std::string_view line) {
     const std::size_t call = line.find("ZEVMenu(");
     if (call == kNpos)
         return {};
@@ -61,7 +61,7 @@ std::string GetMenuId(std::string_view line) {
     const std::size_t closing = line.find('\'', opening + 1);
     if (closing == kNpos)
         return {};
-    return std::string(line.substr(opening + 1, closing - opening - 1));
+    return line.substr(opening + 1, closing - opening - 1);
 }
 
 }  // namespace zev

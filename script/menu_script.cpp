@@ -1,6 +1,7 @@
 #include "script/menu_script.h"
 
 #include <cstddef>
+#include <string>
 #include <utility>
 
 #include "model/menu_properties.h"
@@ -19,14 +20,15 @@ using Reason = LineWarning::Reason;
 /// Applies the lines of one script to a new menu, one after the other.
 class MenuScriptReader {
   public:
-    MenuScriptReader(DefinitionLines& lines, const ScriptDialect& dialect, MenuContent& content)
-        : m_lines(lines), m_dialect(dialect), m_content(content) {}
+    MenuScriptReader(DefinitionLines& lines, const ScriptDialect& dialect, MenuContent& content,
+                     const WarningSink& tell)
+        : m_lines(lines), m_dialect(dialect), m_content(content), m_tell(tell) {}
 
-    std::vector<LineWarning> read() {
+    std::size_t read() {
         std::string_view line;
         while (m_lines.next(line))
             readLine(line);
-        return std::move(m_warnings);
+        return m_itemsLeftOut;
     }
 
   private:
@@ -62,7 +64,7 @@ class MenuScriptReader {
     }
 
     void openMenu(const CreationLine& creation, std::string_view line) {
-        m_menuId = creation.idOf ? creation.idOf(line) : std::string(kTopLevelMenuId);
+        m_menuId = creation.idOf ? creation.idOf(line) : kTopLevelMenuId;
         m_itemNumber = 0;
         m_menuNode = isTopLevel() ? nullptr : m_content.tree.find(loadedMenuKey(m_menuId));
         if (!creation.readLook)
@@ -76,7 +78,7 @@ class MenuScriptReader {
     }
 
     bool readProperty(std::string_view line) {
-        const std::string name = GetPropName(line);
+        const std::string_view name = GetPropName(line);
         if (isTopLevel())
             return SetProperty(m_content.RootMenuProp, name, GetPropValue(line));
         if (m_menuNode)
@@ -100,6 +102,8 @@ class MenuScriptReader {
             warn(Reason::TooManyItems);
         else
             isAdded = addItem(std::move(item));
+        // One of a menu that is not there too: the item that opens it may have been left out.
+        m_itemsLeftOut += isFull ? 1 : 0;
         if (isAdded || (m_dialect.countsRefusedItems && !isFull))
             ++m_content.ItemCounter;
         return isWhole;
@@ -114,22 +118,23 @@ class MenuScriptReader {
         return false;
     }
 
-    void warn(Reason reason) { m_warnings.push_back({m_lines.number(), reason}); }
+    void warn(Reason reason) { m_tell({m_lines.number(), reason}); }
 
     DefinitionLines& m_lines;
     const ScriptDialect& m_dialect;
     MenuContent& m_content;
-    std::vector<LineWarning> m_warnings;
+    const WarningSink& m_tell;
     std::string m_menuId;  ///< menu of the last creation line; empty before the first
     const MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
     std::size_t m_itemNumber = 0;          ///< item lines of that menu so far
+    std::size_t m_itemsLeftOut = 0;        ///< that came when the menu was full
 };
 
 }  // namespace
 
-std::vector<LineWarning> readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                                        MenuContent& content) {
-    return MenuScriptReader(lines, dialect, content).read();
+std::size_t readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
+                           MenuContent& content, const WarningSink& tell) {
+    return MenuScriptReader(lines, dialect, content, tell).read();
 }
 
 }  // namespace zev

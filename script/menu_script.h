@@ -1,9 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <span>
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "model/menu_content.h"
 #include "script/definition_lines.h"
@@ -14,8 +13,8 @@ namespace zev {
 /// A line that creates a menu, to which the property and item lines that follow belong.
 struct CreationLine {
     std::string_view pattern;
-    /// The menu's id; null when the line creates the top-level menu.
-    std::string (*idOf)(std::string_view line) = nullptr;
+    /// The menu's id, part of the line; null when the line creates the top-level menu.
+    std::string_view (*idOf)(std::string_view line) = nullptr;
     /// Reads the line's other arguments; null when it has none.
     void (*readLook)(std::string_view line, MenuProp& menu) = nullptr;
 };
@@ -33,9 +32,13 @@ struct ScriptDialect {
     bool tellsOfLostLines = false;    ///< a line that is not understood is a warning
 };
 
-/// Replays a menu script into `content`, which must be that of a new menu; returns the warnings in
-/// the order of the lines.
-std::vector<LineWarning> readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                                        MenuContent& content);
+/// Told of each warning, in the order of the lines. A file can have tens of millions, so what is
+/// kept of them is the caller's choice.
+using WarningSink = std::function<void(const LineWarning& warning)>;
+
+/// Replays a menu script into `content`, which must be that of a new menu. Returns the number of
+/// items that came when the menu held `kMaxItemCounter`, and so were left out.
+std::size_t readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
+                           MenuContent& content, const WarningSink& tell);
 
 }  // namespace zev

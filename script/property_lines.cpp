@@ -120,8 +120,12 @@ std::string GetDefaultText(const MenuProp& prop) {
 
 std::string GetText(const MenuProp& prop, const MenuProp& defaults) {
     std::string text;
-    appendMenu(text, prop, defaults, kAllRows);
+    appendText(text, prop, defaults);
     return text;
+}
+
+void appendText(std::string& script, const MenuProp& prop, const MenuProp& defaults) {
+    appendMenu(script, prop, defaults, kAllRows);
 }
 
 bool SetProperty(MenuProp& prop, std::string_view StrProp, std::string_view StrValue) {

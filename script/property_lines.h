@@ -15,6 +15,8 @@ std::string GetDefaultText(const MenuProp& prop);
 /// The `zevmenu` lines of one menu level, each ending in CR LF; may be empty. Values equal to
 /// those of `defaults` are left out where inheritance supplies them.
 std::string GetText(const MenuProp& prop, const MenuProp& defaults);
+/// Appends the same lines to `script`.
+void appendText(std::string& script, const MenuProp& prop, const MenuProp& defaults);
 
 /// Assigns the property with the script name `StrProp` (exact, case-sensitive) from a value
 /// without quotes and semicolon; spaces around the value are dropped. A property that no file

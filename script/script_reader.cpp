@@ -1,6 +1,7 @@
 #include "script/script_reader.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "script/line_tokenizers.h"
 #include "script/menu_script.h"
@@ -21,18 +22,24 @@ constexpr ScriptDialect kDefinition = {.start = "zev",
 
 }  // namespace
 
-ReadResult ReadScript(std::string_view bytes, MenuContent& content) {
-    DefinitionLines lines(bytes);
+void ReadResult::count(const LineWarning& warning) {
+    if (warning.reason == LineWarning::Reason::NotUnderstood)
+        ++lostLineCount;
+    else
+        ++errorCount;
+    if (warnings.size() < kMaxKeptWarnings)
+        warnings.push_back(warning);
+}
+
+ReadResult ReadScript(std::string bytes, MenuContent& content) {
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 32;
     content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
+    DefinitionLines lines(std::move(bytes));
     ReadResult result;
-    result.warnings = readMenuScript(lines, kDefinition, content);
-    result.errorCount = static_cast<std::size_t>(std::count_if(
-        result.warnings.begin(), result.warnings.end(), [](const LineWarning& warning) {
-            return warning.reason != LineWarning::Reason::NotUnderstood;
-        }));
+    result.itemsLeftOut = readMenuScript(
+        lines, kDefinition, content, [&](const LineWarning& warning) { result.count(warning); });
     return result;
 }
 

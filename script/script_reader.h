@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,21 +14,32 @@ namespace zev {
 /// No menu comes near this size; a larger file was chosen by mistake and would only fill memory.
 inline constexpr std::uint64_t kMaxDefinitionFileBytes = std::uint64_t{256} << 20;
 
+/// More are only counted: nobody reads on, and a file of nothing else would fill the memory.
+inline constexpr std::size_t kMaxKeptWarnings = 10'000;
+
 /// What the reader counted and what it could not make use of.
 struct ReadResult {
     /// Lines that were recognised but could not be applied; one line can count twice.
     std::size_t errorCount = 0;
-    /// Each of these errors, and, not counted, each line that begins with "zev" and is neither the
-    /// creation of a menu nor a property of `kMenuProperties` nor an item with exactly its
-    /// arguments (`NotUnderstood`). In the order of the lines.
+    /// Lines, not counted as errors, that begin with "zev" and are neither the creation of a menu
+    /// nor a property of `kMenuProperties` nor an item with exactly its arguments
+    /// (`NotUnderstood`).
+    std::size_t lostLineCount = 0;
+    /// Items, each of them an error too, that came when the menu held `kMaxItemCounter`: it lacks
+    /// them, and written over its file it would lose them.
+    std::size_t itemsLeftOut = 0;
+    /// The first `kMaxKeptWarnings` of the errors and lost lines, in the order of the lines.
     std::vector<LineWarning> warnings;
+
+    /// Counts a warning, and keeps it while there are few.
+    void count(const LineWarning& warning);
 };
 
 /// Replays a definition file into `content`, which must be that of a new menu.
 ///
 /// `bytes` is the file's whole content: UTF-8 with or without a byte order mark, else Windows-1252.
 /// Lines end at LF; a CR before it is dropped. Unrecognised lines are skipped.
-ReadResult ReadScript(std::string_view bytes, MenuContent& content);
+ReadResult ReadScript(std::string bytes, MenuContent& content);
 
 /// True when `bytes` cannot be a text file: it holds a NUL byte.
 bool isBinary(std::string_view bytes);

@@ -1,6 +1,7 @@
 #include "script/submenu_list.h"
 
 #include "script/submenu_walk.h"
+#include "text/ascii.h"
 
 namespace zev {
 
@@ -22,6 +23,16 @@ std::string_view submenuIdOf(std::string_view entry) {
     if (close == std::string_view::npos || open == std::string_view::npos || close < open)
         return {};
     return entry.substr(open + 1, close - open - 1);
+}
+
+bool isSubmenuId(std::string_view id) {
+    char previous = 'i';
+    for (const char c : id) {
+        if (!isAsciiDigit(c) && (c != 'i' || previous == 'i'))
+            return false;
+        previous = c;
+    }
+    return previous != 'i';
 }
 
 }  // namespace zev

@@ -26,4 +26,7 @@ std::string submenuEntry(const Submenu& submenu);
 /// pair.
 std::string_view submenuIdOf(std::string_view entry);
 
+/// True for positions joined by "i", such as "1i2": what a submenu's id can be.
+bool isSubmenuId(std::string_view id);
+
 }  // namespace zev

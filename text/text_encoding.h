@@ -21,7 +21,7 @@ std::string windows1252ToUtf8(std::string_view bytes);
 
 /// A definition file's bytes as UTF-8 text: a byte order mark is dropped; what is not valid UTF-8
 /// is taken for Windows-1252. The result is a view of `bytes`, or of `converted` when they had to
-/// be converted.
+/// be converted. `converted` may be the string that holds the bytes.
 std::string_view decodeDefinition(std::string_view bytes, std::string& converted);
 
 }  // namespace zev

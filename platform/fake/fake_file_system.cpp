@@ -45,6 +45,11 @@ void FakeFileSystem::addFile(const std::string& path, const std::string& bytes) 
     m_files[path] = bytes;
 }
 
+void FakeFileSystem::addLink(const std::string& path, const std::string& target) {
+    addFolder(folderOf(path));
+    m_targetOfLink[path] = target;
+}
+
 void FakeFileSystem::addFolderAlias(const std::string& folder, const std::string& alias) {
     m_folderOfAlias[alias] = folder;
 }
@@ -57,19 +62,28 @@ void FakeFileSystem::setWritable(const std::string& folder, bool isWritable) {
 }
 
 bool FakeFileSystem::FileExists(const std::string& path) const {
-    return m_files.contains(path);
+    return m_files.contains(withoutLink(path));
 }
 
 bool FakeFileSystem::isFolder(const std::string& path) const {
     return m_folders.contains(path);
 }
 
+std::string FakeFileSystem::folderAt(const std::string& path) const {
+    const auto alias = m_folderOfAlias.find(path);
+    return alias == m_folderOfAlias.end() ? path : alias->second;
+}
+
 bool FakeFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
-    const auto folderAt = [&](const std::string& path) {
-        const auto alias = m_folderOfAlias.find(path);
-        return alias == m_folderOfAlias.end() ? path : alias->second;
-    };
     return isFolder(folderAt(left)) && folderAt(left) == folderAt(right);
+}
+
+bool FakeFileSystem::isSameFile(const std::string& left, const std::string& right) const {
+    const auto fileAt = [&](const std::string& path) {
+        const std::string folder = folderOf(path);
+        return folderAt(folder) + path.substr(folder.size());
+    };
+    return FileExists(fileAt(left)) && fileAt(left) == fileAt(right);
 }
 
 bool FakeFileSystem::isWritableFolder(const std::string& path) const {
@@ -80,7 +94,7 @@ FileResult<std::string> FakeFileSystem::readFile(const std::string& path,
                                                  std::uint64_t maxBytes) const {
     if (isFolder(path))
         return isAFolder(path);
-    const auto file = m_files.find(path);
+    const auto file = m_files.find(withoutLink(path));
     if (file == m_files.end())
         return notFound(path);
     if (file->second.size() > maxBytes)
@@ -88,26 +102,34 @@ FileResult<std::string> FakeFileSystem::readFile(const std::string& path,
     return file->second;
 }
 
-FileOutcome FakeFileSystem::writeFile(const std::string& path, std::string_view bytes) {
+FileOutcome FakeFileSystem::writeFile(const std::string& path, std::string_view bytes,
+                                      Links links) {
     if (isFolder(path))
         return isAFolder(path);
     if (!isFolder(folderOf(path)))
         return notFound(path);
     if (!isWritableFolder(folderOf(path)))
         return noPermission(path);
-    m_files[path] = bytes;
+    if (links == Links::Replaced)
+        m_targetOfLink.erase(path);
+    m_files[withoutLink(path)] = bytes;
     return {};
 }
 
 FileOutcome FakeFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
-    return writeFile(path, bytes);
+    return writeFile(path, bytes, Links::Replaced);
 }
 
-FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::string& destination) {
+FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::string& destination,
+                                     Links links) {
     const FileResult<std::string> bytes = readFile(source, UINT64_MAX);
     if (!bytes.isOk())
         return bytes.error();
-    return writeFile(destination, bytes.value());
+    return writeFile(destination, bytes.value(), links);
+}
+
+FileOutcome FakeFileSystem::backUpFile(const std::string& path, const std::string& backup) {
+    return CopyFile(path, backup, Links::Replaced);
 }
 
 FileOutcome FakeFileSystem::DeleteFile(const std::string& path) {
@@ -117,7 +139,8 @@ FileOutcome FakeFileSystem::DeleteFile(const std::string& path) {
         return notFound(path);
     if (!isWritableFolder(folderOf(path)))
         return noPermission(path);
-    m_files.erase(path);
+    if (m_targetOfLink.erase(path) == 0)
+        m_files.erase(path);
     return {};
 }
 
@@ -152,6 +175,11 @@ FileResult<std::vector<std::string>> FakeFileSystem::listFolder(const std::strin
     return std::vector<std::string>(names.begin(), names.end());
 }
 
+std::string FakeFileSystem::withoutLink(const std::string& path) const {
+    const auto link = m_targetOfLink.find(path);
+    return link == m_targetOfLink.end() ? path : link->second;
+}
+
 FailingFileSystem::FailingFileSystem(FileSystem& inner) : m_inner(inner) {}
 
 void FailingFileSystem::failOperation(std::size_t number, FileError error) {
@@ -174,6 +202,10 @@ bool FailingFileSystem::isSameFolder(const std::string& left, const std::string&
     return m_inner.isSameFolder(left, right);
 }
 
+bool FailingFileSystem::isSameFile(const std::string& left, const std::string& right) const {
+    return m_inner.isSameFile(left, right);
+}
+
 bool FailingFileSystem::isWritableFolder(const std::string& path) const {
     return m_inner.isWritableFolder(path);
 }
@@ -185,9 +217,10 @@ FileResult<std::string> FailingFileSystem::readFile(const std::string& path,
     return m_inner.readFile(path, maxBytes);
 }
 
-FileOutcome FailingFileSystem::writeFile(const std::string& path, std::string_view bytes) {
+FileOutcome FailingFileSystem::writeFile(const std::string& path, std::string_view bytes,
+                                         Links links) {
     const FileOutcome error = nextOperation(path);
-    return error ? error : m_inner.writeFile(path, bytes);
+    return error ? error : m_inner.writeFile(path, bytes, links);
 }
 
 FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
@@ -195,11 +228,19 @@ FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::
     return error ? error : m_inner.writeTemporaryFile(path, bytes);
 }
 
-FileOutcome FailingFileSystem::CopyFile(const std::string& source, const std::string& destination) {
+FileOutcome FailingFileSystem::CopyFile(const std::string& source, const std::string& destination,
+                                        Links links) {
     FileOutcome error = nextOperation(source);
     if (!error)
         error = errorOfPath(destination);
-    return error ? error : m_inner.CopyFile(source, destination);
+    return error ? error : m_inner.CopyFile(source, destination, links);
+}
+
+FileOutcome FailingFileSystem::backUpFile(const std::string& path, const std::string& backup) {
+    FileOutcome error = nextOperation(path);
+    if (!error)
+        error = errorOfPath(backup);
+    return error ? error : m_inner.backUpFile(path, backup);
 }
 
 FileOutcome FailingFileSystem::DeleteFile(const std::string& path) {

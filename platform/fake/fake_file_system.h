@@ -21,36 +21,45 @@ class FakeFileSystem : public FileSystem {
     void addFolder(const std::string& path);
     /// Adds a file, and the folders it lies in.
     void addFile(const std::string& path, const std::string& bytes);
-    /// Gives the folder a second path, by which `isSameFolder` knows it.
+    /// Adds a symbolic link to a file that may be missing, and the folders the link lies in.
+    void addLink(const std::string& path, const std::string& target);
+    /// Gives the folder a second path, by which `isSameFolder` and `isSameFile` know it.
     void addFolderAlias(const std::string& folder, const std::string& alias);
     /// In such a folder no file can be made, replaced or deleted.
     void setWritable(const std::string& folder, bool isWritable);
-    /// Every file: path and bytes.
+    /// Every file: path and bytes. Links are none.
     const std::map<std::string, std::string>& allFiles() const { return m_files; }
 
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
+    bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
-    FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
-    FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
+    FileOutcome CopyFile(const std::string& source, const std::string& destination,
+                         Links links) override;
+    FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
 
   private:
+    /// The folder that a path leads to.
+    std::string folderAt(const std::string& path) const;
+    std::string withoutLink(const std::string& path) const;
+
     std::map<std::string, std::string> m_files;
+    std::map<std::string, std::string> m_targetOfLink;
     std::set<std::string> m_folders;
     std::map<std::string, std::string> m_folderOfAlias;
     std::set<std::string> m_unwritableFolders;
 };
 
 /// Passes everything on to another file system, and breaks what it was told to break. A broken
-/// operation changes nothing. Questions (`FileExists` and the three about folders) never break and
-/// are not counted.
+/// operation changes nothing. Questions (those that give a bool) never break and are not counted.
 class FailingFileSystem : public FileSystem {
   public:
     /// `inner` is not owned and must outlive this object.
@@ -66,12 +75,15 @@ class FailingFileSystem : public FileSystem {
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
+    bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
-    FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
-    FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
+    FileOutcome CopyFile(const std::string& source, const std::string& destination,
+                         Links links) override;
+    FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;

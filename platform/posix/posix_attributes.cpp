@@ -52,9 +52,24 @@ std::vector<std::string> splitNames(const std::string& list) {
     return names;
 }
 
+std::optional<std::string> attributeOf(int descriptor, const std::string& name) {
+    return readGrowing([&](char* buffer, std::size_t size) {
+        return ::fgetxattr(descriptor, name.c_str(), buffer, size);
+    });
+}
+
+/// An attribute that is there already need not be set, which may be forbidden.
+bool copyAttribute(const std::string& path, const std::string& name, int descriptor) {
+    const auto value = readGrowing([&](char* buffer, std::size_t size) {
+        return ::lgetxattr(path.c_str(), name.c_str(), buffer, size);
+    });
+    return value && (attributeOf(descriptor, name) == value ||
+                     ::fsetxattr(descriptor, name.c_str(), value->data(), value->size(), 0) == 0);
+}
+
 bool copyExtendedAttributes(const std::string& path, int descriptor) {
     const auto wanted = readGrowing(
-        [&](char* buffer, std::size_t size) { return ::listxattr(path.c_str(), buffer, size); });
+        [&](char* buffer, std::size_t size) { return ::llistxattr(path.c_str(), buffer, size); });
     if (!wanted)
         return errno == ENOTSUP;
     const auto present = readGrowing(
@@ -65,37 +80,37 @@ bool copyExtendedAttributes(const std::string& path, int descriptor) {
         if (std::find(wantedNames.begin(), wantedNames.end(), name) == wantedNames.end() &&
             !isKeptBySystem(name) && ::fremovexattr(descriptor, name.c_str()) != 0)
             return false;
-    for (const std::string& name : wantedNames) {
-        const auto value = readGrowing([&](char* buffer, std::size_t size) {
-            return ::getxattr(path.c_str(), name.c_str(), buffer, size);
-        });
-        const bool isSet =
-            value && ::fsetxattr(descriptor, name.c_str(), value->data(), value->size(), 0) == 0;
-        if (!isSet && !isKeptBySystem(name))
-            return false;
-    }
-    return true;
+    return std::all_of(wantedNames.begin(), wantedNames.end(), [&](const std::string& name) {
+        return copyAttribute(path, name, descriptor);
+    });
+}
+
+/// Owner and group, or the group alone, which may be one of the user's own.
+bool copyOwner(const struct stat& status, int descriptor) {
+    struct stat own {};
+    if (::fstat(descriptor, &own) == 0 && own.st_uid == status.st_uid &&
+        own.st_gid == status.st_gid)
+        return true;
+    return ::fchown(descriptor, status.st_uid, status.st_gid) == 0 ||
+           ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0;
 }
 
 }  // namespace
 
-bool copyAttributes(const std::string& path, const struct stat& status, int descriptor) {
+Carried copyAttributes(const std::string& path, const struct stat& status, int descriptor) {
     struct stat own {};
-    if (::fstat(descriptor, &own) != 0)
-        return false;
-    bool isOwnerKept = own.st_uid == status.st_uid && own.st_gid == status.st_gid;
-    if (!isOwnerKept) {
-        isOwnerKept = ::fchown(descriptor, status.st_uid, status.st_gid) == 0;
-        // The group alone may be one of the user's own.
-        if (!isOwnerKept && ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0 &&
-            errno != EPERM)
-            return false;
-    }
-    if (!copyExtendedAttributes(path, descriptor))
-        return false;
-    // Last, for the two before may change it. Rights tied to the owner go with the owner only.
-    const mode_t bits = isOwnerKept ? 07777 : 0777;
-    return ::fchmod(descriptor, status.st_mode & bits) == 0;
+    if (!copyOwner(status, descriptor) || !copyExtendedAttributes(path, descriptor) ||
+        ::fstat(descriptor, &own) != 0)
+        return Carried::Less;
+    const bool isOwnerKept = own.st_uid == status.st_uid;
+    const mode_t mode = status.st_mode & (isOwnerKept ? 07777 : 0777);
+    // Last, for the two before may change it.
+    if ((own.st_mode & 07777) != mode && ::fchmod(descriptor, mode) != 0)
+        return Carried::Failed;
+    // Some systems drop bits without an error.
+    if (::fstat(descriptor, &own) != 0 || (own.st_mode & 07777) != mode)
+        return Carried::Less;
+    return isOwnerKept ? Carried::All : Carried::AllButOwner;
 }
 
 }  // namespace zev

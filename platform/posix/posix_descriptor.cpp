@@ -123,4 +123,11 @@ FileError fileErrorOf(int errorNumber, const std::string& path) {
     return error;
 }
 
+FileOutcome refuseSpecialFile(unsigned mode, const std::string& path) {
+    if (S_ISREG(mode) || S_ISDIR(mode))
+        return {};
+    const char* const kind = S_ISFIFO(mode) ? "pipe" : S_ISSOCK(mode) ? "socket" : "device";
+    return FileError{FileError::Code::Other, path, std::string("Is a ") + kind};
+}
+
 }  // namespace zev

@@ -41,4 +41,8 @@ int flushToDisk(int descriptor);
 /// The error for a person, in the system's own words. `errorNumber` is an errno.
 FileError fileErrorOf(int errorNumber, const std::string& path);
 
+/// The error of a pipe, socket or device where a file is needed; `mode` is the `st_mode` of `path`.
+/// Folders are left to whoever opens them.
+FileOutcome refuseSpecialFile(unsigned mode, const std::string& path);
+
 }  // namespace zev

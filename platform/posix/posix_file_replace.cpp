@@ -12,7 +12,6 @@
 #include "platform/posix/posix_attributes.h"
 #include "platform/posix/posix_descriptor.h"
 #include "platform/posix/posix_side_file.h"
-#include "platform/posix/posix_write_target.h"
 
 namespace zev {
 
@@ -111,10 +110,23 @@ int keepOldContent(const WriteTarget& target, int descriptor, SideFile& copy) {
     return error != 0 ? error : flushFolder(folder);
 }
 
+/// Opens the file that the target was found to be, and no other that has taken its name since.
+int openInPlace(const WriteTarget& target, PosixDescriptor& file) {
+    if (const int error = openDescriptor(target.path, O_RDWR | O_NOFOLLOW | O_NONBLOCK, 0, file))
+        return error;
+    struct stat opened {};
+    if (::fstat(file.get(), &opened) != 0)
+        return errno;
+    const bool isSame = opened.st_dev == target.status.st_dev &&
+                        opened.st_ino == target.status.st_ino &&
+                        opened.st_nlink == target.status.st_nlink;
+    return isSame ? 0 : EBUSY;
+}
+
 FileOutcome writeInPlace(const WriteTarget& target, std::string_view bytes) {
     PosixDescriptor file;
     SideFile copy;
-    int error = openDescriptor(target.path, O_RDWR, 0, file);
+    int error = openInPlace(target, file);
     if (error == 0)
         error = keepOldContent(target, file.get(), copy);
     if (error != 0)
@@ -145,18 +157,27 @@ struct RenameResult {
     bool isInPlaceNeeded = false;  ///< nothing was changed; a rename is not the way here
 };
 
-RenameResult replaceByRename(const WriteTarget& target, std::string_view bytes) {
+/// The new file has what `model` has of owner, rights and attributes; none: what is usual for the
+/// user and the folder. A model that is not the target itself need not be met: the file is then
+/// the user's alone, or has all but the owner.
+RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model,
+                             std::string_view bytes) {
     PosixDescriptor folder;
     if (const int error = openFolder(target.folder, folder))
         return {error};
     SideFile side;
-    // A new file gets the rights that are usual for the user and the folder. One that replaces
-    // another is nobody else's to read until it has the old one's rights.
-    const unsigned mode = target.exists ? 0600 : 0666;
+    // One with a model is nobody else's to read until it has the model's rights.
+    const unsigned mode = model != nullptr ? 0600 : 0666;
     if (const int error = side.makeBeside(target, SideFile::Kind::NewContent, mode))
         return {error, target.exists && isForbidden(error)};
-    if (target.exists && !copyAttributes(target.path, target.status, side.descriptor()))
-        return {0, true};
+    if (model != nullptr) {
+        const Carried carried = copyAttributes(model->path, model->status, side.descriptor());
+        if (model == &target && carried != Carried::All)
+            return {0, true};
+        if (carried == Carried::Failed ||
+            (carried == Carried::Less && ::fchmod(side.descriptor(), 0600) != 0))
+            return {errno};
+    }
     int error = writeAll(side.descriptor(), bytes);
     if (error == 0)
         error = flushToDisk(side.descriptor());
@@ -174,37 +195,47 @@ RenameResult replaceByRename(const WriteTarget& target, std::string_view bytes) 
     return {flushFolder(folder)};
 }
 
-FileOutcome replaceRegularFile(const WriteTarget& target, std::string_view bytes) {
-    if (target.exists) {
-        // A rename would replace a file that its owner has protected.
-        if (::faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) != 0)
-            return fileErrorOf(errno, target.path);
-        if (target.status.st_nlink > 1)
-            return writeInPlace(target, bytes);
-    }
-    const RenameResult result = replaceByRename(target, bytes);
-    if (result.isInPlaceNeeded)
+/// A rename would replace a file that its owner has protected.
+FileOutcome refuseProtected(const WriteTarget& target) {
+    if (!target.exists || ::faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0)
+        return {};
+    return fileErrorOf(errno, target.path);
+}
+
+/// `original` is null but for a backup of it.
+FileOutcome replaceRegularFile(const WriteTarget& target, const WriteTarget* original,
+                               std::string_view bytes) {
+    if (FileOutcome error = refuseProtected(target))
+        return error;
+    if (target.exists && target.status.st_nlink > 1)
+        return writeInPlace(target, bytes);
+    const WriteTarget* const model = original != nullptr ? original
+                                     : target.exists     ? &target
+                                                         : nullptr;
+    const RenameResult result = replaceByRename(target, model, bytes);
+    // In place a backup would keep the rights of an older one.
+    if (result.isInPlaceNeeded && original == nullptr)
         return writeInPlace(target, bytes);
     if (result.error != 0)
         return fileErrorOf(result.error, target.path);
     return {};
 }
 
-}  // namespace
-
-FileOutcome replaceFile(const std::string& path, std::string_view bytes,
-                        FolderLeftovers& leftovers) {
+FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original,
+                            std::string_view bytes, Links links, FolderLeftovers& leftovers) {
     WriteTarget target;
     FileOutcome outcome;
-    if (int error = resolveWriteTarget(path, target)) {
+    if (int error = resolveWriteTarget(path, links, target)) {
         outcome = fileErrorOf(error, path);
+    } else if (target.isWrittenStraight && links == Links::Replaced) {
+        outcome = refuseSpecialFile(target.status.st_mode, path);
     } else if (target.isWrittenStraight) {
         error = writeStraight(target, bytes);
         if (error != 0)
             outcome = fileErrorOf(error, path);
     } else {
         const std::vector<std::string> oldCopies = clearLeftovers(target, leftovers);
-        outcome = replaceRegularFile(target, bytes);
+        outcome = replaceRegularFile(target, original, bytes);
         if (!outcome)
             for (const std::string& copy : oldCopies)
                 removeLeftover(copy);
@@ -214,6 +245,28 @@ FileOutcome replaceFile(const std::string& path, std::string_view bytes,
         leftovers = {};        // there may be one more now
     }
     return outcome;
+}
+
+}  // namespace
+
+FileOutcome replaceFile(const std::string& path, std::string_view bytes, Links links,
+                        FolderLeftovers& leftovers) {
+    return replaceOrBackUp(path, nullptr, bytes, links, leftovers);
+}
+
+FileOutcome writeBackup(const std::string& original, const std::string& backup,
+                        std::string_view bytes, FolderLeftovers& leftovers) {
+    WriteTarget target;
+    FileOutcome error;
+    if (const int problem = resolveWriteTarget(original, Links::Followed, target))
+        error = fileErrorOf(problem, original);
+    else
+        error = refuseProtected(target);
+    if (error) {
+        error->path = original;
+        return error;
+    }
+    return replaceOrBackUp(backup, &target, bytes, Links::Replaced, leftovers);
 }
 
 }  // namespace zev

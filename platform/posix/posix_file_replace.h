@@ -5,22 +5,34 @@
 
 #include "platform/file_system.h"
 #include "platform/posix/posix_side_file.h"
+#include "platform/posix/posix_write_target.h"
 
 namespace zev {
 
 /// Replaces the content of `path`, whole or not at all, or makes the file.
 ///
-/// The bytes are written to a new file beside the target, flushed, and renamed over it. Symbolic
-/// links are followed and stay links; the file keeps its mode, its owner where that is allowed, and
-/// its extended attributes (access control lists among them). Where a rename would break something
-/// (a file with several hard links, a folder that forbids new files, a bind mount) the file is
-/// written in place, with a copy of the old content kept beside it, or in the folder for temporary
-/// files, until the new content is safe; a failure half-way puts the old content back. Devices and
-/// pipes are written straight. A file without write permission is refused.
+/// The bytes are written to a new file beside the target, flushed, and renamed over it. The file
+/// keeps its owner, group, mode and extended attributes (access control lists among them). Where
+/// the new file cannot have those, or a rename would break something (a file with several hard
+/// links, a folder that forbids new files, a bind mount), the file is written in place, with a copy
+/// of the old content kept beside it, or in the folder for temporary files, until the new content
+/// is safe; a failure half-way puts the old content back. A file without write permission is
+/// refused.
+///
+/// Where links are followed they stay links, and devices and pipes are written straight. Where they
+/// are replaced, nothing is ever written to what a link, symbolic or hard, leads to, and a device
+/// or pipe is an error.
 ///
 /// What a killed run left beside the target is removed by the next call for the same target, as far
 /// as it is among `leftovers`, which a failure empties: it may leave something itself.
-FileOutcome replaceFile(const std::string& path, std::string_view bytes,
+FileOutcome replaceFile(const std::string& path, std::string_view bytes, Links links,
                         FolderLeftovers& leftovers);
+
+/// Replaces `backup`, a name of the program's own, by a file that holds `bytes`, the content of the
+/// file `original`, and has from its first byte on what that one has of owner, group, mode and
+/// extended attributes. Without its group or attributes only the user may read and write the
+/// backup. An original without write permission is refused: nobody is going to change it.
+FileOutcome writeBackup(const std::string& original, const std::string& backup,
+                        std::string_view bytes, FolderLeftovers& leftovers);
 
 }  // namespace zev

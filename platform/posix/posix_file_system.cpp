@@ -14,6 +14,38 @@
 
 namespace zev {
 
+namespace {
+
+/// True when both paths lead to one thing of this kind (S_IFDIR...).
+bool isSame(const std::string& left, const std::string& right, mode_t kind) {
+    struct stat one {};
+    struct stat other {};
+    return ::stat(left.c_str(), &one) == 0 && ::stat(right.c_str(), &other) == 0 &&
+           (one.st_mode & S_IFMT) == kind && one.st_dev == other.st_dev &&
+           one.st_ino == other.st_ino;
+}
+
+/// What the program copies are scripts and web pages.
+constexpr std::uint64_t kMaxCopyBytes = std::uint64_t{1} << 30;
+
+/// Opens a file but no pipe, socket or device, and waits for nobody.
+FileOutcome openForReading(const std::string& path, PosixDescriptor& file) {
+    struct stat status {};
+    // Asked first, for to open a device may do something; and asked again of what was opened, for
+    // another file may have taken the name.
+    if (::stat(path.c_str(), &status) != 0)
+        return fileErrorOf(errno, path);
+    if (FileOutcome refused = refuseSpecialFile(status.st_mode, path))
+        return refused;
+    if (const int error = openDescriptor(path, O_RDONLY | O_NONBLOCK, 0, file))
+        return fileErrorOf(error, path);
+    if (::fstat(file.get(), &status) != 0)
+        return fileErrorOf(errno, path);
+    return refuseSpecialFile(status.st_mode, path);
+}
+
+}  // namespace
+
 bool PosixFileSystem::FileExists(const std::string& path) const {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
@@ -25,10 +57,11 @@ bool PosixFileSystem::isFolder(const std::string& path) const {
 }
 
 bool PosixFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
-    struct stat one {};
-    struct stat other {};
-    return ::stat(left.c_str(), &one) == 0 && ::stat(right.c_str(), &other) == 0 &&
-           S_ISDIR(one.st_mode) && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+    return isSame(left, right, S_IFDIR);
+}
+
+bool PosixFileSystem::isSameFile(const std::string& left, const std::string& right) const {
+    return isSame(left, right, S_IFREG);
 }
 
 bool PosixFileSystem::isWritableFolder(const std::string& path) const {
@@ -38,20 +71,24 @@ bool PosixFileSystem::isWritableFolder(const std::string& path) const {
 FileResult<std::string> PosixFileSystem::readFile(const std::string& path,
                                                   std::uint64_t maxBytes) const {
     PosixDescriptor file;
+    if (const FileOutcome error = openForReading(path, file))
+        return *error;
     std::string bytes;
-    int error = openDescriptor(path, O_RDONLY, 0, file);
-    if (error == 0)
-        error = readAll(file.get(), maxBytes, bytes);
-    if (error != 0)
+    if (const int error = readAll(file.get(), maxBytes, bytes))
         return fileErrorOf(error, path);
     return bytes;
 }
 
-FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view bytes) {
-    return replaceFile(path, bytes, m_leftovers);
+FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view bytes,
+                                       Links links) {
+    return replaceFile(path, bytes, links, m_leftovers);
 }
 
 FileOutcome PosixFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) == 0 && !S_ISLNK(status.st_mode))
+        if (const FileOutcome refused = refuseSpecialFile(status.st_mode, path))
+            return refused;
     // A link by that name is replaced, not followed.
     if (::unlink(path.c_str()) != 0 && errno != ENOENT)
         return fileErrorOf(errno, path);
@@ -68,14 +105,19 @@ FileOutcome PosixFileSystem::writeTemporaryFile(const std::string& path, std::st
     return fileErrorOf(error, path);
 }
 
-FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::string& destination) {
-    // What the program copies are scripts and web pages. The limit is there for a source without
-    // an end, such as a device.
-    constexpr std::uint64_t kMaxCopyBytes = std::uint64_t{1} << 30;
+FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::string& destination,
+                                      Links links) {
     const FileResult<std::string> bytes = readFile(source, kMaxCopyBytes);
     if (!bytes.isOk())
         return bytes.error();
-    return replaceFile(destination, bytes.value(), m_leftovers);
+    return replaceFile(destination, bytes.value(), links, m_leftovers);
+}
+
+FileOutcome PosixFileSystem::backUpFile(const std::string& path, const std::string& backup) {
+    const FileResult<std::string> bytes = readFile(path, kMaxCopyBytes);
+    if (!bytes.isOk())
+        return bytes.error();
+    return writeBackup(path, backup, bytes.value(), m_leftovers);
 }
 
 FileOutcome PosixFileSystem::DeleteFile(const std::string& path) {

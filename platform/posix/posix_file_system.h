@@ -12,12 +12,15 @@ class PosixFileSystem : public FileSystem {
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
+    bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
-    FileOutcome writeFile(const std::string& path, std::string_view bytes) override;
+    FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
-    FileOutcome CopyFile(const std::string& source, const std::string& destination) override;
+    FileOutcome CopyFile(const std::string& source, const std::string& destination,
+                         Links links) override;
+    FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;

@@ -7,13 +7,14 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <random>
 #include <string_view>
 #include <system_error>
 #include <utility>
+
+#include "text/hash.h"
 
 namespace zev {
 
@@ -24,15 +25,10 @@ constexpr std::size_t kRandomLength = 6;
 constexpr std::string_view kRandomCharacters =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
 
-/// Sixteen hexadecimal digits (FNV-1a), the same in every run.
+/// Sixteen hexadecimal digits, the same in every run.
 std::string hashText(std::string_view text) {
-    std::uint64_t hash = 14695981039346656037U;
-    for (const char c : text) {
-        hash ^= static_cast<unsigned char>(c);
-        hash *= 1099511628211U;
-    }
     char digits[17];
-    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
+    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hashOf(text)));
     return digits;
 }
 

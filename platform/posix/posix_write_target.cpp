@@ -47,13 +47,29 @@ int followLink(WriteTarget& target) {
     return 0;
 }
 
+/// 0 or an errno.
+int resolveWithoutLinks(WriteTarget& target) {
+    splitPath(target);
+    if (::lstat(target.path.c_str(), &target.status) != 0)
+        return errno == ENOENT && !target.name.empty() ? 0 : errno;
+    const mode_t mode = target.status.st_mode;
+    if (S_ISDIR(mode))
+        return EISDIR;
+    // The other names of a file with hard links are not the program's to write to.
+    target.exists = !S_ISLNK(mode) && !(S_ISREG(mode) && target.status.st_nlink > 1);
+    target.isWrittenStraight = target.exists && !S_ISREG(mode);
+    return 0;
+}
+
 }  // namespace
 
-int resolveWriteTarget(const std::string& path, WriteTarget& target) {
+int resolveWriteTarget(const std::string& path, Links links, WriteTarget& target) {
     constexpr int kMaxLinks = 40;  // as many as the system itself follows
     target = WriteTarget();
     target.path = path;
-    for (int links = 0; links <= kMaxLinks; ++links) {
+    if (links == Links::Replaced)
+        return resolveWithoutLinks(target);
+    for (int followed = 0; followed <= kMaxLinks; ++followed) {
         splitPath(target);
         if (::lstat(target.path.c_str(), &target.status) != 0) {
             if (errno == ENOENT && target.name.empty())

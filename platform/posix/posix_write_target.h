@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "platform/file_system.h"
+
 namespace zev {
 
 /// Where a write to some path ends up.
@@ -19,8 +21,9 @@ struct WriteTarget {
     int ownDescriptor = -1;  ///< the descriptor that a name such as /dev/stdout stands for, or -1
 };
 
-/// Follows symbolic links to the file that a write to `path` is about. It need not exist, also at
-/// the end of a link. Returns 0 or an errno; EISDIR for a folder.
-int resolveWriteTarget(const std::string& path, WriteTarget& target);
+/// Finds the file that a write to `path` is about. It need not exist, also at the end of a link.
+/// Where links are replaced, a symbolic link or one of several hard links counts as no file.
+/// Returns 0 or an errno; EISDIR for a folder.
+int resolveWriteTarget(const std::string& path, Links links, WriteTarget& target);
 
 }  // namespace zev

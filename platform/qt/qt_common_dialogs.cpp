@@ -130,7 +130,8 @@ QString styleName(const QString& family, const FontChoice& choice) {
 QFont existingFont(const FontChoice& choice) {
     QFont font;
     if (!choice.name.empty())
-        font = QFont(QString::fromStdString(choice.name));
+        // A list as in a style sheet is taken apart; quotes within a script are escaped.
+        font = QFont(QString::fromStdString(choice.name).remove(u'\\'));
     if (choice.points > 0)
         font.setPointSizeF(choice.points);
     font.setItalic(choice.isItalic);
@@ -141,6 +142,20 @@ QFont existingFont(const FontChoice& choice) {
     // which may be an italic one.
     font.setStyleName(styleName(font.family(), choice));
     return font;
+}
+
+/// A choice as a person leaves it in a dialog that opened with the font `shown`. What was not
+/// touched stays as it was, also where this system has no such font.
+FontChoice changedChoice(FontChoice choice, const QFont& shown, const QFont& chosen) {
+    if (chosen.family() != shown.family())
+        choice.name = styleSheetFamily(chosen.family()).toStdString();
+    if (chosen.pointSizeF() != shown.pointSizeF() || choice.points <= 0)
+        choice.points = static_cast<float>(chosen.pointSizeF());
+    if (chosen.italic() != shown.italic())
+        choice.isItalic = chosen.italic();
+    if (chosen.bold() != shown.bold())
+        choice.isBold = chosen.bold();
+    return choice;
 }
 
 /// Underlined and struck out, which a choice does not hold. Their place stays: the sample beside it
@@ -171,6 +186,20 @@ QStringList nameFilters(const std::string& filter) {
 QString defaultSuffix(const QString& nameFilter) {
     static const QRegularExpression single(R"(\(\*\.([^*?;\s)]+)\)$)");
     return single.match(nameFilter).captured(1);
+}
+
+QString styleSheetFamily(const QString& listed) {
+    constexpr std::pair<const char*, const char*> kGenericFamilies[] = {
+        {"Sans Serif", "sans-serif"},
+        {"Sans", "sans-serif"},
+        {"Serif", "serif"},
+        {"Monospace", "monospace"},
+    };
+    for (const auto& [toolkitName, name] : kGenericFamilies)
+        if (listed == toolkitName)
+            return name;
+    static const QRegularExpression foundry(R"( \[[^\]]+\]$)");
+    return QString(listed).remove(foundry);
 }
 
 std::string QtCommonDialogs::openFile(const FileDialogRequest& request) {
@@ -230,11 +259,10 @@ std::optional<std::int32_t> QtCommonDialogs::chooseColor(std::int32_t initial) {
 std::optional<FontChoice> QtCommonDialogs::chooseFont(const FontChoice& initial) {
     QFontDialog dialog(existingFont(initial), parentWindow());
     hideEffects(dialog);
+    const QFont shown = dialog.currentFont();
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    const QFont chosen = dialog.selectedFont();
-    return FontChoice{chosen.family().toStdString(), static_cast<float>(chosen.pointSizeF()),
-                      chosen.italic(), chosen.bold()};
+    return changedChoice(initial, shown, dialog.selectedFont());
 }
 
 }  // namespace zev

@@ -16,6 +16,11 @@ QStringList nameFilters(const std::string& filter);
 /// it is shown or with what is not; empty when the filter stands for all files or several kinds.
 QString defaultSuffix(const QString& nameFilter);
 
+/// A family of a font dialog's list as a style sheet names it. Toolkits have generic families of
+/// their own ("Sans Serif" is "sans-serif"), and tell fonts of one name apart by who made them
+/// ("Nimbus Sans [urw]" is "Nimbus Sans").
+QString styleSheetFamily(const QString& listed);
+
 /// The desktop's dialogs. A file dialog that is told no folder starts where the last file was
 /// chosen; the others remember nothing.
 class QtCommonDialogs : public CommonDialogs {

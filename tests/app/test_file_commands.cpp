@@ -18,6 +18,29 @@ const std::vector<std::string> kSavedBeside = {"zevmenu_loader.js", "zevmenu_ns4
 
 }  // namespace
 
+namespace {
+
+/// A definition with as many items more than a menu can hold.
+std::string overfullBytes(int surplus) {
+    std::string bytes = "zevmenu = new ZEVMenu('0');\n";
+    for (int item = 0; item < kMaxItemCounter + surplus; ++item)
+        bytes += "zevmenu.AddItem('', '', '');\n";
+    return bytes;
+}
+
+/// Opens it as "/site/large.js".
+void openOverfull(Desk& desk, int surplus) {
+    const std::string count = std::to_string(surplus);
+    desk.disk.addFile("/site/large.js", overfullBytes(surplus));
+    desk.messages.expect(count + " errors encountered during parsing");
+    desk.messages.expect("/site/large.js: " + count + (surplus == 1 ? " item" : " items") +
+                         " left out; a menu holds 32767 at most.\n"
+                         "Save asks for another name, so that the file keeps them.");
+    desk.commands.openDefinition("/site/large.js");
+}
+
+}  // namespace
+
 class test_file_commands : public QObject {
     Q_OBJECT
 
@@ -34,6 +57,10 @@ class test_file_commands : public QObject {
     void openAsksNothingAboutChanges();
     void cancelledOpenClearsTheChangesMark();
     void openCountsLinesThatCouldNotBeApplied();
+    void openTellsOfItemsLeftOutAndSaveAsksForAnotherName();
+    void aFileWithItemsLeftOutIsNotSavedOver_data();
+    void aFileWithItemsLeftOutIsNotSavedOver();
+    void anotherMenuMayTakeThePlaceOfAFileWithItemsLeftOut();
     void resetAndOpenShowTheDefaultProperties();
     void openGivesBackWhatWasSaved();
     void saveWritesToTheFileOfTheDocument();
@@ -53,6 +80,7 @@ class test_file_commands : public QObject {
     void anEmptyPathMeansThePreviewScript();
     void previewOfAMenuNeverSavedUsesTheProgramsFolder();
     void previewOfASavedMenuWritesBesideIt();
+    void onlyTheFileThatThePersonNamedIsWrittenThroughALink();
     void previewCleansAndStoresThePanelFirst();
     void previewChangesNeitherFileNorChangesMark();
     void previewTellsOfEachMissingFileAndIsShownAllTheSame_data();
@@ -218,6 +246,65 @@ void test_file_commands::openCountsLinesThatCouldNotBeApplied() {
     QCOMPARE(desk.messages.recorded().front().buttons, MessageRequest::Buttons::Ok);
     QCOMPARE(desk.document.tree().size(), std::size_t{1});
     QVERIFY(!desk.document.bModified());
+}
+
+void test_file_commands::openTellsOfItemsLeftOutAndSaveAsksForAnotherName() {
+    Desk desk;
+    openOverfull(desk, 3);
+    desk.disk.addFolder("/other");
+    desk.dialogs.expectSaveFile("/other/menu.js");
+    desk.messages.expect(Desk::recalculate, Answer::No);
+    desk.commands.mnuFileSave_Click();
+    desk.dialogs.verify();
+    QCOMPARE(desk.bytesOf("/site/large.js"), overfullBytes(3));
+    QCOMPARE(desk.document.SaveFile(), std::string("/other/menu.js"));
+    // The file of its own is saved as any other.
+    desk.addItem("");
+    desk.commands.mnuFileSave_Click();
+    QVERIFY(!desk.document.bModified());
+}
+
+void test_file_commands::aFileWithItemsLeftOutIsNotSavedOver_data() {
+    QTest::addColumn<QString>("path");
+    QTest::newRow("as it was opened") << "/site/large.js";
+    QTest::newRow("by another path") << "/link/large.js";
+}
+
+void test_file_commands::aFileWithItemsLeftOutIsNotSavedOver() {
+    QFETCH(QString, path);
+    Desk desk;
+    openOverfull(desk, 1);
+    desk.disk.addFolderAlias("/site", "/link");
+    desk.document.markModified();
+    desk.dialogs.expectSaveFile(path.toStdString());
+    desk.messages.expect("Could not save " + path.toStdString() +
+                         ": it holds items that were left out when it was opened, and would lose "
+                         "them. Please choose another name.");
+    desk.commands.mnuFileSaveAs_Click();
+    QCOMPARE(desk.bytesOf("/site/large.js"), overfullBytes(1));
+    QVERIFY(desk.document.bModified());
+    QCOMPARE(desk.document.SaveFile(), std::string("/site/large.js"));
+
+    // As a save that failed, that keeps the menu.
+    desk.messages.expect(Desk::saveChanges, Answer::Yes);
+    desk.dialogs.expectSaveFile(path.toStdString());
+    desk.messages.expect(
+        "the refusal", [](const MessageRequest&) { return true; }, Answer::Ok);
+    QVERIFY(!desk.commands.mnuFileExit_Click());
+}
+
+void test_file_commands::anotherMenuMayTakeThePlaceOfAFileWithItemsLeftOut() {
+    for (const bool isOpened : {false, true}) {
+        Desk desk;
+        openOverfull(desk, 1);
+        desk.disk.addFile("/site/small.js", definitionFileBytes("zevmenu = new ZEVMenu('0');"));
+        if (isOpened)
+            desk.commands.openDefinition("/site/small.js");
+        else
+            QVERIFY(desk.commands.mnuFileNew_Click());
+        desk.saveAs("/site/large.js");
+        QVERIFY(desk.bytesOf("/site/large.js") != overfullBytes(1));
+    }
 }
 
 void test_file_commands::resetAndOpenShowTheDefaultProperties() {
@@ -469,6 +556,27 @@ void test_file_commands::previewOfASavedMenuWritesBesideIt() {
     QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/site/orlet_temp.html"});
 }
 
+void test_file_commands::onlyTheFileThatThePersonNamedIsWrittenThroughALink() {
+    Desk desk;
+    desk.disk.addFile("/home/menu.js", "old");
+    desk.disk.addLink("/site/menu.js", "/home/menu.js");
+    std::vector<std::string> ownFiles = kSavedBeside;
+    ownFiles.push_back("orlet_temp.js");
+    for (const std::string& name : ownFiles) {
+        desk.disk.addFile("/home/" + name, "mine");
+        desk.disk.addLink("/site/" + name, "/home/" + name);
+    }
+    desk.addItem("Home");
+    desk.saveAs("/site/menu.js");
+    desk.commands.showPreview();
+    QVERIFY(desk.bytesOf("/home/menu.js").find("Home") != std::string::npos);
+    QVERIFY(!desk.isOnDisk("/site/menu.js"));
+    for (const std::string& name : ownFiles) {
+        QCOMPARE(desk.bytesOf("/home/" + name), std::string("mine"));
+        QVERIFY(desk.isOnDisk("/site/" + name));
+    }
+}
+
 void test_file_commands::previewCleansAndStoresThePanelFirst() {
     Desk desk;
     desk.addItem("It's");
@@ -506,11 +614,13 @@ void test_file_commands::previewTellsOfEachMissingFileAndIsShownAllTheSame() {
     Desk desk;
     desk.addItem("Home");
     desk.saveAs("/site/menu.js");
+    std::string problems;
     for (const QString& name : missing) {
         const std::string path = "/program/" + name.toStdString();
         desk.disk.DeleteFile(path);
-        desk.messages.expect("Error: " + path + " does not exist");
+        problems += (problems.empty() ? "" : "\n") + ("Error: " + path + " does not exist");
     }
+    desk.messages.expect(problems);
     desk.commands.showPreview();
     QCOMPARE(desk.bytesOf("/site/orlet_temp.js"), desk.bytesOf("/site/menu.js"));
     QCOMPARE(desk.browser.recorded(), std::vector<std::string>{"/site/orlet_temp.html"});

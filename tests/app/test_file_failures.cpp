@@ -62,6 +62,15 @@ std::string copyProblem(const std::string& path) {
     return "Error: " + path + " not saved. Please check path permissions";
 }
 
+/// What one message says when nothing can be saved beside and as `definition` in `folder`.
+std::string wholeProblem(const std::string& folder, const std::string& definition,
+                         const std::string& reason) {
+    std::string text;
+    for (const std::string& name : kCopies)
+        text += copyProblem(folder + "/" + name) + "\n";
+    return text + "Could not save " + folder + "/" + definition + ": " + reason;
+}
+
 void addEachOperation() {
     QTest::addColumn<std::size_t>("operation");
     for (std::size_t operation = 1; operation <= kDefinitionWrite; ++operation)
@@ -87,6 +96,7 @@ class test_file_failures : public QObject {
     void aFailedSaveAsTakesBackRecalculatedURLs();
     void aFailedSaveAsOfAMenuNeverSavedLeavesItUnnamed();
     void aFolderThatCannotBeWrittenIsReportedForEachFile();
+    void aFullDiskIsOneMessageWithTheSystemsReasonOfEachFile();
     void aFailedSaveKeepsNewAndExitFromLosingTheMenu();
 };
 
@@ -227,9 +237,7 @@ void test_file_failures::aFailedSaveAsTakesBackRecalculatedURLs() {
     desk.disk.setWritable("/other", false);
     desk.dialogs.expectSaveFile("/other/menu.js");
     desk.messages.expect(Desk::recalculate, Answer::Yes);
-    for (const std::string& name : kCopies)
-        desk.messages.expect(copyProblem("/other/" + name));
-    desk.messages.expect("Could not save /other/menu.js: Permission denied");
+    desk.messages.expect(wholeProblem("/other", "menu.js", "Permission denied"));
     desk.commands.mnuFileSaveAs_Click();
     QVERIFY(first.item == before);
     // An address such as this would not come back unchanged from being recalculated twice.
@@ -259,11 +267,25 @@ void test_file_failures::aFolderThatCannotBeWrittenIsReportedForEachFile() {
     Desk desk;
     makeChangedMenu(desk);
     desk.disk.setWritable("/site", false);
-    for (const std::string& name : kCopies)
-        desk.messages.expect(copyProblem("/site/" + name));
-    desk.messages.expect("Could not save /site/menu.js: Permission denied");
+    desk.messages.expect(wholeProblem("/site", "menu.js", "Permission denied"));
     desk.commands.mnuFileSave_Click();
     QVERIFY(desk.document.bModified());
+}
+
+void test_file_failures::aFullDiskIsOneMessageWithTheSystemsReasonOfEachFile() {
+    Desk desk;
+    makeChangedMenu(desk);
+    std::string details;
+    for (const std::string& name : kCopies) {
+        desk.files.failPath("/site/" + name, kDiskFull);
+        details += details.empty() ? "" : "\n";
+        details += "/site/" + name + ": No space left on device";
+    }
+    desk.files.failPath("/site/menu.js", kDiskFull);
+    desk.messages.expect(wholeProblem("/site", "menu.js", "No space left on device"));
+    desk.commands.mnuFileSave_Click();
+    QCOMPARE(desk.messages.recorded().back().details, details);
+    QCOMPARE(desk.messages.recorded().back().buttons, MessageRequest::Buttons::Ok);
 }
 
 void test_file_failures::aFailedSaveKeepsNewAndExitFromLosingTheMenu() {

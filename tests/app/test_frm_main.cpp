@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 
+#include "tests/support/test_files.h"
 #include "window_desk.h"
 
 using namespace zev;
@@ -196,6 +197,32 @@ class test_frm_main : public QObject {
         auto* status = desk.window.findChild<QStatusBar*>("sbStatusBar");
         QVERIFY(status->isVisible());
         QCOMPARE(status->currentMessage(), "");
+    }
+
+    void saysAtTheStartThatRunTimeFilesAreNotTheProgramsOwn() {
+        WindowDesk desk;
+        const auto noticeIn = [](const frmMain& window) {
+            const auto* notice = window.findChild<QLabel*>("changedFiles");
+            return notice != nullptr ? notice->text() : QString();
+        };
+        const std::vector<std::string> names{"zevmenu_loader.js", "zevmenu_dom.js",
+                                             "zevmenu_ns4.js", "zevmenu.html"};
+        for (const std::string& name : names)
+            desk.disk.addFile("/built/" + name, test::contentOf(ZEV_BUILT_FOLDER "/" + name));
+        const frmMain same(desk.services, "/built", new QWidget);
+        QCOMPARE(noticeIn(same), "");
+
+        const std::string folder = "/built" + std::string(300, 'x');
+        for (const std::string& name : names)
+            desk.disk.addFile(folder + "/" + name, desk.disk.allFiles().at("/built/" + name));
+        desk.disk.addFile(folder + "/zevmenu_dom.js", "another version");
+        frmMain other(desk.services, folder, new QWidget);
+        QCOMPARE(noticeIn(other),
+                 QString::fromStdString(folder + ": not the files this program was built with: "
+                                                 "zevmenu_dom.js"));
+        other.show();
+        QVERIFY(other.findChild<QLabel*>("changedFiles")->isVisible());
+        QCOMPARE(other.width(), desk.window.width());
     }
 
     void accessKeysDoNotClash() {

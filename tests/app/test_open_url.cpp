@@ -18,6 +18,7 @@ class test_open_url : public QObject {
   private slots:
     void startsTheProgramForWebPagesWithTheAddress();
     void looksTheProgramUpThroughAScratchFileBesideTheProgramsFolder();
+    void theScratchFileTakesThePlaceOfALink();
     void tellsWhenThereIsNoBrowser_data();
     void tellsWhenThereIsNoBrowser();
     void tellsWhenTheBrowserCannotBeStarted();
@@ -65,6 +66,16 @@ void test_open_url::looksTheProgramUpThroughAScratchFileBesideTheProgramsFolder(
     QCOMPARE(desk.shell.recordedFiles(), std::vector<std::string>{kScratchFile});
     QCOMPARE(content, std::string("\"<HTML> <\\HTML>\"\r\n"));
     QVERIFY(!desk.isOnDisk(kScratchFile));
+}
+
+void test_open_url::theScratchFileTakesThePlaceOfALink() {
+    OpenURLDesk desk;
+    desk.disk.addFile("/home/rc", "mine");
+    desk.disk.addLink(kScratchFile, "/home/rc");
+    desk.shell.expectFindExecutable("/usr/bin/browser");
+    desk.shell.expectShellExecute("/usr/bin/browser", kAddress);
+    desk.open();
+    QCOMPARE(desk.bytesOf("/home/rc"), std::string("mine"));
 }
 
 void test_open_url::tellsWhenThereIsNoBrowser_data() {

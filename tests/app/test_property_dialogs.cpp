@@ -7,6 +7,7 @@
 
 #include "dialogs/preview_label.h"
 #include "property_dialogs_hands.h"
+#include "script/script_writer.h"
 #include "tests/support/document_steps.h"
 
 using namespace zev;
@@ -177,6 +178,33 @@ class test_property_dialogs : public QObject {
         QCOMPARE(textOf(form, "txtHBgColor"), "#123456");
         desk.choose("mnuFileNew");
         QCOMPARE(textOf(form, "txtHBgColor"), "#888888");
+    }
+
+    void whatWasOpenedIsShownChangedAndSavedWithTheOtherLinesAsTheyWere() {
+        WindowDesk desk;
+        MenuContent menu;
+        menu.tree.append(nullptr, "Key 0", "A");
+        menu.DefaultProp.marker = "<b>+</b>";
+        menu.DefaultProp.fold = "640";
+        menu.DefaultProp.openDelay = "120";
+        menu.DefaultProp.label = "Shop";
+        desk.disk.addFile("/site/menu.js", definitionFileBytes(GenerateScript(menu)));
+        desk.dialogs.expectOpenFile("/site/menu.js");
+        desk.choose("mnuFileOpen");
+        inDefaults(desk, [](frmDefaultProp& form) {
+            QCOMPARE(textOf(form, "txtMarker"), "<b>+</b>");
+            QCOMPARE(textOf(form, "txtFold"), "640");
+            QCOMPARE(textOf(form, "txtOpenDelay"), "120");
+            QCOMPARE(textOf(form, "txtLabel"), "Shop");
+            typeInto(form, "txtMarker", "");
+            typeInto(form, "txtLabel", "Bob's shop");
+            press(form, "cmdOK");
+        });
+        desk.choose("mnuFileSave");
+        menu.DefaultProp.marker = "";
+        menu.DefaultProp.label = "Bob\\'s shop";
+        QCOMPARE(desk.disk.readFile("/site/menu.js", 10000).value(),
+                 definitionFileBytes(GenerateScript(menu)));
     }
 
     void theDefaultsAreFilledAgainEachTime() {

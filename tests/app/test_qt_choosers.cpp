@@ -27,10 +27,14 @@ bool hasStyle(const QString& family, bool isItalic, bool isBold) {
     });
 }
 
-/// A family with a plain, an italic, a bold and a bold italic style.
-std::string existingFamily() {
+bool isGeneric(const QString& listed) {
+    return styleSheetFamily(listed) != listed;
+}
+
+/// A family with a plain, an italic, a bold and a bold italic style; not the one called `other`.
+std::string existingFamily(const QString& other = {}) {
     for (const QString& family : QFontDatabase::families())
-        if (hasStyle(family, false, false) && hasStyle(family, true, false) &&
+        if (family != other && hasStyle(family, false, false) && hasStyle(family, true, false) &&
             hasStyle(family, false, true) && hasStyle(family, true, true))
             return family.toStdString();
     qFatal("no font family with all styles is installed");
@@ -51,7 +55,15 @@ class test_qt_choosers : public QObject {
     void theFontDialogStartsWithTheSystemsFontWhenToldNone();
     void aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay_data();
     void aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay();
-    void aFontThatIsMissingStartsWithOneThatExists();
+    void aFontThatIsMissingStartsWithOneThatExistsAndStays();
+    void aListOfFontsStartsWithItsFirst_data();
+    void aListOfFontsStartsWithItsFirst();
+    void aNewSizeLeavesFamilyAndStylesAsTheyStand_data();
+    void aNewSizeLeavesFamilyAndStylesAsTheyStand();
+    void aSizeThatIsNotTouchedKeepsItsFraction();
+    void aFamilyIsNamedAsAStyleSheetNamesIt_data();
+    void aFamilyIsNamedAsAStyleSheetNamesIt();
+    void aGenericFamilyIsChosenByTheNameThatBrowsersKnow();
     void aFontIsChosenWithItsStyle();
     void theFontDialogOffersNoEffectThatAChoiceDoesNotHold();
     void fontCancelledGivesNothing();
@@ -146,14 +158,108 @@ void test_qt_choosers::aFontStartsInTheStyleThatItsFamilyNamesInItsOwnWay() {
     QVERIFY(*chosen == initial);
 }
 
-void test_qt_choosers::aFontThatIsMissingStartsWithOneThatExists() {
-    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
-    const std::optional<FontChoice> chosen =
-        QtCommonDialogs().chooseFont({"No Such Family", 9, false, false});
+void test_qt_choosers::aFontThatIsMissingStartsWithOneThatExistsAndStays() {
+    whenShown<QFontDialog>([](QFontDialog& dialog) {
+        const QString family = dialog.currentFont().family();
+        QVERIFY2(QFontDatabase::families().contains(family), qPrintable(family));
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    const FontChoice initial{"No Such Family", 9, false, false};
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont(initial);
     QVERIFY(chosen.has_value());
-    QVERIFY2(QFontDatabase::families().contains(QString::fromStdString(chosen->name)),
-             chosen->name.c_str());
-    QCOMPARE(chosen->points, 9.0F);
+    QVERIFY(*chosen == initial);
+}
+
+void test_qt_choosers::aListOfFontsStartsWithItsFirst_data() {
+    QTest::addColumn<QString>("list");
+    QTest::newRow("plain") << "%1, No Such Family, serif";
+    QTest::newRow("in quotes") << "\"%1\", No Such Family, serif";
+    QTest::newRow("escaped, as in a script") << R"(\'%1\', \'No Such Family\', serif)";
+}
+
+void test_qt_choosers::aListOfFontsStartsWithItsFirst() {
+    QFETCH(QString, list);
+    const QString family = QString::fromStdString(existingFamily(QFontInfo(QFont()).family()));
+    const FontChoice initial{list.arg(family).toStdString(), 12, false, false};
+    whenShown<QFontDialog>([&](QFontDialog& dialog) {
+        QCOMPARE(dialog.currentFont().family(), family);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont(initial);
+    QVERIFY(chosen.has_value());
+    QVERIFY(*chosen == initial);
+}
+
+void test_qt_choosers::aNewSizeLeavesFamilyAndStylesAsTheyStand_data() {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("not installed") << "No Such Family";
+    QTest::newRow("list") << R"(\'DejaVu Serif\', Georgia, serif)";
+    QTest::newRow("made by") << "Nimbus Sans";
+    QTest::newRow("none") << "";
+}
+
+void test_qt_choosers::aNewSizeLeavesFamilyAndStylesAsTheyStand() {
+    QFETCH(QString, name);
+    whenShown<QFontDialog>([](QFontDialog& dialog) {
+        QListView* sizes = dialog.findChildren<QListView*>().at(2);
+        sizes->setFocus();
+        QTest::keyClick(sizes, Qt::Key_End);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    FontChoice expected{name.toStdString(), 12, true, true};
+    const std::optional<FontChoice> chosen = QtCommonDialogs().chooseFont(expected);
+    QVERIFY(chosen.has_value());
+    QVERIFY(chosen->points > 12);
+    expected.points = chosen->points;
+    QVERIFY(*chosen == expected);
+}
+
+void test_qt_choosers::aSizeThatIsNotTouchedKeepsItsFraction() {
+    whenShown<QFontDialog>([](QFontDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    const FontChoice initial{existingFamily(), 10.5F, false, false};
+    QVERIFY(QtCommonDialogs().chooseFont(initial) == initial);
+}
+
+void test_qt_choosers::aFamilyIsNamedAsAStyleSheetNamesIt_data() {
+    QTest::addColumn<QString>("listed");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("sans serif") << "Sans Serif"
+                                << "sans-serif";
+    QTest::newRow("sans") << "Sans"
+                          << "sans-serif";
+    QTest::newRow("serif") << "Serif"
+                           << "serif";
+    QTest::newRow("monospace") << "Monospace"
+                               << "monospace";
+    QTest::newRow("foundry") << "Nimbus Sans [urw]"
+                             << "Nimbus Sans";
+    QTest::newRow("of its own") << "Noto Sans Serif"
+                                << "Noto Sans Serif";
+    QTest::newRow("bracket") << "Odd [name] Sans"
+                             << "Odd [name] Sans";
+}
+
+void test_qt_choosers::aFamilyIsNamedAsAStyleSheetNamesIt() {
+    QFETCH(QString, listed);
+    QFETCH(QString, name);
+    QCOMPARE(styleSheetFamily(listed), name);
+}
+
+void test_qt_choosers::aGenericFamilyIsChosenByTheNameThatBrowsersKnow() {
+    if (!QFontDatabase::families().contains("Serif"))
+        QSKIP("the toolkit lists no generic family here");
+    whenShown<QFontDialog>([](QFontDialog& dialog) {
+        QListView* families = dialog.findChildren<QListView*>().at(0);
+        families->setFocus();
+        QTest::keyClick(families, Qt::Key_End);
+        while (families->currentIndex().data().toString() != "Serif")
+            QTest::keyClick(families, Qt::Key_Up);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    const std::optional<FontChoice> chosen =
+        QtCommonDialogs().chooseFont({existingFamily(), 12, false, false});
+    QVERIFY(chosen.has_value());
+    QCOMPARE(chosen->name, "serif");
 }
 
 void test_qt_choosers::aFontIsChosenWithItsStyle() {
@@ -166,6 +272,9 @@ void test_qt_choosers::aFontIsChosenWithItsStyle() {
         for (QListView* list : lists.first(2)) {
             list->setFocus();
             QTest::keyClick(list, Qt::Key_End);
+            // The toolkit's generic families are no fonts.
+            while (list == lists[0] && isGeneric(list->currentIndex().data().toString()))
+                QTest::keyClick(list, Qt::Key_Up);
         }
         lists[2]->setFocus();
         QTest::keyClick(lists[2], Qt::Key_Home);

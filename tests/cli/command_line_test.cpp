@@ -116,7 +116,7 @@ TEST(CommandLineTest, InputThatCannotBeReadHasStatusThreeAndNamesFileAndReason) 
         {".", "zevmenu: .: Is a directory\n"},
         {"binary.js", "zevmenu: binary.js: is not a text file\n"},
         {"zeros.js", "zevmenu: zeros.js: larger than 256 MiB, which no menu definition is\n"},
-        {"/dev/zero", "zevmenu: /dev/zero: larger than 256 MiB, which no menu definition is\n"},
+        {"/dev/zero", "zevmenu: /dev/zero: Is a device\n"},
     };
     for (const Case& c : cases) {
         const Arguments commands[] = {{"format", c.input, "-o", "out.js"},
@@ -177,6 +177,15 @@ TEST(CommandLineTest, StandardInputThatCannotBeReadIsNamed) {
     const ProgramResult result = runZevmenu({"format", "-"}, folder.path(), std::string("a\0b", 3));
     EXPECT_EQ(result.status, 3);
     EXPECT_EQ(result.problems, "zevmenu: standard input: is not a text file\n");
+}
+
+TEST(CommandLineTest, EndlessStandardInputIsReadToALimit) {
+    const TempFolder folder;
+    const std::string script = "exec " ZEVMENU_PROGRAM " format - </dev/zero";
+    const ProgramResult result = runProgramAt("/bin/sh", {"-c", script}, folder.path());
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.problems,
+              "zevmenu: standard input: larger than 256 MiB, which no menu definition is\n");
 }
 
 TEST(CommandLineTest, OutputThatCannotBeWrittenHasStatusThree) {

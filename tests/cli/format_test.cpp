@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -23,6 +24,19 @@ TEST_F(FormatTest, WritesAFileOfTheProgramsOwnAsItIs) {
     const ProgramResult result = run({"format", "in.js"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, kSmallDefinition);
+    EXPECT_EQ(result.problems, "");
+}
+
+TEST_F(FormatTest, KeepsTheOptionalDefaultsAsTheyAre) {
+    std::string definition = kSmallDefinition;
+    definition.insert(definition.find("\r\n\r\n") + 2,
+                      "zev_state.marker = '<b>+</b>';\r\n"
+                      "zev_state.fold = 640;\r\n"
+                      "zev_state.opendelay = 0;\r\n"
+                      "zev_state.label = 'Bob\\'s shop';\r\n");
+    const ProgramResult result = run({"format", "-"}, definition);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, definition);
     EXPECT_EQ(result.problems, "");
 }
 
@@ -105,6 +119,50 @@ TEST_F(FormatTest, OutputThatCannotBeWrittenIsNamedAndTheOldFileStays) {
     EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"in.js", "sub"}));
 }
 
+TEST_F(FormatTest, RefusesAPipeOrDeviceAtOnce) {
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("pipe", folder / "link.js");
+    struct Case {
+        const char* input;
+        const char* problem;
+    };
+    const Case cases[] = {
+        {"pipe", "zevmenu: pipe: Is a pipe\n"},
+        {"link.js", "zevmenu: link.js: Is a pipe\n"},
+        {"/dev/zero", "zevmenu: /dev/zero: Is a device\n"},
+    };
+    for (const Case& c : cases) {
+        const ProgramResult result = run({"format", c.input});
+        EXPECT_EQ(result.status, 3) << c.input;
+        EXPECT_EQ(result.problems, c.problem);
+    }
+}
+
+TEST_F(FormatTest, ReadsThePipesThatTheShellHandsOver) {
+    makeFile(folder / "in.js", kSmallDefinition);
+    for (const char* const path : {"-", "/dev/stdin", "/dev/fd/0", "/dev/fd/7"}) {
+        const std::string script = "cat in.js | { exec 7<&0; exec " + std::string(ZEVMENU_PROGRAM) +
+                                   " format " + path + "; }";
+        const ProgramResult result = runProgramAt("/bin/sh", {"-c", script}, folder.path());
+        EXPECT_EQ(result.status, 0) << path << ": " << result.problems;
+        EXPECT_EQ(result.output, kSmallDefinition) << path;
+    }
+}
+
+TEST_F(FormatTest, AFileBeyondTheUsersLimitIsAnErrorAndNotTheEnd) {
+    makeFile(folder / "in.js", kSmallDefinition);
+    makeFile(folder / "old.js", "old");
+    for (const char* const output : {"new.js", "old.js"}) {
+        const std::string script =
+            "ulimit -f 1; exec " + std::string(ZEVMENU_PROGRAM) + " format in.js -o " + output;
+        const ProgramResult result = runProgramAt("/bin/sh", {"-c", script}, folder.path());
+        EXPECT_EQ(result.status, 3);
+        EXPECT_EQ(result.problems, "zevmenu: " + std::string(output) + ": File too large\n");
+    }
+    EXPECT_EQ(contentOf(folder / "old.js"), "old");
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"in.js", "old.js"}));
+}
+
 TEST_F(FormatTest, WritesToThePlaceOfAnOpenStandardOutput) {
     const ProgramResult result = run({"format", "-", "-o", "/dev/stdout"}, kSmallDefinition);
     EXPECT_EQ(result.status, 0) << result.problems;
@@ -127,6 +185,59 @@ TEST_F(FormatTest, TakesAVeryLongLineAndAVeryDeepMenu) {
     EXPECT_EQ(run({"format", "deep.js", "-o", "out.js"}).status, 0);
     EXPECT_NE(contentOf(folder / "out.js").find("ZEVMenu('" + id.substr(0, id.size() - 2) + "')"),
               std::string::npos);
+}
+
+/// With three items more than a menu can hold, the last in a menu that one of them opens.
+std::string overfullDefinition() {
+    std::string text = "zevmenu = new ZEVMenu('0');\n";
+    for (int item = 0; item < 32769; ++item)
+        text += "zevmenu.AddItem('', '', '');\n";
+    return text + "zevmenu = new ZEVMenu('32768');\nzevmenu.AddItem('', '', '');\n";
+}
+
+TEST_F(FormatTest, DoesNotWriteAMenuThatLostItemsOntoItsInput) {
+    const std::string overfull = overfullDefinition();
+    makeFile(folder / "in.js", overfull);
+    std::filesystem::create_symlink("in.js", folder / "link.js");
+    std::filesystem::create_hard_link(folder / "in.js", folder / "hard.js");
+    const std::string counted =
+        "3 errors encountered during parsing\n"
+        "zevmenu: in.js: 3 items left out; a menu holds 32767 at most\n";
+    for (const std::string output : {"in.js", "./in.js", "link.js", "hard.js"}) {
+        for (std::vector<std::string> arguments :
+             {std::vector<std::string>{"format"},
+              {"rebase", "--from", "/site", "--to", "/site/sub"}}) {
+            arguments.insert(arguments.end(), {"in.js", "-o", output});
+            const ProgramResult result = run(arguments);
+            EXPECT_EQ(result.status, 3);
+            EXPECT_EQ(result.problems,
+                      counted + "zevmenu: " + output +
+                          ": not written, as it would lose the 3 items left out\n");
+        }
+    }
+    EXPECT_EQ(run({"publish", "in.js", "."}).status, 3);
+    EXPECT_EQ(contentOf(folder / "in.js"), overfull);
+    EXPECT_EQ(namesIn(folder.path()), (std::vector<std::string>{"hard.js", "in.js", "link.js"}));
+}
+
+TEST_F(FormatTest, WritesAMenuThatLostItemsElsewhere) {
+    makeFile(folder / "in.js", overfullDefinition());
+    makeFile(folder / "out.js", "");
+    const ProgramResult result = run({"format", "in.js", "-o", "out.js"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(run({"format", "in.js"}).output, contentOf(folder / "out.js"));
+    EXPECT_EQ(run({"format", "out.js", "-o", "out.js"}).status, 0);
+}
+
+TEST_F(FormatTest, KnowsItsInputAlsoAsStandardInput) {
+    makeFile(folder / "in.js", overfullDefinition());
+    const std::string program = ZEVMENU_PROGRAM;
+    const ProgramResult result = runProgramAt(
+        "/bin/sh", {"-c", "'" + program + "' format - -o in.js < in.js"}, folder.path());
+    EXPECT_EQ(result.status, 3);
+    EXPECT_NE(result.problems.find("zevmenu: standard input: 3 items left out"), std::string::npos)
+        << result.problems;
+    EXPECT_EQ(contentOf(folder / "in.js"), overfullDefinition());
 }
 
 }  // namespace

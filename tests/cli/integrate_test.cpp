@@ -149,6 +149,20 @@ TEST(IntegrateTest, ReportGoesToAFileAsTheEditorSavesIt) {
     EXPECT_EQ(result.output, codeFor(folder.path(), "menu.js"));
 }
 
+TEST(IntegrateTest, WithTheReportInAFileEachPageThatFailedIsNamed) {
+    const TempFolder folder;
+    makeFile(folder / "a.htm", "text");
+    makeFile(folder / "b.htm", kPage);
+    const ProgramResult result =
+        integrate(folder, {"--report", "report.txt", "a.htm", "b.htm", "none.htm"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.problems, "zevmenu: " + (folder / "a.htm") +
+                                   ": failed; see the report\nzevmenu: " + (folder / "none.htm") +
+                                   ": failed; see the report\n");
+    EXPECT_EQ(integrate(folder, {"--report", "report.txt", "b.htm"}).problems, "");
+    EXPECT_EQ(integrate(folder, {"a.htm"}).problems, "");  // the report itself is shown
+}
+
 TEST(IntegrateTest, AReportThatCannotBeWrittenHasStatusThree) {
     const TempFolder folder;
     makeFile(folder / "a.htm", kPage);

@@ -46,5 +46,34 @@ TEST(LinkcodeTest, TakesTheEntriesThatSubmenusPrints) {
         << result.output;
 }
 
+TEST(LinkcodeTest, RefusesAnEntryThatWouldEndTheLinksAttribute) {
+    const TempFolder folder;
+    for (const char* const entry :
+         {"x (1');alert(1);//)", "x (1\" onclick=\"alert`1`)", "x (1&#39;)", "x (1\\)", "x (1\n2)",
+          "x (<b>)", "x (i)", "x ()"}) {
+        for (const bool isIntegrate : {false, true}) {
+            std::vector<std::string> arguments{"linkcode", "--definition", "menu.js"};
+            if (isIntegrate)
+                arguments = {"integrate", "--definition", "menu.js", "--library", ".", "a.htm"};
+            arguments.insert(arguments.end(), {"--popup", entry, "--mouse"});
+            const ProgramResult result = runZevmenu(arguments, folder.path());
+            EXPECT_EQ(result.status, 2) << entry;
+            EXPECT_EQ(result.output, "");
+            EXPECT_NE(result.problems.find("must be an entry"), std::string::npos)
+                << result.problems;
+        }
+    }
+}
+
+TEST(LinkcodeTest, ADefinitionsURLStaysWithinItsAttribute) {
+    const TempFolder folder;
+    const ProgramResult result =
+        runZevmenu({"linkcode", "--definition", "js/\"><b>\n.js"}, folder.path());
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_TRUE(result.output.starts_with(
+        "<script language=\"JavaScript1.2\" src=\"js/%22%3E%3Cb%3E%0A.js\"></script>\n"))
+        << result.output;
+}
+
 }  // namespace
 }  // namespace zev::test

@@ -44,6 +44,22 @@ TEST_F(PublishTest, ReplacesOlderFiles) {
               contentOf(ZEVMENU_RUNTIME "/zevmenu_dom.js"));
 }
 
+TEST_F(PublishTest, OnlyTheDefinitionIsWrittenThroughALink) {
+    for (const char* const name : {"precious", "named"})
+        makeFile(folder / name, "mine");
+    for (const std::string& name : kScripts)
+        std::filesystem::create_symlink("../precious", folder / "site/" + name);
+    std::filesystem::create_symlink("../named", folder / "site/menu.js");
+    const ProgramResult result = run({"publish", "menu.js", "site"});
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_EQ(contentOf(folder / "precious"), "mine");
+    EXPECT_EQ(contentOf(folder / "named"), kSmallDefinition);
+    for (const std::string& name : kScripts) {
+        EXPECT_FALSE(std::filesystem::is_symlink(folder / "site/" + name)) << name;
+        EXPECT_EQ(contentOf(folder / "site/" + name), contentOf(ZEVMENU_RUNTIME "/" + name));
+    }
+}
+
 TEST_F(PublishTest, IntoItsOwnFolderRewritesTheDefinitionAsTheEditorWould) {
     makeFile(folder / "menu.js", "// mine\n" + kSmallDefinition);
     EXPECT_EQ(run({"publish", "menu.js", "."}).status, 0);
@@ -85,8 +101,8 @@ TEST_F(PublishTest, WritesTheDefinitionThoughAScriptIsMissing) {
     std::filesystem::create_directory(folder / "bin");
     const std::string program = folder / "bin/zevmenu";
     std::filesystem::copy_file(ZEVMENU_PROGRAM, program);
-    makeFile(folder / "bin/zevmenu_loader.js", "loader");
-    makeFile(folder / "bin/zevmenu_dom.js", "dom");
+    for (const char* const name : {"zevmenu_loader.js", "zevmenu_dom.js"})
+        std::filesystem::copy_file(std::string(ZEVMENU_RUNTIME "/") + name, folder / "bin/" + name);
     const ProgramResult result =
         runProgramAt(program, {"publish", "menu.js", "site"}, folder.path());
     EXPECT_EQ(result.status, 3);
@@ -106,6 +122,10 @@ TEST_F(PublishTest, FindsTheScriptsOfASystemWideInstallation) {
         runProgramAt(program, {"publish", "menu.js", "site"}, folder.path());
     EXPECT_EQ(result.status, 0) << result.problems;
     EXPECT_EQ(contentOf(folder / "site/zevmenu_ns4.js"), "installed zevmenu_ns4.js");
+    EXPECT_EQ(result.problems,
+              "zevmenu: " + (folder / "usr/share/zevmenu-creator") +
+                  ": not the files this program was built with: zevmenu_loader.js, "
+                  "zevmenu_dom.js, zevmenu_ns4.js\n");
 }
 
 TEST_F(PublishTest, SaysWhenNothingIsInstalledAndStillWritesTheDefinition) {
@@ -126,7 +146,8 @@ TEST_F(PublishTest, NamesAScriptThatCouldNotBeReplaced) {
     const ProgramResult result = run({"publish", "menu.js", "site"});
     EXPECT_EQ(result.status, 3);
     EXPECT_EQ(result.problems,
-              "zevmenu: Error: site/zevmenu_dom.js not saved. Please check path permissions\n");
+              "zevmenu: Error: site/zevmenu_dom.js not saved. Please check path permissions "
+              "(Is a directory)\n");
     EXPECT_EQ(contentOf(folder / "site/menu.js"), kSmallDefinition);
 }
 

@@ -36,6 +36,10 @@ inline MenuProp FilledProp() {
     prop.FontSize = "13";
     prop.FontStyle = true;
     prop.FontWeight = true;
+    prop.marker = "<b>+</b>";
+    prop.label = "Shop";
+    prop.openDelay = "120";
+    prop.fold = "640";
     return prop;
 }
 

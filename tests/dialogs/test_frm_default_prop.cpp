@@ -21,6 +21,10 @@ class test_frm_default_prop : public QObject {
         QCOMPARE(desk.form.field("txtNBgColor").text(), "#405060");
         QCOMPARE(desk.form.field("txtHFtColor").text(), "#708090");
         QCOMPARE(desk.form.field("txtNFtColor").text(), "#A0B0C0");
+        QCOMPARE(desk.form.field("txtMarker").text(), "<b>+</b>");
+        QCOMPARE(desk.form.field("txtLabel").text(), "Shop");
+        QCOMPARE(desk.form.field("txtOpenDelay").text(), "120");
+        QCOMPARE(desk.form.field("txtFold").text(), "640");
         const FontChoice font = {"DejaVu Sans", 13, true, true};
         const PreviewLabel& highlighted = desk.form.preview("lblFont");
         QCOMPARE(highlighted.backColor(), 0x302010);
@@ -68,6 +72,10 @@ class test_frm_default_prop : public QObject {
         desk.form.type("txtNBgColor", "transparent");
         desk.form.type("txtHFtColor", "red");
         desk.form.type("txtNFtColor", "");
+        desk.form.type("txtMarker", "none");
+        desk.form.type("txtLabel", "Our shop");
+        desk.form.type("txtOpenDelay", "0");
+        desk.form.type("txtFold", "10000");
         QVERIFY(desk.prop() == expected);
         desk.form.click("cmdOK");
         expected.Position = 4;
@@ -80,6 +88,10 @@ class test_frm_default_prop : public QObject {
         expected.NBgColor = "transparent";
         expected.HFtColor = "red";
         expected.NFtColor = "";
+        expected.marker = "none";
+        expected.label = "Our shop";
+        expected.openDelay = "0";
+        expected.fold = "10000";
         QVERIFY(desk.prop() == expected);
         QVERIFY(!desk.dialog.isVisible());
     }
@@ -104,7 +116,8 @@ class test_frm_default_prop : public QObject {
         QTest::addColumn<QString>("name");
         for (const char* name :
              {"cboPosition", "txtCloseDelay", "txtSpacing", "txtColumns", "txtMenuOffset",
-              "txtBgImg", "txtHBgColor", "txtNBgColor", "txtHFtColor", "txtNFtColor", "cmdOK"})
+              "txtBgImg", "txtHBgColor", "txtNBgColor", "txtHFtColor", "txtNFtColor", "txtMarker",
+              "txtLabel", "txtOpenDelay", "txtFold", "cmdOK"})
             QTest::newRow(name) << name;
     }
     void enterInAnyFieldIsOK() {
@@ -258,6 +271,15 @@ class test_frm_default_prop : public QObject {
         desk.form.click("cmdOK");
         QCOMPARE(desk.prop().FontFamily, "DejaVu Sans");
         QCOMPARE(desk.prop().FontSize, "9");
+    }
+
+    void aSizeChosenWhereThereIsNoFamilyIsStoredAlone() {
+        DefaultsDesk desk([](MenuProp& prop) { prop.FontFamily = ""; });
+        desk.dialogs.expectChooseFont(FontChoice{"", 20, false, false});
+        desk.form.click("cmdFont");
+        desk.form.click("cmdOK");
+        QCOMPARE(desk.prop().FontFamily, "");
+        QCOMPARE(desk.prop().FontSize, "20");
     }
 
     void aSizeThatNoFontHasIsShownAsTenPoints_data() {

@@ -71,6 +71,30 @@ class test_frm_default_prop_input : public QObject {
                                          << "007"
                                          << ""
                                          << "007";
+        QTest::newRow("open delay 0") << "txtOpenDelay"
+                                      << "0"
+                                      << ""
+                                      << "0";
+        QTest::newRow("open delay 10000") << "txtOpenDelay"
+                                          << "10000"
+                                          << ""
+                                          << "10000";
+        QTest::newRow("open delay 10001") << "txtOpenDelay"
+                                          << "10001"
+                                          << "0 and 10000"
+                                          << "";
+        QTest::newRow("fold 10000") << "txtFold"
+                                    << "10000"
+                                    << ""
+                                    << "10000";
+        QTest::newRow("fold 10001") << "txtFold"
+                                    << "10001"
+                                    << "0 and 10000"
+                                    << "";
+        QTest::newRow("fold, letter") << "txtFold"
+                                      << "x"
+                                      << "0 and 10000"
+                                      << "";
     }
     void numbersAreCheckedAtEveryKey() {
         QFETCH(QString, name);
@@ -132,6 +156,43 @@ class test_frm_default_prop_input : public QObject {
         desk.messages.verify();
     }
 
+    void aFractionOfAPixelOrAMillisecondIsRefused_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("open delay") << "txtOpenDelay";
+        QTest::newRow("fold") << "txtFold";
+    }
+    void aFractionOfAPixelOrAMillisecondIsRefused() {
+        QFETCH(QString, name);
+        DefaultsDesk desk;
+        desk.messages.expect("Please enter a whole number between 0 and 10000");
+        desk.form.type(name, "2.5");
+        QCOMPARE(desk.form.field(name).text(), "");
+        desk.messages.verify();
+    }
+
+    void apostrophesAreEscapedWhenATextIsLeft_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("marker") << "txtMarker";
+        QTest::newRow("label") << "txtLabel";
+    }
+    void apostrophesAreEscapedWhenATextIsLeft() {
+        QFETCH(QString, name);
+        DefaultsDesk desk;
+        desk.form.type(name, "Bob's");
+        QCOMPARE(desk.form.field(name).text(), "Bob's");
+        desk.form.press(Qt::Key_Tab);
+        QCOMPARE(desk.form.field(name).text(), "Bob\\'s");
+        desk.form.click("cmdOK");
+        QCOMPARE(name == "txtMarker" ? desk.prop().marker : desk.prop().label, "Bob\\'s");
+    }
+
+    void apostrophesAreEscapedByEnterToo() {
+        DefaultsDesk desk;
+        desk.form.type("txtLabel", "Bob's");
+        desk.form.press(Qt::Key_Return);
+        QCOMPARE(desk.prop().label, "Bob\\'s");
+    }
+
     void aSpaceTypedBesideANumberLeavesTheCaretWhereItWas() {
         DefaultsDesk desk;
         QLineEdit& spacing = desk.form.field("txtSpacing");
@@ -179,13 +240,16 @@ class test_frm_default_prop_input : public QObject {
 
     void emptyNumbersAreStoredEmpty() {
         DefaultsDesk desk([](MenuProp& prop) { prop = FilledProp(); });
-        for (const char* name : {"txtCloseDelay", "txtSpacing", "txtColumns", "txtMenuOffset"})
+        for (const char* name : {"txtCloseDelay", "txtSpacing", "txtColumns", "txtMenuOffset",
+                                 "txtOpenDelay", "txtFold"})
             desk.form.type(name, "");
         desk.form.click("cmdOK");
         QCOMPARE(desk.prop().CloseDelay, "");
         QCOMPARE(desk.prop().Spacing, "");
         QCOMPARE(desk.prop().Columns, "");
         QCOMPARE(desk.prop().MenuOffset, "");
+        QCOMPARE(desk.prop().openDelay, "");
+        QCOMPARE(desk.prop().fold, "");
         QVERIFY(desk.messages.recorded().empty());
     }
 

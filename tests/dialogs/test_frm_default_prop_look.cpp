@@ -34,6 +34,30 @@ class test_frm_default_prop_look : public QObject {
                                 << "Offset:"
                                 << "Offset"
                                 << "Tweaks the roll-out position of the menu";
+        QTest::newRow("marker")
+            << "txtMarker"
+            << "FrameAdditional"
+            << "Submenu Arrow:"
+            << "Submenu Arrow"
+            << "HTML of the mark at items with a submenu. Empty for an arrow, none for no mark";
+        QTest::newRow("label")
+            << "txtLabel"
+            << "FrameAdditional"
+            << "Navigation Name:"
+            << "Navigation Name"
+            << "Name of the menu for screen readers, and on the button of a folded menu";
+        QTest::newRow("open delay")
+            << "txtOpenDelay"
+            << "FrameAdditional"
+            << "Open Delay:"
+            << "Open Delay"
+            << "Time that the mouse stays on an item before its submenu opens (in milliseconds)";
+        QTest::newRow("fold")
+            << "txtFold"
+            << "FrameAdditional"
+            << "Fold Width (pixels):"
+            << "Fold Width (pixels)"
+            << "Width of the window below which the top menu is one button (in pixels). 0: never";
         QTest::newRow("font") << "cmdFont"
                               << "FrameFont"
                               << "Font:"
@@ -69,6 +93,7 @@ class test_frm_default_prop_look : public QObject {
         QCOMPARE(desk.form.named<QGroupBox>("FrameMenu").title(), "Menu Settings");
         QCOMPARE(desk.form.named<QGroupBox>("FrameBackground").title(), "Background Settings");
         QCOMPARE(desk.form.named<QGroupBox>("FrameFont").title(), "Font Settings");
+        QCOMPARE(desk.form.named<QGroupBox>("FrameAdditional").title(), "Additional");
         QCOMPARE(desk.form.named<QLabel>("lblFontDisplay").text().remove('&'), "Font:");
         QCOMPARE(desk.form.preview("lblPreviewNormal").text(), "Normal");
         QCOMPARE(desk.form.preview("lblFont").text(), "Highlighted");
@@ -115,10 +140,12 @@ class test_frm_default_prop_look : public QObject {
     void tabGoesThroughTheFramesAsTheyAreRead() {
         DefaultsDesk desk;
         QCOMPARE(desk.form.tabOrder(),
-                 (QStringList{"cboPosition", "txtCloseDelay", "txtSpacing", "txtColumns",
-                              "txtMenuOffset", "txtBgImg", "cmdBrowseBgImg", "txtHBgColor",
-                              "cmdHBgColor", "txtNBgColor", "cmdNBgColor", "cmdFont", "txtHFtColor",
-                              "cmdHFtColor", "txtNFtColor", "cmdNFtColor", "cmdOK", "cmdCancel"}));
+                 (QStringList{"cboPosition",   "txtCloseDelay", "txtSpacing",     "txtColumns",
+                              "txtMenuOffset", "txtBgImg",      "cmdBrowseBgImg", "txtHBgColor",
+                              "cmdHBgColor",   "txtNBgColor",   "cmdNBgColor",    "cmdFont",
+                              "txtHFtColor",   "cmdHFtColor",   "txtNFtColor",    "cmdNFtColor",
+                              "txtMarker",     "txtLabel",      "txtOpenDelay",   "txtFold",
+                              "cmdOK",         "cmdCancel"}));
     }
 
     void theDialogOpensInItsFirstFieldEachTime() {
@@ -135,6 +162,23 @@ class test_frm_default_prop_look : public QObject {
         QVERIFY(desk.dialog.width() <= 1000);
         QVERIFY(desk.dialog.height() <= 700);
         QCOMPARE(desk.form.cutOff(), QStringList());
+    }
+
+    void theDialogAndItsTitleBarFitAScreenOf640By480() {
+        constexpr int kTitleBarPx = 40;
+        DefaultsDesk desk;
+        desk.dialog.resize(desk.dialog.minimumSizeHint());
+        QVERIFY(desk.dialog.width() <= 640);
+        QVERIFY(desk.dialog.height() <= 480 - kTitleBarPx);
+        QCOMPARE(desk.form.cutOff(), QStringList());
+    }
+
+    void whatIsAdditionalStandsBelowAllElse() {
+        DefaultsDesk desk;
+        const QWidget& additional = desk.form.named<QGroupBox>("FrameAdditional");
+        for (const char* name : {"FrameMenu", "FrameBackground", "FrameFont"})
+            QVERIFY(desk.form.named<QGroupBox>(name).geometry().bottom() < additional.y());
+        QVERIFY(additional.geometry().bottom() < desk.form.button("cmdOK").y());
     }
 
     void aHugeFontLeavesTheDialogsSizeAsItIs() {

@@ -2,6 +2,7 @@
 
 #include "menu_prop_desk.h"
 #include "property_tables.h"
+#include "script/property_lines.h"
 
 using namespace zev;
 
@@ -129,7 +130,7 @@ class test_frm_menu_prop_input : public QObject {
         desk.openTopMenu();
         desk.dialogs.expectChooseFont(first);
         desk.form.click("cmdFont");
-        QVERIFY(desk.dialogs.recordedFonts().back() == FontChoice());
+        QVERIFY(desk.dialogs.recordedFonts().back() == kDefaultFont);
         // Without one, the font dialog opens with what it last held.
         desk.form.click("cmdFontClear");
         desk.dialogs.expectChooseFont(std::nullopt);
@@ -147,6 +148,37 @@ class test_frm_menu_prop_input : public QObject {
         desk.form.click("cmdFont");
         QVERIFY(desk.dialogs.recordedFonts().back() == kOwnFont);
         QVERIFY(!desk.dialog.bFontSet);
+    }
+
+    void theFontDialogStartsWithTheInheritedFontUntilOneWasChosen() {
+        MenuDesk desk;
+        desk.openTopMenu();
+        desk.dialogs.expectChooseFont(std::nullopt);
+        desk.form.click("cmdFont");
+        QVERIFY(desk.dialogs.recordedFonts().back() == kDefaultFont);
+        desk.form.click("cmdCancel");
+        // A cancelled dialog holds nothing that could hide a later change of the defaults.
+        test::editMenu(desk.document, test::kDefaults)->FontFamily = "Georgia, serif";
+        desk.openTopMenu();
+        desk.dialogs.expectChooseFont(std::nullopt);
+        desk.form.click("cmdFont");
+        QCOMPARE(desk.dialogs.recordedFonts().back().name, "Georgia, serif");
+    }
+
+    void aNewSizeWritesNoLineForTheInheritedFamily() {
+        MenuDesk desk;
+        test::editMenu(desk.document, test::kDefaults)->FontFamily = "Georgia, serif";
+        desk.openTopMenu();
+        FontChoice larger = kDefaultFont;
+        larger.name = "Georgia, serif";
+        larger.points = 20;
+        desk.dialogs.expectChooseFont(larger);
+        desk.form.click("cmdFont");
+        desk.form.click("cmdOK");
+        const std::string lines = GetText(desk.topMenu(), desk.document.DefaultProp());
+        QVERIFY(lines.find("zevmenu.fontSize = '20pt';") != std::string::npos);
+        for (const char* name : {"fontFamily", "fontStyle", "fontWeight"})
+            QVERIFY2(lines.find(name) == std::string::npos, lines.c_str());
     }
 
     void aChosenFontIsTheMenusOwnFromThenOn() {

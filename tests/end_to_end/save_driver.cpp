@@ -26,7 +26,9 @@ class PrintedMessages : public MessageBox {
 
     Answer show(const MessageRequest& request) override {
         std::cerr << request.text << '\n';
-        isFailureShown = isFailureShown || request.text.starts_with("Could not ");
+        // One box tells of all files of a save, each on a line of its own.
+        isFailureShown =
+            isFailureShown || ("\n" + request.text).find("\nCould not ") != std::string::npos;
         return request.buttons == MessageRequest::Buttons::Ok ? Answer::Ok : Answer::Yes;
     }
 };

@@ -328,6 +328,17 @@ class PageSweep(Sweep):
         if (self.backup() and page != self.old.bytes_of(self.definition)
                 and after.bytes_of(self.backup()) != self.old.bytes_of(self.definition)):
             self.fail(fault, "the page was touched before its backup was whole")
+        self.check_modes(fault, after)
+
+    def check_modes(self, fault, after):
+        """Nothing that holds a page's text is ever more open than the page."""
+        mode = self.old.entries[self.definition][1]
+        texts = (self.old.bytes_of(self.definition), self.new.bytes_of(self.definition))
+        for name in after.files():
+            entry = after.entries[name]
+            holds_text = entry[2] and any(text.startswith(entry[2]) for text in texts)
+            if holds_text and entry[1] & ~mode:
+                self.fail(fault, f"{name} has mode {entry[1]:o}, the page {mode:o}")
 
     def check_next_run(self, fault):
         page = State(self.folder).bytes_of(self.definition)

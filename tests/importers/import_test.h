@@ -30,7 +30,7 @@ class ImportTest : public testing::Test {
     Warnings importMenu(std::string_view format, std::string_view bytes) {
         document = MenuContent();
         const Warnings warnings =
-            zev::importMenu(*findImportFormat(format), bytes, document).warnings;
+            zev::importMenu(*findImportFormat(format), std::string(bytes), document).warnings;
         ExpectSoundTree(document.tree);
         return warnings;
     }

@@ -45,6 +45,22 @@ TEST(LinkCodeTest, ReferenceTakesTheURLAsItIs) {
               "<script language=\"JavaScript1.2\" src=\"My Menu.js\"></script>");
 }
 
+TEST(LinkCodeTest, NothingInTheURLEndsTheAttributeOrItsLine) {
+    struct Case {
+        std::string url;
+        std::string written;
+    };
+    const Case cases[] = {
+        {"a\" onload=\"x().js", "a%22 onload=%22x().js"},
+        {"a></script><script>x()", "a%3E%3C/script%3E%3Cscript%3Ex()"},
+        {std::string("a\r\n\t\0\x7F.js", 9), "a%0D%0A%09%00%7F.js"},
+        {"D:\\it's & K\xC3\xA4se?a=1&amp;b.js", "D:\\it's & K\xC3\xA4se?a=1&amp;b.js"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(definitionReference(c.url),
+                  "<script language=\"JavaScript1.2\" src=\"" + c.written + "\"></script>");
+}
+
 TEST(LinkCodeTest, PopupAtTheMouseOpensAndCloses) {
     EXPECT_EQ(popupLinkCode("1i2", {}),
               "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1i1', '2', event)\" "

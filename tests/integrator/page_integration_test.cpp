@@ -113,6 +113,19 @@ TEST(PageIntegratorTest, BackupIsThePageAsItWasAndReplacesAnOlderOne) {
               (Disk{{"/web/a.htm", rewritten(kPage).page}, {"/web/a.htm.bak", kPage}}));
 }
 
+TEST(PageIntegratorTest, ThePageMayBeALinkButItsBackupAndTemporaryFileTakeThePlaceOfOne) {
+    Desk desk(kWithBackups);
+    desk.files.addFile("/home/page.htm", kPage);
+    desk.files.addFile("/home/rc", "mine");
+    desk.files.addLink("/web/a.htm", "/home/page.htm");
+    desk.files.addLink("/web/a.htm.bak", "/home/rc");
+    desk.files.addLink("/web/~qxtmp.htm", "/home/rc");
+    desk.integrate({"a.htm"});
+    EXPECT_EQ(desk.files.allFiles(), (Disk{{"/home/page.htm", rewritten(kPage).page},
+                                           {"/home/rc", "mine"},
+                                           {"/web/a.htm.bak", kPage}}));
+}
+
 TEST(PageIntegratorTest, ReportNamesWhatWasNotFoundAndThePageIsReplacedAllTheSame) {
     Desk desk(kWithBackups);
     desk.addPage("a.htm", "<head><p>a</p>");

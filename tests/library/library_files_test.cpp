@@ -26,6 +26,16 @@ TEST(CopyLibraryFileTest, ReplacesAnOlderDestination) {
     EXPECT_EQ(files.allFiles().at("/site/a.js"), "new");
 }
 
+TEST(CopyLibraryFileTest, TakesThePlaceOfALink) {
+    FakeFileSystem files;
+    files.addFile("/program/a.js", "new");
+    files.addFile("/home/rc", "mine");
+    files.addLink("/site/a.js", "/home/rc");
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::Copied);
+    EXPECT_EQ(files.allFiles().at("/site/a.js"), "new");
+    EXPECT_EQ(files.allFiles().at("/home/rc"), "mine");
+}
+
 TEST(CopyLibraryFileTest, DoesNothingWhenBothPathsNameOneFileOfTheDisk) {
     FakeFileSystem disk;
     disk.addFile("/Program/A.js", "one");

@@ -56,6 +56,15 @@ TEST(ProgramFolderTest, OfASystemWideInstallationIsTheUsersAndFilledFromIt) {
     EXPECT_FALSE(files.FileExists(kUserFolder + "/zevmenu"));
 }
 
+TEST(ProgramFolderTest, TheUsersCopiesTakeThePlaceOfLinks) {
+    FakeFileSystem files = systemWide();
+    files.addFile("/home/anna/rc", "mine");
+    files.addLink(kUserFolder + "/zevmenu.html", "/home/anna/rc");
+    ASSERT_TRUE(findProgramFolder(files, "/usr/bin/zevmenu", kUserFolder).isOk());
+    EXPECT_EQ(files.allFiles().at("/home/anna/rc"), "mine");
+    EXPECT_EQ(files.allFiles().at(kUserFolder + "/zevmenu.html"), "zevmenu.html");
+}
+
 TEST(ProgramFolderTest, BringsFilesUpToDateThatDifferFromTheInstalledOnes) {
     FakeFileSystem files = systemWide();
     ASSERT_TRUE(findProgramFolder(files, "/usr/bin/zevmenu", kUserFolder).isOk());

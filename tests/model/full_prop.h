@@ -32,6 +32,10 @@ inline MenuProp FullProp() {
     prop.FilterOpacity = "80";
     prop.FilterShadow = "#444444";
     prop.FilterFade = "2";
+    prop.marker = "<b>+</b>";
+    prop.fold = "640";
+    prop.openDelay = "120";
+    prop.label = "Shop";
     return prop;
 }
 

@@ -181,6 +181,30 @@ TEST(CheckRange, RefusesWhatIsNoNumber) {
     EXPECT_NE(CheckRange(std::string_view("1\0", 2), 0, 10).message, "");
 }
 
+TEST(CheckWholeRange, LetsNothingAndWholeNumbersInsideTheRangePassUnchanged) {
+    for (const std::string text : {"", "0", "10000", "640", "+7", "1e3", "5.0", "640."}) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(checkWholeRange(text, 0, 10000), (CheckedText{text, ""}));
+    }
+    EXPECT_EQ(checkWholeRange(" 640 ", 0, 10000), (CheckedText{"640", ""}));
+}
+
+TEST(CheckWholeRange, RefusesFractionsAndSaysThatItWantsAWholeNumber) {
+    const CheckedText refused{"", "Please enter a whole number between 0 and 10000"};
+    for (const std::string_view text : {"2.5", ".5", " 2.5", "25e-1", "9999.99"}) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(checkWholeRange(text, 0, 10000), refused);
+    }
+}
+
+TEST(CheckWholeRange, RefusesAllElseAsTheRangeDoes) {
+    for (const std::string_view text : {"-1", "10001", "10000.5", "x", "-", "1e999"}) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(checkWholeRange(text, 0, 10000), CheckRange(text, 0, 10000));
+        EXPECT_NE(checkWholeRange(text, 0, 10000).message, "");
+    }
+}
+
 TEST(CheckInteger, LetsEmptyTextAndWhatRoundsToASigned16BitIntegerPassUnchanged) {
     for (const std::string text : {"", "0", "-3", "2.5", "32767", "-32768", "32767.4", "-32768.5",
                                    "1e4", "+5", "7.", "0.0001"}) {

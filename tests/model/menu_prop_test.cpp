@@ -18,7 +18,9 @@ TEST(MenuProp, AFreshSetIsEmpty) {
           &MenuProp::NBgColor,      &MenuProp::NFtColor,     &MenuProp::Spacing,
           &MenuProp::Target,        &MenuProp::FontFamily,   &MenuProp::FontSize,
           &MenuProp::CellPadding,   &MenuProp::MenuOffset,   &MenuProp::CloseDelay,
-          &MenuProp::FilterOpacity, &MenuProp::FilterShadow, &MenuProp::FilterFade})
+          &MenuProp::FilterOpacity, &MenuProp::FilterShadow, &MenuProp::FilterFade,
+          &MenuProp::marker,        &MenuProp::fold,         &MenuProp::openDelay,
+          &MenuProp::label})
         EXPECT_EQ(prop.*member, "");
     EXPECT_FALSE(prop.FontStyle || prop.FontWeight || prop.FontSet);
     EXPECT_EQ(prop.Position, 0);
@@ -55,6 +57,10 @@ TEST(MenuPropSetDefault, LeavesMembersWithoutAFactoryDefaultAlone) {
     EXPECT_EQ(prop.FilterOpacity, full.FilterOpacity);
     EXPECT_EQ(prop.FilterShadow, full.FilterShadow);
     EXPECT_EQ(prop.FilterFade, full.FilterFade);
+    EXPECT_EQ(prop.marker, full.marker);
+    EXPECT_EQ(prop.fold, full.fold);
+    EXPECT_EQ(prop.openDelay, full.openDelay);
+    EXPECT_EQ(prop.label, full.label);
     EXPECT_TRUE(prop.FontSet);
     EXPECT_EQ(prop.BgImg, "");
     EXPECT_EQ(prop.Spacing, "");

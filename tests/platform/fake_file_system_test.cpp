@@ -10,10 +10,10 @@ constexpr std::uint64_t kNoLimit = UINT64_MAX;
 TEST(FakeFileSystemTest, KeepsWhatIsWritten) {
     FakeFileSystem files;
     files.addFolder("/web");
-    EXPECT_FALSE(files.writeFile("/web/a.js", "one"));
+    EXPECT_FALSE(files.writeFile("/web/a.js", "one", Links::Followed));
     EXPECT_TRUE(files.FileExists("/web/a.js"));
     EXPECT_EQ(files.readFile("/web/a.js", kNoLimit).value(), "one");
-    EXPECT_FALSE(files.CopyFile("/web/a.js", "/web/b.js"));
+    EXPECT_FALSE(files.CopyFile("/web/a.js", "/web/b.js", Links::Followed));
     EXPECT_FALSE(files.DeleteFile("/web/a.js"));
     EXPECT_FALSE(files.FileExists("/web/a.js"));
     EXPECT_EQ(files.allFiles().at("/web/b.js"), "one");
@@ -23,8 +23,24 @@ TEST(FakeFileSystemTest, KnowsDriveLetterPaths) {
     FakeFileSystem files;
     files.addFile("C:\\web\\a.js", "one");
     EXPECT_TRUE(files.isFolder("C:\\web"));
-    EXPECT_FALSE(files.writeFile("C:\\web\\b.js", "two"));
+    EXPECT_FALSE(files.writeFile("C:\\web\\b.js", "two", Links::Followed));
     EXPECT_EQ(files.listFolder("C:\\web").value(), (std::vector<std::string>{"a.js", "b.js"}));
+}
+
+TEST(FakeFileSystemTest, ALinkIsFollowedOrReplaced) {
+    FakeFileSystem files;
+    files.addFile("/home/rc", "mine");
+    files.addLink("/web/link", "/home/rc");
+    EXPECT_EQ(files.readFile("/web/link", kNoLimit).value(), "mine");
+    EXPECT_FALSE(files.writeFile("/web/link", "new", Links::Followed));
+    EXPECT_EQ(files.allFiles().at("/home/rc"), "new");
+    EXPECT_FALSE(files.writeFile("/web/link", "own", Links::Replaced));
+    EXPECT_EQ(files.allFiles().at("/home/rc"), "new");
+    EXPECT_EQ(files.allFiles().at("/web/link"), "own");
+    files.addLink("/web/other", "/home/rc");
+    EXPECT_FALSE(files.DeleteFile("/web/other"));
+    EXPECT_FALSE(files.FileExists("/web/other"));
+    EXPECT_TRUE(files.FileExists("/home/rc"));
 }
 
 TEST(FakeFileSystemTest, FailsAsARealDiskDoes) {
@@ -37,13 +53,15 @@ TEST(FakeFileSystemTest, FailsAsARealDiskDoes) {
     EXPECT_EQ(files.readFile("/web/b.js", kNoLimit).error().code, Code::NotFound);
     EXPECT_EQ(files.readFile("/web/a.js", 3).error().code, Code::TooLarge);
     EXPECT_TRUE(files.readFile("/web/a.js", 4).isOk());
-    EXPECT_EQ(files.writeFile("/web", "").value().code, Code::IsFolder);
-    EXPECT_EQ(files.writeFile("/nowhere/a.js", "").value().code, Code::NotFound);
-    EXPECT_EQ(files.writeFile("/closed/a.js", "new").value().code, Code::NoPermission);
+    EXPECT_EQ(files.writeFile("/web", "", Links::Followed).value().code, Code::IsFolder);
+    EXPECT_EQ(files.writeFile("/nowhere/a.js", "", Links::Followed).value().code, Code::NotFound);
+    EXPECT_EQ(files.writeFile("/closed/a.js", "new", Links::Followed).value().code,
+              Code::NoPermission);
     EXPECT_EQ(files.DeleteFile("/closed/a.js").value().code, Code::NoPermission);
     EXPECT_EQ(files.makeFolder("/closed/sub").value().code, Code::NoPermission);
-    EXPECT_EQ(files.CopyFile("/web/b.js", "/web/c.js").value().path, "/web/b.js");
-    EXPECT_EQ(files.CopyFile("/web/a.js", "/closed/a.js").value().path, "/closed/a.js");
+    EXPECT_EQ(files.CopyFile("/web/b.js", "/web/c.js", Links::Followed).value().path, "/web/b.js");
+    EXPECT_EQ(files.CopyFile("/web/a.js", "/closed/a.js", Links::Followed).value().path,
+              "/closed/a.js");
     EXPECT_EQ(files.allFiles().at("/closed/a.js"), "old");
 }
 
@@ -61,10 +79,11 @@ TEST(FailingFileSystemTest, BreaksTheOperationWithTheGivenNumber) {
     disk.addFolder("/web");
     FailingFileSystem files(disk);
     files.failOperation(2, {FileError::Code::NoSpace, "/web/b.js", "No space left on device"});
-    EXPECT_FALSE(files.writeFile("/web/a.js", "1"));
+    EXPECT_FALSE(files.writeFile("/web/a.js", "1", Links::Followed));
     EXPECT_TRUE(files.FileExists("/web/a.js"));  // a question, not counted
-    EXPECT_EQ(files.writeFile("/web/b.js", "2").value().code, FileError::Code::NoSpace);
-    EXPECT_FALSE(files.writeFile("/web/c.js", "3"));
+    EXPECT_EQ(files.writeFile("/web/b.js", "2", Links::Followed).value().code,
+              FileError::Code::NoSpace);
+    EXPECT_FALSE(files.writeFile("/web/c.js", "3", Links::Followed));
     EXPECT_FALSE(disk.FileExists("/web/b.js"));
     EXPECT_EQ(files.operationCount(), 3U);
 }
@@ -76,9 +95,9 @@ TEST(FailingFileSystemTest, BreaksEveryOperationOnAPath) {
     FailingFileSystem files(disk);
     files.failPath("/web/a.js", {FileError::Code::Other, "/web/a.js", "Input/output error"});
     EXPECT_FALSE(files.readFile("/web/a.js", kNoLimit).isOk());
-    EXPECT_TRUE(files.writeFile("/web/a.js", "x"));
-    EXPECT_TRUE(files.CopyFile("/web/a.js", "/web/b.js"));
-    EXPECT_TRUE(files.CopyFile("/web/b.js", "/web/a.js"));
+    EXPECT_TRUE(files.writeFile("/web/a.js", "x", Links::Followed));
+    EXPECT_TRUE(files.CopyFile("/web/a.js", "/web/b.js", Links::Followed));
+    EXPECT_TRUE(files.CopyFile("/web/b.js", "/web/a.js", Links::Followed));
     EXPECT_TRUE(files.DeleteFile("/web/a.js"));
     EXPECT_TRUE(files.readFile("/web/b.js", kNoLimit).isOk());
     EXPECT_EQ(disk.allFiles().at("/web/a.js"), "1");

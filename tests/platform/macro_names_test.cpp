@@ -25,7 +25,7 @@ TEST(MacroNamesTest, OperationsKeepTheirNamesAfterAnotherSystemsHeaders) {
     EXPECT_STREQ(EXPANDED(ShellExecute), "ShellExecute");
     FakeFileSystem files;
     files.addFile("/a", "text");
-    EXPECT_FALSE(files.CopyFile("/a", "/b"));
+    EXPECT_FALSE(files.CopyFile("/a", "/b", Links::Followed));
     EXPECT_EQ(files.allFiles().at("/b"), "text");
 }
 

@@ -270,24 +270,24 @@ TEST_F(PosixFileReplaceTest, LeavesTheFilesOfALiveRunAlone) {
 TEST_F(PosixFileReplaceTest, WhatIsLeftDuringARunWaitsUntilItsFolderIsListedAgain) {
     std::filesystem::create_directory(folder / "other");
     FolderLeftovers leftovers;
-    ASSERT_FALSE(replaceFile(folder / "first.htm", "new", leftovers));
+    ASSERT_FALSE(replaceFile(folder / "first.htm", "new", Links::Followed, leftovers));
     const std::string left = folder / ".second.htm.zev-abcdef~";
     makeFile(left, "half");
-    ASSERT_FALSE(replaceFile(folder / "second.htm", "new", leftovers));
+    ASSERT_FALSE(replaceFile(folder / "second.htm", "new", Links::Followed, leftovers));
     EXPECT_TRUE(std::filesystem::exists(left));
-    ASSERT_FALSE(replaceFile(folder / "other/page.htm", "new", leftovers));
-    ASSERT_FALSE(replaceFile(folder / "second.htm", "new", leftovers));
+    ASSERT_FALSE(replaceFile(folder / "other/page.htm", "new", Links::Followed, leftovers));
+    ASSERT_FALSE(replaceFile(folder / "second.htm", "new", Links::Followed, leftovers));
     EXPECT_FALSE(std::filesystem::exists(left));
 }
 
 TEST_F(PosixFileReplaceTest, AfterAFailureTheFolderIsListedAgain) {
     std::filesystem::create_directory(folder / "sub");
     FolderLeftovers leftovers;
-    ASSERT_FALSE(replaceFile(folder / "menu.js", "new", leftovers));
+    ASSERT_FALSE(replaceFile(folder / "menu.js", "new", Links::Followed, leftovers));
     const std::string left = folder / "menu.js.zev-abcdef~";
     makeFile(left, "old");
-    ASSERT_TRUE(replaceFile(folder / "sub", "a folder is no file", leftovers));
-    ASSERT_FALSE(replaceFile(folder / "menu.js", "new", leftovers));
+    ASSERT_TRUE(replaceFile(folder / "sub", "a folder is no file", Links::Followed, leftovers));
+    ASSERT_FALSE(replaceFile(folder / "menu.js", "new", Links::Followed, leftovers));
     EXPECT_FALSE(std::filesystem::exists(left));
 }
 
@@ -297,7 +297,7 @@ TEST_F(PosixFileReplaceTest, OneListOfAFolderServesAllItsFiles) {
         makeFile(folder / ("." + page + ".zev-abcdef~"), "half");
     FolderLeftovers leftovers;
     for (const std::string& page : pages)
-        ASSERT_FALSE(replaceFile(folder / page, "new", leftovers));
+        ASSERT_FALSE(replaceFile(folder / page, "new", Links::Followed, leftovers));
     EXPECT_EQ(namesIn(folder.path()), pages);
 }
 

@@ -2,14 +2,18 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <thread>
 
+#include "platform/posix/posix_descriptor.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_files.h"
@@ -35,9 +39,9 @@ TEST_F(PosixFileSystemTest, ReadsBackEveryByteItWrote) {
     std::string bytes(300'000, 'x');
     for (std::size_t i = 0; i < bytes.size(); ++i)
         bytes[i] = static_cast<char>(i % 256);
-    ASSERT_FALSE(files.writeFile(folder / "a", bytes));
+    ASSERT_FALSE(files.writeFile(folder / "a", bytes, Links::Followed));
     EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), bytes);
-    ASSERT_FALSE(files.writeFile(folder / "a", ""));
+    ASSERT_FALSE(files.writeFile(folder / "a", "", Links::Followed));
     EXPECT_EQ(files.readFile(folder / "a", kLimit).value(), "");
 }
 
@@ -116,7 +120,10 @@ TEST_F(PosixFileSystemTest, RefusesAHugeFileWithoutReadingIt) {
 }
 
 TEST_F(PosixFileSystemTest, StopsReadingAFileThatHasNoSizeAtTheLimit) {
-    EXPECT_EQ(files.readFile("/dev/zero", kLimit).error().code, Code::TooLarge);
+    PosixDescriptor zeros;
+    ASSERT_EQ(openDescriptor("/dev/zero", O_RDONLY, 0, zeros), 0);
+    std::string bytes;
+    EXPECT_EQ(readAll(zeros.get(), kLimit, bytes), EFBIG);
     const auto status = files.readFile("/proc/self/status", kLimit);
     ASSERT_TRUE(status.isOk());
     EXPECT_FALSE(status.value().empty());
@@ -133,8 +140,74 @@ TEST_F(PosixFileSystemTest, ReadsAPipeToItsEnd) {
         }
         close(pipe);
     });
-    EXPECT_EQ(files.readFile(folder / "pipe", kLimit).value(), "one two three");
+    PosixDescriptor pipe;
+    std::string bytes;
+    EXPECT_EQ(openDescriptor(folder / "pipe", O_RDONLY, 0, pipe), 0);
+    EXPECT_EQ(readAll(pipe.get(), kLimit, bytes), 0);
+    EXPECT_EQ(bytes, "one two three");
     writer.join();
+}
+
+void makeSocket(const std::string& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    ASSERT_LT(path.size(), sizeof address.sun_path);
+    path.copy(address.sun_path, path.size());
+    const PosixDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    ASSERT_EQ(bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+}
+
+TEST_F(PosixFileSystemTest, RefusesAtOnceToReadWhatIsNoFile) {
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    makeSocket(folder / "socket");
+    for (const char* const name : {"pipe", "socket"})
+        std::filesystem::create_symlink(name, folder / ("link to " + std::string(name)));
+    std::filesystem::create_symlink("/dev/zero", folder / "link to device");
+    struct Case {
+        std::string path;
+        const char* reason;
+    };
+    const Case cases[] = {
+        {folder / "pipe", "Is a pipe"},     {folder / "link to pipe", "Is a pipe"},
+        {folder / "socket", "Is a socket"}, {folder / "link to socket", "Is a socket"},
+        {"/dev/zero", "Is a device"},       {folder / "link to device", "Is a device"},
+    };
+    for (const Case& c : cases) {
+        const auto result = files.readFile(c.path, kLimit);
+        ASSERT_FALSE(result.isOk()) << c.path;
+        EXPECT_EQ(result.error().path, c.path);
+        EXPECT_EQ(result.error().reason, c.reason) << c.path;
+        const FileOutcome copied = files.CopyFile(c.path, folder / "copy", Links::Followed);
+        ASSERT_TRUE(copied) << c.path;
+        EXPECT_EQ(copied->reason, c.reason) << c.path;
+    }
+}
+
+TEST_F(PosixFileSystemTest, PutsNoFileOfItsOwnInThePlaceOfAPipeOrSocket) {
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    makeSocket(folder / "socket");
+    makeFile(folder / "page", "the page");
+    std::filesystem::create_directory(folder / "folder");
+    struct Case {
+        const char* name;
+        const char* reason;
+    };
+    const Case cases[] = {
+        {"pipe", "Is a pipe"}, {"socket", "Is a socket"}, {"folder", "Is a directory"}};
+    for (const Case& c : cases) {
+        const std::string path = folder / c.name;
+        const auto before = std::filesystem::status(path).type();
+        for (const FileOutcome& error :
+             {files.writeFile(path, "x", Links::Replaced), files.writeTemporaryFile(path, "x"),
+              files.backUpFile(folder / "page", path)}) {
+            ASSERT_TRUE(error) << c.name;
+            EXPECT_EQ(error->path, path);
+            EXPECT_EQ(error->reason, c.reason);
+        }
+        EXPECT_EQ(std::filesystem::status(path).type(), before) << c.name;
+    }
+    EXPECT_EQ(test::namesIn(folder.path()),
+              (std::vector<std::string>{"folder", "page", "pipe", "socket"}));
 }
 
 TEST_F(PosixFileSystemTest, TellsFilesFromFolders) {
@@ -167,6 +240,21 @@ TEST_F(PosixFileSystemTest, KnowsOneFolderByAllItsPaths) {
     EXPECT_FALSE(files.isSameFolder(folder / "file", folder / "file"));
 }
 
+TEST_F(PosixFileSystemTest, KnowsAFileByEveryPath) {
+    makeFile(folder / "file", "x");
+    makeFile(folder / "other", "x");
+    std::filesystem::create_symlink("file", folder / "link");
+    std::filesystem::create_hard_link(folder / "file", folder / "hard");
+    std::filesystem::create_directory(folder / "sub");
+    for (const char* const same : {"file", "link", "hard", "./file", "sub/../file"})
+        EXPECT_TRUE(files.isSameFile(folder / "file", folder / same)) << same;
+    for (const char* const other : {"other", "File", "missing", "sub"})
+        EXPECT_FALSE(files.isSameFile(folder / "file", folder / other)) << other;
+    EXPECT_FALSE(files.isSameFile(folder / "missing", folder / "missing"));
+    EXPECT_FALSE(files.isSameFile(folder / "sub", folder / "sub"));
+    EXPECT_FALSE(files.isSameFile("/dev/null", "/dev/null"));
+}
+
 TEST_F(PosixFileSystemTest, KnowsAFolderThatForbidsNewFiles) {
     if (geteuid() == 0)
         GTEST_SKIP() << "root may write everywhere; see platform.as_ordinary_user";
@@ -178,10 +266,12 @@ TEST_F(PosixFileSystemTest, KnowsAFolderThatForbidsNewFiles) {
 TEST_F(PosixFileSystemTest, CopiesBytesAndNamesTheFileAtFault) {
     makeFile(folder / "a", "content");
     makeFile(folder / "b", "a much longer old content");
-    EXPECT_FALSE(files.CopyFile(folder / "a", folder / "b"));
+    EXPECT_FALSE(files.CopyFile(folder / "a", folder / "b", Links::Followed));
     EXPECT_EQ(contentOf(folder / "b"), "content");
-    EXPECT_EQ(files.CopyFile(folder / "missing", folder / "b").value().path, folder / "missing");
-    EXPECT_EQ(files.CopyFile(folder / "a", folder / "no/b").value().path, folder / "no/b");
+    EXPECT_EQ(files.CopyFile(folder / "missing", folder / "b", Links::Followed).value().path,
+              folder / "missing");
+    EXPECT_EQ(files.CopyFile(folder / "a", folder / "no/b", Links::Followed).value().path,
+              folder / "no/b");
     EXPECT_EQ(contentOf(folder / "b"), "content");
 }
 

@@ -2,12 +2,14 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 
 #include "platform/posix/posix_file_replace.h"
+#include "tests/support/acting_as.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/replace_file.h"
 #include "tests/support/temp_folder.h"
@@ -130,6 +132,70 @@ TEST_F(PosixInPlaceTest, AFileOfSomebodyElseInASharedFolderIsWritten) {
     EXPECT_EQ(contentOf(folder / "shared/a"), "new");
     EXPECT_EQ(inodeOf(folder / "shared/a"), inode);
     EXPECT_EQ(namesIn(folder / "shared"), Names{"a"});
+}
+
+/// Writes the file as somebody else in a folder where everybody may make files.
+struct SharedFileCase {
+    const char* name;
+    uid_t owner;
+    gid_t group;
+    unsigned mode;
+    uid_t writer;
+    std::vector<gid_t> writersGroups;
+};
+
+TEST_F(PosixInPlaceTest, OwnerGroupAndModeStayWhoeverWrites) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "needs root to act for others";
+    constexpr uid_t kAlice = 61001;
+    constexpr uid_t kBob = 61002;
+    constexpr gid_t kWeb = 62001;
+    const SharedFileCase cases[] = {
+        {"not the owner", kAlice, kWeb, 0664, kBob, {kWeb}},
+        {"neither owner nor in the group", kAlice, kWeb, 0646, kBob, {}},
+        {"the owner, not in the group", kAlice, kWeb, 0640, kAlice, {}},
+    };
+    ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
+    ASSERT_EQ(chmod(temporary.c_str(), 0777), 0);
+    for (const SharedFileCase& c : cases) {
+        const std::string path = folder / c.name;
+        makeFile(path, "a longer old content");
+        ASSERT_EQ(chown(path.c_str(), c.owner, c.group), 0);
+        ASSERT_EQ(chmod(path.c_str(), c.mode), 0);
+        FileOutcome error;
+        {
+            const test::ActingAs writer(c.writer, c.writer, c.writersGroups);
+            ASSERT_TRUE(writer.isDone());
+            error = replaceFile(path, "new");
+        }
+        ASSERT_FALSE(error) << c.name << ": " << error->reason;
+        EXPECT_EQ(contentOf(path), "new") << c.name;
+        struct stat status {};
+        ASSERT_EQ(stat(path.c_str(), &status), 0);
+        EXPECT_EQ(status.st_uid, c.owner) << c.name;
+        EXPECT_EQ(status.st_gid, c.group) << c.name;
+        EXPECT_EQ(status.st_mode & 07777, c.mode) << c.name;
+        std::filesystem::remove(path);
+    }
+    EXPECT_EQ(namesIn(folder.path()), Names{"tmp"});
+}
+
+TEST_F(PosixInPlaceTest, AnAttributeThatOnlyRootMaySetStays) {
+    const std::string path = folder / "a";
+    makeFile(path, "old");
+    if (geteuid() != 0 || setxattr(path.c_str(), "security.zev", "label", 5, 0) != 0)
+        GTEST_SKIP() << "such attributes cannot be set here";
+    ASSERT_EQ(chown(path.c_str(), 61001, 61001), 0);
+    ASSERT_EQ(chmod(folder.path().c_str(), 0777), 0);
+    {
+        const test::ActingAs owner(61001, 61001, {});
+        ASSERT_TRUE(owner.isDone());
+        const FileOutcome error = replaceFile(path, "new");
+        EXPECT_FALSE(error) << error->reason;
+    }
+    EXPECT_EQ(contentOf(path), "new");
+    char value[16];
+    EXPECT_EQ(getxattr(path.c_str(), "security.zev", value, sizeof value), 5);
 }
 
 TEST_F(PosixInPlaceTest, AFileThatIsABindMountIsWritten) {

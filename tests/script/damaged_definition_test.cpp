@@ -36,7 +36,7 @@ const std::string kDefinition = Lines({
 
 /// Reads bytes of any kind and checks what must hold however broken they are.
 std::size_t ExpectSoundReading(std::string_view bytes, MenuContent& document) {
-    const std::size_t errorCount = ReadScript(bytes, document).errorCount;
+    const std::size_t errorCount = ReadScript(std::string(bytes), document).errorCount;
     test::ExpectSoundTree(document.tree);
     EXPECT_EQ(static_cast<std::size_t>(document.ItemCounter), document.tree.size());
 

@@ -11,7 +11,7 @@ namespace {
 /// Each line with its number, "1[first]2[second]".
 std::string LinesOf(std::string_view bytes) {
     std::string text;
-    DefinitionLines lines(bytes);
+    DefinitionLines lines{std::string(bytes)};
     std::string_view line;
     while (lines.next(line))
         text += std::to_string(lines.number()) + "[" + std::string(line) + "]";

@@ -146,7 +146,9 @@ TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
     script += "zev_state.columns = 6;\r\n";
 
     MenuContent document;
-    EXPECT_EQ(ReadScript(script, document).errorCount, kCount - kLimit + 1);
+    const ReadResult result = ReadScript(script, document);
+    EXPECT_EQ(result.errorCount, kCount - kLimit + 1);
+    EXPECT_EQ(result.itemsLeftOut, kCount - kLimit);
     EXPECT_EQ(document.tree.size(), kLimit);
     EXPECT_EQ(document.ItemCounter, kMaxItemCounter);
     EXPECT_EQ(document.tree.find("KeyLoad 1")->item.MenuProperty->Columns, "3");
@@ -160,6 +162,28 @@ TEST(LargeDefinition, EachItemBeyondTheLimitIsOneErrorAndTheRestIsRead) {
     EXPECT_EQ(edited.tree().size(), kLimit);
 }
 
+TEST(LargeDefinition, AFullMenuLacksNothing) {
+    std::string script = "zevmenu = new ZEVMenu('0');\r\n";
+    for (int i = 0; i < kMaxItemCounter; ++i)
+        script += "zevmenu.AddItem('Item', '', '');\r\n";
+    MenuContent document;
+    EXPECT_EQ(ReadScript(script, document).itemsLeftOut, 0u);
+}
+
+TEST(LargeDefinition, OfManyWarningsTheFirstAreKeptAndAllAreCounted) {
+    constexpr std::size_t kCount = 50'000;
+    std::string script;
+    for (std::size_t i = 0; i < kCount; ++i)
+        script += "zev\nzevmenu.columns = 1;\n";
+    MenuContent document;
+    const ReadResult result = ReadScript(script, document);
+    EXPECT_EQ(result.errorCount, kCount);
+    EXPECT_EQ(result.lostLineCount, kCount);
+    ASSERT_EQ(result.warnings.size(), kMaxKeptWarnings);
+    EXPECT_EQ(result.warnings.back(),
+              (LineWarning{kMaxKeptWarnings, LineWarning::Reason::UnknownMenu}));
+}
+
 TEST(LargeDefinition, AtTheLimitASubmenusItemsAreErrorsAndItsPropertiesAreRead) {
     std::string script = "zevmenu = new ZEVMenu('0');\r\n";
     for (int i = 0; i < kMaxItemCounter; ++i)
@@ -168,7 +192,9 @@ TEST(LargeDefinition, AtTheLimitASubmenusItemsAreErrorsAndItsPropertiesAreRead) 
     script += "zevmenu.AddItem('a', '', '');\r\nzevmenu.AddItem('b', '', '');\r\n";
     script += "zevmenu = new ZEVMenu('2i2');\r\nzevmenu.AddItem('c', '', '');\r\n";
     MenuContent document;
-    EXPECT_EQ(ReadScript(script, document).errorCount, 3u);
+    const ReadResult result = ReadScript(script, document);
+    EXPECT_EQ(result.errorCount, 3u);
+    EXPECT_EQ(result.itemsLeftOut, 3u);
     EXPECT_EQ(document.tree.find("KeyLoad 2")->item.MenuProperty->Columns, "3");
     EXPECT_FALSE(document.tree.find("KeyLoad 2")->hasChildren());
 }

@@ -62,7 +62,11 @@ TEST(MenuPropGetDefaultText, EveryLineInItsOrderAndFontsWithoutFontSet) {
               "zev_state.fontFamily = 'Courier';\r\n"
               "zev_state.fontSize = '12pt';\r\n"
               "zev_state.fontStyle = 'italic';\r\n"
-              "zev_state.fontWeight = 'bold';\r\n");
+              "zev_state.fontWeight = 'bold';\r\n"
+              "zev_state.marker = '<b>+</b>';\r\n"
+              "zev_state.fold = 640;\r\n"
+              "zev_state.opendelay = 120;\r\n"
+              "zev_state.label = 'Shop';\r\n");
 }
 
 TEST(MenuPropGetDefaultText, AnEmptySetGivesNoLine) {
@@ -186,6 +190,15 @@ TEST(MenuPropGetText, OffsetAndDelayAreNeverWritten) {
     EXPECT_EQ(GetText(prop, MenuProp()), "");
 }
 
+TEST(MenuPropGetText, WhatOnlyTheDefaultsHaveIsNeverWritten) {
+    MenuProp prop = SilentProp();
+    prop.marker = "none";
+    prop.fold = "640";
+    prop.openDelay = "0";
+    prop.label = "Shop";
+    EXPECT_EQ(GetText(prop, MenuProp()), "");
+}
+
 TEST(MenuPropPosition, EachNumberHasItsWordInBothTextsAndBack) {
     struct {
         std::int16_t position;
@@ -232,15 +245,27 @@ TEST(MenuPropSetProperty, EachTextNameSetsItsMemberAndNothingElse) {
         std::string_view name;
         std::string MenuProp::*member;
     } const kCases[] = {
-        {"bgimage", &MenuProp::BgImg},           {"columns", &MenuProp::Columns},
-        {"cellpadding", &MenuProp::CellPadding}, {"divider", &MenuProp::Divider},
-        {"hbgcolor", &MenuProp::HBgColor},       {"hftcolor", &MenuProp::HFtColor},
-        {"htmlAfter", &MenuProp::HTMLAfter},     {"htmlBefore", &MenuProp::HTMLBefore},
-        {"itemborder", &MenuProp::ItemBorder},   {"menuborder", &MenuProp::MenuBorder},
-        {"nbgcolor", &MenuProp::NBgColor},       {"nftcolor", &MenuProp::NFtColor},
-        {"hspacing", &MenuProp::Spacing},        {"target", &MenuProp::Target},
-        {"ffade", &MenuProp::FilterFade},        {"fopacity", &MenuProp::FilterOpacity},
+        {"bgimage", &MenuProp::BgImg},
+        {"columns", &MenuProp::Columns},
+        {"cellpadding", &MenuProp::CellPadding},
+        {"divider", &MenuProp::Divider},
+        {"hbgcolor", &MenuProp::HBgColor},
+        {"hftcolor", &MenuProp::HFtColor},
+        {"htmlAfter", &MenuProp::HTMLAfter},
+        {"htmlBefore", &MenuProp::HTMLBefore},
+        {"itemborder", &MenuProp::ItemBorder},
+        {"menuborder", &MenuProp::MenuBorder},
+        {"nbgcolor", &MenuProp::NBgColor},
+        {"nftcolor", &MenuProp::NFtColor},
+        {"hspacing", &MenuProp::Spacing},
+        {"target", &MenuProp::Target},
+        {"ffade", &MenuProp::FilterFade},
+        {"fopacity", &MenuProp::FilterOpacity},
         {"fshadow", &MenuProp::FilterShadow},
+        {"marker", &MenuProp::marker},
+        {"fold", &MenuProp::fold},
+        {"opendelay", &MenuProp::openDelay},
+        {"label", &MenuProp::label},
     };
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.name);

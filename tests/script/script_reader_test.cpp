@@ -22,7 +22,7 @@ class ReadScriptTest : public testing::Test {
   protected:
     std::size_t read(std::string_view bytes) {
         document = MenuContent();
-        const std::size_t errorCount = ReadScript(bytes, document).errorCount;
+        const std::size_t errorCount = ReadScript(std::string(bytes), document).errorCount;
         test::ExpectSoundTree(document.tree);
         return errorCount;
     }

@@ -64,5 +64,13 @@ TEST(SubmenuIdOf, IsWhatTheLastPairOfParenthesesHolds) {
         EXPECT_EQ(submenuIdOf(entry), "") << entry;
 }
 
+TEST(IsSubmenuId, IsPositionsJoinedByTheLetterI) {
+    for (const char* const id : {"1", "12", "1i2", "10i20i30"})
+        EXPECT_TRUE(isSubmenuId(id)) << id;
+    for (const char* const id : {"", "i", "i1", "1i", "1ii2", "1I2", "1 i2", "-1", "1'", "a", "1\n",
+                                 "1');alert(1);//", "1&#39;", "1\\", "1\">"})
+        EXPECT_FALSE(isSubmenuId(id)) << id;
+}
+
 }  // namespace
 }  // namespace zev

@@ -87,7 +87,7 @@ inline std::string itemsOf(const MenuContent& document) {
 /// is then equal to it and left out, and comes back as a new menu's.
 inline std::string problemOfDefinition(std::string_view bytes) {
     MenuContent document;
-    ReadScript(bytes, document);
+    ReadScript(std::string(bytes), document);
     const std::string items = itemsOf(document);
     std::string written = definitionFileBytes(GenerateScript(document));
     for (std::size_t readings = 0; !isSettled(document); ++readings) {

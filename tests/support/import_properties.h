@@ -19,7 +19,7 @@ namespace zev::test {
 /// The lines of a file that are items of the three formats with colons.
 inline std::size_t colonLineCount(std::string_view bytes) {
     std::size_t count = 0;
-    DefinitionLines lines(bytes);
+    DefinitionLines lines{std::string(bytes)};
     std::string_view line;
     while (lines.next(line))
         count += line.starts_with(':');
@@ -30,7 +30,7 @@ inline std::size_t colonLineCount(std::string_view bytes) {
 inline std::string problemOfWarnings(const std::vector<LineWarning>& warnings,
                                      std::string_view bytes) {
     std::size_t lineCount = 0;
-    DefinitionLines lines(bytes);
+    DefinitionLines lines{std::string(bytes)};
     std::string_view line;
     while (lines.next(line))
         ++lineCount;
@@ -137,7 +137,7 @@ inline bool isSameMenu(const MenuContent& left, const MenuContent& right) {
 inline std::string problemOfImport(std::string_view format, std::string_view bytes) {
     MenuContent document;
     const std::vector<LineWarning> warnings =
-        importMenu(*findImportFormat(format), bytes, document).warnings;
+        importMenu(*findImportFormat(format), std::string(bytes), document).warnings;
     std::string problem = problemOfWarnings(warnings, bytes);
     if (problem.empty())
         problem = problemOfDocument(document);
@@ -148,7 +148,7 @@ inline std::string problemOfImport(std::string_view format, std::string_view byt
     if (!problem.empty())
         return problem;
     MenuContent again;
-    if (importMenu(*findImportFormat(format), bytes, again).warnings != warnings ||
+    if (importMenu(*findImportFormat(format), std::string(bytes), again).warnings != warnings ||
         !isSameMenu(again, document))
         return "imported again it is another menu";
     return "";

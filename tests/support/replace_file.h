@@ -8,9 +8,10 @@
 namespace zev::test {
 
 /// Replaces one file alone: looks for leftovers now.
-inline FileOutcome replaceFile(const std::string& path, std::string_view bytes) {
+inline FileOutcome replaceFile(const std::string& path, std::string_view bytes,
+                               Links links = Links::Followed) {
     FolderLeftovers leftovers;
-    return zev::replaceFile(path, bytes, leftovers);
+    return zev::replaceFile(path, bytes, links, leftovers);
 }
 
 }  // namespace zev::test

@@ -10,6 +10,10 @@ zev_state.closedelay = 500;
 zev_state.position = 'bottom';
 zev_state.fontFamily = 'Verdana';
 zev_state.fontSize = '9pt';
+zev_state.marker = '<img src="mark.gif" alt="">';
+zev_state.fold = 640;
+zev_state.opendelay = 120;
+zev_state.label = 'Bob\'s shop';
 
 zevmenu = new ZEVMenu('0');
 zevmenu.columns = 3;

@@ -1,0 +1,12 @@
+zev_state.label = 'Caf&eacute; menu';
+zev_state.opendelay = '0';
+  zev_state.fold=640;
+zev_state.marker = "none";
+zev_state.Label = 'Other';
+zev_state.columns = 2;
+zevmenu = new ZEVMenu('0');
+zevmenu.marker = '<b>+</b>';
+zevmenu.fold = 300;
+zevmenu.opendelay = 300;
+zevmenu.label = 'Top';
+zevmenu.AddItem('A', '', '');
