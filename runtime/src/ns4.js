@@ -11,16 +11,12 @@ var shared = window.ZEVMenu && ZEVMenu.shared;
 if (!shared || shared.isModern || shared.writeLinks) return;
 var menus = shared.state.menus, isWritten = false;
 
-function text(value) {
-    return typeof value == 'string' ? value : '';
-}
-
 function attribute(name, value) {
     return value ? ' ' + name + '="' + value.replace(/"/g, '&quot;') + '"' : '';
 }
 
 function linkOf(menu, item) {
-    var caption = item.caption, target = item.target || text(menu.target);
+    var caption = item.caption, target = item.target || shared.setting(menu, 'target');
     if (item.imageOut) {
         caption = '<img border="0"' + attribute('src', item.imageOut) +
             attribute('alt', shared.nameFromFiles(item)) + '>';

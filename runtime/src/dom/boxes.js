@@ -31,9 +31,9 @@ function isOpen(link) {
 
 // An attribute of null is taken away.
 function mark(element, attributes) {
-    Object.keys(attributes).forEach(name => {
-        if (attributes[name] == null) element.removeAttribute(name);
-        else element.setAttribute(name, attributes[name]);
+    Object.entries(attributes).forEach(([name, value]) => {
+        if (value == null) element.removeAttribute(name);
+        else element.setAttribute(name, value);
     });
 }
 
@@ -83,7 +83,7 @@ function findCurrent(menu, here) {
     return menu.zevItems.filter((item, index) => {
         if (!item) return false;
         const below = state.menus[shared.submenuId(menu, index + 1)], isOnWay = below && findCurrent(below, here);
-        return (item.zevCurrent = pageAt(menu, item.url) == here ? 'page' : isOnWay ? 'true' : null);
+        return (item.zevCurrent = pageAt(menu, item.url) == here ? 'page' : isOnWay ? true : null);
     }).length;
 }
 
@@ -91,7 +91,7 @@ function lookUpCurrent() {
     state.looking ||= whenIdle(() => {
         const { menus, barBox } = state, top = menus['0'];
         state.looking = 0;
-        if (top) findCurrent(top, location.href.split('#')[0]);
+        if (top) findCurrent(top, pageAt(top, location.href));
         [barBox, ...Object.values(menus).map(menu => menu.zevBox)].forEach(box => box && linksOf(box).forEach(markCurrent));
     });
 }
@@ -141,9 +141,8 @@ function buildAhead(box) {
     if (!box || document.readyState != 'complete') return;
     const isRunning = state.ahead.length;
     state.ahead = linksOf(box).map(submenuOf)
-        .filter(menu => menu && !menu.zevBox && !state.ahead.includes(menu) &&
-                menu.zevItems.length <= fixed.itemsAhead)
-        .slice(0, fixed.menusAhead).concat(state.ahead);
+        .filter(menu => menu && !menu.zevBox && menu.zevItems.length <= itemsAhead)
+        .slice(0, menusAhead).concat(state.ahead);
     if (!isRunning) buildWhenIdle();
 }
 

@@ -15,7 +15,7 @@ function adoptFold() {
 // The focus goes with what stands for its place.
 function refold() {
     const { bar, barBox, fold, foldLink } = state, link = focused();
-    const hadFocus = link == foldLink || barBox.contains(link) || depthAt(link) > 0;
+    const hadFocus = link == foldLink || boxAt(link);
     closeFrom(0);
     mark(bar, { 'data-folded': fold.matches ? '' : null });
     if (hadFocus) (fold.matches ? foldLink : linksOf(barBox).find(item => item.tabIndex == 0)).focus();
@@ -27,11 +27,6 @@ function putBack(box) {
     box.classList.remove('folded');
     mark(box, { role: 'menubar' });
     orient(box);
-    Object.assign(box.style, { width: '', maxWidth: '', maxHeight: '', overflowY: '', left: '', top: '' });
+    Object.assign(box.style, unplaced);
     state.bar.shadowRoot.lastChild.appendChild(box);
-}
-
-// On paper it is a list.
-function onPrint() {
-    if (state.levels[0].isFolded) closeFrom(0);
 }

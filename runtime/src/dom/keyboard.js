@@ -15,10 +15,14 @@ function enter(box, isAtEnd) {
     if (links.length) moveTo(links[isAtEnd ? links.length - 1 : 0]);
 }
 
-function openAndEnter(link, isAtEnd) {
-    openSubmenu(link);
+function enterFrom(link, isAtEnd) {
     const level = state.levels[depthAt(link)];
     if (level?.opener == link) enter(level.box, isAtEnd);
+}
+
+function openAndEnter(link, isAtEnd) {
+    openSubmenu(link);
+    enterFrom(link, isAtEnd);
 }
 
 function moveTo(target) {
@@ -49,7 +53,7 @@ function onArrow(link, direction) {
 
 function goBeyond(link, reading) {
     const root = state.levels[0]?.opener;
-    const isGridEnd = !isList(boxAt(link)) && boxAt(link).classList.contains('grid') && !isBeside(reading);
+    const isGridEnd = boxAt(link).matches('.grid:not(.inside,.folded)') && !isBeside(reading);
     const next = depthAt(link) && root?.zevSubmenu && !isGridEnd && nextLink(root, reading);
     if (next) moveTo(next);
 }
@@ -58,7 +62,7 @@ const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', Ar
 
 // A space belongs to typing only after letters.
 function onLetter(link, event) {
-    const isMore = event.timeStamp - state.typed.time < fixed.typingMs;
+    const isMore = event.timeStamp - state.typed.time < typingMs;
     if (event.key.length != 1 || (event.key == ' ' && !isMore)) return false;
     const links = linksOf(boxAt(link)), text = (isMore ? state.typed.text : '') + event.key;
     const next = links[typeAhead(links.map(other => other.zevName), links.indexOf(link), text)];
@@ -82,14 +86,12 @@ function onKeyDown(event) {
     // Tab goes on from where closing puts the focus. WebKit names Shift+Tab only by its code.
     if (key == 'Tab' || event.code == 'Tab') return closeFrom(0);
     if (link == state.foldLink) {
-        if (!['Enter', ' ', 'ArrowDown', 'ArrowUp'].includes(key)) return;
+        if (!/^(Enter| |Arrow(Down|Up))$/.test(key)) return;
         openAndEnter(link, key == 'ArrowUp');
     } else if (/^Arrow/.test(key)) {
         onArrow(link, arrows[key]);
-    } else if (key == 'Home') {
-        enter(boxAt(link));
-    } else if (key == 'End') {
-        enter(boxAt(link), true);
+    } else if (key == 'Home' || key == 'End') {
+        enter(boxAt(link), key == 'End');
     } else if (!onLetter(link, event)) {
         if (key != ' ' && key != 'Enter') return;
         if (key == 'Enter' && link.hasAttribute('href')) return followByKey();

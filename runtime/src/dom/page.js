@@ -7,11 +7,12 @@ function listen(target, isOn, listeners, isCapturing) {
 
 // The documents of a page and its frames, as far as they are the site's own.
 function documentsIn(page) {
-    const frames = [...page.querySelectorAll('iframe,frame')].map(frame => frame.contentDocument);
-    return [page, ...frames.filter(Boolean).flatMap(documentsIn)];
+    if (!page) return [];
+    const frames = [...page.querySelectorAll('iframe,frame')];
+    return [page, ...frames.flatMap(frame => documentsIn(frame.contentDocument))];
 }
 
-function onBlur() {
+function closeAll() {
     closeFrom(0);
 }
 
@@ -23,7 +24,7 @@ function watch(isOn) {
     state.watched.forEach(page => listen(page, isOn, { pointerdown: onOutside }, true));
     listen(document, isOn, { keydown: onEscape }, true);
     listen(window, isOn, { scroll: placeAll }, true);
-    listen(window, isOn, { resize: placeAll, blur: onBlur, beforeprint: onPrint });
+    listen(window, isOn, { resize: placeAll, blur: closeAll, beforeprint: closeAll });
 }
 
 // The top menu, or the layer of the submenus.
@@ -42,7 +43,7 @@ shared.serve = function (isOn) {
         pointerdown: onPress, click: onPageClick, keydown: onPageKey, mouseover: onArrival, focusin: onArrival,
         mouseout: onLeaving, DOMContentLoaded: finish
     });
-    listen(window, isOn, { load: onLoad });
+    listen(window, isOn, { load: shared.refresh });
 };
 
 shared.adoptBar = function () {
@@ -71,14 +72,11 @@ function finish() {
     });
 }
 
-function onLoad() {
-    buildAhead(state.barBox);
-}
-
 shared.refresh = function () {
     lookUpCurrent();
     if (document.readyState != 'loading') finish();
     placeAll();
+    buildAhead(state.barBox);
 };
 
 shared.stop = function () {
@@ -88,12 +86,11 @@ shared.stop = function () {
     [state.building, state.looking].forEach(window.cancelIdleCallback || clearTimeout);
     shared.serve(false);
     if (barBox) attend(bar, false);
-    if (layer) {
-        attend(layer, false);
-        layer.remove();
-    }
+    if (layer) attend(layer, false);
+    layer?.remove();
     document.querySelectorAll('[aria-haspopup]').forEach(release);
     Object.values(state.menus).forEach(menu => { menu.zevBox = null; });
+    clearState();
 };
 
 if (!state.isRemoved) {

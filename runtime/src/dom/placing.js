@@ -27,17 +27,15 @@ function anchorOf(level) {
     return { left: x, right: x, top: y, bottom: y };
 }
 
-function frameSize() {
-    const root = document.scrollingElement || document.documentElement;
-    return { width: root.clientWidth, height: root.clientHeight };
-}
+// What takes the place of a box in the layer away again.
+const unplaced = { width: '', maxWidth: '', maxHeight: '', overflowY: '', left: '', top: '' };
 
-// Into the layer or after an item. What is moved would lose the focus.
-function move(box, isMisplaced, insert) {
-    if (!isMisplaced) return;
-    const link = box.contains(focused()) ? focused() : null;
-    insert(box);
-    link?.focus();
+// Into the layer, or into the line of an item. What is moved would lose the focus.
+function move(box, home, next) {
+    if (box.parentNode == home) return;
+    const link = box.contains(focused()) && focused();
+    home.insertBefore(box, next);
+    if (link) link.focus();
 }
 
 // Of the layer, where `origin` is its rectangle in the window.
@@ -49,9 +47,9 @@ function pixels(length, origin) {
 function lay({ box, isFolded }, frame) {
     const { style } = box, { shadowRoot } = state.layer, maxWidth = pixels(frame.width, rectOf(state.layer));
     box.classList.remove('inside');
-    move(box, box.parentNode != shadowRoot, () => shadowRoot.appendChild(box));
+    move(box, shadowRoot, null);
     box.hidden = false;
-    Object.assign(style, { maxWidth, maxHeight: '', overflowY: '' });
+    Object.assign(style, unplaced, { maxWidth });
     if (!isFolded) return;
     box.classList.add('folded');
     mark(box, { role: 'menu' });
@@ -68,7 +66,8 @@ function spotOf(level) {
     const parent = opener?.zevSubmenu && boxAt(opener);
     box.dir = isRtl ? 'rtl' : 'ltr';
     if (parent && isAccordion(parent)) return { side: 'inside' };
-    const frame = frameSize(), isFixed = isHolder(level);
+    const root = document.scrollingElement || document.documentElement;
+    const frame = { width: root.clientWidth, height: root.clientHeight }, isFixed = isHolder(level);
     if (!level.size || level.side != 'inside') {
         lay(level, frame);
         level.size = rectOf(box);
@@ -95,11 +94,10 @@ function placeLevel(level) {
 
 // In the flow, below its item.
 function placeInside({ box, opener }) {
-    const { style } = box;
     box.classList.add('inside');
     box.hidden = false;
-    style.maxWidth = style.maxHeight = style.overflowY = '';
-    move(box, opener.nextSibling != box, () => opener.after(box));
+    Object.assign(box.style, unplaced);
+    move(box, opener.parentNode, opener.nextSibling);
     orient(box);
 }
 
@@ -113,29 +111,30 @@ function settle(shown) {
     holder.box.scrollTop += Math.min(Math.max(0, bottom - frame.bottom), top - frame.top);
 }
 
-function fade(level, direction, onEnd) {
+function fade({ menu, box }, isOpening) {
     // A short opening, where none is written.
-    const seconds = setting(level.menu, 'ffade'), isCalm = seconds === '' && direction == 'reverse';
-    const duration = isCalm ? fixed.openingMs : seconds * 1000;
-    level.box.zevFading?.cancel();
-    if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return onEnd();
+    const seconds = setting(menu, 'ffade'), isCalm = seconds === '' && isOpening;
+    const duration = isCalm ? openingMs : seconds * 1000;
+    const end = () => { box.hidden = !isOpening; };
+    box.zevFading?.cancel();
+    if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return end();
     // What measures colours at such a short moment is not to take it for the menu's own.
-    const end = isCalm ? { filter: 'opacity(0)' } : { opacity: 0 };
-    level.box.zevFading = level.box.animate([{}, end], { duration, direction });
-    level.box.zevFading.onfinish = onEnd;
+    const look = isCalm ? { filter: 'opacity(0)' } : { opacity: 0 };
+    box.zevFading = box.animate(isOpening ? [look, {}] : [{}, look], duration);
+    box.zevFading.onfinish = end;
 }
 
 // Closes a level whose opener goes out of sight; an image's area has no box to be watched.
 function follow(level) {
-    if (!level.opener?.getClientRects().length) return;
+    const { opener, box } = level;
+    if (!opener?.getClientRects().length) return;
     level.observer = new IntersectionObserver(entries => {
         // -1 if closed, but told in spite of disconnect().
         const index = state.levels.indexOf(level);
-        if (level.opener.isConnected && isSteady(index)) return;
-        const isLeft = !level.opener.isConnected || !level.box.contains(focused());
-        if (index >= 0 && isLeft && !entries[entries.length - 1].isIntersecting) closeFrom(index);
+        const isHeld = opener.isConnected && (isSteady(index) || box.contains(focused()));
+        if (index >= 0 && !isHeld && !entries.pop().isIntersecting) closeFrom(index);
     });
-    level.observer.observe(level.opener);
+    level.observer.observe(opener);
 }
 
 function placeAll(event) {
@@ -144,9 +143,8 @@ function placeAll(event) {
 
 // What is open in the layer is a landmark.
 function nameLayer() {
-    const [first] = state.levels, isUsed = first && !isInside(first);
-    mark(state.layer, { role: isUsed ? 'navigation' : null,
-                        'aria-label': isUsed ? first.box.getAttribute('aria-label') || '' : null });
+    const [first] = state.levels, box = first && !isInside(first) && first.box;
+    mark(state.layer, { role: box ? 'navigation' : null, 'aria-label': box && box.getAttribute('aria-label') || null });
 }
 
 // The mark points to where the submenu is, or will be.
@@ -166,7 +164,7 @@ function show(level) {
     turnMark(level, level.side);
     nameLayer();
     if (state.levels.length == 1) watch(true);
-    fade(level, 'reverse', () => {});
+    fade(level, true);
     buildAhead(box);
 }
 
@@ -186,7 +184,7 @@ function hide(level) {
         putBack(box);
     } else {
         box.style.pointerEvents = 'none';
-        fade(level, 'normal', () => { box.hidden = true; });
+        fade(level);
     }
     nameLayer();
     if (!state.levels.length) watch(false);

@@ -6,18 +6,17 @@ const anyLink = 'a,area,button,input,[tabindex],' + popupLinks;
 
 // Known by its attributes, or from its first call on.
 function popupLinkAt({ target }) {
-    return (target instanceof Element && target.closest(popupLinks)) || around(target, 'zevPopup');
+    return target.closest?.(popupLinks) || around(target, 'zevPopup');
 }
 
 const popupMarks = ['aria-expanded', 'aria-haspopup', 'tabindex', 'role'];
 
 function adopt(link) {
-    link.zevOwn ??= Object.fromEntries(popupMarks.map(name => [name, link.getAttribute(name)]));
-    if (!link.hasAttribute('aria-expanded')) mark(link, { 'aria-expanded': false });
-    mark(link, { 'aria-haspopup': true });
+    if (link.zevOwn) return;
+    link.zevOwn = Object.fromEntries(popupMarks.map(name => [name, link.getAttribute(name)]));
+    mark(link, { 'aria-haspopup': true, 'aria-expanded': false });
     if (link.matches('[href],button,input,[tabindex]')) return;
-    link.tabIndex = 0;
-    if (!link.hasAttribute('role')) mark(link, { role: 'button' });
+    mark(link, { tabindex: 0, role: link.zevOwn.role || 'button' });
 }
 
 function release(link) {
@@ -35,8 +34,7 @@ shared.openPopup = function (call) {
         return;
     }
     if (!menu) return warn(`ZEVMenuOpen: there is no submenu "${id}"`);
-    const isLink = call.link instanceof Element && call.link.matches(anyLink);
-    const link = isLink ? call.link : actingLink;
+    const link = call.link?.matches?.(anyLink) ? call.link : actingLink;
     if (link) {
         link.zevPopup = call.of;
         adopt(link);
@@ -49,7 +47,7 @@ shared.openPopup = function (call) {
         menu, box: ensureBox(menu, link), opener: link,
         point: isBelow ? null : { x: +x || 0, y: +y || 0 },
         wish: isBelow ? 'bottom' : isEvent ? realSide('right', isRtlAt(document.body)) : '',
-        offset: isBelow || !isEvent ? 0 : fixed.besideMousePx
+        offset: isBelow || !isEvent ? 0 : besideMousePx
     });
 };
 
@@ -107,7 +105,7 @@ function hasOwnAddress(link) {
 // On a button the mouse is a finger; its first click keeps open what its arrival there opened.
 function pressOn(link) {
     const press = takePress();
-    if (press.pointer != 'mouse' || !link.matches('button[data-zev-popup],input[data-zev-popup]')) return press;
+    if (press.pointer != 'mouse' || !link.matches(':is(button,input)[data-zev-popup]')) return press;
     return { pointer: 'touch', wasOpen: isOpen(link) && state.levels[0].isClicked };
 }
 
@@ -123,20 +121,16 @@ function onPageClick(event) {
     if (meaning == 'close') return closeFrom(0);
     if (meaning == 'follow') return;
     if (isOpen(link) || openFrom(link, event)) state.levels[0].isClicked = true;
-    if (meaning == 'enter') enterPopup(link);
-}
-
-function enterPopup(link) {
-    if (isOpen(link)) enter(state.levels[0].box);
+    if (meaning == 'enter') enterFrom(link);
 }
 
 function onPageKey(event) {
     const link = popupLinkAt(event), { key } = event;
     if (!link || hasModifier(event)) return;
     if (key == 'Enter' && hasOwnAddress(link)) return followByKey();
-    if (!['Enter', 'ArrowDown', ' '].includes(key) || !openFrom(link, event)) return;
+    if (!/^(Enter| |ArrowDown)$/.test(key) || !openFrom(link, event)) return;
     event.preventDefault();
-    enterPopup(link);
+    enterFrom(link);
 }
 
 function openEarly() {

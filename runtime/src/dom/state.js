@@ -56,14 +56,14 @@ shared.closePopup = function (of) {
 function pointAt(box, link, point) {
     const { over: was, lastPoint: before, crossing } = state;
     state.lastPoint = point;
-    if (!box || (was && was.link == link && was.box == box && !crossing)) return;
+    if (!box || (was?.box == box && was.link == link && !crossing)) return;
     state.over = { box, link };
     // On its way to a submenu the mouse may cross other items.
-    const from = crossing ? crossing.from : before, level = state.levels[depthOf(box)];
+    const from = crossing?.from || before, level = state.levels[depthOf(box)];
     dropCrossing();
     if (was && level && level.opener != link &&
         isHeadedFor(from, point, rectOf(level.box), level.side)) {
-        state.crossing = { from, timer: setTimeout(hover, fixed.restMs) };
+        state.crossing = { from, timer: setTimeout(hover, restMs) };
     } else {
         hover();
     }
@@ -115,7 +115,7 @@ function meaningOfArrow({ direction, reading, side, own, isTop }) {
     if (side == direction || (side == 'inside' && reading == 'right')) return 'enter';
     if (own == 'inside' ? reading == 'left' : own && own == opposite[direction]) return 'close';
     if (side && isTop && side == opposite[direction]) return 'enterLast';
-    if (side && side != 'inside' && (reading == 'right' || reading == 'bottom')) return 'enter';
+    if (side && side != 'inside' && isForward(reading)) return 'enter';
     // From a submenu below a row the key goes on to the row's neighbour.
     return own == 'inside' ? '' : 'beyond';
 }

@@ -6,6 +6,11 @@ function isBeside(side) {
     return side == 'right' || side == 'left';
 }
 
+// To the right or down.
+function isForward(side) {
+    return side == 'right' || side == 'bottom';
+}
+
 function realSide(side, isRtl) {
     return isRtl && isBeside(side) ? opposite[side] : side;
 }
@@ -13,13 +18,6 @@ function realSide(side, isRtl) {
 // Moves a length into 0 to `limit`; its start wins if it is too long.
 function shift(start, length, limit) {
     return Math.max(0, Math.min(start, limit - length));
-}
-
-// How much of the window is on each side of the anchor.
-function roomsAround(anchor, offset, { width, height }) {
-    return { right: Math.min(width - anchor.right - offset, width), left: Math.min(anchor.left - offset, width),
-             bottom: Math.min(height - anchor.bottom - offset, height),
-             top: Math.min(anchor.top - offset, height) };
 }
 
 // The wished side, or the opposite one if only that has room. If neither has: in a list inside it, beside
@@ -39,15 +37,18 @@ function sideOf(rooms, size, wish, kind) {
  * list, 'fixed' where the box is to stay on the side of its wish.
  */
 function place(anchor, size, wish, offset, frame, isRtl, kind) {
-    const rooms = roomsAround(anchor, offset, frame), side = sideOf(rooms, size, wish, kind);
-    const isStacked = side == 'bottom' || side == 'top';
-    const limit = isStacked ? Math.max(rooms[side], fixed.rowPx) : frame.height;
-    const width = Math.min(size.width, frame.width), height = Math.min(size.height, limit);
-    const starts = { right: anchor.right + offset, left: anchor.left - offset - width,
-                     bottom: anchor.bottom + offset, top: anchor.top - offset - height };
-    const spot = { left: isRtl && side ? anchor.right - width : anchor.left, top: anchor.top };
-    if (side in starts) spot[isBeside(side) ? 'left' : 'top'] = starts[side];
-    return { left: shift(spot.left, width, frame.width), top: shift(spot.top, height, frame.height),
+    // The anchor with its distance, and how much of the window is on each side of it.
+    const right = anchor.right + offset, left = anchor.left - offset;
+    const bottom = anchor.bottom + offset, top = anchor.top - offset;
+    const rooms = { right: Math.min(frame.width - right, frame.width), left: Math.min(left, frame.width),
+                    bottom: Math.min(frame.height - bottom, frame.height), top: Math.min(top, frame.height) };
+    const side = sideOf(rooms, size, wish, kind);
+    const limit = side in rooms && !isBeside(side) ? Math.max(rooms[side], rowPx) : frame.height;
+    const { width } = size, height = Math.min(size.height, limit);
+    const starts = { left: isRtl && side ? anchor.right - width : anchor.left, top: anchor.top };
+    if (isBeside(side)) starts.left = side == 'right' ? right : left - width;
+    else if (side in rooms) starts.top = side == 'bottom' ? bottom : top - height;
+    return { left: shift(starts.left, width, frame.width), top: shift(starts.top, height, frame.height),
              width: isBeside(side) ? rooms[side] : frame.width, height: limit, side };
 }
 
@@ -60,7 +61,7 @@ function unzoomed(length, origin, ruler) {
 function isHeadedFor(from, to, box, side) {
     const [along, across, start, end] = isBeside(side)
         ? ['x', 'y', 'top', 'bottom'] : ['y', 'x', 'left', 'right'];
-    const apex = from[along] + (side == 'right' || side == 'bottom' ? -2 : 2), slack = 8;
+    const apex = from[along] + (isForward(side) ? -2 : 2), slack = 8;
     const part = (to[along] - apex) / (box[opposite[side]] - apex);
     const way = to[across] - from[across];
     return part >= 0 && part <= 1 && way >= part * (box[start] - slack - from[across]) &&
@@ -69,7 +70,7 @@ function isHeadedFor(from, to, box, side) {
 
 // A column or row goes round at its ends; -1 is outside.
 function neighbour(index, count, columns, direction) {
-    const step = direction == 'right' || direction == 'bottom' ? 1 : -1;
+    const step = isForward(direction) ? 1 : -1;
     const isAlongRow = isBeside(direction);
     if (columns == 1 || columns >= count) {
         return isAlongRow == (columns == 1) ? -1 : (index + step + count) % count;
@@ -81,7 +82,7 @@ function neighbour(index, count, columns, direction) {
 
 // One letter, also repeated, goes on to the next name; more letters may stay where they fit.
 function typeAhead(names, index, typed) {
-    const text = typed.toLowerCase(), isOneLetter = text == text[0].repeat(text.length);
+    const text = typed.toLowerCase(), isOneLetter = /^(.)\1*$/.test(text);
     const start = isOneLetter ? text[0] : text;
     for (let i = 0; i < names.length; i++) {
         const next = (index + i + isOneLetter) % names.length;

@@ -38,22 +38,22 @@ function ZEVMenu(id) {
     }
 }
 
-function addItem(menu, isGood, item) {
+function addItem(menu, isGood, item, url, target) {
     var position = menu.zevItems.length + 1;
     if (!isGood) warn('item ' + position + ' of menu ' + menu.zevId + ' is mistaken');
+    item.url = asText(url) || '';
+    item.target = asText(target) || '';
     menu.zevItems[position - 1] = isGood ? item : null;
 }
 
 ZEVMenu.prototype.AddItem = function (caption, url, target) {
     caption = asText(caption);
-    addItem(this, caption != null,
-        { caption: caption, url: asText(url) || '', target: asText(target) || '' });
+    addItem(this, caption != null, { caption: caption }, url, target);
 };
 
 ZEVMenu.prototype.AddRollover = function (url, imageOut, imageOver, target) {
-    var out = asText(imageOut), over = asText(imageOver) || out;
-    addItem(this, out,
-        { url: asText(url) || '', imageOut: out, imageOver: over, target: asText(target) || '' });
+    var out = asText(imageOut);
+    addItem(this, out, { imageOut: out, imageOver: asText(imageOver) || out }, url, target);
 };
 
 var noMenu = { AddItem: warnOfItem, AddRollover: warnOfItem };

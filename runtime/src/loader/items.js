@@ -3,18 +3,21 @@
 // Read in another document: as HTML in an XML page too, and before anything is fetched.
 var workshop;
 function parse(menu, html) {
-    var text = html.replace(/&nbsp;/g, '\xa0'), names = ['src', 'href'], linked, i, k, value;
+    var text = html.replace(/&nbsp;/g, '\xa0');
     if (!/[<&]/.test(text)) return document.createTextNode(text);
     if (!workshop) workshop = document.implementation.createHTMLDocument('').createElement('template');
     workshop.innerHTML = policy.createHTML(html);
-    for (k = 0; k < 2; k++) {
-        linked = workshop.content.querySelectorAll('[' + names[k] + ']');
-        for (i = 0; i < linked.length; i++) {
-            value = linked[i].getAttribute(names[k]);
-            linked[i].setAttribute(names[k], policy.createScriptURL(resolve(menu, value)));
-        }
-    }
+    resolveAll(menu, 'src');
+    resolveAll(menu, 'href');
     return document.importNode(workshop.content, true);
+}
+
+function resolveAll(menu, name) {
+    var linked = workshop.content.querySelectorAll('[' + name + ']'), i, url;
+    for (i = 0; i < linked.length; i++) {
+        url = resolve(menu, linked[i].getAttribute(name));
+        linked[i].setAttribute(name, policy.createScriptURL(url));
+    }
 }
 
 function wordsOf(node) {
@@ -60,37 +63,32 @@ function addItemTo(box, menu, position, settings) {
 
 // A picture has none.
 function addMark(link, menu) {
-    var html = setting(state.menus['0'], 'marker'), submenu = submenuOf(link), mark;
+    var html = setting(state.menus['0'], 'marker'), submenu = submenuOf(link);
     if (!submenu || html == 'none' || link.className || link.zevIsMarked) return;
     link.zevIsMarked = true;
     if (html) {
-        mark = append(link, 'span', 'mark');
-        mark.setAttribute('aria-hidden', 'true');
-        mark.appendChild(parse(menu, html));
-        link.insertBefore(mark, link.firstChild);
+        link.insertBefore(addOrnament(link, 'mark', menu, html), link.firstChild);
     } else {
         link.setAttribute('data-side', wishedSide(submenu));
     }
 }
 
-function addDivider(line, menu, html) {
-    var divider = append(line, 'span', 'divider');
-    divider.setAttribute('aria-hidden', 'true');
-    divider.appendChild(parse(menu, html));
-}
-
-function isSet(menu, name) {
-    return ownSetting(menu, name) != null || ownSetting(window.zev_state, name) != null;
+// No part of a name.
+function addOrnament(parent, className, menu, html) {
+    var ornament = append(parent, 'span', className);
+    ornament.setAttribute('aria-hidden', 'true');
+    ornament.appendChild(parse(menu, html));
+    return ornament;
 }
 
 function styleBox(box, menu, settings) {
-    var style = box.style, image = settings.bgimage, name, row;
+    var style = box.style, image = settings.bgimage, isPadded = typeof settings.cellpadding == 'number', name, row;
     for (name in properties) {
         row = properties[name];
         if (row[2]) style.setProperty(row[2], settings[name] + (row[3] || ''));
     }
-    style.setProperty('--zev-row', isSet(menu, 'cellpadding') ? '0px' : '24px');
-    if (isSet(menu, 'menuborder')) style.outline = 'none';
+    style.setProperty('--zev-row', isPadded ? '0px' : '24px');
+    if (settings.menuborder) style.outline = 'none';
     if (image) style.backgroundImage = 'url("' + resolve(menu, image).replace(/["\\]/g, '\\$&') + '")';
     if (box.className == 'grid') style.gridTemplateColumns = 'repeat(' + settings.columns + ',auto)';
 }
@@ -102,7 +100,7 @@ function buildBox(menu) {
     for (i = 1; i <= menu.zevItems.length; i++) {
         if (menu.zevItems[i - 1]) {
             if (hasDivider && count && (columns == 1 || count % columns)) {
-                addDivider(box.lastChild, menu, settings.divider);
+                addOrnament(box.lastChild, 'divider', menu, settings.divider);
             }
             addItemTo(box, menu, i, settings);
             count++;

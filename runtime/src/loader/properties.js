@@ -40,7 +40,7 @@ var properties = {
     htmlAfter: [asText, '&nbsp;&nbsp;'],
     itemborder: [asCss('border'), '0', '--zev-border'],
     menuborder: [asCss('border'), '', 'border'],
-    cellpadding: [asNumber(0, 1e4), 1, '--zev-padding', 'px'],
+    cellpadding: [asNumber(0, 1e4), '1', '--zev-padding', 'px'],     // a text is not a written one
     target: [asText, ''],
     fontFamily: [asCss('font-family'), 'Arial', 'font-family'],
     fontSize: [asCss('font-size'), '10pt', 'font-size'],

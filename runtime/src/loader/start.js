@@ -2,7 +2,7 @@
 // every browser ever made may meet it.
 if (typeof window.ZEVMenu == 'function') return;
 
-// All that changes while the library is at work.
+// All that changes while the library is at work; zevmenu_dom.js adds what is its own.
 function emptyState() {
     return {
         menus: {},          // by id
@@ -17,19 +17,7 @@ function emptyState() {
         bar: null,          // the page's element around the top menu
         barBox: null,       // the top menu
         layer: null,        // the page's element around the submenus
-        levels: [],         // open submenus, the deepest last
-        watched: [],        // documents in which a click closes them
-        ahead: [],          // menus still to be built
-        building: 0,        // timer or idle callback of the next of them
-        looking: 0,         // timer or idle callback of the search for the page's own items
-        earlyCall: null,    // a ZEVMenuOpen that came too early
-        actingLink: null,   // the pop-up link that a key or tap is to open
-        over: null,         // { box, link } under the mouse
-        opening: 0,         // timer of what the mouse is on
-        lastPoint: null,    // { x, y } of the mouse
-        crossing: null,     // { from, timer } of a mouse on its way to a submenu
-        press: {},          // the last pointerdown on a link, until the click
-        typed: { text: '', time: 0 }    // the last letters
+        earlyCall: null     // a ZEVMenuOpen that came too early
     };
 }
 
