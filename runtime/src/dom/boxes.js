@@ -141,7 +141,8 @@ function buildAhead(box) {
     if (!box || document.readyState != 'complete') return;
     const isRunning = state.ahead.length;
     state.ahead = linksOf(box).map(submenuOf)
-        .filter(menu => menu && !menu.zevBox && menu.zevItems.length <= itemsAhead)
+        .filter(menu => menu && !menu.zevBox && !state.ahead.includes(menu) &&
+                menu.zevItems.length <= itemsAhead)
         .slice(0, menusAhead).concat(state.ahead);
     if (!isRunning) buildWhenIdle();
 }

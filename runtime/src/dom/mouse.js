@@ -26,7 +26,8 @@ function isAccordionAt(link) {
 function onClick(event) {
     const link = linkAt(event.target);
     if (!link) return;
-    const hasAddress = link.hasAttribute('href'), { pointer = '', wasOpen = isOpen(link) } = takePress();
+    const hasAddress = link.hasAttribute('href'), { pointer = '', wasOpen = isOpen(link) } = state.press;
+    state.press = {};
     const meaning = isModified(event) ? 'follow' : meaningOfClick({
         pointer, wasOpen, hasAddress, hasSubmenu: submenuOf(link) != null,
         isAccordion: pointer == 'mouse' && isAccordionAt(link)

@@ -120,7 +120,7 @@ function fade({ menu, box }, isOpening) {
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return end();
     // What measures colours at such a short moment is not to take it for the menu's own.
     const look = isCalm ? { filter: 'opacity(0)' } : { opacity: 0 };
-    box.zevFading = box.animate(isOpening ? [look, {}] : [{}, look], duration);
+    box.zevFading = box.animate(isOpening ? [look, {}] : [{}, look], { duration });
     box.zevFading.onfinish = end;
 }
 

@@ -104,7 +104,8 @@ function hasOwnAddress(link) {
 
 // On a button the mouse is a finger; its first click keeps open what its arrival there opened.
 function pressOn(link) {
-    const press = takePress();
+    const { press } = state;
+    state.press = {};
     if (press.pointer != 'mouse' || !link.matches(':is(button,input)[data-zev-popup]')) return press;
     return { pointer: 'touch', wasOpen: isOpen(link) && state.levels[0].isClicked };
 }

@@ -119,9 +119,3 @@ function meaningOfArrow({ direction, reading, side, own, isTop }) {
     // From a submenu below a row the key goes on to the row's neighbour.
     return own == 'inside' ? '' : 'beyond';
 }
-
-function takePress() {
-    const { press } = state;
-    state.press = {};
-    return press;
-}

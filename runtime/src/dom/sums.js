@@ -76,19 +76,15 @@ function neighbour(index, count, columns, direction) {
         return isAlongRow == (columns == 1) ? -1 : (index + step + count) % count;
     }
     const next = index + step * (isAlongRow ? 1 : columns);
-    const isSameRow = Math.floor(next / columns) == Math.floor(index / columns);
-    return next < 0 || next >= count || (isAlongRow && !isSameRow) ? -1 : next;
+    const isNextRow = isAlongRow && Math.max(index, next) % columns == 0;
+    return next < 0 || next >= count || isNextRow ? -1 : next;
 }
 
 // One letter, also repeated, goes on to the next name; more letters may stay where they fit.
 function typeAhead(names, index, typed) {
     const text = typed.toLowerCase(), isOneLetter = /^(.)\1*$/.test(text);
-    const start = isOneLetter ? text[0] : text;
-    for (let i = 0; i < names.length; i++) {
-        const next = (index + i + isOneLetter) % names.length;
-        if (names[next].trim().toLowerCase().startsWith(start)) return next;
-    }
-    return -1;
+    const order = names.map((name, i) => (index + i + isOneLetter) % names.length);
+    return order.find(next => names[next].trim().toLowerCase().startsWith(isOneLetter ? text[0] : text)) ?? -1;
 }
 
 shared.sums = { place, unzoomed, isHeadedFor, neighbour, realSide, typeAhead };

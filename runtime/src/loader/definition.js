@@ -13,8 +13,8 @@ function submenuOf(link) {
 
 // As from left to right.
 function wishedSide(menu) {
-    var top = state.menus['0'], isBelowRow = !/i/.test(menu.zevId) && setting(top, 'columns') > 1;
-    return setting(menu, 'position', isBelowRow && top);
+    var top = state.menus['0'];
+    return setting(menu, 'position', !/i/.test(menu.zevId) && setting(top, 'columns') > 1 && top);
 }
 
 function ZEVMenu(id) {
