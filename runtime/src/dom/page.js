@@ -43,7 +43,7 @@ shared.serve = function (isOn) {
         pointerdown: onPress, click: onPageClick, keydown: onPageKey, mouseover: onArrival, focusin: onArrival,
         mouseout: onLeaving, DOMContentLoaded: finish
     });
-    listen(window, isOn, { load: shared.refresh });
+    listen(window, isOn, { load: onLoad });
 };
 
 shared.adoptBar = function () {
@@ -72,11 +72,14 @@ function finish() {
     });
 }
 
+function onLoad() {
+    buildAhead(state.barBox);
+}
+
 shared.refresh = function () {
     lookUpCurrent();
     if (document.readyState != 'loading') finish();
     placeAll();
-    buildAhead(state.barBox);
 };
 
 shared.stop = function () {
