@@ -92,7 +92,8 @@ function lookUpCurrent() {
         const { menus, barBox } = state, top = menus['0'];
         state.looking = 0;
         if (top) findCurrent(top, pageAt(top, location.href));
-        [barBox, ...Object.values(menus).map(menu => menu.zevBox)].forEach(box => box && linksOf(box).forEach(markCurrent));
+        const boxes = [barBox, ...Object.values(menus).map(menu => menu.zevBox)].filter(Boolean);
+        boxes.flatMap(linksOf).forEach(markCurrent);
     });
 }
 

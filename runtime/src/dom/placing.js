@@ -115,7 +115,8 @@ function fade({ menu, box }, isOpening) {
     // A short opening, where none is written.
     const seconds = setting(menu, 'ffade'), isCalm = seconds === '' && isOpening;
     const duration = isCalm ? openingMs : seconds * 1000;
-    const end = () => { box.hidden = !isOpening; };
+    // One that is closed meanwhile stays so.
+    const end = () => { box.hidden ||= !isOpening; };
     box.zevFading?.cancel();
     if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return end();
     // What measures colours at such a short moment is not to take it for the menu's own.
@@ -144,7 +145,8 @@ function placeAll(event) {
 // What is open in the layer is a landmark.
 function nameLayer() {
     const [first] = state.levels, box = first && !isInside(first) && first.box;
-    mark(state.layer, { role: box ? 'navigation' : null, 'aria-label': box && box.getAttribute('aria-label') || null });
+    mark(state.layer, { role: box ? 'navigation' : null,
+                        'aria-label': box ? box.getAttribute('aria-label') : null });
 }
 
 // The mark points to where the submenu is, or will be.
