@@ -163,6 +163,16 @@ test('a list in the page opens in itself and pushes the page down', async () => 
     assert.equal(await top(), before);
 });
 
+test('a submenu of an accordion that is closed while it appears does not come back', async () => {
+    await show({ definition: 'zev_state.ffade = 0.5;' + vertical });
+    await click(opener(0));
+    await waitShown(page, opener(1));
+    await page.keyboard.press('Escape');
+    await hover(page, level(0)[2], opener(0));
+    await pause(900);
+    assert.equal(await isShown(page, opener(1)).catch(() => false), false);
+});
+
 test('in an accordion the mouse opens and closes nothing by coming and going', async () => {
     await show({ definition: 'zev_state.closedelay = 50;' + vertical });
     await hover(page, opener(0));
