@@ -38,7 +38,7 @@ void FileCommands::mnuFileOpen_Click() {
     }
     // A cancelled dialog clears the mark too: Open asks nothing about unsaved changes, and Exit
     // after it ends without asking.
-    m_document.markSaved();
+    m_document.clearModified();
     m_view.Button_Update();
 }
 
@@ -147,6 +147,7 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
         rebasedBack = RebaseAllURLs(m_document, oldFolder, folder);
     m_document.setFile(path, folder);
     if (SaveDefinition(path)) {
+        m_document.record(std::move(rebasedBack));
         m_document.markSaved();
         m_view.Button_Update();
         return true;
