@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/commands.h"
+#include "app/edit_history.h"
 #include "app/editor_services.h"
 #include "app/editor_view.h"
 #include "app/file_commands.h"
@@ -12,6 +13,7 @@
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
+class QLineEdit;
 class QTabWidget;
 
 namespace zev {
@@ -54,6 +56,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     /// The entry of File > Import of this format.
     void importMenu(const ImportFormat& format) { m_importCommands.run(format); }
     void mnuFileExit_Click();
+    void mnuEditUndo_Click();
+    void mnuEditRedo_Click();
     void mnuEditDefault_Click();
     void mnuEditMenuProperties_Click();
     void mnuEditAddMenuItem_Click();
@@ -71,6 +75,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void tbToolBar_ButtonClick(const QString& key);
     void MenuTab_Click();
     void TreeView_NodeClick(const MenuNode* node);
+    /// Takes a label that was edited in the tree.
+    void TreeView_AfterLabelEdit(const MenuNode& node, const QString& label);
 
   signals:
     /// The program is to end now.
@@ -83,7 +89,11 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void buildTabs(QWidget* webBrowser);
     QWidget* buildMenuTab();
     void buildDialogs();
-    void run(const std::function<void(frmMain&)>& command);
+    void run(const Command& command);
+    void run(const std::string& step, const std::function<void()>& work);
+    void takeBack(void (EditHistory::*there)());
+    void showHistory();
+    QLineEdit* typedField() const;
     void followDocument();
     void guard(const std::function<void()>& work);
     void leaveField();
@@ -107,6 +117,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     FileCommands m_fileCommands;
     ImportCommands m_importCommands;
     CommandActions m_commands{*this};
+    EditHistory m_history{m_document, [this] { StoreItem(); }};
     bool m_isEnding = false;
     /// What is typed in the panel stays as it is, with its cursor, while it is stored.
     bool m_isStoring = false;

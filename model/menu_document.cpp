@@ -79,10 +79,9 @@ Changes MenuDocument::apply(Changes changes) {
 }
 
 void MenuDocument::change(Change change) {
-    if (isAlready(change))
-        return;
+    const bool isNew = !isAlready(change);
     Change inverse = apply(std::move(change));
-    if (m_recorder)
+    if (isNew && m_recorder)
         m_recorder->changed(std::move(inverse));
 }
 
