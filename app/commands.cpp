@@ -87,21 +87,6 @@ const std::vector<Command>& CommandActions::rows() {
         {{"mnuFile", "mnuFileExit", QT_TR_NOOP("E&xit")}, &frmMain::mnuFileExit_Click},
 
         {{"", "mnuEdit", QT_TR_NOOP("&Edit")}},
-        {{"mnuEdit", "mnuEditUndo", QT_TR_NOOP("&Undo"), "Ctrl+Z"},
-         &frmMain::mnuEditUndo_Click,
-         {QT_TR_NOOP("Undo"), "undo", kHistoryBar},
-         {},
-         "",
-         !kLeavesKeyToText,
-         !kLeavesField},
-        {{"mnuEdit", "mnuEditRedo", QT_TR_NOOP("&Redo"), "Ctrl+Shift+Z; Ctrl+Y"},
-         &frmMain::mnuEditRedo_Click,
-         {QT_TR_NOOP("Redo"), "redo", kHistoryBar},
-         {},
-         "",
-         !kLeavesKeyToText,
-         !kLeavesField},
-        {{"mnuEdit"}},
         {{"mnuEdit", "mnuEditDefault", QT_TR_NOOP("&Default Menu Properties"), "F8"},
          &frmMain::mnuEditDefault_Click,
          {QT_TR_NOOP("Default Properties"), "default_properties"},
@@ -153,6 +138,23 @@ const std::vector<Command>& CommandActions::rows() {
          {hasNode},
          QT_TR_NOOP("Delete"),
          kLeavesKeyToText},
+        {{"mnuEdit"}},
+        // Below the rest: the menu opened by key stands on its first entry, which people know by
+        // heart.
+        {{"mnuEdit", "mnuEditUndo", QT_TR_NOOP("&Undo"), "Ctrl+Z"},
+         &frmMain::mnuEditUndo_Click,
+         {QT_TR_NOOP("Undo"), "undo", kHistoryBar},
+         {},
+         "",
+         !kLeavesKeyToText,
+         !kLeavesField},
+        {{"mnuEdit", "mnuEditRedo", QT_TR_NOOP("&Redo"), "Ctrl+Shift+Z; Ctrl+Y"},
+         &frmMain::mnuEditRedo_Click,
+         {QT_TR_NOOP("Redo"), "redo", kHistoryBar},
+         {},
+         "",
+         !kLeavesKeyToText,
+         !kLeavesField},
 
         {{"", "mnuTools", QT_TR_NOOP("&Tools")}},
         {{"mnuTools", "mnuToolsIntegrate", QT_TR_NOOP("&Menu Integrator")},
@@ -245,7 +247,8 @@ void CommandActions::addEntry(QMenu& menu, const Command& command) {
     entry.setMenuRole(QAction::NoRole);
     connectAction(entry, command, command.rule.keepsWithoutNode != Command::Keeps::Nothing);
     for (const QKeySequence& keys : entry.shortcuts())
-        m_shortcuts.add(keys, command.leavesKeyToText);
+        if (!keys.isEmpty())
+            m_shortcuts.add(keys, command.leavesKeyToText);
 }
 
 void CommandActions::addButton(QToolBar& toolBar, const Command& command) {
