@@ -40,6 +40,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     ~frmMain() override;
 
     MenuDocument& document() { return m_document; }
+    const DocumentHistory& history() const { return m_history.steps(); }
 
     /// Opens the definition file at `path` (full path), as File > Open does with a chosen file.
     void openDefinition(const std::string& path);
