@@ -12,12 +12,14 @@
 #include <cstddef>
 #include <exception>
 #include <initializer_list>
+#include <utility>
 
 #include "app/frm_about.h"
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
 #include "app/open_url.h"
 #include "app/script_view.h"
+#include "app/strip_line.h"
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
@@ -132,8 +134,14 @@ QWidget* frmMain::buildMenuTab() {
     connect(m_panel, &ItemPanel::fieldLeft, &m_history, &EditHistory::endTypingOf);
 
     auto* splitter = new QSplitter;
+    m_lastCommand = new StripLine("LastCommand", tr("Last command"), this);
+    auto* treeSide = new QWidget;
+    auto* treeLayout = new QVBoxLayout(treeSide);
+    treeLayout->setContentsMargins(0, 0, 0, 0);
+    treeLayout->addWidget(m_lastCommand);
+    treeLayout->addWidget(TreeView);
     splitter->addWidget(panelArea);
-    splitter->addWidget(TreeView);
+    splitter->addWidget(treeSide);
     splitter->setChildrenCollapsible(false);
     splitter->setStretchFactor(0, 2);
     splitter->setStretchFactor(1, 3);
@@ -235,8 +243,11 @@ void frmMain::mnuEditAddSubmenuItem_Click() {
 // that greys the Save which a save has left usable. Move Left and Move Right do not.
 
 void frmMain::mnuEditDelete_Click() {
-    if (const MenuNode* doomed = m_document.selectedNode())
-        m_history.rename("Delete " + branchName(*doomed));
+    if (const MenuNode* doomed = m_document.selectedNode()) {
+        const std::string name = branchName(*doomed);
+        m_history.rename("Delete " + name);
+        m_commandLine = tr("Deleted %1.").arg(QString::fromStdString(name));
+    }
     edit(deleteItem);
     // An item that was shown without being selected has not had its label until now.
     m_panel->labelSelectedNode();
@@ -353,8 +364,24 @@ QLineEdit* frmMain::typedField() const {
     return qobject_cast<QLineEdit*>(focusWidget());
 }
 
+/// What the last step has removed out of sight can be had back beside the tree, until the next
+/// step.
+void frmMain::sayLastCommand() {
+    if (std::exchange(m_saidState, history().state()) == history().state())
+        return;
+    const bool hadFocus = m_lastCommand->isAncestorOf(focusWidget());
+    const QString line = std::exchange(m_commandLine, {});
+    if (line.isEmpty())
+        m_lastCommand->say("");
+    else
+        m_lastCommand->say(line, {{tr("Undo"), [this] { mnuEditUndo_Click(); }}});
+    if (hadFocus)
+        TreeView->setFocus();
+}
+
 /// Undo and Redo say what they will do.
 void frmMain::showHistory() {
+    sayLastCommand();
     const QLineEdit* const field = typedField();
     const auto show = [this](const char* entry, const QString& verb, bool isTyped,
                              const std::string& step) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -21,6 +22,7 @@ namespace zev {
 class ItemPanel;
 class MenuTreeView;
 class ScriptView;
+class StripLine;
 class frmDefaultProp;
 class frmMenuProp;
 
@@ -94,6 +96,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void run(const std::string& step, const std::function<void()>& work);
     void takeBack(void (EditHistory::*there)());
     void showHistory();
+    void sayLastCommand();
     QLineEdit* typedField() const;
     void followDocument();
     void guard(const std::function<void()>& work);
@@ -129,6 +132,10 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     ItemPanel* m_panel = nullptr;
     MenuTreeView* TreeView = nullptr;
     ScriptView* txtJavaScript = nullptr;
+    StripLine* m_lastCommand = nullptr;
+    /// What `m_lastCommand` says of the step that is being made, and of which state it spoke last.
+    QString m_commandLine;
+    std::uint64_t m_saidState = 0;
     QWidget* WebBrowser = nullptr;
 
     // Made once: they keep what was copied and which font was chosen from one use to the next.

@@ -1,7 +1,8 @@
-#include <QRadioButton>
+#include <QPushButton>
 #include <random>
 #include <vector>
 
+#include "app/strip_line.h"
 #include "property_dialogs_hands.h"
 
 using namespace zev;
@@ -213,6 +214,32 @@ class test_undo : public QObject {
             QTest::keyClick(&desk.tree(), Qt::Key_Y, Qt::ControlModifier);
         QCOMPARE(desk.shownTree(), "");
         QVERIFY(!desk.action("mnuEditRedo").isEnabled());
+    }
+
+    void aLineAboveTheTreeGivesADeletedBranchBack() {
+        WindowDesk desk;
+        desk.add("About us");
+        desk.choose("mnuEditAddSubmenuItem");
+        auto* line = desk.window.findChild<StripLine*>("LastCommand");
+        QVERIFY(!line->isVisible());
+        desk.choose("mnuEditDelete");
+        QVERIFY(line->isVisible());
+        QCOMPARE(line->text(), "Deleted About us and 1 item.");
+        QCOMPARE(line->accessibleName(), "Last command");
+        QTest::mouseClick(desk.tree().viewport(), Qt::LeftButton);
+        QVERIFY2(line->isVisible(), "a click is no step");
+        auto* undo = line->findChild<QPushButton*>();
+        QCOMPARE(undo->text(), "Undo");
+        undo->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(undo, Qt::Key_Space);
+        QCOMPARE(desk.shownTree(), "*About us\n  Item 1\n");
+        QVERIFY(!line->isVisible());
+        QVERIFY(desk.tree().hasFocus());
+        desk.choose("mnuEditDelete");
+        desk.choose("mnuEditAddMenuItem");
+        QVERIFY(!line->isVisible());
+        desk.choose("mnuEditDelete");
+        QCOMPARE(line->text(), "Deleted Item 2.");
     }
 
     void aFieldsOwnTypingIsTakenBackFirstAndSaidSo() {
