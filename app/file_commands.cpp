@@ -27,6 +27,7 @@ FileCommands::FileCommands(MenuDocument& document, EditorView& view, const Edito
 
 void FileCommands::reset() {
     m_document.NewDocument();
+    m_services.browser.forgetAllowedPictures();
     m_view.showScript("");
 }
 
@@ -116,6 +117,7 @@ void FileCommands::openDefinition(const std::string& path) {
     const ReadResult result = ReadScript(content.take(), opened);
     if (result.itemsLeftOut > 0)
         opened.overfullFile = path;
+    m_services.browser.forgetAllowedPictures();
     m_document.open(std::move(opened), path, SplitPath(path).folder);
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
@@ -219,8 +221,12 @@ void FileCommands::loadPreview() {
     SaveDefinition("");
     m_previewedScript = GenerateScript(m_document.content());
     m_previewedFolder = m_document.SavePath();
+    const Path folder(m_document.SavePath());
+    std::vector<std::string> scripts = {folder.child(kPreviewScript)};
+    for (const std::string_view name : kLibraryFiles)
+        scripts.push_back(folder.child(name));
     // Also after a failure: the preview shows whatever is there.
-    m_services.browser.load(Path(m_document.SavePath()).child(kPreviewPage));
+    m_services.browser.load(folder.child(kPreviewPage), scripts);
 }
 
 /// Gives back what the person is to be told, without text when all is well.
