@@ -27,7 +27,6 @@ FileCommands::FileCommands(MenuDocument& document, EditorView& view, const Edito
 
 void FileCommands::reset() {
     m_document.NewDocument();
-    m_services.browser.forgetAllowedPictures();
     m_view.showScript("");
 }
 
@@ -117,7 +116,6 @@ void FileCommands::openDefinition(const std::string& path) {
     const ReadResult result = ReadScript(content.take(), opened);
     if (result.itemsLeftOut > 0)
         opened.overfullFile = path;
-    m_services.browser.forgetAllowedPictures();
     m_document.open(std::move(opened), path, SplitPath(path).folder);
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +

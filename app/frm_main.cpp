@@ -473,6 +473,7 @@ void frmMain::openAddress(const std::string& address) {
 }
 
 void frmMain::contentReplaced() {
+    m_services.browser.forgetAllowedPictures();
     selectedNodeChanged();
     currentNodeChanged();
     m_defaultForm->LoadDefaultDialog();

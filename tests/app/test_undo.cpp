@@ -282,7 +282,9 @@ class test_undo : public QObject {
         QCOMPARE(undoText(desk), "Undo New");
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator");
         desk.choose("mnuEditUndo");
+        const int forgotten = desk.browser.forgottenCount();
         desk.choose("mnuEditUndo");
+        QCOMPARE(desk.browser.forgottenCount(), forgotten + 1);
         QCOMPARE(desk.window.windowTitle(), "ZEVMenu Creator (/site/menu.js)");
         QCOMPARE(desk.shownTree(), "*a\n");
         QVERIFY(!desk.document().bModified());
