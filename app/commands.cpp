@@ -38,13 +38,19 @@ bool hasNext(const MenuDocument& document) {
 std::vector<Command> withImports(std::vector<Command> rows) {
     for (const ImportFormat& format : importFormats())
         rows.push_back({{"mnuFileImport", format.menuEntry, format.title},
-                        [&format](frmMain& window) { window.importMenu(format); }});
+                        [&format](frmMain& window) { window.importMenu(format); },
+                        {},
+                        {},
+                        "Import"});
     return rows;
 }
 
+/// Undo and Redo stand in a bar of their own, so that the buttons of the other keep their numbers.
+constexpr const char* kHistoryBar = "tbHistory";
+
 /// Buttons and separators are counted from 1.
 void nameLast(QToolBar& toolBar, QAction& last) {
-    last.setObjectName(QString("tbToolBar_%1").arg(toolBar.actions().size()));
+    last.setObjectName(toolBar.objectName() + "_" + QString::number(toolBar.actions().size()));
 }
 
 }  // namespace
@@ -52,19 +58,29 @@ void nameLast(QToolBar& toolBar, QAction& last) {
 const std::vector<Command>& CommandActions::rows() {
     using Keeps = Command::Keeps;
     constexpr bool kLeavesKeyToText = true;
+    constexpr bool kLeavesField = true;
     static const std::vector<Command> kRows = withImports({
         {{"", "mnuFile", QT_TR_NOOP("&File")}},
         {{"mnuFile", "mnuFileNew", QT_TR_NOOP("&New"), "Ctrl+N"},
          &frmMain::mnuFileNew_Click,
-         {QT_TR_NOOP("New"), "new"}},
+         {QT_TR_NOOP("New"), "new"},
+         {},
+         QT_TR_NOOP("New")},
         {{"mnuFile", "mnuFileOpen", QT_TR_NOOP("&Open"), "Ctrl+O"},
          &frmMain::mnuFileOpen_Click,
-         {QT_TR_NOOP("Open"), "open"}},
+         {QT_TR_NOOP("Open"), "open"},
+         {},
+         QT_TR_NOOP("Open")},
         {{"mnuFile", "mnuFileSave", QT_TR_NOOP("&Save"), "Ctrl+S"},
          &frmMain::mnuFileSave_Click,
          {QT_TR_NOOP("Save"), "save"},
-         {isModified}},
-        {{"mnuFile", "mnuFileSaveAs", QT_TR_NOOP("Save &As")}, &frmMain::mnuFileSaveAs_Click},
+         {isModified},
+         QT_TR_NOOP("Recalculate URLs")},
+        {{"mnuFile", "mnuFileSaveAs", QT_TR_NOOP("Save &As")},
+         &frmMain::mnuFileSaveAs_Click,
+         {},
+         {},
+         QT_TR_NOOP("Recalculate URLs")},
         {{"mnuFile"}},
         {{"mnuFile", "mnuFileImport", QT_TR_NOOP("&Import")}},
         {{"mnuFile"}},
@@ -73,45 +89,72 @@ const std::vector<Command>& CommandActions::rows() {
         {{"", "mnuEdit", QT_TR_NOOP("&Edit")}},
         {{"mnuEdit", "mnuEditDefault", QT_TR_NOOP("&Default Menu Properties"), "F8"},
          &frmMain::mnuEditDefault_Click,
-         {QT_TR_NOOP("Default Properties"), "default_properties"}},
+         {QT_TR_NOOP("Default Properties"), "default_properties"},
+         {},
+         QT_TR_NOOP("Default Menu Properties")},
         {{"mnuEdit", "mnuEditMenuProperties", QT_TR_NOOP("M&enu Properties"), "F2"},
          &frmMain::mnuEditMenuProperties_Click,
          {QT_TR_NOOP("Menu Properties"), "menu_properties"},
-         {hasNode}},
+         {hasNode},
+         QT_TR_NOOP("Menu Properties")},
         {{"mnuEdit"}},
         {{"mnuEdit", "mnuEditAddMenuItem", QT_TR_NOOP("Add &Menu Item"), "Ctrl+A"},
          &frmMain::mnuEditAddMenuItem_Click,
          {QT_TR_NOOP("Add Menu Item"), "add_menu_item"},
-         {hasNode, Keeps::EntryAndButton}},
+         {hasNode, Keeps::EntryAndButton},
+         QT_TR_NOOP("Add Menu Item")},
         {{"mnuEdit", "mnuEditAddSubmenuItem", QT_TR_NOOP("Add &Submenu Item"), "Ctrl+W"},
          &frmMain::mnuEditAddSubmenuItem_Click,
          {QT_TR_NOOP("Add Submenu Item"), "add_submenu_item"},
-         {hasNode}},
+         {hasNode},
+         QT_TR_NOOP("Add Submenu Item")},
         {{"mnuEdit"}},
         // The entries Move Left and Move Right stay usable in an empty menu, where they do
         // nothing, and their buttons alone are greyed.
         {{"mnuEdit", "mnuEditMoveLeft", QT_TR_NOOP("Move &Left"), "Ctrl+L"},
          &frmMain::mnuEditMoveLeft_Click,
          {QT_TR_NOOP("Move Left"), "move_left"},
-         {hasParent, Keeps::Entry}},
+         {hasParent, Keeps::Entry},
+         QT_TR_NOOP("Move Left")},
         {{"mnuEdit", "mnuEditMoveRight", QT_TR_NOOP("Move &Right"), "Ctrl+R"},
          &frmMain::mnuEditMoveRight_Click,
          {QT_TR_NOOP("Move Right"), "move_right"},
-         {hasPrevious, Keeps::Entry}},
+         {hasPrevious, Keeps::Entry},
+         QT_TR_NOOP("Move Right")},
         {{"mnuEdit", "mnuEditMoveUp", QT_TR_NOOP("Move &Up"), "Ctrl+U"},
          &frmMain::mnuEditMoveUp_Click,
          {QT_TR_NOOP("Move Up"), "move_up"},
-         {hasPrevious}},
+         {hasPrevious},
+         QT_TR_NOOP("Move Up")},
         {{"mnuEdit", "mnuEditMoveDown", QT_TR_NOOP("Move &Down"), "Ctrl+D"},
          &frmMain::mnuEditMoveDown_Click,
          {QT_TR_NOOP("Move Down"), "move_down"},
-         {hasNext}},
+         {hasNext},
+         QT_TR_NOOP("Move Down")},
         {{"mnuEdit"}},
         {{"mnuEdit", "mnuEditDelete", QT_TR_NOOP("Delete &Item"), "Del"},
          &frmMain::mnuEditDelete_Click,
          {QT_TR_NOOP("Delete"), "delete"},
          {hasNode},
+         QT_TR_NOOP("Delete"),
          kLeavesKeyToText},
+        {{"mnuEdit"}},
+        // Below the rest: the menu opened by key stands on its first entry, which people know by
+        // heart.
+        {{"mnuEdit", "mnuEditUndo", QT_TR_NOOP("&Undo"), "Ctrl+Z"},
+         &frmMain::mnuEditUndo_Click,
+         {QT_TR_NOOP("Undo"), "undo", kHistoryBar},
+         {},
+         "",
+         !kLeavesKeyToText,
+         !kLeavesField},
+        {{"mnuEdit", "mnuEditRedo", QT_TR_NOOP("&Redo"), "Ctrl+Shift+Z; Ctrl+Y"},
+         &frmMain::mnuEditRedo_Click,
+         {QT_TR_NOOP("Redo"), "redo", kHistoryBar},
+         {},
+         "",
+         !kLeavesKeyToText,
+         !kLeavesField},
 
         {{"", "mnuTools", QT_TR_NOOP("&Tools")}},
         {{"mnuTools", "mnuToolsIntegrate", QT_TR_NOOP("&Menu Integrator")},
@@ -128,6 +171,14 @@ const std::vector<Command>& CommandActions::rows() {
     return kRows;
 }
 
+const Command& CommandActions::named(const char* entry) {
+    const auto row = std::find_if(rows().begin(), rows().end(), [entry](const Command& command) {
+        return QLatin1String(command.entry.name) == QLatin1String(entry);
+    });
+    Q_ASSERT(row != rows().end());
+    return *row;
+}
+
 const Command* CommandActions::withButton(const QString& key) {
     const auto row = std::find_if(rows().begin(), rows().end(), [&key](const Command& command) {
         return !key.isEmpty() && key == command.button.key;
@@ -135,12 +186,9 @@ const Command* CommandActions::withButton(const QString& key) {
     return row != rows().end() ? &*row : nullptr;
 }
 
-CommandActions::CommandActions(QMainWindow& window) : m_shortcuts(window) {
-    auto* toolBar = new QToolBar(tr("Toolbar"), &window);
-    toolBar->setObjectName("tbToolBar");
-    toolBar->setMovable(false);
-    toolBar->setIconSize(QSize(24, 24));
-    window.addToolBar(toolBar);
+CommandActions::CommandActions(QMainWindow& window) : m_window(window), m_shortcuts(window) {
+    const QToolBar* const mainBar = addToolBar("tbToolBar", tr("Toolbar"));
+    addToolBar(kHistoryBar, tr("Undo and Redo"));
     bool isNewGroup = false;
     for (const Command& command : rows()) {
         const Command::Entry& entry = command.entry;
@@ -157,11 +205,21 @@ CommandActions::CommandActions(QMainWindow& window) : m_shortcuts(window) {
         }
         if (!*command.button.key)
             continue;
-        if (isNewGroup && !toolBar->actions().isEmpty())
+        auto* toolBar = window.findChild<QToolBar*>(command.button.bar);
+        if (isNewGroup && toolBar == mainBar && !toolBar->actions().isEmpty())
             nameLast(*toolBar, *toolBar->addSeparator());
-        isNewGroup = false;
+        isNewGroup = isNewGroup && toolBar != mainBar;
         addButton(*toolBar, command);
     }
+}
+
+QToolBar* CommandActions::addToolBar(const QString& name, const QString& title) {
+    auto* toolBar = new QToolBar(title, &m_window);
+    toolBar->setObjectName(name);
+    toolBar->setMovable(false);
+    toolBar->setIconSize(QSize(24, 24));
+    m_window.addToolBar(toolBar);
+    return toolBar;
 }
 
 void CommandActions::Button_Update(const MenuDocument& document) {
@@ -170,19 +228,33 @@ void CommandActions::Button_Update(const MenuDocument& document) {
             each.action->setEnabled(each.isUsable(document));
 }
 
+void CommandActions::show(const Command& command, const QString& text, bool isUsable) {
+    auto* entry = m_window.findChild<QAction*>(command.entry.name);
+    QString caption = text;
+    entry->setText(caption.replace("&", "&&").prepend('&'));
+    entry->setEnabled(isUsable);
+    for (QAction* button : m_window.findChild<QToolBar*>(command.button.bar)->actions())
+        if (button->iconText() == tr(command.button.key)) {
+            button->setToolTip(text);
+            button->setEnabled(isUsable);
+        }
+}
+
 void CommandActions::addEntry(QMenu& menu, const Command& command) {
     QAction& entry = *menu.addAction(tr(command.entry.caption));
     entry.setObjectName(command.entry.name);
-    entry.setShortcut(QKeySequence(command.entry.shortcut));
+    entry.setShortcuts(QKeySequence::listFromString(command.entry.shortcut));
     entry.setMenuRole(QAction::NoRole);
     connectAction(entry, command, command.rule.keepsWithoutNode != Command::Keeps::Nothing);
-    if (*command.entry.shortcut)
-        m_shortcuts.add(entry.shortcut(), command.leavesKeyToText);
+    for (const QKeySequence& keys : entry.shortcuts())
+        if (!keys.isEmpty())
+            m_shortcuts.add(keys, command.leavesKeyToText);
 }
 
 void CommandActions::addButton(QToolBar& toolBar, const Command& command) {
     const QString caption = tr(command.button.key);
     QAction& button = *toolBar.addAction(buttonIcon(command.button.icon), caption);
+    button.setIconText(caption);
     button.setToolTip(caption);
     nameLast(toolBar, button);
     connectAction(button, command, command.rule.keepsWithoutNode == Command::Keeps::EntryAndButton);

@@ -24,12 +24,13 @@ struct Command {
         const char* menu = "";      ///< object name of the menu it stands in; empty: the menu bar
         const char* name = "";      ///< object name
         const char* caption = "";   ///< "&" marks the access key
-        const char* shortcut = "";  ///< empty: none
+        const char* shortcut = "";  ///< empty: none; several are parted by "; "
     };
     /// Its toolbar button. The key is the tooltip as well; empty: there is none.
     struct Button {
         const char* key = "";
         const char* icon = "";  ///< as `buttonIcon` takes it
+        const char* bar = "tbToolBar";
     };
     /// What stays as it was, usable or not, while there is no `CurNode`.
     enum class Keeps { Nothing, Entry, EntryAndButton };
@@ -42,7 +43,9 @@ struct Command {
     std::function<void(frmMain&)> click = nullptr;
     Button button = {};
     Rule rule = {};
+    const char* step = "";         ///< name of the step that Undo takes back; empty: it makes none
     bool leavesKeyToText = false;  ///< in a text field its shortcut edits the text instead
+    bool leavesField = true;       ///< the field being edited is left before it
 };
 
 /// The commands of the main window: their table, and the menus, toolbar and shortcuts made from it.
@@ -52,6 +55,8 @@ class CommandActions : public QObject {
   public:
     /// Each menu's rows in its order, which gives the toolbar its order and separators too.
     static const std::vector<Command>& rows();
+    /// The command with this entry; there must be one.
+    static const Command& named(const char* entry);
     /// The command whose toolbar button has this key; null when there is none.
     static const Command* withButton(const QString& key);
 
@@ -61,6 +66,8 @@ class CommandActions : public QObject {
 
     /// Enables and disables entries and buttons after `bModified` and `CurNode`.
     void Button_Update(const MenuDocument& document);
+    /// Gives the entry and button of a command another text, and makes them usable or not.
+    void show(const Command& command, const QString& text, bool isUsable);
 
   signals:
     /// The person chose this command by menu, button or shortcut.
@@ -68,6 +75,7 @@ class CommandActions : public QObject {
 
   private:
     void addEntry(QMenu& menu, const Command& command);
+    QToolBar* addToolBar(const QString& name, const QString& title);
     void addButton(QToolBar& toolBar, const Command& command);
     void connectAction(QAction& action, const Command& command, bool keepsWithoutNode);
 
@@ -77,6 +85,7 @@ class CommandActions : public QObject {
         bool (*isUsable)(const MenuDocument&);
         bool keepsWithoutNode;
     };
+    QMainWindow& m_window;
     std::vector<Switch> m_switches;
     ShortcutKeys m_shortcuts;
 };

@@ -26,7 +26,6 @@ FileCommands::FileCommands(MenuDocument& document, EditorView& view, const Edito
     : m_document(document), m_view(view), m_services(services) {}
 
 void FileCommands::reset() {
-    m_overfullFile.clear();
     m_document.NewDocument();
     m_view.showScript("");
 }
@@ -46,7 +45,7 @@ void FileCommands::mnuFileOpen_Click() {
     }
     // A cancelled dialog clears the mark too: Open asks nothing about unsaved changes, and Exit
     // after it ends without asking.
-    m_document.markSaved();
+    m_document.clearModified();
     m_view.Button_Update();
 }
 
@@ -115,7 +114,8 @@ void FileCommands::openDefinition(const std::string& path) {
         return;
     MenuContent opened;
     const ReadResult result = ReadScript(content.take(), opened);
-    m_overfullFile = result.itemsLeftOut > 0 ? path : "";
+    if (result.itemsLeftOut > 0)
+        opened.overfullFile = path;
     m_document.open(std::move(opened), path, SplitPath(path).folder);
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
@@ -127,7 +127,8 @@ void FileCommands::openDefinition(const std::string& path) {
 }
 
 bool FileCommands::wouldLoseItems(const std::string& path) const {
-    return !m_overfullFile.empty() && m_services.files.isSameFile(path, m_overfullFile);
+    const std::string& overfull = m_document.content().overfullFile;
+    return !overfull.empty() && m_services.files.isSameFile(path, overfull);
 }
 
 FileCommands::SaveOutcome FileCommands::saveAs() {
@@ -169,6 +170,7 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
         rebasedBack = RebaseAllURLs(m_document, oldFolder, folder);
     m_document.setFile(path, folder);
     if (SaveDefinition(path)) {
+        m_document.record(std::move(rebasedBack));
         m_document.markSaved();
         m_view.Button_Update();
         return true;
@@ -217,8 +219,12 @@ void FileCommands::loadPreview() {
     SaveDefinition("");
     m_previewedScript = GenerateScript(m_document.content());
     m_previewedFolder = m_document.SavePath();
+    const Path folder(m_document.SavePath());
+    std::vector<std::string> scripts = {folder.child(kPreviewScript)};
+    for (const std::string_view name : kLibraryFiles)
+        scripts.push_back(folder.child(name));
     // Also after a failure: the preview shows whatever is there.
-    m_services.browser.load(Path(m_document.SavePath()).child(kPreviewPage));
+    m_services.browser.load(folder.child(kPreviewPage), scripts);
 }
 
 /// Gives back what the person is to be told, without text when all is well.

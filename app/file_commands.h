@@ -73,8 +73,6 @@ class FileCommands {
     MenuDocument& m_document;
     EditorView& m_view;
     EditorServices m_services;
-    /// The file the document was read from, when it holds more items than the document.
-    std::string m_overfullFile;
     /// What the browser was last told to show.
     std::string m_previewedScript;
     std::string m_previewedFolder;

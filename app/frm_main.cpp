@@ -1,25 +1,32 @@
 #include "app/frm_main.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <cstddef>
 #include <exception>
+#include <initializer_list>
+#include <utility>
 
 #include "app/frm_about.h"
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
 #include "app/open_url.h"
 #include "app/script_view.h"
+#include "app/strip_line.h"
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
+#include "html/caption_text.h"
 #include "integrator/wizard/frm_integrator.h"
 #include "library/changed_files.h"
 #include "messages/library_messages.h"
@@ -35,6 +42,22 @@ namespace {
 constexpr const char* kSupportAddress = "https://zevmenu.example/support";
 constexpr const char* kManual = "help/index.html";
 
+std::size_t sizeOf(const MenuNode& branch) {
+    std::size_t size = 1;
+    for (const MenuNode* child : branch.children())
+        size += sizeOf(*child);
+    return size;
+}
+
+/// "About us", "About us and 1 item", "About us and 7 items": a node and all below it.
+std::string branchName(const MenuNode& top) {
+    const std::size_t below = sizeOf(top) - 1;
+    std::string name = captionName(top.item.Caption);
+    if (below > 0)
+        name += " and " + std::to_string(below) + (below == 1 ? " item" : " items");
+    return name;
+}
+
 }  // namespace
 
 frmMain::frmMain(const EditorServices& services, const std::string& programFolder,
@@ -47,7 +70,7 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     // The usual menu of a main window would hide the toolbar.
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(&m_commands, &CommandActions::chosen, this,
-            [this](const Command& command) { run(command.click); });
+            [this](const Command& command) { run(command); });
     buildTabs(webBrowser);
     buildDialogs();
     buildStatusBar();
@@ -57,6 +80,10 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     m_document.addObserver(*this);
     fileChanged();
     m_fileCommands.reset();
+    m_history.clear();
+    connect(&m_history, &EditHistory::changed, this, &frmMain::showHistory);
+    connect(qApp, &QApplication::focusChanged, this, &frmMain::showHistory);
+    showHistory();
     TreeView->setFocus();
 }
 
@@ -123,11 +150,19 @@ QWidget* frmMain::buildMenuTab() {
     TreeView->setAccessibleName(tr("Menu items"));
     connect(TreeView, &MenuTreeView::nodeClicked, this,
             [this](const MenuNode* node) { guard([this, node] { TreeView_NodeClick(node); }); });
-    connect(TreeView, &MenuTreeView::labelEdited, m_panel, &ItemPanel::TreeView_AfterLabelEdit);
+    connect(TreeView, &MenuTreeView::labelEdited, this, &frmMain::TreeView_AfterLabelEdit);
+    connect(m_panel, &ItemPanel::editing, &m_history, &EditHistory::beginTyping);
+    connect(m_panel, &ItemPanel::fieldLeft, &m_history, &EditHistory::endTypingOf);
 
     auto* splitter = new QSplitter;
+    m_lastCommand = new StripLine("LastCommand", tr("Last command"), this);
+    auto* treeSide = new QWidget;
+    auto* treeLayout = new QVBoxLayout(treeSide);
+    treeLayout->setContentsMargins(0, 0, 0, 0);
+    treeLayout->addWidget(m_lastCommand);
+    treeLayout->addWidget(TreeView);
     splitter->addWidget(panelArea);
-    splitter->addWidget(TreeView);
+    splitter->addWidget(treeSide);
     splitter->setChildrenCollapsible(false);
     splitter->setStretchFactor(0, 2);
     splitter->setStretchFactor(1, 3);
@@ -142,12 +177,18 @@ void frmMain::buildDialogs() {
     m_defaultForm = new frmDefaultProp(host, this);
     auto* advanced = new frmAdvProp(host, nullptr);
     m_menuForm = new frmMenuProp(host, *m_defaultForm, *advanced, this);
+    // One of these is opened from another: each OK is a step of its own.
+    for (const QDialog* form : std::initializer_list<QDialog*>{m_defaultForm, m_menuForm, advanced})
+        connect(form, &QDialog::accepted, &m_history,
+                [this, form] { m_history.cut(form->windowTitle().toStdString()); });
     // Window managers keep it in front of the dialog that it is opened from, whatever is clicked.
     advanced->setParent(m_menuForm, advanced->windowFlags());
 }
 
 void frmMain::openDefinition(const std::string& path) {
-    run([&path](frmMain& window) { window.m_fileCommands.openDefinition(path); });
+    run("Open", [this, &path] { m_fileCommands.openDefinition(path); });
+    // The program has started with it: there is nothing before it to go back to.
+    m_history.clear();
 }
 
 void frmMain::validateFields() {
@@ -161,6 +202,7 @@ void frmMain::StoreItem() {
     m_panel->labelSelectedNode();
     const QScopedValueRollback storing(m_isStoring, true);
     m_panel->StoreItem(m_document.CurNode());
+    m_history.endTyping();
 }
 
 void frmMain::showScript(const std::string& script) {
@@ -177,6 +219,22 @@ void frmMain::mnuFileExit_Click() {
     m_isEnding = true;
     close();
     emit ended();
+}
+
+void frmMain::mnuEditUndo_Click() {
+    if (QLineEdit* field = typedField(); field && field->isUndoAvailable())
+        field->undo();
+    else
+        takeBack(&EditHistory::undo);
+    showHistory();
+}
+
+void frmMain::mnuEditRedo_Click() {
+    if (QLineEdit* field = typedField(); field && field->isRedoAvailable())
+        field->redo();
+    else
+        takeBack(&EditHistory::redo);
+    showHistory();
 }
 
 void frmMain::mnuEditDefault_Click() {
@@ -206,6 +264,11 @@ void frmMain::mnuEditAddSubmenuItem_Click() {
 // that greys the Save which a save has left usable. Move Left and Move Right do not.
 
 void frmMain::mnuEditDelete_Click() {
+    if (const MenuNode* doomed = m_document.selectedNode()) {
+        const std::string name = branchName(*doomed);
+        m_history.rename("Delete " + name);
+        m_commandLine = tr("Deleted %1.").arg(QString::fromStdString(name));
+    }
     edit(deleteItem);
     // An item that was shown without being selected has not had its label until now.
     m_panel->labelSelectedNode();
@@ -247,7 +310,7 @@ void frmMain::mnuHelpSupport_Click() {
 
 void frmMain::tbToolBar_ButtonClick(const QString& key) {
     if (const Command* command = CommandActions::withButton(key))
-        run(command->click);
+        run(*command);
 }
 
 void frmMain::MenuTab_Click() {
@@ -269,13 +332,86 @@ void frmMain::TreeView_NodeClick(const MenuNode* node) {
     Button_Update();
 }
 
-/// Runs a command as the person does who leaves the field being edited for it.
-void frmMain::run(const std::function<void(frmMain&)>& command) {
+void frmMain::TreeView_AfterLabelEdit(const MenuNode& node, const QString& label) {
+    const auto rename = [&] {
+        m_document.setLabel(node, label.toStdString());
+        m_panel->TreeView_AfterLabelEdit(label);
+    };
+    // A type chosen a moment ago is not stored for it: the label stands for the item as it was.
+    if (m_history.isTyping()) {
+        rename();
+        return;
+    }
+    m_history.run("Rename " + captionName(node.item.Caption), [&] {
+        rename();
+        StoreItem();
+    });
+}
+
+void frmMain::run(const Command& command) {
+    if (command.leavesField)
+        run(command.step, [this, &command] { command.click(*this); });
+    else
+        guard([this, &command] { command.click(*this); });
+}
+
+/// Runs a command as the person does who leaves the field being edited for it. `step`: as in
+/// `Command`.
+void frmMain::run(const std::string& step, const std::function<void()>& work) {
     leaveField();
-    guard([this, &command] {
-        command(*this);
+    guard([&] {
+        m_history.storeTyping();
+        if (step.empty())
+            work();
+        else
+            m_history.run(step, work);
         followDocument();
     });
+}
+
+void frmMain::takeBack(void (EditHistory::*there)()) {
+    leaveField();
+    {
+        const QScopedValueRollback editing(m_isEditing, true);
+        (m_history.*there)();
+    }
+    TreeView->showSelection();
+    Button_Update();
+    followDocument();
+}
+
+/// The field that is being typed in; null when there is none.
+QLineEdit* frmMain::typedField() const {
+    return qobject_cast<QLineEdit*>(focusWidget());
+}
+
+/// What the last step has removed out of sight can be had back beside the tree, until the next
+/// step.
+void frmMain::sayLastCommand() {
+    if (std::exchange(m_saidState, history().state()) == history().state())
+        return;
+    const bool hadFocus = m_lastCommand->isAncestorOf(focusWidget());
+    const QString line = std::exchange(m_commandLine, {});
+    if (line.isEmpty())
+        m_lastCommand->say("");
+    else
+        m_lastCommand->say(line, {{tr("Undo"), [this] { mnuEditUndo_Click(); }}});
+    if (hadFocus)
+        TreeView->setFocus();
+}
+
+/// Undo and Redo say what they will do.
+void frmMain::showHistory() {
+    sayLastCommand();
+    const QLineEdit* const field = typedField();
+    const auto show = [this](const char* entry, const QString& verb, bool isTyped,
+                             const std::string& step) {
+        const QString what = isTyped ? tr("Typing") : QString::fromStdString(step);
+        m_commands.show(CommandActions::named(entry), what.isEmpty() ? verb : verb + " " + what,
+                        !what.isEmpty());
+    };
+    show("mnuEditUndo", tr("Undo"), field && field->isUndoAvailable(), m_history.undoName());
+    show("mnuEditRedo", tr("Redo"), field && field->isRedoAvailable(), m_history.redoName());
 }
 
 /// The JavaScript or Preview tab, when it is the one shown, follows what a command did. Unlike a
@@ -328,7 +464,7 @@ void frmMain::edit(EditResult (*command)(MenuDocument&)) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!m_isEnding)
-        run(&frmMain::mnuFileExit_Click);
+        run("", [this] { mnuFileExit_Click(); });
     event->setAccepted(m_isEnding);
 }
 
@@ -337,6 +473,7 @@ void frmMain::openAddress(const std::string& address) {
 }
 
 void frmMain::contentReplaced() {
+    m_services.browser.forgetAllowedPictures();
     selectedNodeChanged();
     currentNodeChanged();
     m_defaultForm->LoadDefaultDialog();

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QMainWindow>
+#include <cstdint>
 #include <functional>
 #include <string>
 
 #include "app/commands.h"
+#include "app/edit_history.h"
 #include "app/editor_services.h"
 #include "app/editor_view.h"
 #include "app/file_commands.h"
@@ -12,6 +14,7 @@
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
+class QLineEdit;
 class QTabWidget;
 
 namespace zev {
@@ -19,6 +22,7 @@ namespace zev {
 class ItemPanel;
 class MenuTreeView;
 class ScriptView;
+class StripLine;
 class frmDefaultProp;
 class frmMenuProp;
 
@@ -38,6 +42,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     ~frmMain() override;
 
     MenuDocument& document() { return m_document; }
+    const DocumentHistory& history() const { return m_history.steps(); }
 
     /// Opens the definition file at `path` (full path), as File > Open does with a chosen file.
     void openDefinition(const std::string& path);
@@ -54,6 +59,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     /// The entry of File > Import of this format.
     void importMenu(const ImportFormat& format) { m_importCommands.run(format); }
     void mnuFileExit_Click();
+    void mnuEditUndo_Click();
+    void mnuEditRedo_Click();
     void mnuEditDefault_Click();
     void mnuEditMenuProperties_Click();
     void mnuEditAddMenuItem_Click();
@@ -71,6 +78,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void tbToolBar_ButtonClick(const QString& key);
     void MenuTab_Click();
     void TreeView_NodeClick(const MenuNode* node);
+    /// Takes a label that was edited in the tree.
+    void TreeView_AfterLabelEdit(const MenuNode& node, const QString& label);
 
   signals:
     /// The program is to end now.
@@ -84,7 +93,12 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void buildStatusBar();
     QWidget* buildMenuTab();
     void buildDialogs();
-    void run(const std::function<void(frmMain&)>& command);
+    void run(const Command& command);
+    void run(const std::string& step, const std::function<void()>& work);
+    void takeBack(void (EditHistory::*there)());
+    void showHistory();
+    void sayLastCommand();
+    QLineEdit* typedField() const;
     void followDocument();
     void guard(const std::function<void()>& work);
     void leaveField();
@@ -108,6 +122,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     FileCommands m_fileCommands;
     ImportCommands m_importCommands;
     CommandActions m_commands{*this};
+    EditHistory m_history{m_document, [this] { StoreItem(); }};
     bool m_isEnding = false;
     /// What is typed in the panel stays as it is, with its cursor, while it is stored.
     bool m_isStoring = false;
@@ -118,6 +133,10 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     ItemPanel* m_panel = nullptr;
     MenuTreeView* TreeView = nullptr;
     ScriptView* txtJavaScript = nullptr;
+    StripLine* m_lastCommand = nullptr;
+    /// What `m_lastCommand` says of the step that is being made, and of which state it spoke last.
+    QString m_commandLine;
+    std::uint64_t m_saidState = 0;
     QWidget* WebBrowser = nullptr;
 
     // Made once: they keep what was copied and which font was chosen from one use to the next.

@@ -82,25 +82,27 @@ QWidget* ItemPanel::makeAttributeFrame() {
     frame->setObjectName("FrameAttribute");
     const FieldRow rows[] = {
         {&ItemPanel::txtCaption, "Caption", tr("Menu &Description (HTML syntax)"),
-         tr("Menu item text/image displayed on the menu"), &ItemProp::Caption, Text, escaped,
+         tr("Menu item text/image displayed on the menu"), "Type in Menu Description",
+         &ItemProp::Caption, Text, escaped,
          ButtonRow{"cmdCaptionImg", "insert_image", tr("Add <img> tag to menu description"),
                    tr("Add image tag to menu description"), &ItemPanel::cmdCaptionImg_Click}},
         {&ItemPanel::txtURL, "URL", tr("&URL/JavaScript function"),
          tr("Menu item link. Usage similar to HREF attribute. JavaScript functions can be called "
             "using javascript:"),
-         &ItemProp::URL, AnyType, checkURL,
+         "Type in URL", &ItemProp::URL, AnyType, checkURL,
          ButtonRow{"cmdURL", "browse", tr("Browse"), tr("Browse for link"),
                    &ItemPanel::cmdURL_Click}},
         {&ItemPanel::txtTarget, "Target", tr("Tar&get Frame"),
-         tr("Target frame or window of menu item link"), &ItemProp::Target, AnyType, checkTarget},
+         tr("Target frame or window of menu item link"), "Type in Target Frame", &ItemProp::Target,
+         AnyType, checkTarget},
         {&ItemPanel::txtImgOut, "ImgOut", tr("Mouse&Out Image"),
          tr("Menu item image displayed when the mouse is outside the menu item"),
-         &ItemProp::ImageOut, Rollover, nullptr,
+         "Type in MouseOut Image", &ItemProp::ImageOut, Rollover, nullptr,
          ButtonRow{"cmdImgOut", "browse", tr("Browse"), tr("Browse for mouse-out image"),
                    &ItemPanel::cmdImgOut_Click}},
         {&ItemPanel::txtImgOver, "ImgOver", tr("MouseO&ver Image"),
-         tr("Menu item image displayed when the mouse is over the menu item"), &ItemProp::ImageOver,
-         Rollover, nullptr,
+         tr("Menu item image displayed when the mouse is over the menu item"),
+         "Type in MouseOver Image", &ItemProp::ImageOver, Rollover, nullptr,
          ButtonRow{"cmdImgOver", "browse", tr("Browse"), tr("Browse for mouse-over image"),
                    &ItemPanel::cmdImgOver_Click}},
     };
@@ -126,7 +128,13 @@ void ItemPanel::addField(QGridLayout* grid, const FieldRow& row) {
     grid->addWidget(edit, line, 0, 1, row.button.has_value() ? 1 : 2);
     if (row.check)
         edit->setCheck(row.check, PropertyEdit::CheckedWhen::Left, m_services.messages);
-    connect(edit, &PropertyEdit::edited, this, [this, edit = edit] { fieldChanged(*edit); });
+    connect(edit, &PropertyEdit::edited, this,
+            [this, edit = edit, step = row.step] { fieldChanged(*edit, step); });
+    // Behind the check, whose work belongs to the same step.
+    connect(edit, &PropertyEdit::left, this, [this, edit = edit, step = row.step] {
+        emit fieldLeft(step);
+        edit->forgetTyping();
+    });
     QToolButton* button = nullptr;
     if (row.button.has_value()) {
         button = new QToolButton(frame);
@@ -240,21 +248,26 @@ const PropertyEdit& ItemPanel::labelSource() const {
     return optRollover->isChecked() ? *txtImgOut : *txtCaption;
 }
 
-void ItemPanel::fieldChanged(const PropertyEdit& edit) {
+void ItemPanel::fieldChanged(const PropertyEdit& edit, const std::string& step) {
     if (m_isShowing)
         return;
+    emit editing(step);
     if (&edit == &labelSource())
         labelSelectedNode();
     m_document.markModified();
 }
 
 void ItemPanel::optNormal_Click() {
-    setRolloverMode(false);
-    labelSelectedNode();
+    typeChosen(false);
 }
 
 void ItemPanel::optRollover_Click() {
-    setRolloverMode(true);
+    typeChosen(true);
+}
+
+void ItemPanel::typeChosen(bool isRollover) {
+    emit editing("Change Item Type");
+    setRolloverMode(isRollover);
     labelSelectedNode();
 }
 

@@ -43,6 +43,13 @@ class ItemPanel : public QWidget {
     /// Takes a label that was edited in the tree into the field it stands for.
     void TreeView_AfterLabelEdit(const QString& label);
 
+  signals:
+    /// The person has begun, or goes on, to change what the item of `CurNode` is to be. `step`
+    /// names it: "Type in URL".
+    void editing(const std::string& step);
+    /// The person is done with the field of this step.
+    void fieldLeft(const std::string& step);
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -65,6 +72,7 @@ class ItemPanel : public QWidget {
         QString name;     ///< of its widgets, behind "lbl" and "txt"
         QString caption;  ///< with its access key
         QString tooltip;
+        std::string step;  ///< what Undo calls typing in it
         std::string ItemProp::*member = nullptr;
         Type type = AnyType;
         TextCheck check = {};  ///< run when the field is left
@@ -85,7 +93,8 @@ class ItemPanel : public QWidget {
     void showFaceColour();
     void setRolloverMode(bool isRollover);
     const PropertyEdit& labelSource() const;
-    void fieldChanged(const PropertyEdit& edit);
+    void fieldChanged(const PropertyEdit& edit, const std::string& step);
+    void typeChosen(bool isRollover);
     bool browse(QLineEdit& edit, const std::string& filter);
 
     void optNormal_Click();

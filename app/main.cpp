@@ -34,9 +34,14 @@ void describeArguments(QCommandLineParser& parser) {
     parser.setApplicationDescription("Authoring tool for cascading menus on web sites.");
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOption({"screenshot",
-                      "Show the preview, save a picture of the window as PNG, and end.",
-                      "picture"});
+    parser.addOption(
+        {"screenshot",
+         QString("Show the preview, save a picture of the window as PNG, and end: with "
+                 "status 0, with 1 when the preview cannot be shown or the picture "
+                 "not written, with 3 when the preview hangs or no picture is there "
+                 "after %1 seconds.")
+             .arg(kPictureLimitSeconds),
+         "picture"});
     parser.addPositionalArgument("file", "Menu definition file to open.", "[file]");
 }
 

@@ -77,6 +77,11 @@ MenuTreeView::MenuTreeView(MenuDocument& document, QWidget* parent)
     connect(this, &QTreeView::collapsed, this, &MenuTreeView::foldBranch);
     connect(&m_model, &TreeViewModel::nodeExpansionChanged, this, &QTreeView::setExpanded);
     connect(&m_model, &TreeViewModel::modelReset, this, &MenuTreeView::showExpansion);
+    connect(&m_model, &TreeViewModel::rowsInserted, this,
+            [this](const QModelIndex& above, int row) {
+                const QModelIndex index = m_model.index(row, 0, above);
+                showExpansionOf(*m_model.nodeAt(index));
+            });
     connect(&m_model, &TreeViewModel::labelEdited, this, &MenuTreeView::labelEdited);
     // Also a click on the node that is selected already.
     connect(this, &QTreeView::pressed, this,
@@ -180,10 +185,16 @@ void MenuTreeView::foldBranch(const QModelIndex& index) {
 
 // A reset view has every node collapsed.
 void MenuTreeView::showExpansion() {
-    const MenuTree& tree = m_document.tree();
-    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node))
-        if (node->isExpanded)
-            setExpanded(m_model.indexOf(node), true);
+    for (const MenuNode* node : m_document.tree().childrenOf(nullptr))
+        showExpansionOf(*node);
+}
+
+/// Of a node that the view has just been given, and of all below it.
+void MenuTreeView::showExpansionOf(const MenuNode& node) {
+    if (node.isExpanded)
+        setExpanded(m_model.indexOf(&node), true);
+    for (const MenuNode* child : node.children())
+        showExpansionOf(*child);
 }
 
 int MenuTreeView::indentOf(const MenuNode& node) const {

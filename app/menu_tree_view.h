@@ -27,7 +27,7 @@ class MenuTreeView : public QTreeView {
     /// that was selected.
     void nodeClicked(const MenuNode* node);
     /// A label was edited in place; the node already shows it.
-    void labelEdited(const QString& text);
+    void labelEdited(const zev::MenuNode& node, const QString& text);
 
   protected:
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
@@ -42,6 +42,7 @@ class MenuTreeView : public QTreeView {
   private:
     void foldBranch(const QModelIndex& index);
     void showExpansion();
+    void showExpansionOf(const MenuNode& node);
     int indentOf(const MenuNode& node) const;
 
     MenuDocument& m_document;

@@ -85,9 +85,7 @@ Qt::ItemFlags TreeViewModel::flags(const QModelIndex& index) const {
 bool TreeViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!index.isValid() || role != Qt::EditRole)
         return false;
-    const QString label = value.toString();
-    m_document.setLabel(*nodeAt(index), label.toStdString());
-    emit labelEdited(label);
+    emit labelEdited(*nodeAt(index), value.toString());
     return true;
 }
 

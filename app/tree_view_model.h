@@ -34,12 +34,12 @@ class TreeViewModel : public QAbstractItemModel, private DocumentObserver {
     bool hasChildren(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    /// Sets the label of a node; announced by `labelEdited` afterwards.
+    /// Asks for another label of a node by `labelEdited`.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
   signals:
     /// A label was edited in the view.
-    void labelEdited(const QString& text);
+    void labelEdited(const zev::MenuNode& node, const QString& text);
     /// The tree expanded or collapsed a node.
     void nodeExpansionChanged(const QModelIndex& index, bool isExpanded);
 

@@ -50,6 +50,15 @@ std::string PropertyEdit::value() const {
     return text() == m_shownText ? m_shownValue : text().toStdString();
 }
 
+// A text that is set is none that was typed.
+void PropertyEdit::forgetTyping() {
+    const int cursor = cursorPosition();
+    m_isShowing = true;
+    setText(text());
+    m_isShowing = false;
+    setCursorPosition(cursor);
+}
+
 void PropertyEdit::check() {
     const CheckedText checked = m_check(text().toStdString());
     if (!checked.message.empty())

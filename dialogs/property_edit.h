@@ -44,6 +44,8 @@ class PropertyEdit : public QLineEdit {
     /// The text (UTF-8). While the box still shows what `showValue` put there, this is that very
     /// value, so that no text a box cannot hold (a line break) is damaged by being looked at.
     std::string value() const;
+    /// The box's own undo has nothing left to take back.
+    void forgetTyping();
     /// Runs the check: shows its message, and replaces the text by what the check makes of it; the
     /// caret stays between the same characters.
     void check();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "model/menu_prop.h"
 #include "model/menu_tree.h"
@@ -15,6 +16,8 @@ struct MenuContent {
     MenuProp DefaultProp;          ///< menu-wide defaults
     MenuProp RootMenuProp;         ///< properties of the top-level menu
     std::int16_t ItemCounter = 0;  ///< number of the next item made in the editor
+    /// The definition file that holds more items than this content; empty when it has them all.
+    std::string overfullFile = {};
 
     /// The content of a new menu: no items, the factory defaults, and a top-level menu that is a
     /// horizontal bar of up to ten items whose submenus drop down.

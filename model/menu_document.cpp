@@ -17,6 +17,18 @@ bool hasExchanged(Value& kept, Value& value) {
     return true;
 }
 
+/// One function object out of one for each kind of change.
+template <typename... Functions>
+struct Overloaded : Functions... {
+    using Functions::operator()...;
+};
+
+bool isEmpty(const MenuContent& content) {
+    static const MenuContent kEmpty;
+    return content.tree.firstNode() == nullptr && content.DefaultProp == kEmpty.DefaultProp &&
+           content.RootMenuProp == kEmpty.RootMenuProp && content.ItemCounter == kEmpty.ItemCounter;
+}
+
 }  // namespace
 
 MenuDocument::MenuDocument(std::string programFolder)
@@ -34,6 +46,26 @@ const MenuProp& MenuDocument::menuProp(const MenuPropOwner& owner) const {
     return *owner.node->item.MenuProperty;
 }
 
+/// True when the change would leave the document as it is.
+bool MenuDocument::isAlready(const Change& change) const {
+    return std::visit(
+        Overloaded{
+            [](const auto&) { return false; },
+            [](const SetItem& one) { return one.node->item == one.item; },
+            [](const SetLabel& one) { return one.node->text == one.text; },
+            [](const SetExpanded& one) { return one.node->isExpanded == one.isExpanded; },
+            [this](const SetMenu& one) { return menuProp(one.owner) == *one.properties; },
+            [this](const SetFile& one) {
+                return one.SaveFile == m_saveFile && one.SavePath == m_savePath;
+            },
+            [this](const SetSelection& one) { return one.selection == m_selection; },
+            [this](const ReplaceContent& one) {
+                return isEmpty(*one.content) && isEmpty(m_content);
+            },
+        },
+        change);
+}
+
 // Every change of the document passes here, together with the one that takes it back.
 Change MenuDocument::apply(Change change) {
     return std::visit([this](auto& one) { return perform(std::move(one)); }, change);
@@ -44,6 +76,19 @@ Changes MenuDocument::apply(Changes changes) {
         change = apply(std::move(change));
     std::reverse(changes.begin(), changes.end());
     return changes;
+}
+
+void MenuDocument::change(Change change) {
+    const bool isNew = !isAlready(change);
+    Change inverse = apply(std::move(change));
+    if (isNew && m_recorder)
+        m_recorder->changed(std::move(inverse));
+}
+
+void MenuDocument::record(Changes inverses) {
+    if (m_recorder)
+        for (auto inverse = inverses.rbegin(); inverse != inverses.rend(); ++inverse)
+            m_recorder->changed(std::move(*inverse));
 }
 
 template <typename... Parameters>
@@ -185,12 +230,12 @@ void MenuDocument::NewDocument() {
 }
 
 void MenuDocument::open(MenuContent content, std::string SaveFile, std::string SavePath) {
-    setFile(std::move(SaveFile), std::move(SavePath));
+    change(SetFile{std::move(SaveFile), std::move(SavePath)});
     auto opened = std::make_unique<MenuContent>(std::move(content));
     const MenuNode* const first = opened->tree.firstNode();
     markSaved();
     // Last, so that whoever is told of it finds all else as it stays.
-    apply(ReplaceContent{std::move(opened), {first, first}});
+    change(ReplaceContent{std::move(opened), {first, first}});
 }
 
 void MenuDocument::open(MenuContent content) {
@@ -202,19 +247,19 @@ void MenuDocument::setFile(std::string SaveFile, std::string SavePath) {
 }
 
 void MenuDocument::select(const MenuNode* node) {
-    apply(SetSelection{{node, node}});
+    change(SetSelection{{node, node}});
 }
 
 void MenuDocument::setItem(const MenuNode& node, ItemProp item) {
-    apply(SetItem{&node, std::move(item)});
+    change(SetItem{&node, std::move(item)});
 }
 
 void MenuDocument::setLabel(const MenuNode& node, std::string text) {
-    apply(SetLabel{&node, std::move(text)});
+    change(SetLabel{&node, std::move(text)});
 }
 
 void MenuDocument::setExpanded(const MenuNode& node, bool isExpanded) {
-    apply(SetExpanded{&node, isExpanded});
+    change(SetExpanded{&node, isExpanded});
 }
 
 void MenuDocument::makeVisible(const MenuNode& node) {
@@ -228,7 +273,7 @@ void MenuDocument::setMenu(const MenuPropOwner& owner, MenuProp properties) {
 }
 
 void MenuDocument::setMenuUnmarked(const MenuPropOwner& owner, MenuProp properties) {
-    apply(SetMenu{owner, std::move(properties)});
+    change(SetMenu{owner, std::move(properties)});
 }
 
 void MenuDocument::markModified() {
@@ -236,6 +281,12 @@ void MenuDocument::markModified() {
 }
 
 void MenuDocument::markSaved() {
+    clearModified();
+    if (m_recorder)
+        m_recorder->saved();
+}
+
+void MenuDocument::clearModified() {
     apply(SetModified{false});
 }
 

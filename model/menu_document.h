@@ -11,6 +11,17 @@
 
 namespace zev {
 
+/// Is given what takes each change of a document back, in the order of the changes. What a document
+/// knows of its own file (`bModified`, a new name under which it was saved) is no change to take
+/// back.
+class ChangeRecorder {
+  public:
+    virtual ~ChangeRecorder() = default;
+    virtual void changed(Change inverse) = 0;
+    /// The document is now the one that its file holds, or an empty one without a file.
+    virtual void saved() = 0;
+};
+
 /// The menu being edited: its content, and what the editor knows of the file it belongs to.
 ///
 /// Everything it gives away is const. Whoever wants it changed calls an operation; all operations
@@ -45,10 +56,16 @@ class MenuDocument {
 
     /// Applies a change and returns the one that takes it back, to be applied to the document as
     /// this change left it. Neither copies what it holds. A change to what is there already tells
-    /// nobody.
+    /// nobody. Nothing is recorded.
     Change apply(Change change);
     /// Applies the changes in their order and returns those that take them all back, in theirs.
     Changes apply(Changes changes);
+    /// Applies a change and records what takes it back, if it changed anything.
+    void change(Change change);
+    /// Records what `apply` returned, for changes that have come to stay.
+    void record(Changes inverses);
+    /// Not owned; null for none. There is none at first.
+    void setRecorder(ChangeRecorder* recorder) { m_recorder = recorder; }
 
     /// Not owned; must outlive its registration, which must not change while observers are told.
     void addObserver(DocumentObserver& observer) { m_observers.push_back(&observer); }
@@ -63,7 +80,8 @@ class MenuDocument {
     void open(MenuContent content, std::string SaveFile, std::string SavePath);
     /// The same for content that belongs to no definition file yet.
     void open(MenuContent content);
-    /// The document belongs to another file and folder from now on.
+    /// The document belongs to another file and folder from now on, and is not taken back from
+    /// there.
     void setFile(std::string SaveFile, std::string SavePath);
     /// Makes a node, or none, selected and current.
     void select(const MenuNode* node);
@@ -78,10 +96,13 @@ class MenuDocument {
     void setMenuUnmarked(const MenuPropOwner& owner, MenuProp properties);
     /// Sets `bModified`: something has changed, or was typed and will be stored.
     void markModified();
-    /// Clears `bModified`: there is nothing that would need saving.
+    /// Clears `bModified`: the document's file holds what it holds.
     void markSaved();
+    /// Clears `bModified` alone: what would need saving still does.
+    void clearModified();
 
   private:
+    bool isAlready(const Change& change) const;
     Change perform(InsertBranch&& change);
     Change perform(RemoveBranch&& change);
     Change perform(MoveBranch&& change);
@@ -108,6 +129,7 @@ class MenuDocument {
     bool m_isModified = false;
     NodeSelection m_selection;
     std::vector<DocumentObserver*> m_observers;
+    ChangeRecorder* m_recorder = nullptr;
     bool m_isTelling = false;
 };
 

@@ -15,7 +15,7 @@ bool opensBelow(const MenuDocument& document) {
 }
 
 void useUpNumber(MenuDocument& document) {
-    document.apply(SetItemCounter{static_cast<std::int16_t>(document.ItemCounter() + 1)});
+    document.change(SetItemCounter{static_cast<std::int16_t>(document.ItemCounter() + 1)});
     document.markModified();
 }
 
@@ -37,7 +37,7 @@ const MenuNode* appendNewNode(MenuDocument& document, const MenuNode* parent) {
     MenuBranch branch("Key " + number, std::move(text), std::move(item));
     const MenuNode* const node = branch.top();
     const std::size_t row = document.tree().childrenOf(parent).size();
-    document.apply(InsertBranch{std::move(branch), parent, row});
+    document.change(InsertBranch{std::move(branch), parent, row});
     return node;
 }
 
@@ -48,7 +48,7 @@ EditResult moveToLevel(MenuDocument& document, const MenuNode* parent, std::size
         return EditResult::CounterExhausted;
     const MenuNode& node = *document.CurNode();
     const bool wasVisible = document.tree().isVisible(node);
-    document.apply(MoveBranch{&node, parent, row});
+    document.change(MoveBranch{&node, parent, row});
     if (wasVisible)
         document.makeVisible(node);
     document.select(&node);
@@ -76,14 +76,14 @@ EditResult addSubmenuItem(MenuDocument& document) {
     if (selected)
         document.makeVisible(*node);
     else
-        document.apply(SetSelection{{nullptr, node}});
+        document.change(SetSelection{{nullptr, node}});
     return EditResult::Done;
 }
 
 EditResult deleteItem(MenuDocument& document) {
     if (!document.selectedNode())
         return EditResult::NothingToDo;
-    document.apply(RemoveBranch{document.selectedNode()});
+    document.change(RemoveBranch{document.selectedNode()});
     document.markModified();
     return EditResult::Done;
 }
@@ -110,7 +110,7 @@ EditResult moveUp(MenuDocument& document) {
     const MenuNode* const node = document.CurNode();
     if (!node || node->row() == 0)
         return EditResult::NothingToDo;
-    document.apply(MoveBranch{node, node->parent(), node->row() - 1});
+    document.change(MoveBranch{node, node->parent(), node->row() - 1});
     document.markModified();
     return EditResult::Done;
 }
@@ -119,7 +119,7 @@ EditResult moveDown(MenuDocument& document) {
     const MenuNode* const node = document.CurNode();
     if (!node || !document.tree().nextSibling(*node))
         return EditResult::NothingToDo;
-    document.apply(MoveBranch{node, node->parent(), node->row() + 2});
+    document.change(MoveBranch{node, node->parent(), node->row() + 2});
     document.makeVisible(*node);
     document.select(node);
     document.markModified();

@@ -155,10 +155,20 @@ class FakeShell : public Shell {
 class FakeBrowserView : public BrowserView {
   public:
     const std::vector<std::string>& recorded() const { return m_recorded; }
-    void load(const std::string& path) override { m_recorded.push_back(path); }
+    /// The scripts of the last page.
+    const std::vector<std::string>& scripts() const { return m_scripts; }
+    /// How often what was allowed had to be forgotten.
+    int forgottenCount() const { return m_forgottenCount; }
+    void load(const std::string& path, const std::vector<std::string>& scripts) override {
+        m_recorded.push_back(path);
+        m_scripts = scripts;
+    }
+    void forgetAllowedPictures() override { ++m_forgottenCount; }
 
   private:
     std::vector<std::string> m_recorded;
+    std::vector<std::string> m_scripts;
+    int m_forgottenCount = 0;
 };
 
 /// Records the pages it was asked to show; there is nothing to answer.

@@ -19,7 +19,7 @@ void QtHelpViewer::show(const std::string& path) {
     if (m_window == nullptr)
         makeWindow();
     if (m_webView != nullptr)
-        m_webView->load(page);
+        m_webView->load(page, {});
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
@@ -47,7 +47,9 @@ void QtHelpViewer::makeWindow() {
     } else {
         m_webView->localLinks = WebView::LocalLinks::Followed;
         m_webView->linkRefused = [](const QString& address) {
-            QDesktopServices::openUrl(QUrl(address));
+            const QUrl url(address);
+            if (url.scheme() == "http" || url.scheme() == "https")
+                QDesktopServices::openUrl(url);
         };
         layout->addWidget(m_webView);
         const auto* back = new QShortcut(QKeySequence(QKeySequence::Back), m_window.get());

@@ -1,12 +1,16 @@
 #include "platform/qt/web_engine_view.h"
 
+#include <QAuthenticator>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QOpenGLContext>
 #include <QPalette>
 #include <QVBoxLayout>
+#include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineProfile>
+#include <QWebEngineQuotaRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QtQuick/QQuickWindow>
 
 #ifdef Q_OS_LINUX
@@ -61,60 +65,137 @@ void drawWithoutOpenGL() {
         qt_gl_set_global_share_context(new QOpenGLContext);
 }
 
+void addEngineFlag(const QByteArray& flag) {
+    constexpr const char* kFlags = "QTWEBENGINE_CHROMIUM_FLAGS";
+    qputenv(kFlags, qgetenv(kFlags) + " " + flag);
+}
+
 /// Tells the engine when the desktop's theme is dark, which it does not ask for by itself: the
 /// manual, and pages that have a dark look, follow.
 void followTheme() {
-    constexpr const char* kFlags = "QTWEBENGINE_CHROMIUM_FLAGS";
     if (QGuiApplication::palette().color(QPalette::Base).lightness() < 128)
-        qputenv(kFlags, qgetenv(kFlags) + " --blink-settings=preferredColorScheme=0");
+        addEngineFlag("--blink-settings=preferredColorScheme=0");
+}
+
+/// A call between browsers sends datagrams that no proxy and no request interceptor sees.
+void refuseDatagrams() {
+    addEngineFlag("--force-webrtc-ip-handling-policy=disable_non_proxied_udp");
 }
 
 }  // namespace
 
-WebEnginePage::WebEnginePage(QWebEngineProfile* profile, const WebView& owner)
-    : QWebEnginePage(profile), m_owner(owner) {
+WebEnginePage::WebEnginePage(QWebEngineProfile* profile, const WebView& owner,
+                             const PageWalls& walls)
+    : QWebEnginePage(profile), m_owner(owner), m_walls(walls) {
+    connect(this, &QWebEnginePage::newWindowRequested, this,
+            [this](QWebEngineNewWindowRequest& request) {
+                m_owner.linkRefused(commonUrl(request.requestedUrl()).toString());
+            });
+    refuseRequests();
+}
+
+void WebEnginePage::refuseRequests() {
     connect(
-        this, &QWebEnginePage::newWindowRequested, this,
-        [this](QWebEngineNewWindowRequest& request) {
-            m_owner.linkRefused(request.requestedUrl().toString());
+        this, &QWebEnginePage::featurePermissionRequested, this,
+        [this](const QUrl& origin, Feature feature) {
+            setFeaturePermission(origin, feature, PermissionDeniedByUser);
         });
+    connect(
+        this, &QWebEnginePage::quotaRequested, this,
+        [](QWebEngineQuotaRequest request) { request.reject(); });
+    connect(
+        this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+        [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+    connect(
+        this, &QWebEnginePage::fileSystemAccessRequested, this,
+        [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+    const auto refusePassword = [](const QUrl&, QAuthenticator* answer) {
+        *answer = QAuthenticator();
+    };
+    connect(this, &QWebEnginePage::authenticationRequired, this, refusePassword);
+    connect(this, &QWebEnginePage::proxyAuthenticationRequired, this, refusePassword);
 }
 
 bool WebEnginePage::acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame) {
-    const bool isHome = url.adjusted(QUrl::RemoveFragment) == m_home;
-    const bool isFollowed =
-        url.isLocalFile() && m_owner.localLinks == WebView::LocalLinks::Followed;
-    if (!isMainFrame || isHome || isFollowed)
+    if (!isMainFrame)
+        return false;
+    if (m_walls.isPage(url))
         return true;
-    m_owner.linkRefused(url.toString());
+    m_owner.linkRefused(commonUrl(url).toString());
     return false;
+}
+
+void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
+    m_owner.messageShown(text);
+    dialogAsked();
+}
+
+bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
+    m_owner.messageShown(text);
+    dialogAsked();
+    return false;
+}
+
+bool WebEnginePage::javaScriptPrompt(const QUrl&, const QString& text, const QString&, QString*) {
+    m_owner.messageShown(text);
+    dialogAsked();
+    return false;
+}
+
+QStringList WebEnginePage::chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) {
+    return {};
 }
 
 WebEngineView::WebEngineView(QWidget* parent)
     : WebView(parent),
       m_view(new QWebEngineView(this)),
-      m_profile(new QWebEngineProfile(this)),  // without a name: nothing of it is kept on disk
-      m_page(new WebEnginePage(m_profile, *this)) {
+      m_profile(new QWebEngineProfile(this)) {  // without a name: nothing of it is kept on disk
     m_profile->setHttpCacheType(QWebEngineProfile::NoCache);
-    m_view->setPage(m_page);
+    m_profile->setUrlRequestInterceptor(&m_walls);
+    m_profile->installUrlSchemeHandler("zevmenu-page", &m_files);
+    shutOff(*m_profile);
+    makePage();
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_view, &QWidget::customContextMenuRequested, this, &WebEngineView::showContextMenu);
-    connect(m_view, &QWebEngineView::loadFinished, this, [this](bool isOk) { loaded(isOk); });
     setFocusProxy(m_view);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view);
 }
 
-WebEngineView::~WebEngineView() {
-    // A profile must outlive its pages.
-    delete m_page;
+/// Each load has a page of its own: one that hangs, was stopped, or asks whether to leave it cannot
+/// stand in the way of the next, nor what it remembers of files that have changed since.
+void WebEngineView::makePage() {
+    auto page = std::make_unique<WebEnginePage>(m_profile, *this, m_walls);
+    auto watch = std::make_unique<PageWatch>(
+        *page, [this](const QString& reason) { stopped(reason); });
+    page->dialogAsked = [watch = watch.get()] { watch->countDialog(); };
+    connect(page.get(), &QWebEnginePage::loadFinished, this,
+            [this, watch = watch.get()](bool isOk) {
+                if (!watch->isStopped())
+                    loaded(isOk);
+            });
+    m_view->setPage(page.get());
+    watch->setShown(isVisible());
+    m_watch = std::move(watch);
+    m_page = std::move(page);
 }
 
-void WebEngineView::load(const QString& path) {
-    const QUrl url = QUrl::fromLocalFile(path);
-    m_page->setHome(url);
-    m_view->load(url);
+void WebEngineView::load(const QString& path, const QStringList& scripts) {
+    const QUrl url = pageUrl(path);
+    m_walls.setPage(url, scripts);
+    makePage();
+    m_page->load(url);
+}
+
+void WebEngineView::showEvent(QShowEvent* event) {
+    WebView::showEvent(event);
+    m_watch->setShown(true);
+}
+
+void WebEngineView::hideEvent(QHideEvent* event) {
+    WebView::hideEvent(event);
+    m_watch->setShown(false);
 }
 
 void WebEngineView::goBack() {
@@ -147,6 +228,8 @@ WebView* WebEngineViewFactory::create(QWidget* parent, QString& problem) {
     static const bool isPrepared = [] {
         drawWithoutOpenGL();
         followTheme();
+        refuseDatagrams();
+        registerPageScheme();
         return true;
     }();
     Q_UNUSED(isPrepared)

@@ -184,7 +184,7 @@ class test_commands : public QObject {
             QCOMPARE(CommandActions::withButton(command.button.key), &command);
             ++buttons;
         }
-        QCOMPARE(buttons, 12);
+        QCOMPARE(buttons, 14);
     }
 
     void theManualTellsTheKeyOfEveryCommand() {

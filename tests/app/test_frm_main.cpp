@@ -75,6 +75,8 @@ class test_frm_main : public QObject {
                  "  mnuEditMoveUp|Move &Up|Ctrl+U\n"
                  "  mnuEditMoveDown|Move &Down|Ctrl+D\n"
                  "  mnuEditDelete|Delete &Item|Del\n"
+                 "  mnuEditUndo|&Undo|Ctrl+Z\n"
+                 "  mnuEditRedo|&Redo|Ctrl+Shift+Z\n"
                  "mnuTools|&Tools\n"
                  "  mnuToolsIntegrate|&Menu Integrator|\n"
                  "mnuHelp|&Help\n"
@@ -324,7 +326,8 @@ class test_frm_main : public QObject {
         disabled.sort();
         QCOMPARE(disabled.join(' '),
                  "mnuEditAddSubmenuItem mnuEditDelete mnuEditMenuProperties mnuEditMoveDown "
-                 "mnuEditMoveUp mnuFileSave tbToolBar_11 tbToolBar_12 tbToolBar_13 tbToolBar_14 "
+                 "mnuEditMoveUp mnuEditRedo mnuEditUndo mnuFileSave tbHistory_1 tbHistory_2 "
+                 "tbToolBar_11 tbToolBar_12 tbToolBar_13 tbToolBar_14 "
                  "tbToolBar_16 tbToolBar_3 tbToolBar_6 tbToolBar_9");
     }
 

@@ -26,6 +26,8 @@ class test_property_changes : public QObject {
         QFETCH(bool, isModified);
         WindowDesk desk;
         desk.add("a");
+        desk.clickTab("JavaScript");
+        desk.clickTab("Menu");
         desk.forgetChanges();
         const std::string before = GenerateScript(desk.document().content());
         during<QDialog>([&] { desk.choose(entry); },

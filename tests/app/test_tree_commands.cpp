@@ -373,7 +373,7 @@ class test_tree_commands : public QObject {
         desk.choose(entry);
         QCOMPARE(desk.shownPanel(), "rollover|a2|it\\'s||out.gif|");
         QVERIFY(desk.field("txtImgOut").isEnabled());
-        QCOMPARE(desk.document().CurNode()->item.URL, "");
+        QCOMPARE(desk.document().CurNode()->item.URL, "it\\'s");
         desk.clickTab("JavaScript");
         QCOMPARE(panelOf(desk.document().CurNode()->item), "rollover|a2|it\\'s||out.gif|");
         QCOMPARE(desk.document().CurNode()->text, "out.gif");

@@ -59,7 +59,8 @@ class NoHelp : public HelpViewer {
 
 class NoBrowser : public BrowserView {
   public:
-    void load(const std::string&) override {}
+    void load(const std::string&, const std::vector<std::string>&) override {}
+    void forgetAllowedPictures() override {}
 };
 
 class NoView : public EditorView {

@@ -187,7 +187,7 @@ TEST(FakeServicesDeathTest, WithoutAHandlerAFailureEndsTheProgram) {
 TEST(FakeViewersTest, RecordWhatTheyWereAskedToShow) {
     FakeBrowserView browser;
     FakeHelpViewer help;
-    browser.load("/page.html");
+    browser.load("/page.html", {});
     help.show("/help/index.html");
     EXPECT_EQ(browser.recorded(), std::vector<std::string>{"/page.html"});
     EXPECT_EQ(help.recorded(), std::vector<std::string>{"/help/index.html"});

@@ -1,0 +1,41 @@
+#include "app/strip_line.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <utility>
+
+namespace zev {
+
+StripLine::StripLine(const QString& name, const QString& group, QWidget* parent)
+    : QWidget(parent), m_layout(new QHBoxLayout(this)), m_label(new QLabel(this)) {
+    setObjectName(name);
+    setAccessibleName(group);
+    m_label->setTextFormat(Qt::PlainText);
+    // A long caption is no reason for a wide window.
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_label->setWordWrap(true);
+    m_layout->setContentsMargins(4, 0, 0, 0);
+    m_layout->addWidget(m_label, 1);
+    hide();
+}
+
+void StripLine::say(const QString& text, std::vector<Action> actions) {
+    for (QPushButton* button : std::exchange(m_buttons, {}))
+        button->deleteLater();  // it may be the one that was pressed
+    m_label->setText(text);
+    for (Action& action : actions) {
+        auto* button = new QPushButton(action.text, this);
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &QPushButton::clicked, this, std::move(action.run));
+        m_layout->addWidget(button);
+        m_buttons.push_back(button);
+    }
+    setVisible(!text.isEmpty());
+}
+
+QString StripLine::text() const {
+    return m_label->text();
+}
+
+}  // namespace zev

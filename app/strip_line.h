@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace zev {
+
+/// One line of the strip above the tree: a text and what can be done about it. It takes no room
+/// while it has nothing to say.
+class StripLine : public QWidget {
+    Q_OBJECT
+  public:
+    struct Action {
+        QString text;
+        std::function<void()> run;
+    };
+
+    /// `group` is what assistive technology calls the line.
+    StripLine(const QString& name, const QString& group, QWidget* parent);
+
+    /// An empty text hides the line.
+    void say(const QString& text, std::vector<Action> actions = {});
+    QString text() const;
+
+  private:
+    QHBoxLayout* m_layout;
+    QLabel* m_label;
+    std::vector<QPushButton*> m_buttons;
+};
+
+}  // namespace zev
