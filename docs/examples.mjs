@@ -8,8 +8,8 @@
  *     | ![what it shows](x.png) | ![what it shows](y.png)   |
  *
  * Code in a cell is lines of the definition or, when it begins with "<", HTML of the page. The words
- * beside it say what the visitor does: "mouse on Tea", "click on Tea", "mouse gone for 0.3 s", "fading
- * for 0.5 s".
+ * beside it say what the visitor does: "mouse on Tea", "mouse on Tea for 0.3 s", "click on Tea", "mouse
+ * gone for 0.3 s", "fading for 0.5 s", "window 360 px wide".
  */
 import { readFileSync } from 'node:fs';
 
@@ -29,9 +29,9 @@ function definitionOf(menu, lines) {
     return [...added.get('state'), ...text].join('\n');
 }
 
-function secondsIn(words, pattern) {
-    const [, seconds] = pattern.exec(words) || [];
-    return seconds ? Number(seconds) : null;
+function numberIn(words, pattern) {
+    const [, number] = pattern.exec(words) || [];
+    return number ? Number(number) : null;
 }
 
 function readExample(menu, cell, picture, property) {
@@ -43,9 +43,11 @@ function readExample(menu, cell, picture, property) {
         property, alt, path, lines, definition: definitionOf(menu, lines),
         html: code.filter(line => line.startsWith('<')).join(''),
         mouseOn: /mouse on (\w+)/.exec(words)?.[1],
-        clickOn: /click on (\w+)/.exec(words)?.[1],
-        leftSeconds: secondsIn(words, /mouse gone for ([\d.]+) s/),
-        fadingSeconds: secondsIn(words, /fading for ([\d.]+) s/),
+        onSeconds: numberIn(words, /mouse on \w+ for ([\d.]+) s/),
+        clickOn: /click on (\w+(?: menu)?)/.exec(words)?.[1],
+        leftSeconds: numberIn(words, /mouse gone for ([\d.]+) s/),
+        fadingSeconds: numberIn(words, /fading for ([\d.]+) s/),
+        windowPx: numberIn(words, /window (\d+) px wide/),
     };
 }
 
@@ -54,8 +56,8 @@ function cellsOf(row) {
 }
 
 /*
- * All examples of the page in order: { property, lines, definition, html, mouseOn, clickOn, leftSeconds,
- * fadingSeconds, alt, path }. `property` is the heading that the example stands under, `path` that of its
+ * All examples of the page in order: { property, lines, definition, html, mouseOn, onSeconds, clickOn,
+ * leftSeconds, fadingSeconds, windowPx, alt, path }. `property` is the heading that the example stands under, `path` that of its
  * picture as seen from the page; `alt` and `path` are undefined where the cell holds no picture.
  */
 export function readExamples() {

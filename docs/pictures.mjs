@@ -18,10 +18,14 @@ const here = fileURLToPath(new URL('.', import.meta.url));
 // What the pictures show of the page around the menu, in pixels.
 const margin = 8;
 
+// A submenu has opened after that: its delay, and its short opening.
+const openedSeconds = 0.4;
+
 // What the page has around the menu: room on all sides, text below it, a frame beside it.
 const head = `<style>body { margin: 100px 160px; font: 14px/1.4 Arial; color: #666; }
     iframe { position: absolute; left: 260px; top: 100px; width: 180px; height: 64px;
         border: 1px solid #999; }
+    @media (max-width: 500px) { body { margin: 20px; } }
     </style>`;
 const text = '<p style="margin: 8px 0">This is the text of the page that the menu stands in. A submenu ' +
     'lies above it, covers it as long as it is open, and moves nothing. This text goes on for a while, so ' +
@@ -59,7 +63,10 @@ async function holdFading(seconds) {
 }
 
 async function act(page, example) {
-    if (example.mouseOn) await hover(page, example.mouseOn);
+    if (example.mouseOn) {
+        await hover(page, example.mouseOn);
+        await pause((example.onSeconds ?? openedSeconds) * 1000);
+    }
     if (example.fadingSeconds !== null) await page.evaluate(holdFading, example.fadingSeconds);
     if (example.leftSeconds !== null) {
         await page.mouse.move(1, 1);
@@ -68,13 +75,15 @@ async function act(page, example) {
     if (example.clickOn) {
         const { x, y, width, height } = await rect(page, example.clickOn);
         await page.mouse.click(x + width / 2, y + height / 2);
+        if (example.lines.some(line => line.startsWith('zev_state.fold'))) return pause(openedSeconds * 1000);
         await page.waitForFunction(() => [window, ...Array.from(frames)].some(
             frame => frame.document.title == 'Tea'));
     }
 }
 
 async function takePicture(lab, example) {
-    const page = await lab.show({ definition: example.definition, head, before: example.html, after: text });
+    const page = await lab.show({ definition: example.definition, head, before: example.html, after: text,
+                                  width: example.windowPx ?? undefined });
     await act(page, example);
     const content = await page.evaluate(contentRect);
     const x = Math.floor(content.left) - margin, y = Math.floor(content.top) - margin;

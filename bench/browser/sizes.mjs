@@ -15,11 +15,11 @@ const peers = {
     bootstrap: [['dist/js/bootstrap.bundle.js', 'dist/css/bootstrap.css'],
                 ['dist/js/bootstrap.bundle.min.js', 'dist/css/bootstrap.min.css']],
 };
-const ours = ['zevmenu_loader.js', 'zevmenu_dom.js'].map(name => '../../runtime/' + name);
+const ours = ['zevmenu_loader.js', 'zevmenu_dom.js'].map(name => '../../build/release/bin/' + name);
 
 /*
  * Gives name -> { served, minified }, both the sum of the files, each compressed by itself. The library is
- * served with its comments; it is minified for this figure only.
+ * served as built; it is minified for this figure only.
  */
 export async function measureSizes() {
     const short = await Promise.all(ours.map(async path => (await minify(read(path))).code));

@@ -3,6 +3,7 @@
 import { spawnSync } from 'node:child_process';
 import { existsSync, readFileSync, readdirSync } from 'node:fs';
 import { fileURLToPath } from 'node:url';
+import { library } from './library.mjs';
 
 const here = fileURLToPath(new URL('.', import.meta.url));
 const folder = process.argv[2];
@@ -17,6 +18,10 @@ if (!['unit', 'browser'].includes(folder)) fail('Usage: node run.mjs unit|browse
 const { devDependencies } = JSON.parse(readFileSync(here + 'package.json', 'utf8'));
 const missing = Object.keys(devDependencies).filter(name => !existsSync(here + 'node_modules/' + name));
 if (missing.length) fail(`${missing.join(', ')} not installed; run: npm ci --prefix tests/runtime`);
+
+if (!existsSync(new URL('zevmenu_loader.js', library))) {
+    fail(`no built library in ${library}; run: cmake --build --preset dev --target zev_runtime_files`);
+}
 
 // engine: package -> program in it
 const programs = {

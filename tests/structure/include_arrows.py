@@ -32,6 +32,7 @@ ALLOWED = {
     "integrator/wizard": CORE | {"dialogs"} | QT,
     "dialogs": CORE | QT,
     "app": CORE | {"integrator/wizard", "platform/posix", "platform/qt", "dialogs"} | QT,
+    "runtime/join": set(),
     "cli": CORE | {"platform/posix"},
 }
 

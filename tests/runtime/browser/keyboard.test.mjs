@@ -92,8 +92,8 @@ const keyRows = [
     ['K12', 'the same letter again goes on', names, 's s', 'Sea shells', ''],
     ['K12', 'more letters narrow down, spaces too', names, 's e a Space s', 'Sea shells', ''],
     ['K12', 'a letter that no name begins with does nothing', nested, 'x', 'Home', ''],
-    ['K13', 'Enter opens a submenu', nested, 'ArrowRight Enter', 'Boats', 'Boats'],
     ['K13', 'Space opens a submenu', nested, 'ArrowRight Space', 'Boats', 'Boats'],
+    ['K13', 'Enter opens the submenu of an item without a link', grid, 'ArrowDown Enter', 'A', 'A'],
     ['K15', 'Escape goes back to the parent item', nested,
         'ArrowRight ArrowDown ArrowRight Escape', 'Boats', 'Boats'],
     ['K15', 'Escape goes back to the top menu', nested, 'ArrowRight ArrowDown Escape', 'Products', ''],
@@ -115,6 +115,21 @@ for (const [id, rule, definition, keys, expected, open, options] of keyRows) {
         }
         assert.equal(await focus(page), expected);
         assert.equal(await shown(page, ...everything, 'A'), open);
+    });
+}
+
+// [what, keys, the page they lead to]
+const followed = [
+    ['an item with a submenu', ['ArrowRight', 'Enter'], 'products.html'],
+    ['an item that a submenu was closed to', ['ArrowRight', 'ArrowDown', 'Escape', 'Enter'], 'products.html'],
+    ['an item with a submenu in a submenu', ['ArrowRight', 'ArrowDown', 'Enter'], 'boats.html'],
+];
+
+for (const [what, keys, url] of followed) {
+    test(`K14: Enter follows the link of ${what}`, async () => {
+        await lab.show({ ...around });
+        await press('Tab', 'Tab', ...keys);
+        await waitAt(page, `${lab.origin}/site/${url}`);
     });
 }
 
@@ -166,7 +181,8 @@ const popup = { place: source('menu.js'), before: `<a id="link" href="" ${opens}
 
 // [what, element, keys that open]
 const openers = [
-    ['a link', popup.before, ['Enter', 'ArrowDown']],
+    ['a link', popup.before, ['Enter', 'ArrowDown', 'Space']],
+    ['a link to nowhere', popup.before.replace('href=""', 'href="#"'), ['Enter', 'ArrowDown', 'Space']],
     ['a link opened by a click', `<a id="link" href="" onmouseover="window.status = ''"
         onclick="ZEVMenuOpen('zev1', '2', event); return false;">Menu</a>`, ['Enter', 'ArrowDown']],
     ['an anchor without an address', `<a id="link" ${opens}>Menu</a>`, ['Enter', 'ArrowDown', 'Space']],
@@ -185,6 +201,18 @@ for (const [what, before, keys] of openers) {
         });
     }
 }
+
+test('K18: Enter follows the link of a pop-up that has an address, Space and Arrow Down open it', async () => {
+    await lab.show({ ...popup, before: popup.before.replace('href=""', 'href="away.html"') });
+    await press('Tab', 'Space');
+    assert.equal(await focus(page), 'Boats');
+    await press('Escape', 'ArrowDown');
+    assert.equal(await focus(page), 'Boats');
+    await press('Escape');
+    assert.equal(await page.url(), lab.origin + '/site/page.html');
+    await press('Enter');
+    await waitAt(page, lab.origin + '/site/away.html');
+});
 
 for (const modifier of ['Control', 'Alt', 'Meta']) {
     test(`K17: Arrow Down with ${modifier} opens no pop-up`, async () => {
@@ -292,12 +320,12 @@ test('R4: the menu is a landmark, unless it stands in one, and what is open anot
     await lab.show({ definition: nested.replace("'Boats'", "'<i>Big</i> boats'") });
     const landmarks = () => page.$$eval('[data-zev]', hosts => hosts.map(host =>
         [host.dataset.zev, host.getAttribute('role') || '-', host.getAttribute('aria-label') || '-'].join(' ')));
-    assert.deepEqual(await landmarks(), ['bar navigation -']);
+    assert.deepEqual(await landmarks(), ['bar navigation Site menu']);
     await hover(page, 'Products', 'Big boats');
-    assert.deepEqual(await landmarks(), ['bar navigation -', 'layer navigation Products']);
+    assert.deepEqual(await landmarks(), ['bar navigation Site menu', 'layer navigation Products']);
     assert.deepEqual(await attributes('ul[role=menu]', ['aria-label']), ['Products', 'Big boats']);
     await press('Escape');
-    assert.deepEqual(await landmarks(), ['bar navigation -', 'layer - -']);
+    assert.deepEqual(await landmarks(), ['bar navigation Site menu', 'layer - -']);
     await lab.show({ before: '<nav>', after: '</nav>' });
     assert.deepEqual(await landmarks(), ['bar - -']);
 });

@@ -3,7 +3,8 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
-import { hover, libraryFolder, nested, pageText, shown, startLab, style, until, waitShown } from './support.mjs';
+import { hover, libraryFolder, nested, pageText, rect, shown, startLab, style, until, waitShown }
+    from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -14,7 +15,7 @@ after(() => lab.close());
 afterEach(() => assert.deepEqual(page.errors, []));
 
 // Shows a page whose renderer has been asked for, and gives a function that lets it arrive.
-async function showWithLateRenderer() {
+async function showWithLateRenderer(definition = nested, width = 800) {
     let isAsked = false, arrive;
     const arrival = new Promise(resolve => { arrive = resolve; });
     const read = name => readFileSync(join(libraryFolder, name), 'utf8');
@@ -24,11 +25,12 @@ async function showWithLateRenderer() {
         await arrival;
         return read('zevmenu_dom.js');
     });
-    lab.files.set('/site/menu.js', nested);
+    lab.files.set('/site/menu.js', definition);
     lab.files.set('/site/late.html', pageText({ library: '/late/', before:
-        `<a id="link" href="" onmouseover="ZEVMenuOpen('zev1', '3', event)">Menu</a>` }));
-    await page.setViewport({ width: 800, height: 600 });
-    await page.mouse.move(799, 599);
+        `<a id="link" href="" onmouseover="ZEVMenuOpen('zev1', '3', event)">Menu</a>
+        <a id="bare" href="boats.html" data-zev-popup="2i1">Boats</a>` }));
+    await page.setViewport({ width, height: 600 });
+    await page.mouse.move(width - 1, 599);
     await page.goto(lab.origin + '/site/late.html', { waitUntil: 'domcontentloaded' });
     await until(() => isAsked, 'the renderer to be asked for');
     return arrive;
@@ -51,4 +53,23 @@ test('an early pop-up opens when the renderer has arrived', async () => {
     assert.equal(await shown(page, 'Map'), '');
     arrive();
     await waitShown(page, 'Map');
+});
+
+test('the pop-up of a link without handlers opens when the renderer has arrived and the mouse is there', async () => {
+    const arrive = await showWithLateRenderer();
+    await until(() => page.$('#bare'), 'the link');
+    await page.hover('#bare');
+    assert.equal(await shown(page, 'Canoes'), '');
+    arrive();
+    await waitShown(page, 'Canoes');
+});
+
+test('an early click on the button of a folded menu opens it when the renderer has arrived', async () => {
+    const arrive = await showWithLateRenderer('zev_state.fold = 600;' + nested, 320);
+    await until(() => shown(page, 'Site menu'), 'the button');
+    const { x, y } = await rect(page, 'Site menu');
+    await page.mouse.click(x + 5, y + 5);
+    assert.equal(await shown(page, 'Home'), '');
+    arrive();
+    await waitShown(page, 'Home');
 });

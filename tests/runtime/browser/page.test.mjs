@@ -339,7 +339,7 @@ test('a row that is wider than the window goes on in a second line', async () =>
 
 // ---- The preview page and the samples ----
 
-async function showPreview(definition) {
+async function showPreview(definition, width = 800) {
     lab.files.set('/preview/orlet_temp.html', readFileSync(join(libraryFolder, 'zevmenu.html'), 'utf8'));
     for (const name of ['zevmenu_loader.js', 'zevmenu_dom.js']) {
         lab.files.set('/preview/' + name, readFileSync(join(libraryFolder, name), 'utf8'));
@@ -347,6 +347,7 @@ async function showPreview(definition) {
     lab.files.delete('/preview/orlet_temp.js');
     if (definition) lab.files.set('/preview/orlet_temp.js', definition);
     page.warnings.length = 0;
+    await page.setViewport({ width, height: 600, hasTouch: false });
     await page.goto(lab.origin + '/preview/orlet_temp.html');
     await waitReady(page);
     return page.$eval('#empty', note => !note.hidden && note.textContent);
@@ -363,8 +364,7 @@ test('the preview page says when the menu is empty', async () => {
 });
 
 test('the preview page is not wider than a phone', async () => {
-    await page.setViewport({ width: 320, height: 600 });
-    await showPreview(nested);
+    await showPreview(nested, 320);
     const [width, room] = await page.evaluate(() => [document.scrollingElement.scrollWidth,
         document.documentElement.clientWidth]);
     assert.ok(width <= room && room <= 320, `${width} in ${room}`);

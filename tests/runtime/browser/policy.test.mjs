@@ -1,7 +1,7 @@
-// The menu in a page with a strict Content-Security-Policy, and with the doctype of XHTML.
+// The menu in a page with a strict Content-Security-Policy or Trusted Types, and with the doctype of XHTML.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { hover, nested, shown, source, startLab, style, until, waitShown } from './support.mjs';
+import { hover, item, nested, shown, source, startLab, style, until, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -44,6 +44,63 @@ test("a refused style of the page's own is reported", async () => {
     // Firefox tells the console's listener too.
     page.errors = page.errors.filter(error => !/Content-Security-Policy/.test(error));
 });
+
+// A page that names the definition at the loader, and its place by an element.
+const withoutInline = {
+    loader: '<script nonce="abc" src="/runtime/zevmenu_loader.js" data-definition="menu.js" defer></script>',
+    place: '<div data-zevmenu></div>', end: '', handlers: '',
+};
+// A page whose own scripts carry the word that the server gave them.
+const withNonce = {
+    loader: '<script nonce="abc" src="/runtime/zevmenu_loader.js"></script>',
+    place: '<script nonce="abc" src="menu.js"></script><script nonce="abc">ZEVDisplayMenu();</script>',
+    end: '<script nonce="abc">ZEVCreateMenu();</script>', handlers: '',
+};
+
+// [policy, what stands in the page]
+const policies = [
+    ["script-src 'self'", withoutInline],
+    ["default-src 'none'; script-src 'self'", withoutInline],
+    ["script-src 'nonce-abc'", withNonce],
+    ["script-src 'nonce-abc'", withoutInline],
+    ["script-src 'nonce-abc' 'strict-dynamic'", withNonce],
+    ["script-src 'nonce-abc' 'strict-dynamic'", withoutInline],
+];
+
+for (const [policy, options] of policies) {
+    const way = options == withNonce ? 'by calls' : 'by an element';
+    test(`the menu, placed ${way}, opens down to its last level under the policy ${policy}`, async () => {
+        await lab.show({ ...options, headers: { 'Content-Security-Policy': policy } });
+        await hover(page, 'Products', 'Boats', 'Kayaks');
+        await waitShown(page, 'Sea kayaks');
+        assert.deepEqual(page.warnings, []);
+        page.errors = page.errors.filter(error => !/Content-Security-Policy/.test(error));
+    });
+}
+
+// Shows a page that demands Trusted Types, of policies with that name; false where the engine has none.
+async function showTrusted(name, options) {
+    const policy = `require-trusted-types-for 'script'; trusted-types ${name}`;
+    await lab.show({ place: '', end: '', loader: '', handlers: '', awaitsLibrary: false });
+    if (!await page.evaluate(() => 'trustedTypes' in window)) return false;
+    await lab.show({ ...options, headers: { 'Content-Security-Policy': policy } });
+    return true;
+}
+
+const formatted = nested.replace("'Home'", "'<b>Ho</b>me<script src=\"x.js\"><\\/script>'").replace("'Oars'", "'<i>Oars</i>'");
+const noTypes = 'this engine has no Trusted Types';
+
+for (const options of [{}, withoutInline]) {
+    test(`a page that demands Trusted Types gets the whole menu${options.loader ? ', placed by an element' : ''}`,
+        async t => {
+            if (!await showTrusted('zevmenu', { ...options, definition: formatted })) return t.skip(noTypes);
+            await hover(page, 'Products', 'Boats', 'Kayaks');
+            await waitShown(page, 'Sea kayaks');
+            assert.equal(await (await item(page, 'Home')).evaluate(link => link.querySelector('b').textContent), 'Ho');
+            assert.equal(await (await item(page, 'Oars')).evaluate(link => link.querySelector('i').textContent), 'Oars');
+            assert.deepEqual(page.warnings, []);
+        });
+}
 
 for (const doctype of ['Transitional', 'Strict']) {
     test(`the menu works in a page with the doctype of XHTML 1.0 ${doctype}`, async () => {

@@ -116,7 +116,7 @@ test('the preview page opened from the disk shows its menu, which reaches no oth
     await new Promise(resolve => setTimeout(resolve, 1500));
     assert.deepEqual(heard, []);
     assert.equal(await page.evaluate(() => typeof read), 'undefined');
-    assert.match(page.url(), /orlet_temp\.html$/);
+    assert.match(await page.url(), /orlet_temp\.html$/);
     // Firefox tells the console's listener of what it refuses.
     page.errors = [];
 });

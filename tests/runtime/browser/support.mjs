@@ -5,22 +5,24 @@ import { createServer } from 'node:http';
 import { join } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { inflateSync } from 'node:zlib';
+import { library } from '../library.mjs';
 import { engine, startBrowser } from './support_engines.mjs';
 
 export { engine };
 
-export const libraryFolder = fileURLToPath(new URL('../../../runtime/', import.meta.url));
+export const libraryFolder = fileURLToPath(library);
 export const samplesFolder = fileURLToPath(new URL('../../../samples/', import.meta.url));
 
 const types = { html: 'text/html', xhtml: 'application/xhtml+xml', js: 'text/javascript', svg: 'image/svg+xml' };
-const folders = { runtime: libraryFolder, samples: samplesFolder };
+// The sample pages name the library's folder as seen from the checkout.
+const folders = { runtime: libraryFolder, 'build/release/bin': libraryFolder, samples: samplesFolder };
 
 // How long the tests wait for what must come; a busy machine can be slow.
 const patienceMs = 20000;
 
 /*
- * Starts the browser and the server. Paths of the server: /runtime/ and /samples/ are the folders of
- * the repository, everything else comes from `files` (path -> text, a function that gives it or a promise of
+ * Starts the browser and the server. Paths of the server: /runtime/ is the folder of the built
+ * library, /samples/ that of the repository, everything else comes from `files` (path -> text, a function that gives it or a promise of
  * it, or { text, headers, delayMs });
  * any other .html answers with an empty page, as a place for links to lead to. The options are
  * startBrowser()'s.
@@ -48,7 +50,7 @@ export async function startLab(options = {}) {
 
 async function answer(files, request, response) {
     const path = decodeURIComponent(new URL(request.url, 'http://localhost').pathname);
-    const [, folder, name] = /^\/(runtime|samples)\/(.*)$/.exec(path) || [];
+    const [, folder, name] = /^\/(runtime|build\/release\/bin|samples)\/(.*)$/.exec(path) || [];
     const given = files.get(path);
     const { text = typeof given == 'function' ? await given() : given, headers = {}, delayMs = 0 } = given ?? {};
     const found = path == '/listener.js' ? listenerText : text !== undefined ? text
@@ -144,14 +146,14 @@ export function pageText({
 }
 
 /*
- * Shows a page with the given definition in the lab's tab and waits until the library is ready; the
- * mouse is then in the window's lower right corner. Options: those of pageText(), `definition` and
- * the delay of its answer, `path` of the page, `headers` of its answer, and the window's width,
- * height, hasTouch.
+ * Shows a page with the given definition in the lab's tab and waits until the library is ready (unless
+ * `awaitsLibrary` is false); the mouse is then in the window's lower right corner. Options: those of
+ * pageText(), `definition` and the delay of its answer, `path` of the page, `headers` of its answer,
+ * and the window's width, height, hasTouch.
  */
 async function show(page, origin, files, options) {
     const { definition = nested, definitionDelayMs = 0, path = '/site/page.html', headers = {} } = options;
-    const { width = 800, height = 600, hasTouch = false } = options;
+    const { width = 800, height = 600, hasTouch = false, awaitsLibrary = true } = options;
     files.set('/site/menu.js', { text: definition, delayMs: definitionDelayMs });
     files.set(path, { text: pageText(options), headers });
     await page.setViewport({ width, height, hasTouch });
@@ -159,7 +161,7 @@ async function show(page, origin, files, options) {
     page.warnings = [];
     page.errors = [];
     await page.goto(origin + path);
-    await waitReady(page);
+    if (awaitsLibrary) await waitReady(page);
     return page;
 }
 
@@ -213,7 +215,7 @@ function look(names, selector, property) {
         }
         return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom).toJSON();
     };
-    const roots = Array.from(document.querySelectorAll('[data-zev]'), host => host.shadowRoot);
+    const roots = [...document.querySelectorAll('[data-zev]')].map(host => host.shadowRoot);
     return names.map(name => {
         const selected = `li > a:is([aria-label="${name}"], :has(> img[alt="${name}"]))`;
         const link = roots.map(root => root.querySelector(selected)).find(Boolean);

@@ -1,7 +1,7 @@
 // The menu under a finger, and under clicks that no pointer made.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { isShown, item, pause, rect, source, startLab, waitAt, waitGone, waitShown } from './support.mjs';
+import { focus, isShown, item, nested, pause, rect, source, startLab, waitAt, waitGone, waitShown } from './support.mjs';
 
 let lab, page;
 before(async () => {
@@ -37,6 +37,16 @@ test('touch: a tap on an item without a submenu follows its link', async () => {
     await waitShown(page, 'Oars');
     await tap('Oars');
     await waitAt(page, lab.origin + '/site/oars.html');
+});
+
+test('touch: a second tap on an open item without a link closes it', async () => {
+    await lab.show({ definition: nested.replace("'products.html'", "''"), hasTouch: true });
+    await tap('Products');
+    await waitShown(page, 'Boats');
+    await tap('Products');
+    await waitGone(page, 'Boats');
+    await tap('Products');
+    await waitShown(page, 'Boats');
 });
 
 test('touch: an open submenu stays, until a tap elsewhere', async () => {
@@ -75,6 +85,22 @@ test('a click without a pointer, as screen readers make it, first opens and then
     await lab.show();
     await (await item(page, 'Products')).evaluate(link => link.click());
     await waitShown(page, 'Boats');
+    assert.equal(await focus(page), 'Boats');
     await (await item(page, 'Products')).evaluate(link => link.click());
     await waitAt(page, lab.origin + '/site/products.html');
+});
+
+test('a second click without a pointer closes the submenu of an item without a link', async () => {
+    await lab.show({ definition: nested.replace("'products.html'", "''") });
+    for (const expected of ['Boats', 'Products']) {
+        await (await item(page, 'Products')).evaluate(link => link.click());
+        assert.equal(await focus(page), expected);
+    }
+    assert.equal(await isShown(page, 'Boats'), false);
+});
+
+test("a click without a pointer on a pop-up's link opens it and takes the focus into it", async () => {
+    await lab.show(popup);
+    await page.$eval('#link', link => link.click());
+    assert.equal(await focus(page), 'Boats');
 });

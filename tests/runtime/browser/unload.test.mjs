@@ -125,7 +125,7 @@ async function loadAndUnload(times, definition) {
 
 test('a menu loaded and unloaded 100 times leaves no element, listener, timer or attribute', async () => {
     await showEmptyPage();
-    const fading = nested.replace('= 300;', '= 300; zev_state.ffade = 0.3;');
+    const fading = nested.replace('= 300;', '= 300; zev_state.opendelay = 0; zev_state.ffade = 0.3;');
     const { before, at, left } = await page.evaluate(loadAndUnload, 100, fading);
     assert.deepEqual(left.slice(0, 1), []);
     for (const [moment, held] of Object.entries(at)) {

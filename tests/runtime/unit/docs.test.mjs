@@ -4,10 +4,11 @@ import assert from 'node:assert/strict';
 import { readFileSync, readdirSync } from 'node:fs';
 import test from 'node:test';
 import { readExamples } from '../../../docs/examples.mjs';
+import { library } from '../library.mjs';
 
 const docs = new URL('../../../docs/', import.meta.url);
 const page = readFileSync(new URL('properties.md', docs), 'utf8');
-const loader = readFileSync(new URL('../../../runtime/zevmenu_loader.js', import.meta.url), 'utf8');
+const loader = readFileSync(new URL('zevmenu_loader.js', library), 'utf8');
 const examples = readExamples();
 
 // The keys of the loader's table of properties: of the one object in its source that tells of nbgcolor.

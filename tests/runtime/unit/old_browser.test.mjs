@@ -4,9 +4,10 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import test from 'node:test';
 import vm from 'node:vm';
+import { library } from '../library.mjs';
 
 function sourceOf(name) {
-    return readFileSync(new URL('../../../runtime/' + name, import.meta.url), 'utf8');
+    return readFileSync(new URL(name, library), 'utf8');
 }
 
 // What JavaScript 1.2 lacks of the third edition of ECMAScript, which is the oldest acorn knows.
@@ -109,4 +110,31 @@ test('mistakes and pop-up calls do not stop a browser without a DOM', () => {
         ZEVMenuOpen('zev1', '1', null); ZEVMenuClose('zev1', '1', false);
         ZEVDisplayMenu();`);
     assert.equal(browser.html, '<ul><li>Second</li></ul>');
+});
+
+// [where it is loaded by hand, what the page has then]
+const byHand = [
+    ['without the loader', 'undefined'],
+    ['where another script has the name of the library', 'function () {}'],
+    ['in a browser that needs none', '{ shared: { isModern: true, state: { menus: {} } } }'],
+];
+
+for (const [where, library] of byHand) {
+    test(`zevmenu_ns4.js, loaded by hand ${where}, does nothing`, () => {
+        const window = { document: { write() { throw new Error('written'); } } };
+        window.window = window;
+        const context = vm.createContext(window);
+        vm.runInContext(`var ZEVMenu = ${library === 'undefined' ? undefined : `(${library})`};`, context);
+        vm.runInContext(sourceOf('zevmenu_ns4.js'), context);
+        assert.equal(vm.runInContext('ZEVMenu && ZEVMenu.shared && ZEVMenu.shared.writeLinks', context), undefined);
+    });
+}
+
+test('zevmenu_ns4.js, loaded a second time, writes the menu once', () => {
+    const browser = oldBrowser();
+    browser.run("zevmenu = new ZEVMenu('0'); zevmenu.AddItem('Home', 'home.html', '');");
+    browser.run('ZEVDisplayMenu();');
+    browser.run(sourceOf('zevmenu_ns4.js'));
+    browser.run('ZEVDisplayMenu();');
+    assert.equal(browser.html, '<ul><li><a href="home.html">Home</a></li></ul>');
 });

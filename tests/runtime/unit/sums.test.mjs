@@ -3,12 +3,13 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import test from 'node:test';
 import vm from 'node:vm';
+import { library } from '../library.mjs';
 
-const source = readFileSync(new URL('../../../runtime/zevmenu_dom.js', import.meta.url), 'utf8');
+const source = readFileSync(new URL('zevmenu_dom.js', library), 'utf8');
 
 function loadSums() {
     const window = { ZEVMenu: { shared: { state: {} } }, addEventListener() {} };
-    const document = { readyState: 'loading', addEventListener() {} };
+    const document = { readyState: 'loading', addEventListener() {}, querySelector() {} };
     vm.runInNewContext(source, { window, document });
     return window.ZEVMenu.shared.sums;
 }
@@ -42,8 +43,10 @@ const placements = [
         rect(549, 200, 100, 20), box, 'right', 1, false, 650, 200, 'right'],
     ['one pixel too little flips',
         rect(550, 200, 100, 20), box, 'right', 1, false, 399, 200, 'left'],
-    ['no room on either side shifts over the item',
-        rect(50, 200, 700, 20), box, 'right', 1, false, 650, 200, 'right'],
+    ['no room on either side opens below',
+        rect(50, 200, 700, 20), box, 'right', 1, false, 50, 221, 'bottom'],
+    ['no room on either side nor below opens above',
+        rect(50, 560, 700, 20), box, 'left', 1, false, 50, 479, 'top'],
     ['a box beside shifts up at the lower edge',
         rect(300, 560, 100, 20), box, 'right', 1, false, 401, 520, 'right'],
     ['a box below shifts left at the right edge',
@@ -56,8 +59,8 @@ const placements = [
         rect(10, 200, 100, 20), box, realSide('right', true), 1, true, 111, 200, 'right'],
     ['an item partly scrolled out to the left keeps its box in the window',
         rect(-50, 200, 100, 20), box, 'bottom', 1, false, 0, 221, 'bottom'],
-    ['on a phone a box beside lies over its item',
-        rect(500, 200, 300, 20), { width: 700, height: 80 }, 'right', 1, false, 100, 200, 'right'],
+    ['on a phone a box beside opens below its item',
+        rect(500, 200, 300, 20), { width: 700, height: 80 }, 'right', 1, false, 100, 221, 'bottom'],
     ['right to left, a box below ends with its item',
         middle, box, 'bottom', 1, true, 250, 221, 'bottom'],
     ['a point without a side is the corner', rect(30, 40, 0, 0), box, '', 0, false, 30, 40, ''],
@@ -67,9 +70,37 @@ const placements = [
 
 for (const [rule, anchor, size, side, offset, isRtl, left, top, real] of placements) {
     test(`place: ${rule}`, () => {
-        assert.deepEqual({ ...place(anchor, size, side, offset, frame, isRtl) }, { left, top, side: real });
+        const spot = place(anchor, size, side, offset, frame, isRtl);
+        assert.deepEqual({ left: spot.left, top: spot.top, side: spot.side }, { left, top, side: real });
     });
 }
+
+const tall = { width: 150, height: 900 };
+
+// [rule, anchor, size, wish, kind, expected side, top, height, width]
+const limits = [
+    ['below the larger room is taken and scrolled in', rect(300, 250, 100, 20), tall, 'bottom', '', 'bottom', 271, 329, 800],
+    ['above the larger room is taken, and the box ends at its item',
+        rect(300, 400, 100, 20), tall, 'bottom', '', 'top', 0, 399, 800],
+    ['a wish for above gives way to the larger room', rect(300, 250, 100, 20), tall, 'top', '', 'bottom', 271, 329, 800],
+    ['a box beside has the window\'s height', middle, tall, 'right', '', 'right', 0, 600, 399],
+    ['an item as tall as the window leaves a row', rect(300, 0, 100, 600), tall, 'bottom', '', 'bottom', 556, 44, 800],
+    ['a list with room beside it has its submenu there', middle, box, 'right', 'list', 'right', 200, 600, 399],
+    ['a list with room on the other side too', rect(690, 200, 100, 20), box, 'right', 'list', 'left', 200, 600, 689],
+    ['a fixed box stays where there is less room', rect(300, 400, 100, 20), tall, 'bottom', 'fixed', 'bottom', 421, 179, 800],
+    ['a fixed box beside has what is left', rect(690, 200, 100, 20), box, 'right', 'fixed', 'right', 200, 600, 9],
+];
+
+for (const [rule, anchor, size, wish, kind, side, top, height, width] of limits) {
+    test(`place: ${rule}`, () => {
+        const spot = place(anchor, size, wish, 1, frame, false, kind);
+        assert.deepEqual([spot.side, spot.top, spot.height, spot.width], [side, top, height, width]);
+    });
+}
+
+test('place: a list without room on either side takes the box inside', () => {
+    assert.equal(place(rect(50, 200, 700, 20), box, 'right', 1, frame, false, 'list').side, 'inside');
+});
 
 // [rule, length, width of a layer that is 100 wide by its own measure, expected]
 const zooms = [['no zoom', 30, 100, 30], ['zoomed in', 30, 200, 15], ['zoomed out', 30, 50, 60],

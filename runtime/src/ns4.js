@@ -5,20 +5,18 @@
  * language is JavaScript 1.2. These browsers do not tell a script its own address, so links are
  * those of the definition file as they stand.
  */
-(function () {
 
-var shared = ZEVMenu.shared, menus = shared.state.menus, isWritten = false;
-
-function text(value) {
-    return typeof value == 'string' ? value : '';
-}
+var shared = window.ZEVMenu && ZEVMenu.shared;
+// A page may load it by hand, though its browser needs none, or has it.
+if (!shared || shared.isModern || shared.writeLinks) return;
+var menus = shared.state.menus, isWritten = false;
 
 function attribute(name, value) {
     return value ? ' ' + name + '="' + value.replace(/"/g, '&quot;') + '"' : '';
 }
 
 function linkOf(menu, item) {
-    var caption = item.caption, target = item.target || text(menu.target);
+    var caption = item.caption, target = item.target || shared.setting(menu, 'target');
     if (item.imageOut) {
         caption = '<img border="0"' + attribute('src', item.imageOut) +
             attribute('alt', shared.nameFromFiles(item)) + '>';
@@ -48,5 +46,3 @@ shared.writeLinks = function () {
         document.write(listOf(top));
     }
 };
-
-})();

@@ -1,0 +1,121 @@
+// ---- State: what opens, stays and closes; no element is called ----
+
+// 0 for the top menu and what is closed, 1 for the first open level.
+function depthOf(box) {
+    return state.levels.findIndex(level => level.box == box) + 1;
+}
+
+function openLevel(depth, level) {
+    closeFrom(depth);
+    state.levels.push(level);
+    show(level);
+}
+
+function closeFrom(depth) {
+    clearTimeout(state.opening);
+    while (state.levels.length > depth) {
+        const level = state.levels.pop();
+        clearTimeout(level.timer);
+        hide(level);
+    }
+}
+
+function isInside(level) {
+    return level.side == 'inside';
+}
+
+// What the fold button opened is an accordion too.
+function isFlat(level) {
+    return isInside(level) || level.isFolded;
+}
+
+// An accordion and what holds one: the mouse's coming and going changes nothing there.
+function isSteady(index) {
+    return state.levels.slice(index).some(isFlat);
+}
+
+// Lets all but the first `depth` levels close after the delay.
+function keep(depth) {
+    state.levels.forEach((level, index) => {
+        if (index < depth) {
+            clearTimeout(level.timer);
+            level.timer = 0;
+        } else if (!level.timer && !isSteady(index)) {
+            level.timer = setTimeout(() => closeFrom(state.levels.indexOf(level)),
+                                     setting(null, 'closedelay'));
+        }
+    });
+}
+
+shared.closePopup = function (of) {
+    // Browsers may tell of the arrival on the pop-up before the leaving of the link.
+    const isInside = state.over && depthOf(state.over.box) > 0;
+    if (state.levels[0]?.menu.zevId == popupId(of) && !isInside) keep(0);
+};
+
+function pointAt(box, link, point) {
+    const { over: was, lastPoint: before, crossing } = state;
+    state.lastPoint = point;
+    if (!box || (was?.box == box && was.link == link && !crossing)) return;
+    state.over = { box, link };
+    // On its way to a submenu the mouse may cross other items.
+    const from = crossing?.from || before, level = state.levels[depthOf(box)];
+    dropCrossing();
+    if (was && level && level.opener != link &&
+        isHeadedFor(from, point, rectOf(level.box), level.side)) {
+        state.crossing = { from, timer: setTimeout(hover, restMs) };
+    } else {
+        hover();
+    }
+}
+
+function hover() {
+    const { box, link } = state.over, depth = depthOf(box), child = state.levels[depth];
+    dropCrossing();
+    if (link && child?.opener == link) return keep(depth + 1);
+    keep(depth);
+    if (!link) return;
+    // A bar that is open switches at once.
+    const delay = state.levels.length ? 0 : setting(state.menus['0'], 'opendelay');
+    if (delay) state.opening = setTimeout(() => openSubmenu(link, true), delay);
+    else openSubmenu(link, true);
+}
+
+function dropCrossing() {
+    clearTimeout(state.opening);
+    clearTimeout(state.crossing?.timer);
+    state.crossing = null;
+}
+
+function pointAway() {
+    state.lastPoint = state.over = null;
+    dropCrossing();
+    keep(0);
+}
+
+/*
+ * What a click on an item means: 'follow' its link, 'open' its submenu, 'enter' it too, 'close' it. `pointer`
+ * is what was pressed: '' for a click that nothing pressed, as assistive technology makes it, 'key' for the key
+ * that follows links. In an accordion a mouse is a finger.
+ */
+function meaningOfClick({ pointer, wasOpen, hasSubmenu, hasAddress, isAccordion }) {
+    if (!hasSubmenu || pointer == 'key') return 'follow';
+    if (pointer == 'mouse' && !isAccordion) return hasAddress ? 'follow' : 'open';
+    if (!wasOpen) return pointer ? 'open' : 'enter';
+    return hasAddress ? 'follow' : 'close';
+}
+
+/*
+ * What an arrow means that leads to no neighbour: 'enter' the item's submenu, 'enterLast', 'close' the one the
+ * item is in, go 'beyond' it along the top menu; '' for nothing. `side` is that of the item's submenu, '' if it
+ * has none; `own` that of the one it is in, '' if it is in none or that has no item; `reading` is the
+ * direction as from left to right.
+ */
+function meaningOfArrow({ direction, reading, side, own, isTop }) {
+    if (side == direction || (side == 'inside' && reading == 'right')) return 'enter';
+    if (own == 'inside' ? reading == 'left' : own && own == opposite[direction]) return 'close';
+    if (side && isTop && side == opposite[direction]) return 'enterLast';
+    if (side && side != 'inside' && isForward(reading)) return 'enter';
+    // From a submenu below a row the key goes on to the row's neighbour.
+    return own == 'inside' ? '' : 'beyond';
+}
