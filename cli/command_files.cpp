@@ -7,6 +7,7 @@
 #include <charconv>
 #include <iostream>
 #include <system_error>
+#include <utility>
 
 #include "messages/definition_messages.h"
 #include "platform/posix/posix_descriptor.h"
@@ -86,20 +87,30 @@ FileResult<std::string> readMenuFile(const FileSystem& files, const std::string&
     return error;
 }
 
-std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
-                                              MenuContent& content) {
+std::optional<std::string> readDefinitionBytes(const FileSystem& files, const std::string& path) {
     FileResult<std::string> bytes = readMenuFile(files, path);
-    if (!bytes.isOk()) {
-        printProblem(bytes.error());
-        return {};
-    }
-    const ReadResult result = ReadScript(bytes.take(), content);
+    if (bytes.isOk())
+        return bytes.take();
+    printProblem(bytes.error());
+    return {};
+}
+
+DefinitionInput parseDefinition(std::string bytes, const std::string& path, MenuContent& content) {
+    const ReadResult result = ReadScript(std::move(bytes), content);
     if (result.errorCount == 0)
-        return DefinitionInput{path};
+        return {path};
     std::cerr << result.errorCount << " errors encountered during parsing\n";
     if (result.itemsLeftOut > 0)
         printProblem(itemsLeftOutText(path == "-" ? kStandardInput : path, result.itemsLeftOut));
-    return DefinitionInput{path, ExitStatus::Counted, result.itemsLeftOut};
+    return {path, ExitStatus::Counted, result.itemsLeftOut};
+}
+
+std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
+                                              MenuContent& content) {
+    std::optional<std::string> bytes = readDefinitionBytes(files, path);
+    if (!bytes)
+        return {};
+    return parseDefinition(std::move(*bytes), path, content);
 }
 
 bool mayReplace(const FileSystem& files, const std::string& output, const DefinitionInput& input) {

@@ -43,6 +43,13 @@ struct DefinitionInput {
     std::size_t itemsLeftOut = 0;          ///< beyond those that a menu can hold
 };
 
+/// The same with the problem printed when there is none.
+std::optional<std::string> readDefinitionBytes(const FileSystem& files, const std::string& path);
+
+/// Reads `bytes`, those of the definition `path`, into a new menu and prints the number of errors
+/// in it, and of items left out.
+DefinitionInput parseDefinition(std::string bytes, const std::string& path, MenuContent& content);
+
 /// Reads the definition `path` ("-": standard input) into a new menu and prints the number of
 /// errors in it, and of items left out. Nothing, with the problem printed, when it cannot be read.
 std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,

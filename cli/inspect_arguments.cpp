@@ -16,6 +16,28 @@ void addJson(CLI::App& command, bool& isJson) {
 
 }  // namespace
 
+void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+    struct Options {
+        std::string oldInput;
+        std::string newInput;
+        bool isJson = false;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command =
+        addCommand(program, "diff", "Tell in what the items of two menu definitions differ");
+    command.footer(
+        "\"-\" is standard input.\n"
+        "Exit status: 0 no difference, 1 they differ or have errors, 2 wrong use, 3 a file could "
+        "not\n"
+        "be read.");
+    addRequired(command, "OLD", "", options->oldInput, "Menu definition as it was");
+    addRequired(command, "NEW", "", options->newInput, "Menu definition as it is");
+    addJson(command, options->isJson);
+    command.callback([&files, &status, options] {
+        status = diffCommand(files, options->oldInput, options->newInput, options->isJson);
+    });
+}
+
 void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status) {
     struct Options {
         std::string input;

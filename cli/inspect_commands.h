@@ -13,4 +13,9 @@ namespace zev {
 /// Prints the menu as an outline. `input` may be "-".
 ExitStatus treeCommand(const FileSystem& files, const std::string& input, bool isJson);
 
+/// Prints what has become of the old menu, in terms of its items; Counted when anything has. One of
+/// the two may be "-".
+ExitStatus diffCommand(const FileSystem& files, const std::string& oldInput,
+                       const std::string& newInput, bool isJson);
+
 }  // namespace zev
