@@ -30,8 +30,8 @@ void addInput(CLI::App& command, std::string& input, const std::string& descript
     addRequired(command, "IN", "", input, description);
 }
 
-void addOutput(CLI::App& command, std::string& output) {
-    command.add_option("-o,--output", output, "File to write; without it, standard output")
+CLI::Option* addOutput(CLI::App& command, std::string& output) {
+    return command.add_option("-o,--output", output, "File to write; without it, standard output")
         ->type_name("OUT")
         ->check(refuseEmpty);
 }

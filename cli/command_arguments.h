@@ -23,6 +23,6 @@ void addRequired(CLI::App& command, const std::string& name, const std::string& 
 void addInput(CLI::App& command, std::string& input,
               const std::string& description = "Menu definition to read");
 
-void addOutput(CLI::App& command, std::string& output);
+CLI::Option* addOutput(CLI::App& command, std::string& output);
 
 }  // namespace zev

@@ -19,18 +19,20 @@ namespace zev {
 namespace {
 
 void addFormat(CLI::App& program, FileSystem& files, ExitStatus& status) {
-    struct Options {
-        std::string input;
-        std::string output;
-    };
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<FormatOptions>();
     CLI::App& command = addCommand(
         program, "format", "Read a menu definition and write it as the editor would save it");
     addInput(command, options->input);
-    addOutput(command, options->output);
-    command.callback([&files, &status, options] {
-        status = formatCommand(files, options->input, options->output);
-    });
+    CLI::Option* const output = addOutput(command, options->output);
+    CLI::Option* const check = command
+                                   .add_flag("--check", options->isCheck,
+                                             "Print the lines that would change, write nothing")
+                                   ->excludes(output);
+    command
+        .add_flag("--force", options->isForced,
+                  "Overwrite IN even if that loses lines that are not understood")
+        ->excludes(check);
+    command.callback([&files, &status, options] { status = formatCommand(files, *options); });
 }
 
 /// The names of the formats, as in "a, b or c".

@@ -24,20 +24,22 @@ class MenuScriptReader {
                      const WarningSink& tell)
         : m_lines(lines), m_dialect(dialect), m_content(content), m_tell(tell) {}
 
-    std::size_t read() {
+    MenuScriptCounts read() {
         std::string_view line;
         while (m_lines.next(line))
             readLine(line);
-        return m_itemsLeftOut;
+        return m_counts;
     }
 
   private:
     /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
     void readLine(std::string_view line) {
+        m_counts.textLines += line.empty() ? 0U : 1U;
         // A large file of other lines is passed quickly.
         if (!line.starts_with(m_dialect.start))
             return;
         bool isUnderstood = false;
+        m_isWarned = false;
         if (matchesPattern(line, m_dialect.defaultLine))
             isUnderstood =
                 SetProperty(m_content.DefaultProp, GetPropName(line), GetPropValue(line));
@@ -55,6 +57,7 @@ class MenuScriptReader {
             isUnderstood = readItem(line, Set_ImageProperty);
         if (!isUnderstood && m_dialect.tellsOfLostLines)
             warn(Reason::NotUnderstood);
+        m_counts.understoodLines += isUnderstood && !m_isWarned ? 1U : 0U;
     }
 
     bool isTopLevel() const { return m_menuId == kTopLevelMenuId; }
@@ -103,7 +106,7 @@ class MenuScriptReader {
         else
             isAdded = addItem(std::move(item));
         // One of a menu that is not there too: the item that opens it may have been left out.
-        m_itemsLeftOut += isFull ? 1 : 0;
+        m_counts.itemsLeftOut += isFull ? 1U : 0U;
         if (isAdded || (m_dialect.countsRefusedItems && !isFull))
             ++m_content.ItemCounter;
         return isWhole;
@@ -118,7 +121,10 @@ class MenuScriptReader {
         return false;
     }
 
-    void warn(Reason reason) { m_tell({m_lines.number(), reason}); }
+    void warn(Reason reason) {
+        m_isWarned = true;
+        m_tell({m_lines.number(), reason});
+    }
 
     DefinitionLines& m_lines;
     const ScriptDialect& m_dialect;
@@ -127,13 +133,14 @@ class MenuScriptReader {
     std::string m_menuId;  ///< menu of the last creation line; empty before the first
     const MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
     std::size_t m_itemNumber = 0;          ///< item lines of that menu so far
-    std::size_t m_itemsLeftOut = 0;        ///< that came when the menu was full
+    bool m_isWarned = false;               ///< of the current line
+    MenuScriptCounts m_counts;
 };
 
 }  // namespace
 
-std::size_t readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                           MenuContent& content, const WarningSink& tell) {
+MenuScriptCounts readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
+                                MenuContent& content, const WarningSink& tell) {
     return MenuScriptReader(lines, dialect, content, tell).read();
 }
 

@@ -36,9 +36,15 @@ struct ScriptDialect {
 /// kept of them is the caller's choice.
 using WarningSink = std::function<void(const LineWarning& warning)>;
 
-/// Replays a menu script into `content`, which must be that of a new menu. Returns the number of
-/// items that came when the menu held `kMaxItemCounter`, and so were left out.
-std::size_t readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                           MenuContent& content, const WarningSink& tell);
+/// What a script had to give.
+struct MenuScriptCounts {
+    std::size_t itemsLeftOut = 0;     ///< that came when the menu held `kMaxItemCounter`
+    std::size_t textLines = 0;        ///< lines that are not empty
+    std::size_t understoodLines = 0;  ///< of these, the ones that were applied without a warning
+};
+
+/// Replays a menu script into `content`, which must be that of a new menu.
+MenuScriptCounts readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
+                                MenuContent& content, const WarningSink& tell);
 
 }  // namespace zev

@@ -38,8 +38,10 @@ ReadResult ReadScript(std::string bytes, MenuContent& content) {
     content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
     DefinitionLines lines(std::move(bytes));
     ReadResult result;
-    result.itemsLeftOut = readMenuScript(
+    const MenuScriptCounts counts = readMenuScript(
         lines, kDefinition, content, [&](const LineWarning& warning) { result.count(warning); });
+    result.itemsLeftOut = counts.itemsLeftOut;
+    result.hasNoMenu = counts.textLines > 0 && counts.understoodLines == 0;
     return result;
 }
 

@@ -28,6 +28,8 @@ struct ReadResult {
     /// Items, each of them an error too, that came when the menu held `kMaxItemCounter`: it lacks
     /// them, and written over its file it would lose them.
     std::size_t itemsLeftOut = 0;
+    /// There is text in the file, but not one line of it is understood.
+    bool hasNoMenu = false;
     /// The first `kMaxKeptWarnings` of the errors and lost lines, in the order of the lines.
     std::vector<LineWarning> warnings;
 
