@@ -239,6 +239,7 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     addImport(program, files, status);
     addRebase(program, files, status);
     addSubmenus(program, files, status);
+    addCheck(program, files, status);
     addDiff(program, files, status);
     addTree(program, files, status);
     addPublish(program, files, status);

@@ -64,11 +64,12 @@ ExitStatus printChanges(const std::string& bytes, const DefinitionInput& read,
 }  // namespace
 
 ExitStatus formatCommand(FileSystem& files, const FormatOptions& options) {
-    const std::optional<std::string> bytes = readDefinitionBytes(files, options.input);
+    std::optional<std::string> bytes = readDefinitionBytes(files, options.input);
     if (!bytes)
         return ExitStatus::FileProblem;
     MenuContent& content = commandContent();
-    const DefinitionInput read = parseDefinition(*bytes, options.input, content);
+    const DefinitionInput read =
+        parseDefinition(options.isCheck ? *bytes : std::move(*bytes), options.input, content);
     if (options.isCheck)
         return printChanges(*bytes, read, content);
     if (!mayReplace(files, options.output, read))

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "cli/check_command.h"
 #include "cli/command_arguments.h"
 #include "cli/inspect_commands.h"
 
@@ -15,6 +16,24 @@ void addJson(CLI::App& command, bool& isJson) {
 }
 
 }  // namespace
+
+void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+    const auto options = std::make_shared<CheckOptions>();
+    CLI::App& command = addCommand(program, "check", "Find what is wrong in menu definitions");
+    command.footer(
+        "\"-\" is standard input.\n"
+        "Exit status: 0 nothing is wrong, 1 something is, 2 wrong use, 3 a file could not be read\n"
+        "(the others are checked).");
+    command.add_option("FILE", options->inputs, "Menu definitions")
+        ->required()
+        ->type_name("")
+        ->check(refuseEmpty);
+    command.add_option("--root", options->root, "Folder of the site, for links that begin with /")
+        ->type_name("DIR")
+        ->check(refuseEmpty);
+    addJson(command, options->isJson);
+    command.callback([&files, &status, options] { status = checkCommand(files, *options); });
+}
 
 void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status) {
     struct Options {

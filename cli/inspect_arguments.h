@@ -10,6 +10,8 @@ namespace zev {
 // Each adds a command that looks at menus and writes none; when it is the one that was asked for,
 // it runs and sets `status`.
 
+void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status);
+
 void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status);
 
 void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status);

@@ -21,8 +21,8 @@ using Reason = LineWarning::Reason;
 class MenuScriptReader {
   public:
     MenuScriptReader(DefinitionLines& lines, const ScriptDialect& dialect, MenuContent& content,
-                     const WarningSink& tell)
-        : m_lines(lines), m_dialect(dialect), m_content(content), m_tell(tell) {}
+                     const WarningSink& tell, const EffectSink& note)
+        : m_lines(lines), m_dialect(dialect), m_content(content), m_tell(tell), m_note(note) {}
 
     MenuScriptCounts read() {
         std::string_view line;
@@ -41,8 +41,7 @@ class MenuScriptReader {
         bool isUnderstood = false;
         m_isWarned = false;
         if (matchesPattern(line, m_dialect.defaultLine))
-            isUnderstood =
-                SetProperty(m_content.DefaultProp, GetPropName(line), GetPropValue(line));
+            isUnderstood = readDefault(line);
         for (const CreationLine& creation : m_dialect.creationLines) {
             if (matchesPattern(line, creation.pattern)) {
                 openMenu(creation, line);
@@ -80,8 +79,16 @@ class MenuScriptReader {
             creation.readLook(line, editMenuOf(*m_menuNode));
     }
 
+    bool readDefault(std::string_view line) {
+        const std::string_view name = GetPropName(line);
+        note({m_lines.number(), nullptr, name, true});
+        return SetProperty(m_content.DefaultProp, name, GetPropValue(line));
+    }
+
     bool readProperty(std::string_view line) {
         const std::string_view name = GetPropName(line);
+        if (isTopLevel() || m_menuNode)
+            note({m_lines.number(), m_menuNode, name});
         if (isTopLevel())
             return SetProperty(m_content.RootMenuProp, name, GetPropValue(line));
         if (m_menuNode)
@@ -114,11 +121,18 @@ class MenuScriptReader {
 
     bool addItem(ItemProp&& item) {
         std::string text = item.IsRollover ? item.ImageOut : item.Caption;
-        if (m_content.tree.append(m_menuNode, loadedItemKey(m_menuId, m_itemNumber),
-                                  std::move(text), std::move(item)))
-            return true;
-        warn(Reason::DuplicateKey);
-        return false;
+        const MenuNode* const node = m_content.tree.append(
+            m_menuNode, loadedItemKey(m_menuId, m_itemNumber), std::move(text), std::move(item));
+        if (node)
+            note({m_lines.number(), node});
+        else
+            warn(Reason::DuplicateKey);
+        return node != nullptr;
+    }
+
+    void note(const LineEffect& effect) const {
+        if (m_note)
+            m_note(effect);
     }
 
     void warn(Reason reason) {
@@ -130,6 +144,7 @@ class MenuScriptReader {
     const ScriptDialect& m_dialect;
     MenuContent& m_content;
     const WarningSink& m_tell;
+    const EffectSink& m_note;
     std::string m_menuId;  ///< menu of the last creation line; empty before the first
     const MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
     std::size_t m_itemNumber = 0;          ///< item lines of that menu so far
@@ -140,8 +155,9 @@ class MenuScriptReader {
 }  // namespace
 
 MenuScriptCounts readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                                MenuContent& content, const WarningSink& tell) {
-    return MenuScriptReader(lines, dialect, content, tell).read();
+                                MenuContent& content, const WarningSink& tell,
+                                const EffectSink& note) {
+    return MenuScriptReader(lines, dialect, content, tell, note).read();
 }
 
 }  // namespace zev
