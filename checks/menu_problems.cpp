@@ -1,7 +1,7 @@
 #include "checks/menu_problems.h"
 
-#include <array>
 #include <charconv>
+#include <cmath>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -38,13 +38,29 @@ std::optional<Reason> scriptProblem(std::string_view value) {
     return {};
 }
 
-bool isNumber(std::string_view text) {
-    if (text.starts_with('+'))
-        text.remove_prefix(1);
+struct Range {
+    std::string_view property;
+    double least;
+    double most;
+    bool isWhole = false;
+};
+
+/// What the library takes; of the numbers that are not here, any from 0 on.
+constexpr Range kRanges[] = {{"columns", 1, 1e6, true}, {"hspacing", 0, 1e4},
+                             {"cellpadding", 0, 1e4},   {"menuoffset", -1e4, 1e4},
+                             {"ffade", 0, 5},           {"fopacity", 1, 100}};
+
+bool isNumberFor(std::string_view property, std::string_view text) {
     double number = 0;
     const char* const end = text.data() + text.size();
     const auto [rest, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && rest == end && number - number == 0;
+    if (error != std::errc() || rest != end)
+        return false;
+    for (const Range& range : kRanges)
+        if (range.property == property)
+            return number >= range.least && number <= range.most &&
+                   !(range.isWhole && std::fmod(number, 1) != 0);
+    return number >= 0 && number <= 1e9;
 }
 
 bool isColourProperty(std::string_view name) {
@@ -54,7 +70,7 @@ bool isColourProperty(std::string_view name) {
 /// What a browser does not understand in the value of the property.
 std::optional<Reason> propertyProblem(const MenuPropertyRow& row, std::string_view value) {
     if (row.form != LineForm::Quoted || row.name == "ffade" || row.name == "fopacity")
-        return isNumber(value) ? std::nullopt : std::optional(Reason::NoNumber);
+        return isNumberFor(row.name, value) ? std::nullopt : std::optional(Reason::NoNumber);
     if (isColourProperty(row.name) && !isCssColour(value))
         return Reason::NoColour;
     if (row.name.ends_with("border") && !isCssBorder(value))

@@ -30,7 +30,7 @@ std::string reasonText(Reason reason, const std::string& value) {
         case Reason::LineBreak:
             return "a line break breaks the script";
         case Reason::NoNumber:
-            return "not a number:" + quoted;
+            return "not a number that makes sense here:" + quoted;
         case Reason::NoBorder:
             return "no border that a browser understands:" + quoted;
         case Reason::NoColour:

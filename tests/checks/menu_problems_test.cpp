@@ -68,9 +68,30 @@ TEST(FindBrokenValues, TellsValuesThatNoBrowserUnderstands) {
     content.tree.edit(*content.tree.firstNode()).item.MenuProperty.edit().Columns = "two";
     EXPECT_EQ(textsOf(findBrokenValues(content)),
               "the defaults: nbgcolor: no colour that a browser understands: \"nvay\"\n"
-              "the defaults: fontSize: not a number: \"big\"\n"
+              "the defaults: fontSize: not a number that makes sense here: \"big\"\n"
               "the top menu: menuborder: no border that a browser understands: \"1px sold red\"\n"
-              "the menu of A: columns: not a number: \"two\"\n");
+              "the menu of A: columns: not a number that makes sense here: \"two\"\n");
+}
+
+TEST(FindBrokenValues, HoldsNumbersToWhatTheLibraryTakes) {
+    struct Case {
+        std::string MenuProp::*member;
+        const char* value;
+        bool isRight;
+    };
+    const Case cases[] = {
+        {&MenuProp::Columns, "3", true},        {&MenuProp::Columns, "0", false},
+        {&MenuProp::Columns, "1.5", false},     {&MenuProp::FilterOpacity, "100", true},
+        {&MenuProp::FilterOpacity, "0", false}, {&MenuProp::FilterFade, "0.5", true},
+        {&MenuProp::FilterFade, "6", false},    {&MenuProp::MenuOffset, "-3", true},
+        {&MenuProp::CloseDelay, "-1", false},   {&MenuProp::Spacing, "2px", false},
+        {&MenuProp::CellPadding, "nan", false},
+    };
+    for (const Case& c : cases) {
+        MenuContent content;
+        content.RootMenuProp.*c.member = c.value;
+        EXPECT_EQ(findBrokenValues(content).empty(), c.isRight) << c.value;
+    }
 }
 
 TEST(FindBrokenValues, TellsEmptyAndRepeatedCaptions) {

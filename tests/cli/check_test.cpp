@@ -37,7 +37,7 @@ TEST_F(CheckTest, NamesTheLineOfWhatIsWrong) {
               "menu.js:1: the defaults: nbgcolor: no colour that a browser understands: \"nvay\"\n"
               "menu.js:3: Tea: url: there is no file \"tea.html\"\n"
               "menu.js:4: it is not a line that a menu has\n"
-              "menu.js:6: the menu of Tea: columns: not a number: \"many\"\n"
+              "menu.js:6: the menu of Tea: columns: not a number that makes sense here: \"many\"\n"
               "menu.js:9: no item opens the menu it belongs to\n");
     EXPECT_EQ(result.problems, "");
 }
