@@ -7,8 +7,10 @@
 #include <charconv>
 #include <iostream>
 #include <system_error>
+#include <utility>
 
 #include "messages/definition_messages.h"
+#include "messages/import_messages.h"
 #include "platform/posix/posix_descriptor.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
@@ -36,6 +38,10 @@ int handedDescriptor(std::string_view path) {
 
 std::string nameOf(const std::string& path) {
     return path == "-" ? kStandardInput : path;
+}
+
+std::string pathOfOutput(const std::string& output) {
+    return output.empty() || output == "-" ? "/dev/stdout" : output;
 }
 
 FileResult<std::string> readHanded(int descriptor, const std::string& path) {
@@ -86,28 +92,54 @@ FileResult<std::string> readMenuFile(const FileSystem& files, const std::string&
     return error;
 }
 
-std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
-                                              MenuContent& content) {
+std::optional<std::string> readDefinitionBytes(const FileSystem& files, const std::string& path) {
     FileResult<std::string> bytes = readMenuFile(files, path);
-    if (!bytes.isOk()) {
-        printProblem(bytes.error());
-        return {};
-    }
-    const ReadResult result = ReadScript(bytes.take(), content);
+    if (bytes.isOk())
+        return bytes.take();
+    printProblem(bytes.error());
+    return {};
+}
+
+DefinitionInput parseDefinition(std::string bytes, const std::string& path, MenuContent& content) {
+    const ReadResult result = ReadScript(std::move(bytes), content);
     if (result.errorCount == 0)
-        return DefinitionInput{path};
+        return {path, ExitStatus::Done, result};
     std::cerr << result.errorCount << " errors encountered during parsing\n";
     if (result.itemsLeftOut > 0)
         printProblem(itemsLeftOutText(path == "-" ? kStandardInput : path, result.itemsLeftOut));
-    return DefinitionInput{path, ExitStatus::Counted, result.itemsLeftOut};
+    return {path, ExitStatus::Counted, result};
+}
+
+std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
+                                              MenuContent& content) {
+    std::optional<std::string> bytes = readDefinitionBytes(files, path);
+    if (!bytes)
+        return {};
+    return parseDefinition(std::move(*bytes), path, content);
+}
+
+void printLostLines(const DefinitionInput& input) {
+    const ReadResult& result = input.result;
+    for (const LineWarning& warning : result.warnings)
+        std::cerr << nameOf(input.path) << ':' << warning.line << ": " << reasonText(warning.reason)
+                  << '\n';
+    const std::size_t count = result.errorCount + result.lostLineCount;
+    if (count > result.warnings.size())
+        std::cerr << nameOf(input.path) << ": " << count - result.warnings.size()
+                  << " more like these\n";
+    if (result.hasNoMenu)
+        printProblem(nameOf(input.path) + ": nothing of a menu was found in it");
+}
+
+bool isOwnInput(const FileSystem& files, const std::string& output, const DefinitionInput& input) {
+    return files.isSameFile(input.path == "-" ? "/dev/stdin" : input.path, pathOfOutput(output));
 }
 
 bool mayReplace(const FileSystem& files, const std::string& output, const DefinitionInput& input) {
-    const std::string read = input.path == "-" ? "/dev/stdin" : input.path;
-    const std::string written = output.empty() || output == "-" ? "/dev/stdout" : output;
-    if (input.itemsLeftOut == 0 || !files.isSameFile(read, written))
+    const std::size_t leftOut = input.result.itemsLeftOut;
+    if (leftOut == 0 || !isOwnInput(files, output, input))
         return true;
-    printProblem(written + ": " + losesItemsText(input.itemsLeftOut));
+    printProblem(pathOfOutput(output) + ": " + losesItemsText(leftOut));
     return false;
 }
 

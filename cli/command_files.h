@@ -7,6 +7,7 @@
 
 #include "model/menu_content.h"
 #include "platform/file_system.h"
+#include "script/script_reader.h"
 
 namespace zev {
 
@@ -40,13 +41,29 @@ FileResult<std::string> readMenuFile(const FileSystem& files, const std::string&
 struct DefinitionInput {
     std::string path;                      ///< "-": standard input
     ExitStatus status = ExitStatus::Done;  ///< or Counted
-    std::size_t itemsLeftOut = 0;          ///< beyond those that a menu can hold
+    ReadResult result;
+
+    /// True when lines of a menu were not understood, or nothing of a menu was found.
+    bool hasLostLines() const { return result.lostLineCount > 0 || result.hasNoMenu; }
 };
+
+/// The same with the problem printed when there is none.
+std::optional<std::string> readDefinitionBytes(const FileSystem& files, const std::string& path);
+
+/// Reads `bytes`, those of the definition `path`, into a new menu and prints the number of errors
+/// in it, and of items left out.
+DefinitionInput parseDefinition(std::string bytes, const std::string& path, MenuContent& content);
 
 /// Reads the definition `path` ("-": standard input) into a new menu and prints the number of
 /// errors in it, and of items left out. Nothing, with the problem printed, when it cannot be read.
 std::optional<DefinitionInput> readDefinition(const FileSystem& files, const std::string& path,
                                               MenuContent& content);
+
+/// Prints, on standard error, each line that was not understood or was an error, with its reason.
+void printLostLines(const DefinitionInput& input);
+
+/// True when `output` ("-" or empty: standard output) is the file that was read.
+bool isOwnInput(const FileSystem& files, const std::string& output, const DefinitionInput& input);
 
 /// True when the menu may be written to `output` ("-" or empty: standard output). False, with the
 /// problem printed, when that is the file that was read, which would lose the items left out.

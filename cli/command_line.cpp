@@ -6,7 +6,9 @@
 #include <sstream>
 #include <string>
 
+#include "cli/command_arguments.h"
 #include "cli/commands.h"
+#include "cli/inspect_arguments.h"
 #include "cli/integrator_commands.h"
 #include "platform/posix/running_program.h"
 #include "script/submenu_list.h"
@@ -16,55 +18,21 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kFooter =
-    "\"-\" is standard input or output.\n"
-    "Exit status: 0 done, 1 done with counted errors or warnings (the output is written),\n"
-    "2 wrong use, 3 a file could not be read or written.";
-
-/// An empty path is a script's unset variable, not a wish.
-std::string refuseEmpty(const std::string& value) {
-    return value.empty() ? "must not be empty" : "";
-}
-
-CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& description) {
-    CLI::App& command = *program.add_subcommand(name, description);
-    command.set_version_flag("--version", "zevmenu " ZEV_VERSION, "Print the version and exit");
-    command.footer(kFooter);
-    return command;
-}
-
-void addRequired(CLI::App& command, const std::string& name, const std::string& typeName,
-                 std::string& value, const std::string& description) {
-    command.add_option(name, value, description)
-        ->required()
-        ->type_name(typeName)
-        ->check(refuseEmpty);
-}
-
-void addInput(CLI::App& command, std::string& input,
-              const std::string& description = "Menu definition to read") {
-    addRequired(command, "IN", "", input, description);
-}
-
-void addOutput(CLI::App& command, std::string& output) {
-    command.add_option("-o,--output", output, "File to write; without it, standard output")
-        ->type_name("OUT")
-        ->check(refuseEmpty);
-}
-
 void addFormat(CLI::App& program, FileSystem& files, ExitStatus& status) {
-    struct Options {
-        std::string input;
-        std::string output;
-    };
-    const auto options = std::make_shared<Options>();
+    const auto options = std::make_shared<FormatOptions>();
     CLI::App& command = addCommand(
         program, "format", "Read a menu definition and write it as the editor would save it");
     addInput(command, options->input);
-    addOutput(command, options->output);
-    command.callback([&files, &status, options] {
-        status = formatCommand(files, options->input, options->output);
-    });
+    CLI::Option* const output = addOutput(command, options->output);
+    CLI::Option* const check = command
+                                   .add_flag("--check", options->isCheck,
+                                             "Print the lines that would change, write nothing")
+                                   ->excludes(output);
+    command
+        .add_flag("--force", options->isForced,
+                  "Overwrite IN even if that loses lines that are not understood")
+        ->excludes(check);
+    command.callback([&files, &status, options] { status = formatCommand(files, *options); });
 }
 
 /// The names of the formats, as in "a, b or c".
@@ -271,6 +239,9 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     addImport(program, files, status);
     addRebase(program, files, status);
     addSubmenus(program, files, status);
+    addCheck(program, files, status);
+    addDiff(program, files, status);
+    addTree(program, files, status);
     addPublish(program, files, status);
     addLinkcode(program, status);
     addIntegrate(program, files, status);

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <iostream>
+#include <utility>
 #include <vector>
 
+#include "checks/line_changes.h"
 #include "cli/command_paths.h"
 #include "library/changed_files.h"
 #include "library/library_files.h"
@@ -11,6 +13,7 @@
 #include "messages/import_messages.h"
 #include "messages/library_messages.h"
 #include "script/relative_url.h"
+#include "script/script_writer.h"
 #include "script/submenu_list.h"
 #include "text/path.h"
 
@@ -38,14 +41,50 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable, cons
     return problems.empty() ? ExitStatus::Done : ExitStatus::FileProblem;
 }
 
+/// Prints the lines that writing the menu again would change of its file.
+ExitStatus printChanges(const std::string& bytes, const DefinitionInput& read,
+                        const MenuContent& content) {
+    std::string newBytes = definitionFileBytes(GenerateScript(content));
+    if (newBytes == bytes)
+        return ExitStatus::Done;
+    const std::vector<LineChange> changes = changedLines(bytes, std::move(newBytes));
+    std::string text;
+    for (const LineChange& change : changes) {
+        const std::string place = read.path + ':' + std::to_string(change.line) + ": ";
+        if (change.oldText)
+            text += place + '-' + *change.oldText + '\n';
+        if (change.newText)
+            text += place + '+' + *change.newText + '\n';
+    }
+    if (changes.empty())
+        text = read.path + ": only spaces, line ends or the encoding would change\n";
+    return writeStandardOutput(text) ? ExitStatus::Counted : ExitStatus::FileProblem;
+}
+
 }  // namespace
 
-ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output) {
-    MenuContent& content = commandContent();
-    const std::optional<DefinitionInput> read = readDefinition(files, input, content);
-    if (!read || !mayReplace(files, output, *read) || !writeDefinition(files, output, content))
+ExitStatus formatCommand(FileSystem& files, const FormatOptions& options) {
+    std::optional<std::string> bytes = readDefinitionBytes(files, options.input);
+    if (!bytes)
         return ExitStatus::FileProblem;
-    return read->status;
+    MenuContent& content = commandContent();
+    const DefinitionInput read =
+        parseDefinition(options.isCheck ? *bytes : std::move(*bytes), options.input, content);
+    if (options.isCheck)
+        return printChanges(*bytes, read, content);
+    if (!mayReplace(files, options.output, read))
+        return ExitStatus::FileProblem;
+    const bool isWhole = read.status == ExitStatus::Done && !read.hasLostLines();
+    const bool isRefused = !isWhole && !options.isForced && isOwnInput(files, options.output, read);
+    if (read.hasLostLines() || isRefused)
+        printLostLines(read);
+    if (isRefused) {
+        printProblem(options.output + ": not written, as it would lose these lines; --force does");
+        return ExitStatus::Counted;
+    }
+    if (!writeDefinition(files, options.output, content))
+        return ExitStatus::FileProblem;
+    return isWhole ? ExitStatus::Done : ExitStatus::Counted;
 }
 
 ExitStatus importCommand(FileSystem& files, const ImportOptions& options) {

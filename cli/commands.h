@@ -11,8 +11,16 @@ namespace zev {
 // What each command does, its arguments already taken apart. Paths may be "-" for standard input
 // or output where a command says so.
 
-/// `input` and `output` may be "-"; an empty `output` is standard output.
-ExitStatus formatCommand(FileSystem& files, const std::string& input, const std::string& output);
+struct FormatOptions {
+    std::string input;
+    std::string output;
+    bool isCheck = false;   ///< prints what would change and writes nothing
+    bool isForced = false;  ///< lines that are not understood may be lost from the input
+};
+
+/// `input` and `output` may be "-"; an empty `output` is standard output. Counted when lines were
+/// not understood, or with `isCheck` when anything would change.
+ExitStatus formatCommand(FileSystem& files, const FormatOptions& options);
 
 struct ImportOptions {
     const ImportFormat* format = nullptr;  ///< never null when the command runs

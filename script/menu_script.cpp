@@ -21,26 +21,27 @@ using Reason = LineWarning::Reason;
 class MenuScriptReader {
   public:
     MenuScriptReader(DefinitionLines& lines, const ScriptDialect& dialect, MenuContent& content,
-                     const WarningSink& tell)
-        : m_lines(lines), m_dialect(dialect), m_content(content), m_tell(tell) {}
+                     const WarningSink& tell, const EffectSink& note)
+        : m_lines(lines), m_dialect(dialect), m_content(content), m_tell(tell), m_note(note) {}
 
-    std::size_t read() {
+    MenuScriptCounts read() {
         std::string_view line;
         while (m_lines.next(line))
             readLine(line);
-        return m_itemsLeftOut;
+        return m_counts;
     }
 
   private:
     /// A line may be of several kinds at once: an item line that holds "=" is a property line too.
     void readLine(std::string_view line) {
+        m_counts.textLines += line.empty() ? 0U : 1U;
         // A large file of other lines is passed quickly.
         if (!line.starts_with(m_dialect.start))
             return;
         bool isUnderstood = false;
+        m_isWarned = false;
         if (matchesPattern(line, m_dialect.defaultLine))
-            isUnderstood =
-                SetProperty(m_content.DefaultProp, GetPropName(line), GetPropValue(line));
+            isUnderstood = readDefault(line);
         for (const CreationLine& creation : m_dialect.creationLines) {
             if (matchesPattern(line, creation.pattern)) {
                 openMenu(creation, line);
@@ -55,6 +56,7 @@ class MenuScriptReader {
             isUnderstood = readItem(line, Set_ImageProperty);
         if (!isUnderstood && m_dialect.tellsOfLostLines)
             warn(Reason::NotUnderstood);
+        m_counts.understoodLines += isUnderstood && !m_isWarned ? 1U : 0U;
     }
 
     bool isTopLevel() const { return m_menuId == kTopLevelMenuId; }
@@ -77,8 +79,16 @@ class MenuScriptReader {
             creation.readLook(line, editMenuOf(*m_menuNode));
     }
 
+    bool readDefault(std::string_view line) {
+        const std::string_view name = GetPropName(line);
+        note({m_lines.number(), nullptr, name, true});
+        return SetProperty(m_content.DefaultProp, name, GetPropValue(line));
+    }
+
     bool readProperty(std::string_view line) {
         const std::string_view name = GetPropName(line);
+        if (isTopLevel() || m_menuNode)
+            note({m_lines.number(), m_menuNode, name});
         if (isTopLevel())
             return SetProperty(m_content.RootMenuProp, name, GetPropValue(line));
         if (m_menuNode)
@@ -103,7 +113,7 @@ class MenuScriptReader {
         else
             isAdded = addItem(std::move(item));
         // One of a menu that is not there too: the item that opens it may have been left out.
-        m_itemsLeftOut += isFull ? 1 : 0;
+        m_counts.itemsLeftOut += isFull ? 1U : 0U;
         if (isAdded || (m_dialect.countsRefusedItems && !isFull))
             ++m_content.ItemCounter;
         return isWhole;
@@ -111,30 +121,43 @@ class MenuScriptReader {
 
     bool addItem(ItemProp&& item) {
         std::string text = item.IsRollover ? item.ImageOut : item.Caption;
-        if (m_content.tree.append(m_menuNode, loadedItemKey(m_menuId, m_itemNumber),
-                                  std::move(text), std::move(item)))
-            return true;
-        warn(Reason::DuplicateKey);
-        return false;
+        const MenuNode* const node = m_content.tree.append(
+            m_menuNode, loadedItemKey(m_menuId, m_itemNumber), std::move(text), std::move(item));
+        if (node)
+            note({m_lines.number(), node});
+        else
+            warn(Reason::DuplicateKey);
+        return node != nullptr;
     }
 
-    void warn(Reason reason) { m_tell({m_lines.number(), reason}); }
+    void note(const LineEffect& effect) const {
+        if (m_note)
+            m_note(effect);
+    }
+
+    void warn(Reason reason) {
+        m_isWarned = true;
+        m_tell({m_lines.number(), reason});
+    }
 
     DefinitionLines& m_lines;
     const ScriptDialect& m_dialect;
     MenuContent& m_content;
     const WarningSink& m_tell;
+    const EffectSink& m_note;
     std::string m_menuId;  ///< menu of the last creation line; empty before the first
     const MenuNode* m_menuNode = nullptr;  ///< item that menu opens from; null when there is none
     std::size_t m_itemNumber = 0;          ///< item lines of that menu so far
-    std::size_t m_itemsLeftOut = 0;        ///< that came when the menu was full
+    bool m_isWarned = false;               ///< of the current line
+    MenuScriptCounts m_counts;
 };
 
 }  // namespace
 
-std::size_t readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                           MenuContent& content, const WarningSink& tell) {
-    return MenuScriptReader(lines, dialect, content, tell).read();
+MenuScriptCounts readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
+                                MenuContent& content, const WarningSink& tell,
+                                const EffectSink& note) {
+    return MenuScriptReader(lines, dialect, content, tell, note).read();
 }
 
 }  // namespace zev

@@ -36,9 +36,27 @@ struct ScriptDialect {
 /// kept of them is the caller's choice.
 using WarningSink = std::function<void(const LineWarning& warning)>;
 
-/// Replays a menu script into `content`, which must be that of a new menu. Returns the number of
-/// items that came when the menu held `kMaxItemCounter`, and so were left out.
-std::size_t readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
-                           MenuContent& content, const WarningSink& tell);
+/// What a line has set.
+struct LineEffect {
+    std::size_t line = 0;            ///< counted from 1
+    const MenuNode* item = nullptr;  ///< null: the top-level menu, or the menu-wide defaults
+    std::string_view property = {};  ///< its name in the script; empty: the item itself
+    bool isDefault = false;          ///< one of the menu-wide defaults
+};
+
+/// Told of each line that sets something, in their order. The property's name is part of the line.
+using EffectSink = std::function<void(const LineEffect& effect)>;
+
+/// What a script had to give.
+struct MenuScriptCounts {
+    std::size_t itemsLeftOut = 0;     ///< that came when the menu held `kMaxItemCounter`
+    std::size_t textLines = 0;        ///< lines that are not empty
+    std::size_t understoodLines = 0;  ///< of these, the ones that were applied without a warning
+};
+
+/// Replays a menu script into `content`, which must be that of a new menu. `note` may be empty.
+MenuScriptCounts readMenuScript(DefinitionLines& lines, const ScriptDialect& dialect,
+                                MenuContent& content, const WarningSink& tell,
+                                const EffectSink& note = {});
 
 }  // namespace zev

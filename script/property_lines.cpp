@@ -8,6 +8,8 @@
 
 #include "model/menu_content.h"
 #include "model/menu_properties.h"
+#include "script/definition_lines.h"
+#include "script/line_tokenizers.h"
 #include "text/ascii.h"
 #include "text/pattern.h"
 
@@ -139,6 +141,24 @@ bool SetProperty(MenuProp& prop, std::string_view StrProp, std::string_view StrV
         prop.FontSet = prop.FontSet || row->special == Special::Font;
     }
     return row != nullptr;
+}
+
+std::string_view propertyValue(const MenuPropertyRow& row, const MenuProp& prop) {
+    return std::visit([&](const auto& kind) { return textOf(kind, prop); }, row.member);
+}
+
+void loadUnkeptDefaults(std::string bytes, MenuProp& defaults) {
+    DefinitionLines lines(std::move(bytes));
+    std::string_view line;
+    while (lines.next(line)) {
+        if (!matchesPattern(line, "zev_state.*=*;"))
+            continue;
+        const MenuPropertyRow* const row = findMenuProperty(GetPropName(line));
+        if (row && row->special == Special::NotReadBack)
+            std::visit(
+                [&](const auto& kind) { assign(kind, defaults, trimSpaces(GetPropValue(line))); },
+                row->member);
+    }
 }
 
 }  // namespace zev

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "model/menu_prop.h"
+#include "model/menu_properties.h"
 
 namespace zev {
 
@@ -22,5 +23,13 @@ void appendText(std::string& script, const MenuProp& prop, const MenuProp& defau
 /// without quotes and semicolon; spaces around the value are dropped. A property that no file
 /// brings back is left as it is. False when no property has the name.
 bool SetProperty(MenuProp& prop, std::string_view StrProp, std::string_view StrValue);
+
+/// What a line holds of one property, without quotes and unit; empty when it is not set. Flags that
+/// are off are "none". The text is part of `prop` or a constant.
+std::string_view propertyValue(const MenuPropertyRow& row, const MenuProp& prop);
+
+/// Sets those defaults that `SetProperty` leaves as they are to what the file holds. `bytes` is its
+/// whole content.
+void loadUnkeptDefaults(std::string bytes, MenuProp& defaults);
 
 }  // namespace zev

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "script/line_tokenizers.h"
-#include "script/menu_script.h"
 
 namespace zev {
 
@@ -31,15 +30,18 @@ void ReadResult::count(const LineWarning& warning) {
         warnings.push_back(warning);
 }
 
-ReadResult ReadScript(std::string bytes, MenuContent& content) {
+ReadResult ReadScript(std::string bytes, MenuContent& content, const EffectSink& note) {
     // About the length of a short item's line; of another file no more is taken than a menu can
     // hold.
     constexpr std::size_t kShortLineBytes = 32;
     content.tree.reserve(std::min<std::size_t>(bytes.size() / kShortLineBytes, kMaxItemCounter));
     DefinitionLines lines(std::move(bytes));
     ReadResult result;
-    result.itemsLeftOut = readMenuScript(
-        lines, kDefinition, content, [&](const LineWarning& warning) { result.count(warning); });
+    const MenuScriptCounts counts = readMenuScript(
+        lines, kDefinition, content, [&](const LineWarning& warning) { result.count(warning); },
+        note);
+    result.itemsLeftOut = counts.itemsLeftOut;
+    result.hasNoMenu = counts.textLines > 0 && counts.understoodLines == 0;
     return result;
 }
 

@@ -8,6 +8,7 @@
 
 #include "model/menu_content.h"
 #include "script/line_warning.h"
+#include "script/menu_script.h"
 
 namespace zev {
 
@@ -28,6 +29,8 @@ struct ReadResult {
     /// Items, each of them an error too, that came when the menu held `kMaxItemCounter`: it lacks
     /// them, and written over its file it would lose them.
     std::size_t itemsLeftOut = 0;
+    /// There is text in the file, but not one line of it is understood.
+    bool hasNoMenu = false;
     /// The first `kMaxKeptWarnings` of the errors and lost lines, in the order of the lines.
     std::vector<LineWarning> warnings;
 
@@ -39,7 +42,8 @@ struct ReadResult {
 ///
 /// `bytes` is the file's whole content: UTF-8 with or without a byte order mark, else Windows-1252.
 /// Lines end at LF; a CR before it is dropped. Unrecognised lines are skipped.
-ReadResult ReadScript(std::string bytes, MenuContent& content);
+/// `note` may be empty.
+ReadResult ReadScript(std::string bytes, MenuContent& content, const EffectSink& note = {});
 
 /// True when `bytes` cannot be a text file: it holds a NUL byte.
 bool isBinary(std::string_view bytes);

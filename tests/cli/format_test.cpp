@@ -240,5 +240,84 @@ TEST_F(FormatTest, KnowsItsInputAlsoAsStandardInput) {
     EXPECT_EQ(contentOf(folder / "in.js"), overfullDefinition());
 }
 
+constexpr const char* kLosesALine =
+    "zevmenu = new ZEVMenu('0');\nzevmenu.AddItem('A', '', '');\nzevmenu.AddItem('It's', '', "
+    "'');\n";
+
+TEST_F(FormatTest, NamesLinesThatAreNotUnderstoodAndWritesTheRest) {
+    makeFile(folder / "in.js", kLosesALine);
+    const ProgramResult result = run({"format", "in.js", "-o", "out.js"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.problems, "in.js:3: it is not a line that a menu has\n");
+    EXPECT_NE(contentOf(folder / "out.js").find("AddItem('A'"), std::string::npos);
+}
+
+TEST_F(FormatTest, DoesNotLoseLinesFromItsInputWithoutForce) {
+    const std::string countsAnError =
+        "zevmenu = new ZEVMenu('0');\nzevmenu = new ZEVMenu('7');\nzevmenu.columns = 2;\n";
+    const std::string page = "<html>\n<body>no menu</body>\n</html>\n";
+    struct Case {
+        std::string text;
+        std::string problems;
+    };
+    const Case cases[] = {
+        {kLosesALine, "in.js:3: it is not a line that a menu has\n"},
+        {countsAnError,
+         "1 errors encountered during parsing\nin.js:3: no item opens the menu it belongs to\n"},
+        {page, "zevmenu: in.js: nothing of a menu was found in it\n"}};
+    for (const Case& c : cases) {
+        makeFile(folder / "in.js", c.text);
+        const ProgramResult result = run({"format", "in.js", "-o", "./in.js"});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(
+            result.problems,
+            c.problems +
+                "zevmenu: ./in.js: not written, as it would lose these lines; --force does\n");
+        EXPECT_EQ(contentOf(folder / "in.js"), c.text);
+        EXPECT_EQ(run({"format", "--force", "in.js", "-o", "in.js"}).status, 1);
+        EXPECT_EQ(run({"format", "--check", "in.js"}).status, 0) << contentOf(folder / "in.js");
+    }
+}
+
+TEST_F(FormatTest, AFileOfDefaultsOnlyIsAMenuAndOneOfCommentsIsNone) {
+    EXPECT_EQ(run({"format", "-"}, "zev_state.columns = 2;\n").status, 0);
+    EXPECT_EQ(run({"format", "-"}, "// zev_state.columns = 2;\n").status, 1);
+    EXPECT_EQ(run({"format", "-"}, "zevmenu.AddItem('A');\n").status, 1);
+}
+
+TEST_F(FormatTest, CheckPrintsTheLinesThatWouldChangeAndWritesNothing) {
+    std::string definition = kSmallDefinition;
+    definition.replace(definition.find("= 500"), 5, "= 1200");
+    definition.insert(0, "// my menu\r\n");
+    makeFile(folder / "in.js", definition);
+    const ProgramResult result = run({"format", "--check", "in.js"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output,
+              "in.js:1: -// my menu\n"
+              "in.js:8: -zev_state.closedelay = 1200;\n"
+              "in.js:8: +zev_state.closedelay = 500;\n");
+    EXPECT_EQ(contentOf(folder / "in.js"), definition);
+    EXPECT_EQ(namesIn(folder.path()), std::vector<std::string>{"in.js"});
+}
+
+TEST_F(FormatTest, CheckIsSilentWhenNothingWouldChange) {
+    const ProgramResult result = run({"format", "--check", "-"}, kSmallDefinition);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output + result.problems, "");
+}
+
+TEST_F(FormatTest, CheckSeesLineEndsToo) {
+    std::string unixLines = kSmallDefinition;
+    std::erase(unixLines, '\r');
+    const ProgramResult result = run({"format", "--check", "-"}, unixLines);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "-: only spaces, line ends or the encoding would change\n");
+}
+
+TEST_F(FormatTest, CheckGoesWithNeitherOutputNorForce) {
+    EXPECT_EQ(run({"format", "--check", "-", "-o", "out.js"}).status, 2);
+    EXPECT_EQ(run({"format", "--check", "--force", "-"}).status, 2);
+}
+
 }  // namespace
 }  // namespace zev::test

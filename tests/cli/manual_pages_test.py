@@ -25,7 +25,7 @@ def options_in(help_text):
     """Every spelling of every option listed under "Options:", and the name of its argument."""
     listed = help_text.split("Options:\n")[1].split("\n\n")[0]
     return {(option, argument)
-            for spellings, argument in re.findall(r"^  (-\S+)(?: (?!Needs:)([A-Z]\S*))?(?= |$)", listed,
+            for spellings, argument in re.findall(r"^  (-\S+)(?: (?!Needs:|Excludes:)([A-Z]\S*))?(?= |$)", listed,
                                                   re.MULTILINE)
             for option in spellings.split(",")}
 

@@ -11,7 +11,8 @@ import re
 import sys
 from pathlib import Path
 
-CORE = {"text", "model", "script", "importers", "html", "library", "integrator", "platform", "messages"}
+CORE = {"text", "model", "script", "importers", "html", "library", "integrator", "checks", "platform",
+        "messages"}
 QT = {"Qt"}
 
 # Folder of the including file -> what it may include beside its own folder and the standard and
@@ -28,7 +29,8 @@ ALLOWED = {
     "html": {"text"},
     "library": {"platform", "text"},
     "integrator": {"script", "model", "html", "platform", "text"},
-    "messages": {"importers", "library", "integrator", "script", "model", "platform", "text"},
+    "checks": {"script", "model", "html", "platform", "text"},
+    "messages": {"checks", "importers", "library", "integrator", "script", "model", "platform", "text"},
     "integrator/wizard": CORE | {"dialogs"} | QT,
     "dialogs": CORE | QT,
     "app": CORE | {"integrator/wizard", "platform/posix", "platform/qt", "dialogs"} | QT,

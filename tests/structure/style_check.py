@@ -21,8 +21,8 @@ import subprocess
 import sys
 from pathlib import Path
 
-PRODUCT = ["text", "model", "script", "importers", "html", "library", "integrator", "messages",
-           "platform", "dialogs", "app", "cli"]
+PRODUCT = ["text", "model", "script", "importers", "html", "library", "integrator", "checks",
+           "messages", "platform", "dialogs", "app", "cli"]
 OTHERS = ["bench", "fuzz", "tests"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.M)
 

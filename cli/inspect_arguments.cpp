@@ -1,0 +1,74 @@
+#include "cli/inspect_arguments.h"
+
+#include <memory>
+#include <string>
+
+#include "cli/check_command.h"
+#include "cli/command_arguments.h"
+#include "cli/inspect_commands.h"
+
+namespace zev {
+
+namespace {
+
+void addJson(CLI::App& command, bool& isJson) {
+    command.add_flag("--json", isJson, "Print JSON, for other programs");
+}
+
+}  // namespace
+
+void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+    const auto options = std::make_shared<CheckOptions>();
+    CLI::App& command = addCommand(program, "check", "Find what is wrong in menu definitions");
+    command.footer(
+        "\"-\" is standard input.\n"
+        "Exit status: 0 nothing is wrong, 1 something is, 2 wrong use, 3 a file could not be read\n"
+        "(the others are checked).");
+    command.add_option("FILE", options->inputs, "Menu definitions")
+        ->required()
+        ->type_name("")
+        ->check(refuseEmpty);
+    command.add_option("--root", options->root, "Folder of the site, for links that begin with /")
+        ->type_name("DIR")
+        ->check(refuseEmpty);
+    addJson(command, options->isJson);
+    command.callback([&files, &status, options] { status = checkCommand(files, *options); });
+}
+
+void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+    struct Options {
+        std::string oldInput;
+        std::string newInput;
+        bool isJson = false;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command =
+        addCommand(program, "diff", "Tell in what the items of two menu definitions differ");
+    command.footer(
+        "\"-\" is standard input.\n"
+        "Exit status: 0 no difference, 1 they differ or have errors, 2 wrong use, 3 a file could "
+        "not\n"
+        "be read.");
+    addRequired(command, "OLD", "", options->oldInput, "Menu definition as it was");
+    addRequired(command, "NEW", "", options->newInput, "Menu definition as it is");
+    addJson(command, options->isJson);
+    command.callback([&files, &status, options] {
+        status = diffCommand(files, options->oldInput, options->newInput, options->isJson);
+    });
+}
+
+void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+    struct Options {
+        std::string input;
+        bool isJson = false;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command = addCommand(program, "tree", "Print the menu as an indented outline");
+    addInput(command, options->input);
+    addJson(command, options->isJson);
+    command.callback([&files, &status, options] {
+        status = treeCommand(files, options->input, options->isJson);
+    });
+}
+
+}  // namespace zev

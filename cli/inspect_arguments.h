@@ -1,0 +1,19 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command_files.h"
+#include "platform/file_system.h"
+
+namespace zev {
+
+// Each adds a command that looks at menus and writes none; when it is the one that was asked for,
+// it runs and sets `status`.
+
+void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status);
+
+void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status);
+
+void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status);
+
+}  // namespace zev
