@@ -23,6 +23,8 @@ const launchers = {
     firefox: (profile, { reducedMotion, forcedColours }) => puppeteer.launch({
         browser: 'firefox', executablePath: process.env.FIREFOX || '/usr/bin/firefox-esr', headless: true,
         userDataDir: profile, timeout, extraPrefsFirefox: {
+            // As for visitors: the driver would let pages from the disk read each other.
+            'security.fileuri.strict_origin_policy': true,
             'ui.prefersReducedMotion': reducedMotion ? 1 : 0,
             'browser.display.document_color_use': forcedColours ? 2 : 1,
             // On a busy machine a tap can take long, and is a tap all the same.
