@@ -142,14 +142,14 @@ const std::vector<Command>& CommandActions::rows() {
         // Below the rest: the menu opened by key stands on its first entry, which people know by
         // heart.
         {{"mnuEdit", "mnuEditUndo", QT_TR_NOOP("&Undo"), "Ctrl+Z"},
-         &frmMain::mnuEditUndo_Click,
+         &frmMain::undo,
          {QT_TR_NOOP("Undo"), "undo", kHistoryBar},
          {},
          "",
          !kLeavesKeyToText,
          !kLeavesField},
         {{"mnuEdit", "mnuEditRedo", QT_TR_NOOP("&Redo"), "Ctrl+Shift+Z; Ctrl+Y"},
-         &frmMain::mnuEditRedo_Click,
+         &frmMain::redo,
          {QT_TR_NOOP("Redo"), "redo", kHistoryBar},
          {},
          "",

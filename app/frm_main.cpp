@@ -221,7 +221,7 @@ void frmMain::mnuFileExit_Click() {
     emit ended();
 }
 
-void frmMain::mnuEditUndo_Click() {
+void frmMain::undo() {
     if (QLineEdit* field = typedField(); field && field->isUndoAvailable())
         field->undo();
     else
@@ -229,7 +229,7 @@ void frmMain::mnuEditUndo_Click() {
     showHistory();
 }
 
-void frmMain::mnuEditRedo_Click() {
+void frmMain::redo() {
     if (QLineEdit* field = typedField(); field && field->isRedoAvailable())
         field->redo();
     else
@@ -395,7 +395,7 @@ void frmMain::sayLastCommand() {
     if (line.isEmpty())
         m_lastCommand->say("");
     else
-        m_lastCommand->say(line, {{tr("Undo"), [this] { mnuEditUndo_Click(); }}});
+        m_lastCommand->say(line, {{tr("Undo"), [this] { undo(); }}});
     if (hadFocus)
         TreeView->setFocus();
 }

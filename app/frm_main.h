@@ -59,8 +59,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     /// The entry of File > Import of this format.
     void importMenu(const ImportFormat& format) { m_importCommands.run(format); }
     void mnuFileExit_Click();
-    void mnuEditUndo_Click();
-    void mnuEditRedo_Click();
+    void undo();
+    void redo();
     void mnuEditDefault_Click();
     void mnuEditMenuProperties_Click();
     void mnuEditAddMenuItem_Click();

@@ -22,6 +22,8 @@ template <typename... Functions>
 struct Overloaded : Functions... {
     using Functions::operator()...;
 };
+template <typename... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
 
 bool isEmpty(const MenuContent& content) {
     static const MenuContent kEmpty;
