@@ -229,15 +229,17 @@ void CommandActions::Button_Update(const MenuDocument& document) {
 }
 
 void CommandActions::show(const Command& command, const QString& text, bool isUsable) {
-    auto* entry = m_window.findChild<QAction*>(command.entry.name);
     QString caption = text;
-    entry->setText(caption.replace("&", "&&").prepend('&'));
-    entry->setEnabled(isUsable);
-    for (QAction* button : m_window.findChild<QToolBar*>(command.button.bar)->actions())
-        if (button->iconText() == tr(command.button.key)) {
-            button->setToolTip(text);
-            button->setEnabled(isUsable);
-        }
+    caption.replace("&", "&&").prepend('&');
+    for (const auto& [shown, action] : m_actions) {
+        if (shown != &command)
+            continue;
+        if (action->objectName() == QLatin1String(command.entry.name))
+            action->setText(caption);
+        else
+            action->setToolTip(text);
+        action->setEnabled(isUsable);
+    }
 }
 
 void CommandActions::addEntry(QMenu& menu, const Command& command) {
@@ -254,7 +256,6 @@ void CommandActions::addEntry(QMenu& menu, const Command& command) {
 void CommandActions::addButton(QToolBar& toolBar, const Command& command) {
     const QString caption = tr(command.button.key);
     QAction& button = *toolBar.addAction(buttonIcon(command.button.icon), caption);
-    button.setIconText(caption);
     button.setToolTip(caption);
     nameLast(toolBar, button);
     connectAction(button, command, command.rule.keepsWithoutNode == Command::Keeps::EntryAndButton);
@@ -262,6 +263,7 @@ void CommandActions::addButton(QToolBar& toolBar, const Command& command) {
 
 void CommandActions::connectAction(QAction& action, const Command& command, bool keepsWithoutNode) {
     connect(&action, &QAction::triggered, this, [this, &command] { emit chosen(command); });
+    m_actions.emplace_back(&command, &action);
     if (command.rule.isUsable)
         m_switches.push_back({&action, command.rule.isUsable, keepsWithoutNode});
 }

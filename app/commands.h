@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "app/shortcut_keys.h"
@@ -87,6 +88,7 @@ class CommandActions : public QObject {
     };
     QMainWindow& m_window;
     std::vector<Switch> m_switches;
+    std::vector<std::pair<const Command*, QAction*>> m_actions;  ///< entries and buttons
     ShortcutKeys m_shortcuts;
 };
 
