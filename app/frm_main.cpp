@@ -14,6 +14,7 @@
 #include <exception>
 #include <initializer_list>
 #include <utility>
+#include <vector>
 
 #include "app/frm_about.h"
 #include "app/item_panel.h"
@@ -42,11 +43,12 @@ namespace {
 constexpr const char* kSupportAddress = "https://zevmenu.example/support";
 constexpr const char* kManual = "help/index.html";
 
-std::size_t sizeOf(const MenuNode& branch) {
-    std::size_t size = 1;
-    for (const MenuNode* child : branch.children())
-        size += sizeOf(*child);
-    return size;
+// A list instead of recursion: a menu may be thousands of levels deep.
+std::size_t sizeOf(const MenuNode& top) {
+    std::vector<const MenuNode*> branch = {&top};
+    for (std::size_t i = 0; i < branch.size(); ++i)
+        branch.insert(branch.end(), branch[i]->children().begin(), branch[i]->children().end());
+    return branch.size();
 }
 
 /// "About us", "About us and 1 item", "About us and 7 items": a node and all below it.
@@ -360,11 +362,12 @@ void frmMain::run(const Command& command) {
 void frmMain::run(const std::string& step, const std::function<void()>& work) {
     leaveField();
     guard([&] {
-        m_history.storeTyping();
-        if (step.empty())
+        if (step.empty()) {
+            m_history.storeTyping();
             work();
-        else
+        } else {
             m_history.run(step, work);
+        }
         followDocument();
     });
 }

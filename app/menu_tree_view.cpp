@@ -6,6 +6,8 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 #include "dialogs/single_line.h"
 
@@ -190,11 +192,14 @@ void MenuTreeView::showExpansion() {
 }
 
 /// Of a node that the view has just been given, and of all below it.
-void MenuTreeView::showExpansionOf(const MenuNode& node) {
-    if (node.isExpanded)
-        setExpanded(m_model.indexOf(&node), true);
-    for (const MenuNode* child : node.children())
-        showExpansionOf(*child);
+/// A list instead of recursion: a menu may be thousands of levels deep.
+void MenuTreeView::showExpansionOf(const MenuNode& top) {
+    std::vector<const MenuNode*> branch = {&top};
+    for (std::size_t i = 0; i < branch.size(); ++i) {
+        if (branch[i]->isExpanded)
+            setExpanded(m_model.indexOf(branch[i]), true);
+        branch.insert(branch.end(), branch[i]->children().begin(), branch[i]->children().end());
+    }
 }
 
 int MenuTreeView::indentOf(const MenuNode& node) const {

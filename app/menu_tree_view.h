@@ -42,7 +42,7 @@ class MenuTreeView : public QTreeView {
   private:
     void foldBranch(const QModelIndex& index);
     void showExpansion();
-    void showExpansionOf(const MenuNode& node);
+    void showExpansionOf(const MenuNode& top);
     int indentOf(const MenuNode& node) const;
 
     MenuDocument& m_document;
