@@ -70,18 +70,19 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
 
     frmMain window(services, programFolder(fileSystem, messages), browser);
     // Ends the program also while the manual's window is open.
-    QObject::connect(&window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); });
+    QObject::connect(
+        &window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); },
+        Qt::QueuedConnection);
     fitScreen(window);
     window.show();
     const QStringList files = arguments.positionalArguments();
     const QString picture = arguments.value("screenshot");
-    const auto begin = [&] {
-        if (!files.isEmpty())
-            window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
-        if (!picture.isEmpty())
-            takePreviewPicture(window, *browser, picture);
-    };
-    QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
+    // Before the window is painted for the first time: so it is painted once.
+    if (!files.isEmpty())
+        window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
+    const auto takePicture = [&] { takePreviewPicture(window, *browser, picture); };
+    if (!picture.isEmpty())
+        QMetaObject::invokeMethod(&window, takePicture, Qt::QueuedConnection);
     return QApplication::exec();
 }
 

@@ -1,8 +1,10 @@
 #include "app/script_view.h"
 
 #include <QFontDatabase>
+#include <QWindow>
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace zev {
 
@@ -47,7 +49,21 @@ void ScriptView::showScript(const std::string& script) {
     if (script == m_script)
         return;
     m_script = script;
-    setPlainText(withoutOverlongLines(script));
+    m_isBehind = true;
+    // The window that is only just coming up need not wait for a text behind another tab.
+    const QWindow* const handle = window()->windowHandle();
+    if (isVisible() || (handle != nullptr && handle->isExposed()))
+        catchUp();
+}
+
+void ScriptView::showEvent(QShowEvent* event) {
+    catchUp();
+    QPlainTextEdit::showEvent(event);
+}
+
+void ScriptView::catchUp() {
+    if (std::exchange(m_isBehind, false))
+        setPlainText(withoutOverlongLines(m_script));
 }
 
 }  // namespace zev

@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
+#include "app/script_view.h"
 #include "imported_products.h"
 #include "window_desk.h"
 
@@ -39,6 +40,13 @@ class test_tabs : public QObject {
 
   private slots:
     // Switching
+
+    void aScriptToldBeforeTheWindowIsUpIsThereWithIt() {
+        ScriptView view;
+        view.showScript("zevmenu = 1;\r\n");
+        view.show();
+        QCOMPARE(view.toPlainText(), "zevmenu = 1;\n");
+    }
 
     void theJavaScriptTabShowsWhatWasTypedAMomentAgo() {
         WindowDesk desk;
