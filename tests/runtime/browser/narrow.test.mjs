@@ -117,10 +117,12 @@ for (const width of [320, 360, 400]) {
     });
 }
 
-test('at 360 px the third level of a list opens inside the second, not back over the first', async () => {
-    const names = depth => ['A', 'B', 'C'].map(letter => `${letter}${depth} as wide as a menu is`);
-    await show({ width: 360, definition: [0, 1, 2].map(depth =>
-        list(depth ? Array(depth).fill(2).join('i') : '0', names(depth))).join('\n') });
+test('where two boxes stand side by side the third opens inside the second, not back over the first', async () => {
+    const names = depth => ['A', 'B', 'C'].map(letter => `${letter}${depth} of a menu`);
+    const definition = [0, 1, 2].map(depth => list(depth ? Array(depth).fill(2).join('i') : '0', names(depth))).join('\n');
+    await show({ width: 900, definition });
+    const width = Math.ceil((await boxRect(page, names(0)[1])).width * 2.5);
+    await show({ width, definition });
     await hover(page, names(0)[1]);
     await waitShown(page, names(1)[1]);
     assert.ok((await rect(page, names(1)[1])).left >= (await rect(page, names(0)[1])).right);
@@ -128,7 +130,6 @@ test('at 360 px the third level of a list opens inside the second, not back over
     await waitShown(page, names(2)[0]);
     await assertApart([0, 1, 2].flatMap(names));
     await page.setViewport({ width: 900, height: 568 });
-    page.viewportWidth = 900;
     await until(async () => (await rect(page, names(2)[0])).left >= (await rect(page, names(1)[1])).right,
         'the third level beside the second');
 });
