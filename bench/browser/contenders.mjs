@@ -31,9 +31,9 @@ function nestedLists(items, { list, line, link }, depth = 0) {
     return `<ul${list(depth)}>\n${lines.join('\n')}</ul>`;
 }
 
-// A menu as a definition file. Mouse movements that leave the menu close it at once.
+// A menu as a definition file. It opens without a delay and an effect, and closes at once when the mouse has left it.
 function definition(items) {
-    const lines = ["zev_state.closedelay = 0;", "zevmenu = new ZEVMenu('0');", 'zevmenu.columns = 20;',
+    const lines = ['zev_state.opendelay = 0;', 'zev_state.ffade = 0;', 'zev_state.closedelay = 0;', "zevmenu = new ZEVMenu('0');", 'zevmenu.columns = 20;',
                    "zevmenu.position = 'bottom';", 'zevmenu.cellpadding = 5;'];
     const addItems = children => children.forEach(({ caption, url }) =>
         lines.push(`zevmenu.AddItem('${caption}', '${url}', '');`));

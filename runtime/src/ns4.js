@@ -9,40 +9,32 @@
 var shared = window.ZEVMenu && ZEVMenu.shared;
 // A page may load it by hand, though its browser needs none, or has it.
 if (!shared || shared.isModern || shared.writeLinks) return;
-var menus = shared.state.menus, isWritten = false;
+var menus = shared.state.menus;
 
 function attribute(name, value) {
     return value ? ' ' + name + '="' + value.replace(/"/g, '&quot;') + '"' : '';
 }
 
-function linkOf(menu, item) {
-    var caption = item.caption, target = item.target || shared.setting(menu, 'target');
-    if (item.imageOut) {
-        caption = '<img border="0"' + attribute('src', item.imageOut) +
-            attribute('alt', shared.nameFromFiles(item)) + '>';
-    }
-    if (!item.url) return caption;
-    return '<a' + attribute('href', item.url) + attribute('target', target) + '>' + caption +
-        '</a>';
-}
-
 function listOf(menu) {
-    var html = '<ul>', i, item, child;
+    var html = '', i, item, link;
+    if (!menu) return html;
     for (i = 0; i < menu.zevItems.length; i++) {
         item = menu.zevItems[i];
-        if (item) {
-            child = menus[shared.submenuId(menu, i + 1)];
-            html += '<li>' + linkOf(menu, item) + (child ? listOf(child) : '') + '</li>';
+        link = item.caption;
+        if (item.over) {
+            link = '<img border="0"' + attribute('src', link) + attribute('alt', shared.nameOf(menu, item)) + '>';
         }
+        if (item.url) {
+            link = '<a' + attribute('href', item.url) +
+                attribute('target', item.target || shared.setting(menu, 'target')) + '>' + link + '</a>';
+        }
+        html += '<li>' + link + listOf(menus[item.id]) + '</li>';
     }
-    return html + '</ul>';
+    return '<ul>' + html + '</ul>';
 }
 
 // A second call writes nothing.
 shared.writeLinks = function () {
-    var top = menus['0'];
-    if (top && !isWritten) {
-        isWritten = true;
-        document.write(listOf(top));
-    }
+    document.write(listOf(menus['0']));
+    if (menus['0']) menus = {};
 };

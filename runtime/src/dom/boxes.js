@@ -1,28 +1,28 @@
 // ---- Page: elements, styles, events ----
 
-function around(element, property) {
-    while (element && !element[property]) element = element.parentNode;
-    return element;
+function around(node, property) {
+    while (node && !node[property]) node = node.parentNode;
+    return node;
 }
 
-function linkAt(element) {
-    return around(element, 'zevSubmenu');
+function linkAt(node) {
+    return around(node, 'zevItem');
 }
 
-function boxAt(element) {
-    return around(element, 'zevMenu');
+function boxAt(node) {
+    return around(node, 'zevMenu');
 }
 
 function linksOf(box) {
     return [...box.children].map(line => line.firstChild);
 }
 
-function depthAt(element) {
-    return depthOf(boxAt(element));
+function depthAt(node) {
+    return depthOf(boxAt(node));
 }
 
-function isRtlAt(element) {
-    return getComputedStyle(element).direction == 'rtl';
+function isRtlAt(node) {
+    return getComputedStyle(node).direction == 'rtl';
 }
 
 function isOpen(link) {
@@ -30,34 +30,29 @@ function isOpen(link) {
 }
 
 // An attribute of null is taken away.
-function mark(element, attributes) {
-    Object.entries(attributes).forEach(([name, value]) => {
-        if (value == null) element.removeAttribute(name);
-        else element.setAttribute(name, value);
-    });
-}
-
-function isAccordion(box) {
-    return box.matches('.inside,.folded');
+function mark(node, attributes) {
+    Object.entries(attributes).forEach(([name, value]) =>
+        node[value == null ? 'removeAttribute' : 'setAttribute'](name, value));
 }
 
 function isList(box) {
-    return box.matches('.list,.inside,.folded');
+    return box.matches('.list');
 }
 
-function orient(box) {
-    const isRow = !isList(box), isBar = box.getAttribute('role') == 'menubar';
-    mark(box, { 'aria-orientation': isRow == isBar ? null : isRow ? 'horizontal' : 'vertical' });
+function shape(box, className, role = 'menu') {
+    box.className = className;
+    const isRow = !isList(box);
+    mark(box, { role, 'aria-orientation': isRow == (role == 'menubar') ? null : isRow ? 'horizontal' : 'vertical' });
 }
 
 function promote(box, role) {
-    const isBar = role == 'menubar';
-    mark(box, { role });
-    orient(box);
+    shape(box, box.zevShape = box.className, role);
+    box.zevMenu.zevBox = box;
     linksOf(box).forEach((link, index) => {
+        const submenu = submenuOf(link);
         mark(link.parentNode, { role: 'none' });
-        mark(link, { role: 'menuitem', tabindex: isBar && !index ? 0 : -1 });
-        if (submenuOf(link)) mark(link, { 'aria-haspopup': true, 'aria-expanded': false });
+        mark(link, { role: 'menuitem', tabindex: role == 'menubar' && !index ? 0 : -1,
+                     'aria-haspopup': submenu && true, 'aria-expanded': submenu && false });
         shared.addMark(link, box.zevMenu);
         markCurrent(link);
     });
@@ -66,48 +61,44 @@ function promote(box, role) {
 // ---- The items of the page that is shown ----
 
 function markCurrent(link) {
-    mark(link, { 'aria-current': link.zevItem.zevCurrent });
+    mark(link, { 'aria-current': link.zevItem.current });
 }
 
-// An address without its fragment; '' for a place in the page, and for what is no address.
+// An address without its fragment; false for a place in the page. An element does not throw at what is no address.
+let area;
 function pageAt(menu, url) {
-    try {
-        return /^[^#]/.test(url) ? new URL(shared.resolve(menu, url), document.baseURI).href.split('#')[0] : '';
-    } catch {
-        return '';
-    }
+    area ||= document.createElement('area');
+    area.href = shared.resolve(menu, url);
+    return /^[^#]/.test(url) && area.href.split('#')[0];
 }
 
 // Whether a menu, or one below it, leads to the page that is shown.
 function findCurrent(menu, here) {
-    return menu.zevItems.filter((item, index) => {
-        if (!item) return false;
-        const below = state.menus[shared.submenuId(menu, index + 1)], isOnWay = below && findCurrent(below, here);
-        return (item.zevCurrent = pageAt(menu, item.url) == here ? 'page' : isOnWay ? true : null);
+    return menu.zevItems.filter(item => {
+        const below = state.menus[item.id], isOnWay = below && findCurrent(below, here);
+        return (item.current = pageAt(menu, item.url) == here ? 'page' : isOnWay ? true : null);
     }).length;
 }
 
-function lookUpCurrent() {
-    state.looking ||= whenIdle(() => {
-        const { menus, barBox } = state, top = menus['0'];
-        state.looking = 0;
+function lookUp() {
+    whenIdle('looking', () => {
+        const { menus } = state, top = menus['0'];
         if (top) findCurrent(top, pageAt(top, location.href));
-        const boxes = [barBox, ...Object.values(menus).map(menu => menu.zevBox)].filter(Boolean);
-        boxes.flatMap(linksOf).forEach(markCurrent);
+        Object.values(menus).forEach(({ zevBox }) => zevBox && linksOf(zevBox).forEach(markCurrent));
     });
 }
 
 function itemOf(menu) {
-    const [, parentId, position] = /^(?:(.*)i)?(.*)/.exec(menu.zevId);
-    return state.menus[parentId || '0']?.zevItems[position - 1];
+    const { zevId } = menu;
+    return state.menus[zevId.replace(/i?\d+$/, '') || '0']?.zevItems.find(item => item.id == zevId);
 }
 
 function boxOf(menu) {
     if (!menu.zevBox) {
-        const box = menu.zevBox = shared.buildBox(menu), item = itemOf(menu);
+        const box = shared.buildBox(menu), item = itemOf(menu);
         box.hidden = true;
-        if (item) mark(box, { 'aria-label': shared.nameOf(menu, item) });
-        promote(box, 'menu');
+        mark(box, { 'aria-label': item && shared.nameOf(menu, item) });
+        promote(box);
     }
     return menu.zevBox;
 }
@@ -118,43 +109,44 @@ function topAround(opener) {
 }
 
 // Puts the layer there too, above it: what was opened last lies highest.
-function raise(layer, top) {
-    const home = top || document.body;
-    if (layer.parentNode != home) home.appendChild(layer);
-    mark(layer, { popover: null });
+function raise(opener) {
+    const top = topAround(opener), home = top || document.body, { layer } = state, box = homeOf(layer);
+    if (layer.parentNode != home) home.append(layer);
+    mark(box, { popover: null });
     if (!top) return;
-    mark(layer, { popover: 'manual' });
-    layer.showPopover?.();
+    mark(box, { popover: 'manual' });
+    box.showPopover?.();
 }
 
-function ensureBox(menu, opener) {
-    const box = boxOf(menu);
+function boxFor(menu, opener) {
     if (!state.layer) {
         state.layer = shared.createHost('layer');
         attend(state.layer, true);
     }
-    if (!opener || !depthAt(opener)) raise(state.layer, topAround(opener));
-    return box;
+    if (!opener || !depthAt(opener)) raise(opener);
+    return boxOf(menu);
 }
 
 function buildAhead(box) {
     // Until the page has loaded, its scripts may add to the definition.
     if (!box || document.readyState != 'complete') return;
-    const isRunning = state.ahead.length;
     state.ahead = linksOf(box).map(submenuOf)
-        .filter(menu => menu && !menu.zevBox && !state.ahead.includes(menu) &&
-                menu.zevItems.length <= itemsAhead)
-        .slice(0, menusAhead).concat(state.ahead);
-    if (!isRunning) buildWhenIdle();
+        .filter(menu => menu && !menu.zevBox && menu.zevItems.length <= 200)
+        .slice(0, 50).concat(state.ahead);
+    buildNext();
 }
 
-function whenIdle(job) {
-    return (window.requestIdleCallback || setTimeout)(job);
+// `name` is that of the state's timer; a job that waits is not asked for again.
+function whenIdle(name, job) {
+    state[name] ||= (window.requestIdleCallback || setTimeout)(() => {
+        state[name] = 0;
+        job();
+    });
 }
 
-function buildWhenIdle() {
-    if (state.ahead.length) state.building = whenIdle(() => {
+function buildNext() {
+    if (state.ahead.length) whenIdle('building', () => {
         boxOf(state.ahead.shift());
-        buildWhenIdle();
+        buildNext();
     });
 }

@@ -6,7 +6,7 @@ function focused() {
 
 function onFocusIn(event) {
     const link = event.target;
-    if (boxAt(link) != state.barBox || !link.zevSubmenu) return;
+    if (boxAt(link) != state.barBox || !link.zevItem) return;
     linksOf(state.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
 }
 
@@ -16,7 +16,7 @@ function enter(box, isAtEnd) {
 }
 
 function enterFrom(link, isAtEnd) {
-    const level = state.levels[depthAt(link)];
+    const level = levels[depthAt(link)];
     if (level?.opener == link) enter(level.box, isAtEnd);
 }
 
@@ -25,48 +25,53 @@ function openAndEnter(link, isAtEnd) {
     enterFrom(link, isAtEnd);
 }
 
+// Of an item or of the link of a pop-up, and says whether it is open.
+function open(link, event) {
+    if (link.zevItem) openSubmenu(link);
+    else openFrom(link, event);
+    return isOpen(link);
+}
+
 function moveTo(target) {
-    const depth = depthAt(target), child = state.levels[depth], hadOpen = state.levels.length;
+    const depth = depthAt(target), child = levels[depth], hadOpen = levels.length;
     // An accordion stays open below the item.
-    if (!child || !isInside(child)) closeFrom(depth);
+    if (!child || !isInside(child)) close(depth);
     target.focus();
     if (!depth && hadOpen && (!child || !isInside(child))) openSubmenu(target);
 }
 
 function nextLink(link, reading) {
-    const box = boxAt(link), links = linksOf(box);
-    const columns = isList(box) ? 1 : setting(box.zevMenu, 'columns');
+    const box = boxAt(link), links = linksOf(box), columns = isList(box) ? 1 : setting(box.zevMenu, 'columns');
     return links[neighbour(links.indexOf(link), links.length, columns, reading)];
 }
 
 function onArrow(link, direction) {
-    const depth = depthAt(link), level = state.levels[depth - 1];
-    const reading = realSide(direction, isRtlAt(link));
-    const next = nextLink(link, reading);
+    const depth = depthAt(link), level = levels[depth - 1];
+    const reading = realSide(direction, isRtlAt(link)), next = nextLink(link, reading);
     if (next) return moveTo(next);
-    const meaning = meaningOfArrow({ direction, reading, side: sideOfSubmenu(link),
+    const meaning = meaningOfArrow({ direction, reading, side: sideFor(link),
                                      own: !level?.opener ? '' : isFlat(level) ? 'inside' : level.side, isTop: !level });
-    if (meaning == 'close') closeFrom(depth - 1);
+    if (meaning == 'close') close(depth - 1);
     else if (meaning == 'beyond') goBeyond(link, reading);
     else if (meaning) openAndEnter(link, meaning == 'enterLast');
 }
 
 function goBeyond(link, reading) {
-    const root = state.levels[0]?.opener;
-    const isGridEnd = boxAt(link).matches('.grid:not(.inside,.folded)') && !isBeside(reading);
-    const next = depthAt(link) && root?.zevSubmenu && !isGridEnd && nextLink(root, reading);
+    const first = depthAt(link) && levels[0].opener;
+    const isGridEnd = boxAt(link).matches('.grid') && !isBeside(reading);
+    const next = first?.zevItem && !isGridEnd && nextLink(first, reading);
     if (next) moveTo(next);
 }
 
 const arrows = { ArrowRight: 'right', ArrowLeft: 'left', ArrowDown: 'bottom', ArrowUp: 'top' };
 
-// A space belongs to typing only after letters.
-function onLetter(link, event) {
-    const isMore = event.timeStamp - state.typed.time < typingMs;
-    if (event.key.length != 1 || (event.key == ' ' && !isMore)) return false;
-    const links = linksOf(boxAt(link)), text = (isMore ? state.typed.text : '') + event.key;
-    const next = links[typeAhead(links.map(other => other.zevName), links.indexOf(link), text)];
-    if (next || event.key != ' ') state.typed = { text, time: event.timeStamp };
+// Letters that follow within 700 ms belong together, and a space to letters before it.
+function onLetter(link, { key, timeStamp: time }) {
+    const before = time - state.typed.time < 700 ? state.typed.text : '', text = before + key;
+    if (key[1] || (key == ' ' && !before)) return false;
+    const links = linksOf(boxAt(link));
+    const next = links[typeAhead(links.map(other => other.zevItem.name), links.indexOf(link), text)];
+    if (next || key != ' ') state.typed = { text, time };
     if (next) moveTo(next);
     return next;
 }
@@ -75,46 +80,36 @@ function hasModifier(event) {
     return event.ctrlKey || event.altKey || event.metaKey;
 }
 
-// A new window or a download.
-function isModified(event) {
-    return hasModifier(event) || event.shiftKey;
-}
-
 function onKeyDown(event) {
-    const link = event.target, { key } = event;
-    if (!link.zevSubmenu || hasModifier(event)) return;
+    const link = linkAt(event.target) || popupLinkAt(event), { key } = event;
+    if (!link || hasModifier(event)) return;
     // Tab goes on from where closing puts the focus. WebKit names Shift+Tab only by its code.
-    if (key == 'Tab' || event.code == 'Tab') return closeFrom(0);
-    if (link == state.foldLink) {
-        if (!/^(Enter| |Arrow(Down|Up))$/.test(key)) return;
-        openAndEnter(link, key == 'ArrowUp');
+    if (key == 'Tab' || event.code == 'Tab') return close(0);
+    // The browser makes a click of the key.
+    if (key == 'Enter' && hasAddress(link)) return (state.press = { pointer: 'key' });
+    if (!link.zevItem || link == state.foldLink) {
+        if (!/^(Enter| |Arrow(Down|Up))$/.test(key) || !open(link, event)) return;
+        enterFrom(link, key == 'ArrowUp');
     } else if (/^Arrow/.test(key)) {
         onArrow(link, arrows[key]);
     } else if (key == 'Home' || key == 'End') {
         enter(boxAt(link), key == 'End');
     } else if (!onLetter(link, event)) {
         if (key != ' ' && key != 'Enter') return;
-        if (key == 'Enter' && link.hasAttribute('href')) return followByKey();
         if (submenuOf(link)) openAndEnter(link);
         else link.click();
     }
     event.preventDefault();
 }
 
-// The browser makes a click of the key.
-function followByKey() {
-    state.press = { pointer: 'key' };
-}
-
 function onEscape(event) {
     if (event.key != 'Escape') return;
-    closeFrom(Math.max(depthAt(focused()) - 1, 0));
+    close(Math.max(depthAt(focused()) - 1, 0));
     // The next one closes the dialog.
-    if (state.layer.hasAttribute('popover')) event.preventDefault();
+    if (homeOf(state.layer).hasAttribute('popover')) event.preventDefault();
 }
 
 function onOutside(event) {
-    const path = event.composedPath();
-    const { layer, bar, levels } = state;
-    if (![layer, bar, levels[0].opener].some(own => path.includes(own))) closeFrom(0);
+    const path = event.composedPath(), { layer, bar } = state;
+    if (![layer, bar, levels[0].opener].some(own => path.includes(own))) close(0);
 }

@@ -1,8 +1,8 @@
 // ---- What is added, and taken away again ----
 
-function listen(target, isOn, listeners, isCapturing) {
+function listen(target, isOn, listeners, capture) {
     const change = isOn ? 'addEventListener' : 'removeEventListener';
-    Object.keys(listeners).forEach(type => target[change](type, listeners[type], isCapturing));
+    Object.keys(listeners).forEach(type => target[change](type, listeners[type], capture));
 }
 
 // The documents of a page and its frames, as far as they are the site's own.
@@ -13,7 +13,7 @@ function documentsIn(page) {
 }
 
 function closeAll() {
-    closeFrom(0);
+    close(0);
 }
 
 // The page, while a submenu is open. What happens in another site's frame shows as a loss of the focus.
@@ -22,34 +22,32 @@ function watch(isOn) {
     while (top.frameElement) top = top.parent;
     if (isOn) state.watched = documentsIn(top.document);
     state.watched.forEach(page => listen(page, isOn, { pointerdown: onOutside }, true));
-    listen(document, isOn, { keydown: onEscape }, true);
-    listen(window, isOn, { scroll: placeAll }, true);
-    listen(window, isOn, { resize: placeAll, blur: closeAll, beforeprint: closeAll });
+    listen(window, isOn, { keydown: onEscape, scroll: placeAll, resize: placeAll, beforeprint: closeAll }, true);
+    listen(window, isOn, { blur: closeAll });
 }
+
+const presses = { pointerdown: onPress, click: onClick, keydown: onKeyDown };
 
 // The top menu, or the layer of the submenus.
 function attend(host, isOn) {
-    listen(host.shadowRoot, isOn, { scroll: placeAll }, true);
     listen(host.shadowRoot, isOn, {
-        pointerover: onPointerOver, pointermove: onPointerMove, pointerdown: onPress,
-        click: onClick, keydown: onKeyDown, focusin: onFocusIn
-    });
-    listen(host, isOn, { pointerleave: onPointerLeave });
+        ...presses, pointerover: onPointer, pointermove: onPointer, focusin: onFocusIn, scroll: placeAll
+    }, true);
+    listen(host, isOn, { pointerleave: onPointer });
     if (host == state.bar && state.fold) listen(state.fold, isOn, { change: refold });
 }
 
 shared.serve = function (isOn) {
     listen(document, isOn, {
-        pointerdown: onPress, click: onPageClick, keydown: onPageKey, mouseover: onArrival, focusin: onArrival,
-        mouseout: onLeaving, DOMContentLoaded: finish
+        ...presses, mouseover: onEnter, focusin: onEnter, mouseout: onLeave, DOMContentLoaded: shared.refresh
     });
-    listen(window, isOn, { load: onLoad });
+    listen(window, isOn, { load: shared.refresh });
 };
 
 shared.adoptBar = function () {
     attend(state.bar, true);
     const { bar, barBox } = state, label = setting(barBox.zevMenu, 'label');
-    mark(barBox, { 'aria-label': label, dir: isRtlAt(bar) ? 'rtl' : null });
+    mark(barBox, { 'aria-label': label });
     promote(barBox, 'menubar');
     if (!bar.closest('nav,[role=navigation]')) mark(bar, { role: 'navigation', 'aria-label': label });
     adoptFold();
@@ -59,33 +57,28 @@ shared.adoptBar = function () {
         state.over = { box: barBox, link };
         hover();
     }
-    lookUpCurrent();
-    buildAhead(barBox);
+    shared.refresh();
 };
 
-function finish() {
-    openEarly();
-    document.querySelectorAll(popupLinks).forEach(adopt);
-    Object.keys(state.menus).forEach(id => {
-        if (id == '0' || itemOf(state.menus[id])) return;
-        warn(`menu ${id} has no item to open from`);
-    });
-}
-
-function onLoad() {
-    buildAhead(state.barBox);
-}
-
+// Whatever can be done with as much of the page as there is.
 shared.refresh = function () {
-    lookUpCurrent();
-    if (document.readyState != 'loading') finish();
+    const { early, menus, barBox } = state;
+    state.early = null;
+    if (early) shared.openPopup(early);
+    if (document.readyState == 'loading') return;
     placeAll();
+    lookUp();
+    buildAhead(barBox);
+    document.querySelectorAll(popupLinks).forEach(adopt);
+    Object.keys(menus).forEach(id => {
+        if (id != '0' && !itemOf(menus[id])) warn(`menu ${id} has no item`);
+    });
 };
 
 shared.stop = function () {
     const { bar, barBox, layer } = state;
-    closeFrom(0);
-    dropCrossing();
+    close(0);
+    uncross();
     [state.building, state.looking].forEach(window.cancelIdleCallback || clearTimeout);
     shared.serve(false);
     if (barBox) attend(bar, false);
@@ -93,13 +86,11 @@ shared.stop = function () {
     layer?.remove();
     document.querySelectorAll('[aria-haspopup]').forEach(release);
     Object.values(state.menus).forEach(menu => { menu.zevBox = null; });
-    clearState();
 };
 
 if (!state.isRemoved) {
     shared.serve(true);
-    if (document.readyState != 'loading') finish();
     if (state.barBox) shared.adoptBar();
-    openEarly();
+    else shared.refresh();
     answer(document.querySelector(`:is(${popupLinks}):hover`), 'onmouseover');
 }

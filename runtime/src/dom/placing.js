@@ -3,28 +3,16 @@
 function levelOf(link) {
     const menu = submenuOf(link), isFolded = link == state.foldLink;
     if (!menu) return null;
-    return { menu, box: ensureBox(menu, link), opener: link, isFolded,
-             wish: isFolded ? 'bottom' : realSide(shared.wishedSide(menu), isRtlAt(link)),
-             offset: isFolded ? 0 : setting(null, 'menuoffset') };
+    return { menu, box: boxFor(menu, link), opener: link, isFolded,
+             wish: realSide(shared.wishOf(menu), isRtlAt(link)), offset: setting(null, 'menuoffset') };
 }
 
 // Chromium before 128 and Safari do not tell an element's zoom, and divide its rectangle by it.
-function rectOf(element) {
-    const { x, y, width, height } = element.getBoundingClientRect();
-    let zoom = 1;
-    if (!('currentCSSZoom' in element)) {
-        for (let node = element; node; node = node.parentNode || node.host) {
-            if (node.nodeType == 1) zoom *= getComputedStyle(node).zoom || 1;
-        }
-    }
+function rectOf(node) {
+    const { x, y, width, height } = node.getBoundingClientRect();
+    let zoom = 1, up = 'currentCSSZoom' in node ? null : node;
+    for (; up; up = up.parentElement || up.getRootNode().host) zoom *= getComputedStyle(up).zoom || 1;
     return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom);
-}
-
-// A pop-up stays with the page when that scrolls.
-function anchorOf(level) {
-    if (!level.point) return rectOf(level.opener);
-    const x = level.point.x - window.scrollX, y = level.point.y - window.scrollY;
-    return { left: x, right: x, top: y, bottom: y };
 }
 
 // What takes the place of a box in the layer away again.
@@ -45,35 +33,30 @@ function pixels(length, origin) {
 
 // Shows the box in its own size in the layer, to be measured.
 function lay({ box, isFolded }, frame) {
-    const { style } = box, { shadowRoot } = state.layer, maxWidth = pixels(frame.width, rectOf(state.layer));
-    box.classList.remove('inside');
-    move(box, shadowRoot, null);
+    const maxWidth = pixels(frame.width, rectOf(homeOf(state.layer)));
+    shape(box, isFolded ? 'list flat' : box.zevShape);
+    move(box, homeOf(state.layer), null);
     box.hidden = false;
-    Object.assign(style, unplaced, { maxWidth });
-    if (!isFolded) return;
-    box.classList.add('folded');
-    mark(box, { role: 'menu' });
-    style.width = maxWidth;
-}
-
-function isHolder(level) {
-    return isSteady(state.levels.indexOf(level) + 1 || state.levels.length);
+    Object.assign(box.style, unplaced, { maxWidth, width: isFolded ? maxWidth : '' });
 }
 
 // Where the level is to stand. One that is inside its parent keeps the size it had outside.
 function spotOf(level) {
-    const { box, opener } = level, isRtl = isRtlAt(opener || document.body);
-    const parent = opener?.zevSubmenu && boxAt(opener);
+    const { box, opener, point } = level, isRtl = isRtlAt(opener || document.body);
+    const parent = opener?.zevItem && boxAt(opener);
     box.dir = isRtl ? 'rtl' : 'ltr';
-    if (parent && isAccordion(parent)) return { side: 'inside' };
-    const root = document.scrollingElement || document.documentElement;
-    const frame = { width: root.clientWidth, height: root.clientHeight }, isFixed = isHolder(level);
+    if (parent?.matches('.flat')) return { side: 'inside' };
+    const { clientWidth: width, clientHeight: height } = document.scrollingElement || document.documentElement;
+    const frame = { width, height }, isFixed = isSteady(levels.indexOf(level) + 1 || levels.length);
     if (!level.size || level.side != 'inside') {
         lay(level, frame);
         level.size = rectOf(box);
     }
-    const kind = isFixed ? 'fixed' : parent && isList(parent) ? 'list' : '';
-    return place(anchorOf(level), level.size, isFixed ? level.side : level.wish, level.offset, frame, isRtl, kind);
+    const kind = isFixed ? 'fixed'
+        : parent?.matches('.list') && (opposite[levels[depthOf(parent) - 1]?.side] || 'list');
+    // A pop-up stays with the page when that scrolls.
+    const anchor = point ? new DOMRect(point.x - window.scrollX, point.y - window.scrollY) : rectOf(opener);
+    return place(anchor, level.size, isFixed ? level.side : level.wish, level.offset, frame, isRtl, kind);
 }
 
 function placeLevel(level) {
@@ -81,47 +64,43 @@ function placeLevel(level) {
     level.side = spot.side;
     if (isInside(level)) return placeInside(level);
     if (was == 'inside') return placeLevel(level);
-    const origin = rectOf(state.layer);
-    if (isHolder(level)) style.maxWidth = pixels(spot.width, origin);
+    const origin = rectOf(homeOf(state.layer));
+    style.maxWidth = pixels(spot.width, origin);
     if (level.size.height > spot.height) {
         style.maxHeight = pixels(spot.height, origin);
         style.overflowY = 'auto';
     }
     style.left = pixels(spot.left - origin.left, origin);
     style.top = pixels(spot.top - origin.top, origin);
-    orient(box);
 }
 
 // In the flow, below its item.
 function placeInside({ box, opener }) {
-    box.classList.add('inside');
+    shape(box, 'list flat inside');
     box.hidden = false;
     Object.assign(box.style, unplaced);
     move(box, opener.parentNode, opener.nextSibling);
-    orient(box);
 }
 
 // After an accordion has grown or shrunk: the box around it, and of that the part where `shown` is.
 function settle(shown) {
-    const holder = state.levels.filter(level => !isInside(level)).pop();
+    const holder = levels.filter(level => !isInside(level)).pop();
     if (!holder) return;
     placeLevel(holder);
-    if (!shown) return;
-    const frame = rectOf(holder.box), { bottom } = rectOf(shown.box), { top } = rectOf(shown.opener);
-    holder.box.scrollTop += Math.min(Math.max(0, bottom - frame.bottom), top - frame.top);
+    // Of what is longer than the box around it the start.
+    if (shown) [shown.box, shown.opener].forEach(part => part.scrollIntoView({ block: 'nearest' }));
 }
 
-function fade({ menu, box }, isOpening) {
-    // A short opening, where none is written.
-    const seconds = setting(menu, 'ffade'), isCalm = seconds === '' && isOpening;
-    const duration = isCalm ? openingMs : seconds * 1000;
+function fade({ menu, box }, isOn) {
+    // A short opening, of 100 ms, where none is written.
+    const seconds = setting(menu, 'ffade'), duration = seconds === '' ? isOn && 100 : seconds * 1000;
     // One that is closed meanwhile stays so.
-    const end = () => { box.hidden ||= !isOpening; };
+    const end = () => { box.hidden ||= !isOn; };
     box.zevFading?.cancel();
-    if (!duration || matchMedia('(prefers-reduced-motion: reduce)').matches) return end();
+    if (!duration || matchMedia('(prefers-reduced-motion)').matches) return end();
     // What measures colours at such a short moment is not to take it for the menu's own.
-    const look = isCalm ? { filter: 'opacity(0)' } : { opacity: 0 };
-    box.zevFading = box.animate(isOpening ? [look, {}] : [{}, look], { duration });
+    const looks = [seconds === '' ? { filter: 'opacity(0)' } : { opacity: 0 }, {}];
+    box.zevFading = box.animate(isOn ? looks : looks.reverse(), { duration });
     box.zevFading.onfinish = end;
 }
 
@@ -131,41 +110,35 @@ function follow(level) {
     if (!opener?.getClientRects().length) return;
     level.observer = new IntersectionObserver(entries => {
         // -1 if closed, but told in spite of disconnect().
-        const index = state.levels.indexOf(level);
+        const index = levels.indexOf(level);
         const isHeld = opener.isConnected && (isSteady(index) || box.contains(focused()));
-        if (index >= 0 && !isHeld && !entries.pop().isIntersecting) closeFrom(index);
+        if (index >= 0 && !isHeld && !entries.pop().isIntersecting) close(index);
     });
     level.observer.observe(opener);
 }
 
 function placeAll(event) {
-    state.levels.slice(event ? depthAt(event.target) : 0).forEach(placeLevel);
+    levels.slice(event ? depthAt(event.target) : 0).forEach(placeLevel);
 }
 
+// The opener of a level that opens or closes says so, and its mark points to where the submenu is, or will be.
 // What is open in the layer is a landmark.
-function nameLayer() {
-    const [first] = state.levels, box = first && !isInside(first) && first.box;
-    mark(state.layer, { role: box ? 'navigation' : null,
-                        'aria-label': box ? box.getAttribute('aria-label') : null });
-}
-
-// The mark points to where the submenu is, or will be.
-function turnMark({ opener, box }, side) {
-    if (!opener?.hasAttribute('data-side')) return;
-    mark(opener, { 'data-side': side == 'inside' ? 'bottom' : realSide(side, box.dir == 'rtl') });
+function tell({ opener, box }, isOn, side) {
+    const first = levels.find(level => !isInside(level))?.box;
+    mark(state.layer, { role: first && 'navigation', 'aria-label': first?.getAttribute('aria-label') });
+    if (opener) mark(opener, { 'aria-expanded': isOn });
+    if (opener?.dataset.side) opener.dataset.side = side == 'inside' ? 'bottom' : realSide(side, box.dir == 'rtl');
 }
 
 function show(level) {
-    const { box, opener } = level;
+    const { box } = level;
     // Measured first and marked then, so that styles are calculated once.
     follow(level);
     placeLevel(level);
     if (isInside(level)) settle(level);
     box.style.pointerEvents = '';
-    if (opener) mark(opener, { 'aria-expanded': true });
-    turnMark(level, level.side);
-    nameLayer();
-    if (state.levels.length == 1) watch(true);
+    tell(level, true, level.side);
+    if (levels.length == 1) watch(true);
     fade(level, true);
     buildAhead(box);
 }
@@ -173,36 +146,36 @@ function show(level) {
 function hide(level) {
     const { box, opener } = level;
     level.observer?.disconnect();
-    if (opener) {
-        if (box.contains(focused())) opener.focus();
-        mark(opener, { 'aria-expanded': false });
-    }
-    turnMark(level, level.wish);
+    if (box.contains(focused())) opener?.focus();
+    tell(level, false, level.wish);
     if (isInside(level)) {
-        box.hidden = true;
         box.remove();
         settle();
     } else if (level.isFolded) {
-        putBack(box);
+        // In its place on the page, which shows it when the button does not.
+        box.zevFading?.cancel();
+        shape(box, box.zevShape, 'menubar');
+        Object.assign(box.style, unplaced);
+        box.hidden = state.fold.matches;
+        homeOf(state.bar).append(box);
     } else {
         box.style.pointerEvents = 'none';
         fade(level);
     }
-    nameLayer();
-    if (!state.levels.length) watch(false);
+    if (!levels.length) watch(false);
 }
 
 // The mouse opens none that would stand inside its parent.
 function openSubmenu(link, isHover) {
     const depth = depthAt(link), level = levelOf(link);
-    if (!level || state.levels[depth]?.menu == level.menu) return;
+    if (!level || levels[depth]?.menu == level.menu) return;
     const mayBeInside = isHover && isList(boxAt(link));
-    if (!mayBeInside || sideOfSubmenu(link) != 'inside') openLevel(depth, level);
+    if (!mayBeInside || sideFor(link) != 'inside') openLevel(depth, level);
 }
 
 // Where the submenu of an item stands or would stand; '' if there is none.
-function sideOfSubmenu(link) {
-    if (isOpen(link)) return state.levels[depthAt(link)].side;
+function sideFor(link) {
+    if (isOpen(link)) return levels[depthAt(link)].side;
     const level = levelOf(link);
     if (!level) return '';
     const { side } = spotOf(level);

@@ -2,19 +2,19 @@
 
 // 0 for the top menu and what is closed, 1 for the first open level.
 function depthOf(box) {
-    return state.levels.findIndex(level => level.box == box) + 1;
+    return levels.findIndex(level => level.box == box) + 1;
 }
 
 function openLevel(depth, level) {
-    closeFrom(depth);
-    state.levels.push(level);
+    close(depth);
+    levels.push(level);
     show(level);
 }
 
-function closeFrom(depth) {
+function close(depth) {
     clearTimeout(state.opening);
-    while (state.levels.length > depth) {
-        const level = state.levels.pop();
+    while (levels.length > depth) {
+        const level = levels.pop();
         clearTimeout(level.timer);
         hide(level);
     }
@@ -31,26 +31,23 @@ function isFlat(level) {
 
 // An accordion and what holds one: the mouse's coming and going changes nothing there.
 function isSteady(index) {
-    return state.levels.slice(index).some(isFlat);
+    return levels.slice(index).some(isFlat);
 }
 
 // Lets all but the first `depth` levels close after the delay.
 function keep(depth) {
-    state.levels.forEach((level, index) => {
+    levels.forEach((level, index) => {
         if (index < depth) {
-            clearTimeout(level.timer);
-            level.timer = 0;
-        } else if (!level.timer && !isSteady(index)) {
-            level.timer = setTimeout(() => closeFrom(state.levels.indexOf(level)),
-                                     setting(null, 'closedelay'));
+            level.timer = clearTimeout(level.timer);
+        } else if (!isSteady(index)) {
+            level.timer ||= setTimeout(() => close(levels.indexOf(level)), setting(null, 'closedelay'));
         }
     });
 }
 
 shared.closePopup = function (of) {
     // Browsers may tell of the arrival on the pop-up before the leaving of the link.
-    const isInside = state.over && depthOf(state.over.box) > 0;
-    if (state.levels[0]?.menu.zevId == popupId(of) && !isInside) keep(0);
+    if (levels[0]?.menu.zevId == popupId(of) && !depthOf(state.over?.box)) keep(0);
 };
 
 function pointAt(box, link, point) {
@@ -59,29 +56,30 @@ function pointAt(box, link, point) {
     if (!box || (was?.box == box && was.link == link && !crossing)) return;
     state.over = { box, link };
     // On its way to a submenu the mouse may cross other items.
-    const from = crossing?.from || before, level = state.levels[depthOf(box)];
-    dropCrossing();
+    const from = crossing?.from || before, level = levels[depthOf(box)];
+    uncross();
     if (was && level && level.opener != link &&
         isHeadedFor(from, point, rectOf(level.box), level.side)) {
-        state.crossing = { from, timer: setTimeout(hover, restMs) };
+        // A mouse that rests so many milliseconds stays.
+        state.crossing = { from, timer: setTimeout(hover, 200) };
     } else {
         hover();
     }
 }
 
 function hover() {
-    const { box, link } = state.over, depth = depthOf(box), child = state.levels[depth];
-    dropCrossing();
+    const { box, link } = state.over, depth = depthOf(box), child = levels[depth];
+    uncross();
     if (link && child?.opener == link) return keep(depth + 1);
     keep(depth);
     if (!link) return;
     // A bar that is open switches at once.
-    const delay = state.levels.length ? 0 : setting(state.menus['0'], 'opendelay');
-    if (delay) state.opening = setTimeout(() => openSubmenu(link, true), delay);
+    const delay = levels.length ? 0 : setting(state.menus['0'], 'opendelay');
+    if (delay) state.opening = setTimeout(openSubmenu, delay, link, true);
     else openSubmenu(link, true);
 }
 
-function dropCrossing() {
+function uncross() {
     clearTimeout(state.opening);
     clearTimeout(state.crossing?.timer);
     state.crossing = null;
@@ -89,7 +87,7 @@ function dropCrossing() {
 
 function pointAway() {
     state.lastPoint = state.over = null;
-    dropCrossing();
+    uncross();
     keep(0);
 }
 

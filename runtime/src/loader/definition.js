@@ -1,59 +1,60 @@
 // ---- Definition ----
 
-function submenuId(menu, position) {
-    return (menu.zevId == '0' ? '' : menu.zevId + 'i') + position;
-}
-
 // The menu that opens from an item's link, or null.
-function submenuOf(link) {
-    var menu = state.menus[link.zevSubmenu], i;
-    for (i = 0; menu && i < menu.zevItems.length; i++) if (menu.zevItems[i]) return menu;
-    return null;
-}
+shared.submenuOf = function (link) {
+    var menu = state.menus[link.zevItem.id];
+    return menu && menu.zevItems.length ? menu : null;
+};
 
 // As from left to right.
-function wishedSide(menu) {
+shared.wishOf = function (menu) {
     var top = state.menus['0'];
-    return setting(menu, 'position', !/i/.test(menu.zevId) && setting(top, 'columns') > 1 && top);
-}
+    return menu == top ? 'bottom'
+        : setting(menu, 'position', !/i/.test(menu.zevId) && setting(top, 'columns') > 1 && top);
+};
 
-function ZEVMenu(id) {
+function ZEVMenu(name) {
     var script = currentScript(), menus = state.barBox ? state.next : state.menus;
-    this.zevId = asText(id) || '';
-    this.zevItems = [];         // null where a mistaken item keeps its number
-    this.zevFile = script && /^[a-z][a-z0-9+.\-]*:\/\//i.test(script.src) ? script.src : '';
-    if (this.zevId == '0') takeOver(this);
-    if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(this.zevId)) {
-        warn('"' + this.zevId + '" is not a menu id');
-    } else if (menus[this.zevId]) {
-        warn('menu ' + this.zevId + ' is defined twice; the first is used');
+    var id = this.zevId = asText(name) || '';
+    this.zevItems = [];
+    this.zevCount = 0;          // of all items; a mistaken one keeps its number
+    this.zevFile = script && /^[^:]+:\/\//.test(script.src) ? script.src : '';
+    if (id == '0') takeOver(this);
+    if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(id)) {
+        warn('"' + id + '" is not a menu id');
+    } else if (menus[id]) {
+        warn('menu ' + id + ' is defined twice');
     } else {
-        menus[this.zevId] = this;
+        menus[id] = this;
         // It may belong to the menu that is drawn, or to one that will take its place.
-        if (!state.next['0'] && !state.menus[this.zevId]) state.menus[this.zevId] = this;
+        if (!state.next['0'] && !state.menus[id]) state.menus[id] = this;
         // Its place may have been named first.
-        if (this.zevId == '0' && (state.bar || findPlace())) state.drawing = setTimeout(draw, 0);
+        if (id == '0' && (state.bar || placeOf())) state.drawing = setTimeout(draw, 0);
         if (state.isRemoved && shared.serve) shared.serve(true);
         state.isRemoved = false;
     }
 }
 
-function addItem(menu, isGood, item, url, target) {
-    var position = menu.zevItems.length + 1;
-    if (!isGood) warn('item ' + position + ' of menu ' + menu.zevId + ' is mistaken');
-    item.url = asText(url) || '';
-    item.target = asText(target) || '';
-    menu.zevItems[position - 1] = isGood ? item : null;
+// Of a rollover the caption is the address of its picture, and `over` that of the other.
+function addItem(menu, caption, url, target, isRollover, over) {
+    var id = menu.zevId, position = ++menu.zevCount, text = asText(caption);
+    if (text == null || (isRollover && !text)) {
+        warn('item ' + position + ' of menu ' + id + ' is mistaken');
+    } else {
+        menu.zevItems.push({
+            id: (id == '0' ? '' : id + 'i') + position,         // of the menu that opens from it
+            caption: text, url: asText(url) || '', target: asText(target) || '',
+            over: isRollover && (asText(over) || text)
+        });
+    }
 }
 
 ZEVMenu.prototype.AddItem = function (caption, url, target) {
-    caption = asText(caption);
-    addItem(this, caption != null, { caption: caption }, url, target);
+    addItem(this, caption, url, target);
 };
 
-ZEVMenu.prototype.AddRollover = function (url, imageOut, imageOver, target) {
-    var out = asText(imageOut);
-    addItem(this, out, { imageOut: out, imageOver: asText(imageOver) || out }, url, target);
+ZEVMenu.prototype.AddRollover = function (url, out, over, target) {
+    addItem(this, out, url, target, true, over);
 };
 
 var noMenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
@@ -69,10 +70,6 @@ function resolve(menu, url) {
 }
 
 // "pages/our_team.html" is "our team".
-function nameFromFiles(item) {
-    return nameFromFile(item.url) || nameFromFile(item.imageOut).replace(/ (out|off|normal)$/i, '');
-}
-
 function nameFromFile(url) {
     return url.replace(/^javascript:.*|[?].*$/i, '').replace(/^.*#(.)/, '$1').replace(/[#\/]+$/, '')
         .replace(/^.*\//, '').replace(/\.[a-z0-9]+$/i, '').replace(/(%20|[_+\-])+/g, ' ');

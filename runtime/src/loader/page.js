@@ -2,21 +2,23 @@
 
 function drawTop() {
     var menu = state.menus['0'];
-    if (!state.bar || state.barBox || !menu || !menu.zevItems.length) return;
-    state.barBox = buildBox(menu);
-    if (state.bar.closest('[dir]')) state.barBox.dir = state.bar.closest('[dir]').dir;
-    addFold(menu);
-    state.bar.shadowRoot.lastChild.appendChild(state.barBox);
+    if (!state.bar || !state.bar.isConnected || state.barBox || !menu || !menu.zevItems.length) return;
+    var home = shared.homeOf(state.bar);
+    // For its marks; all else goes by the style itself.
+    if (getComputedStyle(home).direction == 'rtl') home.dir = 'rtl';
+    addFold(home, menu);
+    state.barBox = home.appendChild(buildBox(menu));
+    state.barBox.hidden = state.fold && state.fold.matches;
     if (shared.adoptBar) shared.adoptBar();
 }
 
 // The page's element that stands for a call of ZEVDisplayMenu.
-function findPlace() {
+function placeOf() {
     return isModern && document.querySelector('[data-zevmenu]');
 }
 
 function draw() {
-    if (findPlace() && !state.isRemoved) ZEVDisplayMenu();
+    if (placeOf() && !state.isRemoved) ZEVDisplayMenu();
     else drawTop();
 }
 
@@ -28,19 +30,19 @@ function onReady() {
 
 // A handler or the page's head names no place, and gets the start of the page.
 function placeBar() {
-    var script = currentScript(), body = document.body, place = findPlace();
+    var script = currentScript(), body = document.body, place = placeOf();
     if (place) {
-        place.appendChild(state.bar);
+        place.append(state.bar);
     } else if (script && script.parentNode && script.parentNode != document.head) {
-        script.parentNode.insertBefore(state.bar, script);
+        script.before(state.bar);
     } else if (body) {
-        body.insertBefore(state.bar, body.firstChild);
+        body.prepend(state.bar);
     }
 }
 
 // The old menu has left the page with the part that held it.
-function startAfresh() {
-    takeAway(state.next['0'] ? state.next : state.menus);
+function restart() {
+    clear(state.next['0'] ? state.next : state.menus);
     if (!shared.serve) return;
     shared.serve(true);
     shared.refresh();
@@ -50,8 +52,8 @@ window.ZEVDisplayMenu = function () {
     if (shared.writeLinks) {
         shared.writeLinks();
     } else if (isModern) {
-        if (state.barBox && !state.bar.isConnected) startAfresh();
-        if (!state.bar) state.bar = createHost('bar');
+        if (state.barBox && !state.bar.isConnected) restart();
+        if (!state.bar) state.bar = shared.createHost('bar');
         if (!state.bar.isConnected) placeBar();
         drawTop();
     }
@@ -64,33 +66,36 @@ window.ZEVCreateMenu = window.ZEVLoadMenu = function () {
 
 // An event's data are gone when a waiting call is done.
 window.ZEVMenuOpen = function (a, b, x, y) {
-    var event = x && typeof x == 'object' ? x : null;
-    var call = { of: asText(a) + ' ' + asText(b), link: event && event.currentTarget, isEvent: event != null,
-        x: event ? event.pageX : asText(x), y: event ? event.pageY : asText(y) };
+    var isEvent = x && typeof x == 'object';
+    var call = { of: asText(a) + ' ' + asText(b), link: isEvent && x.currentTarget, isEvent: isEvent,
+        x: isEvent ? x.pageX : asText(x), y: isEvent ? x.pageY : asText(y) };
     if (shared.openPopup) shared.openPopup(call);
-    else state.earlyCall = call;
+    else state.early = call;
 };
 
 window.ZEVMenuClose = function (a, b) {
-    state.earlyCall = null;
+    state.early = null;
     if (shared.closePopup) shared.closePopup(asText(a) + ' ' + asText(b));
 };
 
-function takeAway(menus) {
+function clear(menus) {
     if (shared.stop) shared.stop();
     clearTimeout(state.drawing);
     document.removeEventListener('DOMContentLoaded', onReady);
     if (state.bar) state.bar.remove();
-    Object.assign(state, emptyState(), { menus: menus, scripts: state.scripts });
+    // The others are none, or empty now.
+    var kept = { menus: menus, scripts: state.scripts, levels: state.levels }, name;
+    for (name in state) delete state[name];
+    Object.assign(state, emptyState(), kept);
 }
 
 // Takes away what was added, but for the global names. The next definition starts again.
-function destroy() {
-    takeAway({});
+shared.destroy = function () {
+    clear({});
     while (state.scripts.length) state.scripts.pop().remove();
     state.isRemoved = true;
     window.zevmenu = noMenu;
-}
+};
 
 ZEVMenu.shared = shared;
 window.ZEVMenu = ZEVMenu;

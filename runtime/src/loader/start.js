@@ -2,31 +2,40 @@
 // every browser ever made may meet it.
 if (typeof window.ZEVMenu == 'function') return;
 
-// All that changes while the library is at work; zevmenu_dom.js adds what is its own.
+// All that changes while the library is at work, in both files. What begins as nothing is only told of here.
 function emptyState() {
     return {
         menus: {},          // by id
         next: {},           // those defined after the top menu was drawn, by id
         told: {},           // warnings given
         scripts: [],        // elements of what was loaded
-        isRemoved: false,   // by destroy(), and no menu defined since
-        drawing: 0,         // timer of draw
-        fold: null,         // media query: the top menu is a button
-        foldLink: null,     // of that button
-        isFoldAsked: false, // by a click that came too early
-        bar: null,          // the page's element around the top menu
-        barBox: null,       // the top menu
-        layer: null,        // the page's element around the submenus
-        earlyCall: null     // a ZEVMenuOpen that came too early
+        levels: [],         // open submenus, the deepest last
+        ahead: [],          // menus still to be built
+        press: {},          // the last pointerdown on a link, until the click
+        typed: {}           // { text, time } of the last letters
+        // isRemoved        by destroy(), and no menu defined since
+        // drawing          timer of draw
+        // fold             media query: the top menu is a button
+        // foldLink         of that button
+        // isAsked          by a click that came too early
+        // bar              the page's element around the top menu
+        // barBox           the top menu
+        // layer            the page's element around the submenus
+        // early            a ZEVMenuOpen that came too early
+        // watched          documents in which a click closes submenus
+        // building         timer or idle callback of the next menu to be built
+        // looking          timer or idle callback of the search for the page's own items
+        // actingLink       the pop-up link that a key or tap is to open
+        // over             { box, link } under the mouse
+        // opening          timer of what the mouse is on
+        // lastPoint        { x, y } of the mouse
+        // crossing         { from, timer } of a mouse on its way to a submenu
     };
 }
 
 var state = emptyState();
-var shared = {
-    state: state, destroy: destroy, warn: warn, setting: setting,
-    submenuId: submenuId, submenuOf: submenuOf, wishedSide: wishedSide, resolve: resolve,
-    createHost: createHost, buildBox: buildBox, addMark: addMark, nameOf: nameOf, nameFromFiles: nameFromFiles
-};
+// What the files ask of each other.
+var shared = { state: state, warn: warn, setting: setting, resolve: resolve, buildBox: buildBox };
 
 var isModern = shared.isModern = document.getElementById && document.documentElement.attachShadow;
 

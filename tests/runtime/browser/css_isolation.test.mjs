@@ -74,7 +74,7 @@ async function showOpen(options) {
     await lab.show({ ...around, definition, ...options });
     await hover(page, 'Products', 'Boats', 'Kayaks');
     await waitShown(page, 'Sea kayaks');
-    await until(() => page.$eval('[data-zev=layer]', ({ shadowRoot }) => Array.from(shadowRoot.children)
+    await until(() => page.$eval('[data-zev=layer]', ({ shadowRoot }) => Array.from(shadowRoot.querySelectorAll('ul'))
         .every(box => !box.getAnimations?.().length)), 'the opening to be done');
     await until(() => page.$$eval('>>> img', images => images.every(image => image.naturalWidth)), 'the images');
 }

@@ -1,7 +1,7 @@
 // Menus where there is little room: a submenu never lies over its opener, and a list opens in itself.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, focus, hover, isShown, item, pause, rect, shown, startLab, waitAt, waitGone,
+import { boxRect, focus, hover, isShown, item, pause, rect, shown, startLab, until, waitAt, waitGone,
     waitShown } from './support.mjs';
 
 let lab, page;
@@ -116,6 +116,23 @@ for (const width of [320, 360, 400]) {
         assert.equal(await page.url(), lab.origin + '/site/page.html');
     });
 }
+
+test('where two boxes stand side by side the third opens inside the second, not back over the first', async () => {
+    const names = depth => ['A', 'B', 'C'].map(letter => `${letter}${depth} of a menu`);
+    const definition = [0, 1, 2].map(depth => list(depth ? Array(depth).fill(2).join('i') : '0', names(depth))).join('\n');
+    await show({ width: 900, definition });
+    const width = Math.ceil((await boxRect(page, names(0)[1])).width * 2.5);
+    await show({ width, definition });
+    await hover(page, names(0)[1]);
+    await waitShown(page, names(1)[1]);
+    assert.ok((await rect(page, names(1)[1])).left >= (await rect(page, names(0)[1])).right);
+    await click(names(1)[1]);
+    await waitShown(page, names(2)[0]);
+    await assertApart([0, 1, 2].flatMap(names));
+    await page.setViewport({ width: 900, height: 568 });
+    await until(async () => (await rect(page, names(2)[0])).left >= (await rect(page, names(1)[1])).right,
+        'the third level beside the second');
+});
 
 test('a click on the open item of an accordion follows its link', async () => {
     await show({});

@@ -11,12 +11,14 @@ const page = readFileSync(new URL('properties.md', docs), 'utf8');
 const loader = readFileSync(new URL('zevmenu_loader.js', library), 'utf8');
 const examples = readExamples();
 
-// The keys of the loader's table of properties: of the one object in its source that tells of nbgcolor.
+// The keys of the loader's table of properties: of the one object in its source that tells of nbgcolor. `__proto__`
+// is how it says that it has no prototype.
 function propertiesOfLoader() {
     const found = [];
     const visit = node => {
         if (!node || typeof node.type != 'string') return;
-        const keys = (node.type == 'ObjectExpression' ? node.properties : []).map(({ key }) => key.name);
+        const keys = (node.type == 'ObjectExpression' ? node.properties : []).map(({ key }) => key.name)
+            .filter(name => name != '__proto__');
         if (keys.includes('nbgcolor')) found.push(keys);
         Object.values(node).flat().forEach(visit);
     };

@@ -13,10 +13,9 @@ test('the loader is at most 6,144 bytes when compressed', () => {
     assert.ok(size > 1000 && size <= 6144, `${size} bytes`);
 });
 
-// The aim is 14,336 bytes, which no shorter way of saying the same has reached yet; what is reached stays.
-test('the three files together are at most 15,360 bytes when compressed', () => {
+test('the three files together are at most 14,336 bytes when compressed', () => {
     const sizes = ['zevmenu_loader.js', 'zevmenu_dom.js', 'zevmenu_ns4.js'].map(packed);
-    assert.ok(sizes.reduce((sum, size) => sum + size) <= 15360, `${sizes.join(' + ')} bytes`);
+    assert.ok(sizes.reduce((sum, size) => sum + size) <= 14336, `${sizes.join(' + ')} bytes`);
 });
 
 const runtime = new URL('../../../runtime/', import.meta.url);

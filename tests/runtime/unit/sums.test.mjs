@@ -98,6 +98,24 @@ for (const [rule, anchor, size, wish, kind, side, top, height, width] of limits)
     });
 }
 
+const phone = { width: 360, height: 640 };
+const wide = { width: 170, height: 80 };
+
+// [rule, anchor, size, wish, side from which the anchor's box was opened, window, expected side]
+const zigzags = [
+    ['on a phone a box does not go back over the list that its own list opened from',
+        rect(171, 200, 170, 20), wide, 'right', 'left', phone, 'inside'],
+    ['nor on, when that was flipped', rect(19, 200, 170, 20), wide, 'right', 'right', phone, 'inside'],
+    ['but goes where nothing is in its way', rect(171, 200, 170, 20), wide, 'right', 'top', phone, 'left'],
+    ['where three boxes stand side by side it goes back', rect(650, 200, 140, 20), wide, 'right', 'left', frame, 'left'],
+];
+
+for (const [rule, anchor, size, wish, from, view, side] of zigzags) {
+    test(`place: ${rule}`, () => {
+        assert.equal(place(anchor, size, wish, 1, view, false, from).side, side);
+    });
+}
+
 test('place: a list without room on either side takes the box inside', () => {
     assert.equal(place(rect(50, 200, 700, 20), box, 'right', 1, frame, false, 'list').side, 'inside');
 });
