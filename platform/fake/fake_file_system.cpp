@@ -54,6 +54,10 @@ void FakeFileSystem::addFolderAlias(const std::string& folder, const std::string
     m_folderOfAlias[alias] = folder;
 }
 
+void FakeFileSystem::addFileAlias(const std::string& file, const std::string& alias) {
+    m_fileOfAlias[alias] = file;
+}
+
 void FakeFileSystem::setWritable(const std::string& folder, bool isWritable) {
     if (isWritable)
         m_unwritableFolders.erase(folder);
@@ -88,6 +92,8 @@ bool FakeFileSystem::isSameFolder(const std::string& left, const std::string& ri
 
 bool FakeFileSystem::isSameFile(const std::string& left, const std::string& right) const {
     const auto fileAt = [&](const std::string& path) {
+        if (const auto alias = m_fileOfAlias.find(path); alias != m_fileOfAlias.end())
+            return alias->second;
         const std::string folder = folderOf(path);
         return folderAt(folder) + path.substr(folder.size());
     };

@@ -25,6 +25,8 @@ class FakeFileSystem : public FileSystem {
     void addLink(const std::string& path, const std::string& target);
     /// Gives the folder a second path, by which `isSameFolder` and `isSameFile` know it.
     void addFolderAlias(const std::string& folder, const std::string& alias);
+    /// Gives the file a second path, by which `isSameFile` knows it.
+    void addFileAlias(const std::string& file, const std::string& alias);
     /// In such a folder no file can be made, replaced or deleted.
     void setWritable(const std::string& folder, bool isWritable);
     /// Every file: path and bytes. Links are none.
@@ -57,6 +59,7 @@ class FakeFileSystem : public FileSystem {
     std::map<std::string, std::string> m_targetOfLink;
     std::set<std::string> m_folders;
     std::map<std::string, std::string> m_folderOfAlias;
+    std::map<std::string, std::string> m_fileOfAlias;
     std::set<std::string> m_unwritableFolders;
 };
 
