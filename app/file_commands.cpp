@@ -1,6 +1,7 @@
 #include "app/file_commands.h"
 
 #include "library/library_files.h"
+#include "library/own_files.h"
 #include "messages/definition_messages.h"
 #include "messages/library_messages.h"
 #include "script/relative_url.h"
@@ -54,6 +55,8 @@ void FileCommands::mnuFileSave_Click() {
         saveAs();
         return;
     }
+    if (isReserved(m_document.SaveFile()))
+        return;
     if (SaveDefinition(m_document.SaveFile())) {
         // No Button_Update: Save stays available until the next command updates the buttons.
         m_document.markSaved();
@@ -131,6 +134,16 @@ bool FileCommands::wouldLoseItems(const std::string& path) const {
     return !overfull.empty() && m_services.files.isSameFile(path, overfull);
 }
 
+/// True when a definition must not have this path; the person has been told then.
+bool FileCommands::isReserved(const std::string& path) {
+    if (!hasReservedName(m_services.files, Path(path)))
+        return false;
+    m_services.messages.notice("Could not save " + path +
+                               ": the program keeps a file of its own by this name beside every "
+                               "menu. Please choose another name.");
+    return true;
+}
+
 FileCommands::SaveOutcome FileCommands::saveAs() {
     FileDialogRequest request;
     request.title = "Save As";
@@ -141,6 +154,8 @@ FileCommands::SaveOutcome FileCommands::saveAs() {
     const std::string path = m_services.dialogs.saveFile(request);
     if (path.empty())
         return SaveOutcome::Cancelled;
+    if (isReserved(path))
+        return SaveOutcome::Failed;
     if (wouldLoseItems(path)) {
         m_services.messages.notice("Could not save " + path +
                                    ": it holds items that were left out when it was opened, and "

@@ -25,7 +25,8 @@ class FileCommands {
     bool mnuFileNew_Click();
     void mnuFileOpen_Click();
     /// Of a file that holds more items than a document can, and of a document never saved, as
-    /// `mnuFileSaveAs_Click`; that never writes over such a file.
+    /// `mnuFileSaveAs_Click`; that never writes over such a file. Neither writes where the
+    /// program's own files go; the person is told.
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
     /// True when the program is to end now.
@@ -69,6 +70,7 @@ class FileCommands {
     MessageRequest copyRunTimeFiles();
     /// True when `path` is the file that the document was read from without all its items.
     bool wouldLoseItems(const std::string& path) const;
+    bool isReserved(const std::string& path);
 
     MenuDocument& m_document;
     EditorView& m_view;

@@ -9,6 +9,7 @@
 #include "cli/command_paths.h"
 #include "library/changed_files.h"
 #include "library/library_files.h"
+#include "library/own_files.h"
 #include "library/program_folder.h"
 #include "messages/import_messages.h"
 #include "messages/library_messages.h"
@@ -141,7 +142,9 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
         return ExitStatus::WrongUse;
     }
     const std::string_view name = Path::onThisSystem(input).name();
-    if (std::find(kLibraryFiles.begin(), kLibraryFiles.end(), name) != kLibraryFiles.end()) {
+    const Path target = Path::onThisSystem(folder);
+    const std::string definition = target.child(name);
+    if (hasReservedName(files, Path::onThisSystem(definition))) {
         printProblem(input + ": has the name of a run-time file that goes beside it");
         return ExitStatus::WrongUse;
     }
@@ -153,8 +156,6 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
         printProblem(folder + ": is not a folder");
         return ExitStatus::FileProblem;
     }
-    const Path target = Path::onThisSystem(folder);
-    const std::string definition = target.child(name);
     if (!mayReplace(files, definition, *read))
         return ExitStatus::FileProblem;
     const ExitStatus libraryStatus = publishLibrary(files, executable, target);

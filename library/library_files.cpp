@@ -1,5 +1,8 @@
 #include "library/library_files.h"
 
+#include "library/own_files.h"
+#include "platform/kept_copy.h"
+
 namespace zev {
 
 namespace {
@@ -12,6 +15,46 @@ bool isSameFile(const FileSystem& files, const std::string& left, const std::str
             files.isSameFolder(std::string(one.folder()), std::string(other.folder())));
 }
 
+/// Keeps a copy of the file `destination` before the run-time file `source` is put there, unless it
+/// is the program's own. True when it has the same bytes.
+FileResult<bool> makeWay(FileSystem& files, const std::string& source,
+                         const std::string& destination) {
+    const FileResult<std::string> wanted = files.readFile(source, kMaxRunTimeFileBytes);
+    if (!wanted.isOk())
+        return wanted.error();
+    const FileResult<std::string> present = files.readFile(destination, kMaxRunTimeFileBytes);
+    if (!present.isOk())
+        return present.error();
+    if (present.value() == wanted.value() || isOwnFile(present.value()))
+        return present.value() == wanted.value();
+    const FileResult<std::string> kept = keepCopy(files, destination);
+    return kept.isOk() ? FileResult<bool>(false) : kept.error();
+}
+
+/// True when there was nothing to write.
+FileResult<bool> putFile(FileSystem& files, const std::string& source,
+                         const std::string& destination) {
+    const DiskEntry entry = files.entryAt(destination);
+    std::string renamedLink;
+    if (entry == DiskEntry::Link) {
+        FileResult<std::string> kept = setAside(files, destination);
+        if (!kept.isOk())
+            return kept.error();
+        renamedLink = kept.take();
+    } else if (entry == DiskEntry::File) {
+        const FileResult<bool> isThere = makeWay(files, source, destination);
+        if (!isThere.isOk() || isThere.value())
+            return isThere;
+    }
+    // Not deleted first: the copy replaces the old file whole, so that a failure leaves it intact.
+    FileOutcome error = files.CopyFile(source, destination, Links::Replaced);
+    if (!error)
+        return false;
+    if (!renamedLink.empty())
+        files.renameFile(renamedLink, destination);
+    return *error;
+}
+
 }  // namespace
 
 CopyOutcome CopyLibraryFile(FileSystem& files, const std::string& source,
@@ -20,9 +63,11 @@ CopyOutcome CopyLibraryFile(FileSystem& files, const std::string& source,
         return {CopyResult::SamePlace, {}, {}};
     if (!files.FileExists(source))
         return {CopyResult::SourceMissing, source, {}};
-    // Not deleted first: the copy replaces the old file whole, so that a failure leaves it intact.
-    if (const FileOutcome error = files.CopyFile(source, destination, Links::Replaced))
-        return {CopyResult::NotSaved, destination, error->reason};
+    const FileResult<bool> isThere = putFile(files, source, destination);
+    if (!isThere.isOk())
+        return {CopyResult::NotSaved, destination, isThere.error().reason};
+    if (isThere.value())
+        return {CopyResult::AlreadyThere, {}, {}};
     return {};
 }
 

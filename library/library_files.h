@@ -25,7 +25,8 @@ inline constexpr std::string_view kPreviewScript = "orlet_temp.js";
 
 enum class CopyResult {
     Copied,
-    SamePlace,  ///< source and destination are one file; nothing was done
+    SamePlace,     ///< source and destination are one file; nothing was done
+    AlreadyThere,  ///< the destination has the bytes of the source; nothing was done
     SourceMissing,
     NotSaved  ///< the destination could not be replaced; it holds its old content
 };
@@ -37,8 +38,9 @@ struct CopyOutcome {
     std::string reason;  ///< of NotSaved the system's own words
 };
 
-/// Copies one run-time file. Two paths name one file when they end in the same name and their
-/// folders are one on the disk, however those are spelt.
+/// Copies one run-time file. What stands there and is no run-time file of this program, or is a
+/// link, is kept first, as `platform/kept_copy.h` names it. Two paths name one file when they end
+/// in the same name and their folders are one on the disk, however those are spelt.
 CopyOutcome CopyLibraryFile(FileSystem& files, const std::string& source,
                             const std::string& destination);
 

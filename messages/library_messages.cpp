@@ -10,6 +10,7 @@ std::string copyProblemText(const CopyOutcome& outcome) {
             return "Error: " + outcome.path + " not saved. Please check path permissions";
         case CopyResult::Copied:
         case CopyResult::SamePlace:
+        case CopyResult::AlreadyThere:
             break;
     }
     return {};

@@ -25,6 +25,8 @@ class FakeFileSystem : public FileSystem {
     void addLink(const std::string& path, const std::string& target);
     /// Gives the folder a second path, by which `isSameFolder` and `isSameFile` know it.
     void addFolderAlias(const std::string& folder, const std::string& alias);
+    /// Gives the file a second path, by which `isSameFile` knows it.
+    void addFileAlias(const std::string& file, const std::string& alias);
     /// In such a folder no file can be made, replaced or deleted.
     void setWritable(const std::string& folder, bool isWritable);
     /// Every file: path and bytes. Links are none.
@@ -32,6 +34,7 @@ class FakeFileSystem : public FileSystem {
 
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
+    DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
@@ -42,6 +45,7 @@ class FakeFileSystem : public FileSystem {
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
     FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
+    FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
@@ -55,11 +59,13 @@ class FakeFileSystem : public FileSystem {
     std::map<std::string, std::string> m_targetOfLink;
     std::set<std::string> m_folders;
     std::map<std::string, std::string> m_folderOfAlias;
+    std::map<std::string, std::string> m_fileOfAlias;
     std::set<std::string> m_unwritableFolders;
 };
 
 /// Passes everything on to another file system, and breaks what it was told to break. A broken
-/// operation changes nothing. Questions (those that give a bool) never break and are not counted.
+/// operation changes nothing. Questions (`FileExists` to `isWritableFolder`) never break and are
+/// not counted.
 class FailingFileSystem : public FileSystem {
   public:
     /// `inner` is not owned and must outlive this object.
@@ -74,6 +80,7 @@ class FailingFileSystem : public FileSystem {
 
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
+    DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
@@ -84,6 +91,7 @@ class FailingFileSystem : public FileSystem {
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
     FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
+    FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;

@@ -21,7 +21,8 @@ std::string joined(int count, char** paths) {
             std::cerr << paths[i] << ": cannot be read, or holds something that does not end\n";
             return "";
         }
-        text += *stripped + '\n';
+        // Where one ends without a semicolon, the next must not go on.
+        text += (text.empty() ? "" : "\n") + *stripped;
     }
     return text;
 }
@@ -33,7 +34,8 @@ int main(int argc, char** argv) {
     if (text.empty())
         return 1;
     std::ofstream out(argv[1], std::ios::binary);
-    out << "(function(){\n" << text << "})();\n";
+    // By the comment the programs know the library when they meet it in a site's folder.
+    out << "(function(){//ZEVMenu\n" << text << "})();";
     out.close();
     return out ? 0 : 1;
 }

@@ -45,6 +45,10 @@ class test_file_commands : public QObject {
     Q_OBJECT
 
   private slots:
+    void noMenuIsSavedByANameThatTheProgramUsesItself_data();
+    void noMenuIsSavedByANameThatTheProgramUsesItself();
+    void aMenuOpenedByANameThatTheProgramUsesItselfIsNotSavedThere();
+    void somebodysFilesByNamesOfTheLibraryAreKept();
     void resetShowsAnEmptyMenu();
     void newWithoutChangesAsksNothing();
     void newAsksAboutChanges_data();
@@ -87,6 +91,64 @@ class test_file_commands : public QObject {
     void previewTellsOfEachMissingFileAndIsShownAllTheSame();
     void thePreviewFilesStayAfterTheEnd();
 };
+
+void test_file_commands::noMenuIsSavedByANameThatTheProgramUsesItself_data() {
+    QTest::addColumn<QString>("name");
+    for (const char* const name : {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js",
+                                   "orlet_temp.js", "orlet_temp.html", "zevmenu.html"})
+        QTest::newRow(name) << name;
+}
+
+void test_file_commands::noMenuIsSavedByANameThatTheProgramUsesItself() {
+    QFETCH(QString, name);
+    Desk desk;
+    desk.addItem("Home", "home.html");
+    desk.saveAs("/site/menu.js");
+    desk.addItem("News", "news.html");
+    const std::map<std::string, std::string> before = desk.disk.allFiles();
+    const std::string path = "/site/" + name.toStdString();
+    desk.dialogs.expectSaveFile(path);
+    // Asked nothing of URLs.
+    desk.messages.expect("Could not save " + path +
+                         ": the program keeps a file of its own by this name beside every menu. "
+                         "Please choose another name.");
+    desk.commands.mnuFileSaveAs_Click();
+    desk.messages.verify();
+    QVERIFY(desk.disk.allFiles() == before);
+    QCOMPARE(desk.document.SaveFile(), std::string("/site/menu.js"));
+    QVERIFY(desk.document.bModified());
+}
+
+void test_file_commands::aMenuOpenedByANameThatTheProgramUsesItselfIsNotSavedThere() {
+    Desk desk;
+    desk.disk.addFile("/site/orlet_temp.js", "zevmenu = new ZEVMenu('0');");
+    desk.commands.openDefinition("/site/orlet_temp.js");
+    desk.addItem("Home");
+    const std::map<std::string, std::string> before = desk.disk.allFiles();
+    desk.messages.expect(
+        "Could not save /site/orlet_temp.js: the program keeps a file of its own by this name "
+        "beside every menu. Please choose another name.");
+    desk.commands.mnuFileSave_Click();
+    desk.messages.verify();
+    QVERIFY(desk.disk.allFiles() == before);
+    QVERIFY(desk.document.bModified());
+}
+
+void test_file_commands::somebodysFilesByNamesOfTheLibraryAreKept() {
+    Desk desk;
+    desk.disk.addFile("/site/zevmenu_dom.js", "mine");
+    desk.disk.addLink("/site/zevmenu_ns4.js", "/home/ns4.js");
+    desk.disk.addFile("/home/ns4.js", "elsewhere");
+    desk.addItem("Home");
+    desk.saveAs("/site/menu.js");
+    QCOMPARE(desk.bytesOf("/site/zevmenu_dom.js.bak"), std::string("mine"));
+    QVERIFY(desk.disk.entryAt("/site/zevmenu_ns4.js.bak") == DiskEntry::Link);
+    QCOMPARE(desk.bytesOf("/home/ns4.js"), std::string("elsewhere"));
+    const std::map<std::string, std::string> before = desk.disk.allFiles();
+    desk.document.markModified();
+    desk.commands.mnuFileSave_Click();
+    QVERIFY(desk.disk.allFiles() == before);
+}
 
 void test_file_commands::resetShowsAnEmptyMenu() {
     Desk desk;

@@ -39,11 +39,18 @@ struct Snapshot {
     bool isSaveEnabled;
 };
 
-/// A menu saved as "/site/menu.js" and changed since; no item has text that is not stored yet.
+/// The copies of one save, in their order, and the definition's write at the end.
+const std::vector<std::string> kCopies = {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js",
+                                          "orlet_temp.html"};
+
+/// A menu saved as "/site/menu.js", beside an earlier version of the library, and changed since; no
+/// item has text that is not stored yet.
 void makeChangedMenu(Desk& desk) {
     desk.disk.addFolder("/site/sub");
     desk.addItem("First", "first.html");
     desk.saveAs("/site/menu.js");
+    for (const std::string& name : kCopies)
+        desk.disk.addFile("/site/" + name, "(function(){//ZEVMenu\nof an earlier version");
     desk.addItem("Second", "https://zevmenu.example/");
     desk.view.StoreItem();
 }
@@ -53,10 +60,9 @@ void failFromNow(Desk& desk, std::size_t number) {
     desk.files.failOperation(desk.files.operationCount() + number, kDiskFull);
 }
 
-/// The copies of one save, in their order, and the definition's write at the end.
-const std::vector<std::string> kCopies = {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js",
-                                          "orlet_temp.html"};
-const std::size_t kDefinitionWrite = kCopies.size() + 1;
+/// Of a file that is there both are read before it is written.
+const std::size_t kOperationsOfANewCopy = 1;
+const std::size_t kOperationsOfAnUpdate = 3;
 
 std::string copyProblem(const std::string& path) {
     return "Error: " + path + " not saved. Please check path permissions";
@@ -71,10 +77,15 @@ std::string wholeProblem(const std::string& folder, const std::string& definitio
     return text + "Could not save " + folder + "/" + definition + ": " + reason;
 }
 
-void addEachOperation() {
+/// Breaks each operation of one save; `file`: the one at fault, in the order of the copies and then
+/// the definition.
+void addEachOperation(std::size_t operationsOfACopy) {
     QTest::addColumn<std::size_t>("operation");
-    for (std::size_t operation = 1; operation <= kDefinitionWrite; ++operation)
-        QTest::addRow("operation %zu", operation) << operation;
+    QTest::addColumn<std::size_t>("file");
+    for (std::size_t operation = 1; operation <= kCopies.size() * operationsOfACopy + 1;
+         ++operation)
+        QTest::addRow("operation %zu", operation)
+            << operation << (operation - 1) / operationsOfACopy;
 }
 
 }  // namespace
@@ -87,11 +98,11 @@ class test_file_failures : public QObject {
     void aFileThatCannotBeOpenedLeavesTheDocument();
     void aFailedOpenKeepsTheChangesMark();
     void aFileOf256MebibytesIsStillRead();
-    void eachFailureOfASave_data() { addEachOperation(); }
+    void eachFailureOfASave_data() { addEachOperation(kOperationsOfAnUpdate); }
     void eachFailureOfASave();
-    void eachFailureOfASaveAs_data() { addEachOperation(); }
+    void eachFailureOfASaveAs_data() { addEachOperation(kOperationsOfANewCopy); }
     void eachFailureOfASaveAs();
-    void eachFailureOfAPreview_data() { addEachOperation(); }
+    void eachFailureOfAPreview_data() { addEachOperation(kOperationsOfAnUpdate); }
     void eachFailureOfAPreview();
     void aFailedSaveAsTakesBackRecalculatedURLs();
     void aFailedSaveAsOfAMenuNeverSavedLeavesItUnnamed();
@@ -158,15 +169,16 @@ void test_file_failures::aFileOf256MebibytesIsStillRead() {
 
 void test_file_failures::eachFailureOfASave() {
     QFETCH(std::size_t, operation);
+    QFETCH(std::size_t, file);
     Desk desk;
     makeChangedMenu(desk);
     const std::string oldBytes = desk.bytesOf("/site/menu.js");
     const Snapshot before(desk);
-    const bool isDefinition = operation == kDefinitionWrite;
+    const bool isDefinition = file == kCopies.size();
 
     failFromNow(desk, operation);
     desk.messages.expect(isDefinition ? "Could not save /site/menu.js: No space left on device"
-                                      : copyProblem("/site/" + kCopies[operation - 1]));
+                                      : copyProblem("/site/" + kCopies[file]));
     desk.commands.mnuFileSave_Click();
     desk.messages.verify();
     if (isDefinition) {
@@ -180,17 +192,18 @@ void test_file_failures::eachFailureOfASave() {
 
 void test_file_failures::eachFailureOfASaveAs() {
     QFETCH(std::size_t, operation);
+    QFETCH(std::size_t, file);
     Desk desk;
     makeChangedMenu(desk);
     desk.disk.addFile("/site/sub/menu.js", "somebody's file");
     const Snapshot before(desk);
-    const bool isDefinition = operation == kDefinitionWrite;
+    const bool isDefinition = file == kCopies.size();
 
     failFromNow(desk, operation);
     desk.dialogs.expectSaveFile("/site/sub/menu.js");
     desk.messages.expect(Desk::recalculate, Answer::Yes);
     desk.messages.expect(isDefinition ? "Could not save /site/sub/menu.js: No space left on device"
-                                      : copyProblem("/site/sub/" + kCopies[operation - 1]));
+                                      : copyProblem("/site/sub/" + kCopies[file]));
     desk.commands.mnuFileSaveAs_Click();
     desk.messages.verify();
     if (isDefinition) {
@@ -206,15 +219,16 @@ void test_file_failures::eachFailureOfASaveAs() {
 
 void test_file_failures::eachFailureOfAPreview() {
     QFETCH(std::size_t, operation);
+    QFETCH(std::size_t, file);
     Desk desk;
     makeChangedMenu(desk);
     const Snapshot before(desk);
     const std::string saved = desk.bytesOf("/site/menu.js");
 
     failFromNow(desk, operation);
-    desk.messages.expect(operation == kDefinitionWrite
+    desk.messages.expect(file == kCopies.size()
                              ? "Could not save /site/orlet_temp.js: No space left on device"
-                             : copyProblem("/site/" + kCopies[operation - 1]));
+                             : copyProblem("/site/" + kCopies[file]));
     desk.commands.showPreview();
     desk.messages.verify();
     QVERIFY(Snapshot(desk) == before);

@@ -97,6 +97,28 @@ TEST_F(PublishTest, RefusesADefinitionNamedLikeARunTimeFile) {
     EXPECT_EQ(namesIn(folder / "site"), Names{});
 }
 
+TEST_F(PublishTest, RefusesADefinitionNamedLikeAPreviewFileOrLinkedToAScript) {
+    makeFile(folder / "orlet_temp.js", kSmallDefinition);
+    EXPECT_EQ(run({"publish", "orlet_temp.js", "site"}).status, 2);
+    EXPECT_EQ(namesIn(folder / "site"), Names{});
+    ASSERT_EQ(run({"publish", "menu.js", "site"}).status, 0);
+    std::filesystem::remove(folder / "site/menu.js");
+    std::filesystem::create_symlink("zevmenu_dom.js", folder / "site/menu.js");
+    EXPECT_EQ(run({"publish", "menu.js", "site"}).status, 2);
+    EXPECT_EQ(contentOf(folder / "site/zevmenu_dom.js"),
+              contentOf(ZEVMENU_RUNTIME "/zevmenu_dom.js"));
+}
+
+TEST_F(PublishTest, KeepsSomebodysFileByTheNameOfAScript) {
+    makeFile(folder / "site/zevmenu_dom.js", "mine");
+    makeFile(folder / "site/zevmenu_ns4.js", "(function(){//ZEVMenu\nold");
+    EXPECT_EQ(run({"publish", "menu.js", "site"}).status, 0);
+    EXPECT_EQ(contentOf(folder / "site/zevmenu_dom.js.bak"), "mine");
+    EXPECT_EQ(run({"publish", "menu.js", "site"}).status, 0);
+    EXPECT_EQ(namesIn(folder / "site"), (Names{"menu.js", "zevmenu_dom.js", "zevmenu_dom.js.bak",
+                                               "zevmenu_loader.js", "zevmenu_ns4.js"}));
+}
+
 TEST_F(PublishTest, WritesTheDefinitionThoughAScriptIsMissing) {
     std::filesystem::create_directory(folder / "bin");
     const std::string program = folder / "bin/zevmenu";

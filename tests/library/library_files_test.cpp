@@ -36,6 +36,62 @@ TEST(CopyLibraryFileTest, TakesThePlaceOfALink) {
     EXPECT_EQ(files.allFiles().at("/home/rc"), "mine");
 }
 
+TEST(CopyLibraryFileTest, ContentThatIsThereIsNotWrittenAgain) {
+    FakeFileSystem disk;
+    disk.addFile("/program/a.js", "same");
+    disk.addFile("/site/a.js", "same");
+    disk.setWritable("/site", false);
+    EXPECT_EQ(CopyLibraryFile(disk, "/program/a.js", "/site/a.js").result,
+              CopyResult::AlreadyThere);
+    EXPECT_EQ(disk.allFiles().size(), 2U);
+}
+
+TEST(CopyLibraryFileTest, SomebodysFileIsKeptAndAnEarlierVersionIsNot) {
+    FakeFileSystem files;
+    files.addFile("/program/a.js", "(function(){//ZEVMenu\nnew");
+    files.addFile("/site/a.js", "(function(){//ZEVMenu\nold");
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::Copied);
+    EXPECT_EQ(files.allFiles().size(), 2U);
+    files.addFile("/site/a.js", "mine");
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::Copied);
+    EXPECT_EQ(files.allFiles().at("/site/a.js"), "(function(){//ZEVMenu\nnew");
+    EXPECT_EQ(files.allFiles().at("/site/a.js.bak"), "mine");
+}
+
+TEST(CopyLibraryFileTest, ALinkIsKeptUnderAnotherName) {
+    FakeFileSystem files;
+    files.addFile("/program/a.js", "new");
+    files.addFile("/shared/a.js", "new");
+    files.addLink("/site/a.js", "/shared/a.js");
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::Copied);
+    EXPECT_EQ(files.entryAt("/site/a.js"), DiskEntry::File);
+    EXPECT_EQ(files.entryAt("/site/a.js.bak"), DiskEntry::Link);
+    EXPECT_EQ(files.allFiles().at("/shared/a.js"), "new");
+}
+
+TEST(CopyLibraryFileTest, WhatCannotBeKeptIsNotReplaced) {
+    FakeFileSystem disk;
+    disk.addFile("/program/a.js", "new");
+    disk.addFile("/site/a.js", "mine");
+    FailingFileSystem files(disk);
+    files.failPath("/site/a.js.bak", kNoPermission);
+    const CopyOutcome outcome = CopyLibraryFile(files, "/program/a.js", "/site/a.js");
+    EXPECT_EQ(outcome.result, CopyResult::NotSaved);
+    EXPECT_EQ(outcome.path, "/site/a.js");
+    EXPECT_EQ(disk.allFiles().at("/site/a.js"), "mine");
+}
+
+TEST(CopyLibraryFileTest, ALinkIsBackUnderItsNameWhenTheCopyFails) {
+    FakeFileSystem disk;
+    disk.addFile("/program/a.js", "new");
+    disk.addLink("/site/a.js", "/shared/a.js");
+    FailingFileSystem files(disk);
+    files.failPath("/program/a.js", kNoPermission);
+    EXPECT_EQ(CopyLibraryFile(files, "/program/a.js", "/site/a.js").result, CopyResult::NotSaved);
+    EXPECT_EQ(disk.entryAt("/site/a.js"), DiskEntry::Link);
+    EXPECT_EQ(disk.entryAt("/site/a.js.bak"), DiskEntry::Nothing);
+}
+
 TEST(CopyLibraryFileTest, DoesNothingWhenBothPathsNameOneFileOfTheDisk) {
     FakeFileSystem disk;
     disk.addFile("/Program/A.js", "one");

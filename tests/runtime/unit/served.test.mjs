@@ -40,7 +40,7 @@ test('three scripts are made of sources', () => {
 });
 
 for (const { name, sources } of joins) {
-    test(`${name} is its sources word for word, in one function, less comments and white space`, () => {
+    test(`${name} is its mark and its sources word for word, in one function, less comments and white space`, () => {
         const text = sources.map(source => readFileSync(new URL('src/' + source, runtime), 'utf8')).join('');
         const served = readFileSync(new URL(name, library), 'utf8');
         const source = `(function () {\n${text}})();`;
@@ -48,7 +48,8 @@ for (const { name, sources } of joins) {
         assert.equal(shapeOf(served), shapeOf(source));
         const comments = [];
         parse(served, { ecmaVersion: 'latest', onComment: (isBlock, text) => comments.push(text) });
-        assert.deepEqual(comments, []);
+        assert.deepEqual(comments, ['ZEVMenu']);
+        assert.ok(served.startsWith('(function(){//ZEVMenu\n'));
         assert.doesNotMatch(served, /\n\s/);
     });
 }
