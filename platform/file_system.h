@@ -50,6 +50,9 @@ enum class Links {
     Replaced
 };
 
+/// What stands under a path. A link is a link, wherever it leads.
+enum class DiskEntry { Nothing, File, Folder, Link, Other };
+
 /// The file operations the program needs. Whatever it writes for the user is whole or not there at
 /// all: after a failure the target holds its old content and nothing is left beside it.
 class FileSystem {
@@ -59,6 +62,8 @@ class FileSystem {
     /// True for anything that exists at `path` and is not a folder.
     virtual bool FileExists(const std::string& path) const = 0;
     virtual bool isFolder(const std::string& path) const = 0;
+    /// What stands under `path` itself; no link is followed at its end.
+    virtual DiskEntry entryAt(const std::string& path) const = 0;
     /// True when both paths lead to one folder of the disk, by links, letter case or spelling. A
     /// path to no folder is never the same.
     virtual bool isSameFolder(const std::string& left, const std::string& right) const = 0;
@@ -87,6 +92,9 @@ class FileSystem {
     /// is open to nobody who may not read `path`. A link `backup` is replaced. A `path` that may
     /// not be written is refused. The error names the file at fault.
     virtual FileOutcome backUpFile(const std::string& path, const std::string& backup) = 0;
+    /// Gives the file or link `path` another name on the same disk. A link stays what it is. It is
+    /// an error when something has the new name already; nothing is ever replaced.
+    virtual FileOutcome renameFile(const std::string& path, const std::string& newPath) = 0;
     virtual FileOutcome DeleteFile(const std::string& path) = 0;
     /// Makes the folder and those above it that are missing. A folder that is there is no error.
     virtual FileOutcome makeFolder(const std::string& path) = 0;

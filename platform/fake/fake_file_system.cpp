@@ -69,6 +69,14 @@ bool FakeFileSystem::isFolder(const std::string& path) const {
     return m_folders.contains(path);
 }
 
+DiskEntry FakeFileSystem::entryAt(const std::string& path) const {
+    if (m_targetOfLink.contains(path))
+        return DiskEntry::Link;
+    if (m_files.contains(path))
+        return DiskEntry::File;
+    return isFolder(path) ? DiskEntry::Folder : DiskEntry::Nothing;
+}
+
 std::string FakeFileSystem::folderAt(const std::string& path) const {
     const auto alias = m_folderOfAlias.find(path);
     return alias == m_folderOfAlias.end() ? path : alias->second;
@@ -130,6 +138,23 @@ FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::strin
 
 FileOutcome FakeFileSystem::backUpFile(const std::string& path, const std::string& backup) {
     return CopyFile(path, backup, Links::Replaced);
+}
+
+FileOutcome FakeFileSystem::renameFile(const std::string& path, const std::string& newPath) {
+    if (entryAt(path) == DiskEntry::Nothing || !isFolder(folderOf(newPath)))
+        return notFound(path);
+    if (entryAt(newPath) != DiskEntry::Nothing)
+        return FileError{FileError::Code::Other, path, "File exists"};
+    if (!isWritableFolder(folderOf(path)) || !isWritableFolder(folderOf(newPath)))
+        return noPermission(path);
+    if (auto link = m_targetOfLink.extract(path)) {
+        link.key() = newPath;
+        m_targetOfLink.insert(std::move(link));
+    } else if (auto file = m_files.extract(path)) {
+        file.key() = newPath;
+        m_files.insert(std::move(file));
+    }
+    return {};
 }
 
 FileOutcome FakeFileSystem::DeleteFile(const std::string& path) {
@@ -198,6 +223,10 @@ bool FailingFileSystem::isFolder(const std::string& path) const {
     return m_inner.isFolder(path);
 }
 
+DiskEntry FailingFileSystem::entryAt(const std::string& path) const {
+    return m_inner.entryAt(path);
+}
+
 bool FailingFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
     return m_inner.isSameFolder(left, right);
 }
@@ -241,6 +270,13 @@ FileOutcome FailingFileSystem::backUpFile(const std::string& path, const std::st
     if (!error)
         error = errorOfPath(backup);
     return error ? error : m_inner.backUpFile(path, backup);
+}
+
+FileOutcome FailingFileSystem::renameFile(const std::string& path, const std::string& newPath) {
+    FileOutcome error = nextOperation(path);
+    if (!error)
+        error = errorOfPath(newPath);
+    return error ? error : m_inner.renameFile(path, newPath);
 }
 
 FileOutcome FailingFileSystem::DeleteFile(const std::string& path) {

@@ -32,6 +32,7 @@ class FakeFileSystem : public FileSystem {
 
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
+    DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
@@ -42,6 +43,7 @@ class FakeFileSystem : public FileSystem {
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
     FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
+    FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
@@ -59,7 +61,8 @@ class FakeFileSystem : public FileSystem {
 };
 
 /// Passes everything on to another file system, and breaks what it was told to break. A broken
-/// operation changes nothing. Questions (those that give a bool) never break and are not counted.
+/// operation changes nothing. Questions (`FileExists` to `isWritableFolder`) never break and are
+/// not counted.
 class FailingFileSystem : public FileSystem {
   public:
     /// `inner` is not owned and must outlive this object.
@@ -74,6 +77,7 @@ class FailingFileSystem : public FileSystem {
 
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
+    DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
@@ -84,6 +88,7 @@ class FailingFileSystem : public FileSystem {
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
     FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
+    FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;

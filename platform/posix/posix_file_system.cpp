@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -54,6 +55,22 @@ bool PosixFileSystem::FileExists(const std::string& path) const {
 bool PosixFileSystem::isFolder(const std::string& path) const {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+DiskEntry PosixFileSystem::entryAt(const std::string& path) const {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0)
+        return DiskEntry::Nothing;
+    switch (status.st_mode & S_IFMT) {
+        case S_IFREG:
+            return DiskEntry::File;
+        case S_IFDIR:
+            return DiskEntry::Folder;
+        case S_IFLNK:
+            return DiskEntry::Link;
+        default:
+            return DiskEntry::Other;
+    }
 }
 
 bool PosixFileSystem::isSameFolder(const std::string& left, const std::string& right) const {
@@ -118,6 +135,18 @@ FileOutcome PosixFileSystem::backUpFile(const std::string& path, const std::stri
     if (!bytes.isOk())
         return bytes.error();
     return writeBackup(path, backup, bytes.value(), m_leftovers);
+}
+
+FileOutcome PosixFileSystem::renameFile(const std::string& path, const std::string& newPath) {
+    int error = 0;
+    if (::renameat2(AT_FDCWD, path.c_str(), AT_FDCWD, newPath.c_str(), RENAME_NOREPLACE) != 0)
+        error = errno;
+    // Some network drives cannot promise to replace nothing.
+    if (error == EINVAL && entryAt(newPath) == DiskEntry::Nothing)
+        error = ::rename(path.c_str(), newPath.c_str()) == 0 ? 0 : errno;
+    if (error != 0)
+        return fileErrorOf(error, path);
+    return {};
 }
 
 FileOutcome PosixFileSystem::DeleteFile(const std::string& path) {

@@ -11,6 +11,7 @@ class PosixFileSystem : public FileSystem {
   public:
     bool FileExists(const std::string& path) const override;
     bool isFolder(const std::string& path) const override;
+    DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
     bool isWritableFolder(const std::string& path) const override;
@@ -21,6 +22,7 @@ class PosixFileSystem : public FileSystem {
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
     FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
+    FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
