@@ -89,8 +89,11 @@ void PropertyEdit::check() {
     if (!checked.message.empty())
         m_messages->notice(checked.message);
     const QString replaced = QString::fromStdString(checked.text);
-    if (replaced == text())
+    if (replaced == text()) {
+        if (replaced != m_checkedText)
+            m_refusedText.clear();
         return;
+    }
     const std::string before = text().left(cursorPosition()).toStdString();
     m_refusedText = text();
     m_checkedText = replaced;
