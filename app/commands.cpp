@@ -159,6 +159,8 @@ const std::vector<Command>& CommandActions::rows() {
         {{"", "mnuTools", QT_TR_NOOP("&Tools")}},
         {{"mnuTools", "mnuToolsIntegrate", QT_TR_NOOP("&Menu Integrator")},
          &frmMain::mnuToolsIntegrate_Click},
+        {{"mnuTools"}},
+        {{"mnuTools", "mnuToolsCheck", QT_TR_NOOP("&Check Menu")}, &frmMain::checkMenu},
 
         {{"", "mnuHelp", QT_TR_NOOP("&Help")}},
         {{"mnuHelp", "mnuHelpContents", QT_TR_NOOP("&Contents"), "F1"},

@@ -20,6 +20,8 @@ class EditHistory : public QObject {
     /// Runs a command as a step of this name; what was being typed is a step before it. Inside a
     /// command it is a part of that.
     void run(const std::string& name, const std::function<void()>& command);
+    /// A command is at work.
+    bool isInCommand() const { return m_history.isInStep() && !isTyping(); }
     /// The running command's step gets this name instead of its own.
     void rename(std::string name) { m_name = std::move(name); }
     /// What the running command has done so far is a step of its own.

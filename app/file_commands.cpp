@@ -1,9 +1,12 @@
 #include "app/file_commands.h"
 
+#include <utility>
+
 #include "library/library_files.h"
 #include "library/own_files.h"
 #include "messages/definition_messages.h"
 #include "messages/library_messages.h"
+#include "platform/kept_copy.h"
 #include "script/relative_url.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
@@ -14,6 +17,9 @@ namespace {
 
 /// Behind "All Files", each filter has the kind of file that is usually wanted.
 constexpr int kUsualKind = 2;
+
+/// A larger file is compared when it is saved only, and not each time the window becomes active.
+constexpr std::uint64_t kMaxLookedAtBytes = std::uint64_t{32} << 20;
 
 void addLine(std::string& text, const std::string& line) {
     if (!text.empty())
@@ -115,11 +121,14 @@ void FileCommands::openDefinition(const std::string& path) {
     FileResult<std::string> content = readTextFile(path);
     if (!content.isOk())
         return;
+    const std::string bytes = content.take();
     MenuContent opened;
-    const ReadResult result = ReadScript(content.take(), opened);
+    const ReadResult result = ReadScript(bytes, opened);
+    m_known.see(path, bytes, result.losesLines());
     if (result.itemsLeftOut > 0)
         opened.overfullFile = path;
     m_document.open(std::move(opened), path, SplitPath(path).folder);
+    m_listener->opened({path, bytes, result});
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
                                    " errors encountered during parsing");
@@ -184,7 +193,12 @@ bool FileCommands::saveDocumentAs(const std::string& path, const std::string& fo
     if (isRebasing)
         rebasedBack = RebaseAllURLs(m_document, oldFolder, folder);
     m_document.setFile(path, folder);
-    if (SaveDefinition(path)) {
+    m_isReplacementAsked = true;
+    const bool isSaved = SaveDefinition(path);
+    m_isReplacementAsked = false;
+    if (isSaved) {
+        if (isRebasing)
+            m_listener->recalculated(rebasedBack, oldFolder);
         m_document.record(std::move(rebasedBack));
         m_document.markSaved();
         m_view.Button_Update();
@@ -210,12 +224,80 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     const std::string bytes = definitionFileBytes(script);
     // The preview script has a name that the person did not choose.
     const Links links = path.empty() ? Links::Replaced : Links::Followed;
-    const FileOutcome failure = m_services.files.writeFile(target, bytes, links);
+    FileResult<std::string> kept = path.empty() ? std::string() : keepReplaced(target, bytes);
+    const FileOutcome failure =
+        kept.isOk() ? m_services.files.writeFile(target, bytes, links) : FileOutcome(kept.error());
     if (failure)
         addLine(notice.text, "Could not save " + target + ": " + failure->reason);
+    else if (!path.empty())
+        seeSaved(path, bytes, kept.value());
     if (!notice.text.empty())
         m_services.messages.show(notice);
     return !failure;
+}
+
+void FileCommands::seeSaved(const std::string& path, std::string_view bytes,
+                            const std::string& kept) {
+    m_known.see(path, bytes, false);
+    m_listener->saved();
+    if (!kept.empty())
+        m_listener->changedOnDisk(kept);
+}
+
+/// The path of what was kept because another program had changed it; empty where there was nothing
+/// to keep, or nothing that is news.
+FileResult<std::string> FileCommands::keepReplaced(const std::string& path,
+                                                   std::string_view newBytes) {
+    FileSystem& files = m_services.files;
+    // A pipe or device holds nothing, nor does a file that is not there.
+    if (!files.isSameFile(path, path) || (m_isReplacementAsked && !m_known.isKnown(path)))
+        return std::string();
+    const FileResult<std::string> present = files.readFile(path, kMaxDefinitionFileBytes);
+    if (!present.isOk() && present.error().code == FileError::Code::NoPermission)
+        return std::string();
+    if (!present.isOk() && present.error().code != FileError::Code::TooLarge)
+        return present.error();
+    const bool isAsSeen = present.isOk() && m_known.isAsSeen(path, present.value());
+    if ((isAsSeen && !m_known.losesLines(path)) || (present.isOk() && present.value() == newBytes))
+        return std::string();
+    const bool isNews =
+        !isAsSeen && !(present.isOk() && m_known.isDismissed(path, present.value()));
+    FileResult<std::string> kept = keepCopy(files, path);
+    return kept.isOk() && !isNews ? std::string() : kept;
+}
+
+void FileCommands::lookAtFile() {
+    const std::string& path = m_document.SaveFile();
+    if (path.empty() || !m_known.isKnown(path))
+        return;
+    const FileResult<std::string> present = m_services.files.readFile(path, kMaxLookedAtBytes);
+    if (!present.isOk())
+        return;
+    if (m_known.isAsSeen(path, present.value()))
+        m_listener->sameOnDisk();
+    else if (!m_known.isDismissed(path, present.value()))
+        m_listener->changedOnDisk("");
+}
+
+void FileCommands::reload(const std::string& kept) {
+    if (kept.empty()) {
+        openDefinition(m_document.SaveFile());
+        return;
+    }
+    FileResult<std::string> content = readTextFile(kept);
+    if (!content.isOk())
+        return;
+    MenuContent other;
+    ReadScript(content.take(), other);
+    m_document.replaceContent(std::move(other));
+}
+
+void FileCommands::keepMine() {
+    const std::string& path = m_document.SaveFile();
+    const FileResult<std::string> present = m_services.files.readFile(path, kMaxLookedAtBytes);
+    if (present.isOk() && m_known.isKnown(path))
+        m_known.dismiss(path, present.value());
+    m_listener->sameOnDisk();
 }
 
 void FileCommands::showPreview() {
@@ -234,6 +316,7 @@ void FileCommands::loadPreview() {
     SaveDefinition("");
     m_previewedScript = GenerateScript(m_document.content());
     m_previewedFolder = m_document.SavePath();
+    m_listener->previewed();
     const Path folder(m_document.SavePath());
     std::vector<std::string> scripts = {folder.child(kPreviewScript)};
     for (const std::string_view name : kLibraryFiles)

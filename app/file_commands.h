@@ -1,9 +1,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "app/editor_services.h"
 #include "app/editor_view.h"
+#include "app/file_listener.h"
+#include "app/known_files.h"
 #include "model/menu_document.h"
 
 namespace zev {
@@ -16,6 +19,9 @@ inline constexpr const char* kDefinitionFilter = "All Files (*.*)|*.*|JavaScript
 class FileCommands {
   public:
     FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services);
+    /// Not owned, outlives the commands.
+    void setListener(FileListener& listener) { m_listener = &listener; }
+    FileListener& listener() const { return *m_listener; }
 
     /// Resets the document to a new, empty menu and empties the JavaScript tab, as at start-up.
     /// Asks nothing.
@@ -51,7 +57,19 @@ class FileCommands {
     /// Stores the panel, puts the run-time files beside the definition, shows the script, and
     /// writes it to `path`, or to the preview script in `SavePath` when `path` is empty. All
     /// problems are shown in one message; true when the definition itself was written.
+    ///
+    /// What it replaces is kept beside it first when nobody has it here: another program's version,
+    /// or lines that no menu has. Where that cannot be, the definition is not written.
     bool SaveDefinition(const std::string& path);
+
+    /// Tells the listener whether the document's file is still the one that was read or written.
+    void lookAtFile();
+    /// Shows what another program has made of the document's file: what stands in the file, or, in
+    /// `kept`, what was kept of it when the file was saved over. The document is modified then.
+    void reload(const std::string& kept);
+    /// What another program has made of the document's file is no news any more. When it is saved
+    /// over, it is kept all the same.
+    void keepMine();
 
     /// Cleans and stores the panel, writes the preview files into `SavePath` and loads the preview
     /// page into the browser.
@@ -68,6 +86,8 @@ class FileCommands {
     bool mayDiscardDocument();
     void loadPreview();
     MessageRequest copyRunTimeFiles();
+    void seeSaved(const std::string& path, std::string_view bytes, const std::string& kept);
+    FileResult<std::string> keepReplaced(const std::string& path, std::string_view newBytes);
     /// True when `path` is the file that the document was read from without all its items.
     bool wouldLoseItems(const std::string& path) const;
     bool isReserved(const std::string& path);
@@ -75,6 +95,11 @@ class FileCommands {
     MenuDocument& m_document;
     EditorView& m_view;
     EditorServices m_services;
+    FileListener m_nobody;
+    FileListener* m_listener = &m_nobody;
+    KnownFiles m_known;
+    /// The person has been asked whether the file may be replaced.
+    bool m_isReplacementAsked = false;
     /// What the browser was last told to show.
     std::string m_previewedScript;
     std::string m_previewedFolder;

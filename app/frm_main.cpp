@@ -19,6 +19,7 @@
 #include "app/frm_about.h"
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
+#include "app/notes_bar.h"
 #include "app/open_url.h"
 #include "app/script_view.h"
 #include "app/strip_line.h"
@@ -161,6 +162,12 @@ QWidget* frmMain::buildMenuTab() {
     auto* treeSide = new QWidget;
     auto* treeLayout = new QVBoxLayout(treeSide);
     treeLayout->setContentsMargins(0, 0, 0, 0);
+    auto* notesBar = new NotesBar(m_notes, this);
+    connect(
+        notesBar, &NotesBar::placeChosen, this,
+        [this](const NotePlace& place) { guard([&] { goTo(place); }); });
+    connect(notesBar, &NotesBar::focusLost, this, [this] { TreeView->setFocus(); });
+    treeLayout->addWidget(notesBar);
     treeLayout->addWidget(m_lastCommand);
     treeLayout->addWidget(TreeView);
     splitter->addWidget(panelArea);
@@ -177,14 +184,15 @@ QWidget* frmMain::buildMenuTab() {
 void frmMain::buildDialogs() {
     const DialogHost host{m_document, m_services.messages, m_services.dialogs};
     m_defaultForm = new frmDefaultProp(host, this);
-    auto* advanced = new frmAdvProp(host, nullptr);
-    m_menuForm = new frmMenuProp(host, *m_defaultForm, *advanced, this);
+    m_advancedForm = new frmAdvProp(host, nullptr);
+    m_menuForm = new frmMenuProp(host, *m_defaultForm, *m_advancedForm, this);
     // One of these is opened from another: each OK is a step of its own.
-    for (const QDialog* form : std::initializer_list<QDialog*>{m_defaultForm, m_menuForm, advanced})
+    for (const QDialog* form :
+         std::initializer_list<QDialog*>{m_defaultForm, m_menuForm, m_advancedForm})
         connect(form, &QDialog::accepted, &m_history,
                 [this, form] { m_history.cut(form->windowTitle().toStdString()); });
     // Window managers keep it in front of the dialog that it is opened from, whatever is clicked.
-    advanced->setParent(m_menuForm, advanced->windowFlags());
+    m_advancedForm->setParent(m_menuForm, m_advancedForm->windowFlags());
 }
 
 void frmMain::openDefinition(const std::string& path) {
@@ -469,6 +477,56 @@ void frmMain::closeEvent(QCloseEvent* event) {
     if (!m_isEnding)
         run("", [this] { mnuFileExit_Click(); });
     event->setAccepted(m_isEnding);
+}
+
+// Another program may have been at work meanwhile. In a command the window becomes active again
+// after each of its dialogs.
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !m_history.isInCommand())
+        guard([this] { m_fileCommands.lookAtFile(); });
+}
+
+/// Shows the field that a note is about: in the panel, or in the dialog of its menu.
+void frmMain::goTo(const NotePlace& place) {
+    if (place.owner == NotePlace::Owner::Nowhere)
+        return;
+    leaveField();
+    MenuTab->setCurrentIndex(0);
+    if (place.owner == NotePlace::Owner::Defaults) {
+        m_defaultForm->focusBoxAtStart(place.field);
+        run(CommandActions::named("mnuEditDefault"));
+    } else if (place.owner == NotePlace::Owner::Menu) {
+        goToMenu(place);
+    } else if (const MenuNode* node = m_document.tree().find(place.key)) {
+        goToItem(*node);
+        m_panel->focusField(place.field);
+    }
+}
+
+void frmMain::goToItem(const MenuNode& node) {
+    m_document.makeVisible(node);
+    TreeView_NodeClick(&node);
+    TreeView->showSelection();
+}
+
+/// The dialog shows the menu that the selected item stands in.
+void frmMain::goToMenu(const NotePlace& place) {
+    const MenuNode* const owner = place.key.empty() ? nullptr : m_document.tree().find(place.key);
+    if (!place.key.empty() && !owner)
+        return;
+    const auto items = m_document.tree().childrenOf(owner);
+    if (items.empty()) {
+        if (owner)
+            goToItem(*owner);
+        return;
+    }
+    goToItem(*items.front());
+    if (m_advancedForm->focusBoxAtStart(place.field))
+        m_menuForm->openAdvancedAtStart();
+    else
+        m_menuForm->focusBoxAtStart(place.field);
+    run(CommandActions::named("mnuEditMenuProperties"));
 }
 
 void frmMain::openAddress(const std::string& address) {

@@ -11,6 +11,7 @@
 #include "app/editor_view.h"
 #include "app/file_commands.h"
 #include "app/import_commands.h"
+#include "app/notes/editor_notes.h"
 #include "model/menu_document.h"
 #include "model/tree_editing.h"
 
@@ -23,6 +24,7 @@ class ItemPanel;
 class MenuTreeView;
 class ScriptView;
 class StripLine;
+class frmAdvProp;
 class frmDefaultProp;
 class frmMenuProp;
 
@@ -71,6 +73,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void mnuEditMoveDown_Click();
     void mnuEditDelete_Click();
     void mnuToolsIntegrate_Click();
+    /// Tools > Check Menu.
+    void checkMenu() { m_notes.checkMenu(); }
     void mnuHelpContents_Click();
     void mnuHelpAbout_Click();
     void mnuHelpSupport_Click();
@@ -87,6 +91,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void buildTabs(QWidget* webBrowser);
@@ -105,6 +110,9 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void edit(EditResult (*command)(MenuDocument&));
     void followChange();
     void openAddress(const std::string& address);
+    void goTo(const NotePlace& place);
+    void goToItem(const MenuNode& node);
+    void goToMenu(const NotePlace& place);
 
     void inserted() override { followChange(); }
     void removed() override { followChange(); }
@@ -123,6 +131,9 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     ImportCommands m_importCommands;
     CommandActions m_commands{*this};
     EditHistory m_history{m_document, [this] { StoreItem(); }};
+    EditorNotes m_notes{
+        m_document, m_fileCommands, m_services,
+        [this](const std::string& step, const std::function<void()>& work) { run(step, work); }};
     bool m_isEnding = false;
     /// What is typed in the panel stays as it is, with its cursor, while it is stored.
     bool m_isStoring = false;
@@ -142,6 +153,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     // Made once: they keep what was copied and which font was chosen from one use to the next.
     frmDefaultProp* m_defaultForm = nullptr;
     frmMenuProp* m_menuForm = nullptr;
+    frmAdvProp* m_advancedForm = nullptr;
 };
 
 }  // namespace zev

@@ -49,6 +49,7 @@ void ImportCommands::run(const ImportFormat& format) {
     MenuContent imported;
     const ImportResult result = importMenu(format, content.take(), imported);
     m_document.open(std::move(imported));
+    m_fileCommands.listener().imported({format, path, result});
 
     MessageRequest notice;
     notice.text = "Finished importing " + path + ". " + std::to_string(result.warnings.size()) +

@@ -187,6 +187,20 @@ void ItemPanel::labelSelectedNode() {
         m_document.setLabel(*m_document.selectedNode(), labelSource().value());
 }
 
+void ItemPanel::focusField(const std::string& field) {
+    const std::pair<const char*, PropertyEdit*> fields[] = {{"caption", txtCaption},
+                                                            {"url", txtURL},
+                                                            {"target", txtTarget},
+                                                            {"out", txtImgOut},
+                                                            {"over", txtImgOver}};
+    for (const auto& [name, edit] : fields) {
+        if (name != field || !edit->isEnabled())
+            continue;
+        edit->setFocus();
+        edit->selectAll();
+    }
+}
+
 void ItemPanel::validateFields() {
     txtCaption_Validate();
     txtURL_Validate();

@@ -38,6 +38,10 @@ class ItemPanel : public QWidget {
     /// the mouse-out image of a rollover item.
     void labelSelectedNode();
 
+    /// Puts the focus on the field of an item's value: caption, url, target, out or over. A field
+    /// that the item's type does not use takes none.
+    void focusField(const std::string& field);
+
     /// Runs the rules of the caption, URL and target fields, in this order.
     void validateFields();
     /// Takes a label that was edited in the tree into the field it stands for.

@@ -2,13 +2,31 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <utility>
 
 namespace zev {
 
+class StripLabel : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (wordWrap()) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        painter.setPen(palette().color(foregroundRole()));
+        painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft,
+                         fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+    }
+};
+
 StripLine::StripLine(const QString& name, const QString& group, QWidget* parent)
-    : QWidget(parent), m_layout(new QHBoxLayout(this)), m_label(new QLabel(this)) {
+    : QWidget(parent), m_layout(new QHBoxLayout(this)), m_label(new StripLabel(this)) {
     setObjectName(name);
     setAccessibleName(group);
     m_label->setTextFormat(Qt::PlainText);
@@ -20,10 +38,15 @@ StripLine::StripLine(const QString& name, const QString& group, QWidget* parent)
     hide();
 }
 
+void StripLine::keepOneLine() {
+    m_label->setWordWrap(false);
+}
+
 void StripLine::say(const QString& text, std::vector<Action> actions) {
     for (QPushButton* button : std::exchange(m_buttons, {}))
         button->deleteLater();  // it may be the one that was pressed
     m_label->setText(text);
+    m_label->setToolTip(m_label->wordWrap() ? QString() : text.toHtmlEscaped());
     for (Action& action : actions) {
         auto* button = new QPushButton(action.text, this);
         button->setFocusPolicy(Qt::TabFocus);

@@ -6,10 +6,11 @@
 #include <vector>
 
 class QHBoxLayout;
-class QLabel;
 class QPushButton;
 
 namespace zev {
+
+class StripLabel;
 
 /// One line of the strip above the tree: a text and what can be done about it. It takes no room
 /// while it has nothing to say.
@@ -24,13 +25,16 @@ class StripLine : public QWidget {
     /// `group` is what assistive technology calls the line.
     StripLine(const QString& name, const QString& group, QWidget* parent);
 
+    /// A text that is too long for one line is cut there, and whole in the tooltip. Otherwise it
+    /// goes on below.
+    void keepOneLine();
     /// An empty text hides the line.
     void say(const QString& text, std::vector<Action> actions = {});
     QString text() const;
 
   private:
     QHBoxLayout* m_layout;
-    QLabel* m_label;
+    StripLabel* m_label;
     std::vector<QPushButton*> m_buttons;
 };
 

@@ -3,9 +3,10 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
-#include <set>
 #include <string_view>
+#include <unordered_set>
 
+#include "checks/caption_index.h"
 #include "checks/css_values.h"
 #include "checks/item_names.h"
 #include "html/caption_text.h"
@@ -13,6 +14,7 @@
 #include "model/menu_properties.h"
 #include "script/property_lines.h"
 #include "text/ascii.h"
+#include "text/pattern.h"
 
 namespace zev {
 
@@ -63,6 +65,15 @@ bool isNumberFor(std::string_view property, std::string_view text) {
     return number >= 0 && number <= 1e9;
 }
 
+bool isHtmlField(std::string_view field) {
+    return field == "caption" || field == "htmlBefore" || field == "htmlAfter" ||
+           field == "divider" || field == "marker";
+}
+
+bool isAddressField(std::string_view field) {
+    return field == "url" || field == "out" || field == "over" || field == "bgimage";
+}
+
 bool isColourProperty(std::string_view name) {
     return name == "fshadow" || name.ends_with("color");
 }
@@ -78,94 +89,124 @@ std::optional<Reason> propertyProblem(const MenuPropertyRow& row, std::string_vi
     return {};
 }
 
-class ProblemFinder {
-  public:
-    explicit ProblemFinder(const MenuContent& content) : m_content(content) {}
+void addTextProblem(const MenuNode& node, const char* field, const std::string& value,
+                    std::vector<MenuProblem>& problems) {
+    if (const std::optional<Reason> reason = scriptProblem(value))
+        problems.push_back({Kind::Value, *reason, &node, false, false, field, value});
+}
 
-    std::vector<MenuProblem> find() {
-        checkProperties(m_content.DefaultProp, nullptr, true);
-        checkProperties(m_content.RootMenuProp, nullptr, false);
-        const MenuTree& tree = m_content.tree;
-        findSameCaptions(tree.topLevel());
-        for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
-            checkItem(*node);
-            checkProperties(*node->item.MenuProperty, node, false);
-            findSameCaptions(node->children());
-        }
-        return std::move(m_problems);
+/// True for a caption that shows something without a text; images without alt are told.
+bool hasPicture(const std::string& caption) {
+    HtmlParse html;
+    html.Load(caption);
+    for (;; html.Next()) {
+        if (html.TagName() == "img" || html.TagName() == "hr")
+            return true;
+        if (html.IsLast())
+            return false;
     }
+}
 
-  private:
-    void checkProperties(const MenuProp& prop, const MenuNode* node, bool isDefault) {
-        for (const MenuPropertyRow& row : kMenuProperties) {
-            const std::string_view value = propertyValue(row, prop);
-            if (value.empty())
-                continue;
-            std::optional<Reason> reason = scriptProblem(value);
-            if (!reason)
-                reason = propertyProblem(row, value);
-            if (reason)
-                m_problems.push_back({*reason == Reason::NoColour ? Kind::Colour : Kind::Value,
-                                      *reason, node, isDefault, true, std::string(row.name),
-                                      std::string(value)});
-        }
+/// A value with what is wrong with it for this reason mended, wherever it is.
+std::string mended(Reason reason, std::string_view field, std::string_view value) {
+    if (reason == Reason::LineBreak)
+        return replaceAll(replaceAll(replaceAll(value, "\r\n", " "), "\n", " "), "\r", " ");
+    if (reason == Reason::Placeholder)
+        return replaceAll(value, "~||~",
+                          isHtmlField(field)      ? "~&#124;|~"
+                          : isAddressField(field) ? "~%7C|~"
+                                                  : "");
+    if (reason == Reason::LastBackslash)
+        return std::string(value) + '\\';
+    std::string result;
+    bool isEscaped = false;
+    for (const char character : value) {
+        if (character == '\'' && !isEscaped)
+            result += '\\';
+        isEscaped = character == '\\' && !isEscaped;
+        result += character;
     }
-
-    void checkItem(const MenuNode& node) {
-        const ItemProp& item = node.item;
-        checkText(node, "caption", item.Caption);
-        checkText(node, "url", item.URL);
-        checkText(node, "target", item.Target);
-        checkText(node, "out", item.ImageOut);
-        checkText(node, "over", item.ImageOver);
-        if (item.IsRollover)
-            return;
-        if (m_sameCaptions.contains(&node))
-            add(Kind::Caption, Reason::SameCaption, node, itemName(item));
-        if (itemName(item).empty() && !hasPicture(node))
-            add(Kind::Caption, Reason::NoCaption, node, item.Caption);
-    }
-
-    void checkText(const MenuNode& node, const char* field, const std::string& value) {
-        if (const std::optional<Reason> reason = scriptProblem(value))
-            m_problems.push_back({Kind::Value, *reason, &node, false, false, field, value});
-    }
-
-    /// True for a caption that shows something without a text; images without alt are told.
-    bool hasPicture(const MenuNode& node) {
-        const std::string caption = withoutEscapes(node.item.Caption);
-        HtmlParse html;
-        html.Load(caption);
-        for (;; html.Next()) {
-            if (html.TagName() == "img" || html.TagName() == "hr")
-                return true;
-            if (html.IsLast())
-                return false;
-        }
-    }
-
-    void findSameCaptions(std::span<const MenuNode* const> items) {
-        std::set<std::string> names;
-        for (const MenuNode* node : items) {
-            const std::string name = itemName(node->item);
-            if (!node->item.IsRollover && !name.empty() && !names.insert(name).second)
-                m_sameCaptions.insert(node);
-        }
-    }
-
-    void add(Kind kind, Reason reason, const MenuNode& node, std::string value) {
-        m_problems.push_back({kind, reason, &node, false, false, "caption", std::move(value)});
-    }
-
-    const MenuContent& m_content;
-    std::set<const MenuNode*> m_sameCaptions;
-    std::vector<MenuProblem> m_problems;
-};
+    return result;
+}
 
 }  // namespace
 
+void addBrokenValues(const MenuProp& prop, const MenuNode* node, bool isDefault,
+                     std::vector<MenuProblem>& problems) {
+    for (const MenuPropertyRow& row : kMenuProperties) {
+        const std::string_view value = propertyValue(row, prop);
+        if (value.empty())
+            continue;
+        std::optional<Reason> reason = scriptProblem(value);
+        if (!reason)
+            reason = propertyProblem(row, value);
+        if (reason)
+            problems.push_back({*reason == Reason::NoColour ? Kind::Colour : Kind::Value, *reason,
+                                node, isDefault, true, std::string(row.name), std::string(value)});
+    }
+}
+
+void addBrokenValues(const MenuNode& node, std::vector<MenuProblem>& problems) {
+    const ItemProp& item = node.item;
+    if (!item.IsRollover)
+        addTextProblem(node, "caption", item.Caption, problems);
+    addTextProblem(node, "url", item.URL, problems);
+    addTextProblem(node, "target", item.Target, problems);
+    if (item.IsRollover) {
+        addTextProblem(node, "out", item.ImageOut, problems);
+        addTextProblem(node, "over", item.ImageOver, problems);
+    } else if (itemName(item).empty() && !hasPicture(withoutEscapes(item.Caption))) {
+        problems.push_back(
+            {Kind::Caption, Reason::NoCaption, &node, false, false, "caption", item.Caption});
+    }
+}
+
+MenuProblem sameCaption(const MenuNode& node) {
+    return {Kind::Caption, Reason::SameCaption, &node, false, false,
+            "caption",     itemName(node.item)};
+}
+
 std::vector<MenuProblem> findBrokenValues(const MenuContent& content) {
-    return ProblemFinder(content).find();
+    const MenuTree& tree = content.tree;
+    CaptionIndex captions;
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node))
+        captions.add(*node);
+    const std::vector<const MenuNode*> repeated = captions.repeated();
+    const std::unordered_set<const MenuNode*> isRepeated(repeated.begin(), repeated.end());
+
+    std::vector<MenuProblem> problems;
+    addBrokenValues(content.DefaultProp, nullptr, true, problems);
+    addBrokenValues(content.RootMenuProp, nullptr, false, problems);
+    for (const MenuNode* node = tree.firstNode(); node; node = tree.nextInTreeOrder(*node)) {
+        addBrokenValues(*node, problems);
+        if (isRepeated.contains(node))
+            problems.push_back(sameCaption(*node));
+        addBrokenValues(*node->item.MenuProperty, node, false, problems);
+    }
+    return problems;
+}
+
+std::optional<MenuProblem> lineProblem(const LineEffect& effect) {
+    if (effect.property != "position")
+        return {};
+    MenuProp prop;
+    const std::string value(trimSpaces(effect.value));
+    SetProperty(prop, effect.property, value);
+    if (prop.Position != 0)
+        return {};
+    return MenuProblem{Kind::Value, Reason::NoSide, effect.item, effect.isDefault,
+                       true,        "position",     value};
+}
+
+std::optional<std::string> mendedValue(const MenuProblem& problem) {
+    std::string value = problem.value;
+    std::optional<Reason> reason =
+        problem.kind == Kind::Value ? scriptProblem(value) : std::nullopt;
+    if (!reason)
+        return {};
+    for (; reason; reason = scriptProblem(value))
+        value = mended(*reason, problem.field, value);
+    return value;
 }
 
 }  // namespace zev

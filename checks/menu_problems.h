@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "model/menu_content.h"
+#include "script/menu_script.h"
 
 namespace zev {
 
@@ -23,6 +25,7 @@ struct MenuProblem {
         NoAlternative,  ///< an image in a caption without alt
         NoCaption,
         SameCaption,  ///< as an item before it in its menu
+        NoSide,       ///< no position that a submenu can have
     };
     Kind kind = Kind::Value;
     Reason reason = Reason::BareApostrophe;
@@ -37,5 +40,25 @@ struct MenuProblem {
 /// What is wrong with the menu's values and captions: the defaults, the top-level menu, then the
 /// items in tree order. No file is looked at.
 std::vector<MenuProblem> findBrokenValues(const MenuContent& content);
+
+// The parts that it is made of, which add to `problems`; whoever follows a menu looks at what
+// changes.
+
+/// What is wrong with the values of the item itself, as far as its type writes them. That a caption
+/// stands in its menu twice, `CaptionIndex` knows.
+void addBrokenValues(const MenuNode& node, std::vector<MenuProblem>& problems);
+/// What is wrong in the properties of the item's submenu; of null, of the top-level menu or, with
+/// `isDefault`, of the defaults.
+void addBrokenValues(const MenuProp& prop, const MenuNode* node, bool isDefault,
+                     std::vector<MenuProblem>& problems);
+/// That an item has the caption of one before it in its menu.
+MenuProblem sameCaption(const MenuNode& node);
+
+/// What is wrong with a line that leaves no trace in the menu.
+std::optional<MenuProblem> lineProblem(const LineEffect& effect);
+
+/// The value, in the form of the script, with what breaks the script mended so that visitors see
+/// the same as far as they can; nothing for a problem of another kind.
+std::optional<std::string> mendedValue(const MenuProblem& problem);
 
 }  // namespace zev

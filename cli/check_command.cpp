@@ -57,6 +57,10 @@ std::string_view kindOf(const MenuProblem& problem) {
     return kKinds[static_cast<std::size_t>(problem.kind)];
 }
 
+Finding asFinding(std::size_t line, const MenuProblem& problem) {
+    return {line, kindOf(problem), itemPath(problem.item), problem.field, problemText(problem)};
+}
+
 void addReadProblems(std::vector<Finding>& findings, const ReadResult& result) {
     for (const LineWarning& warning : result.warnings)
         findings.push_back({.line = warning.line,
@@ -78,10 +82,16 @@ std::vector<Finding> findingsIn(std::string bytes, const FileSystem& files,
                                 const SiteFolders& folders) {
     MenuContent content;
     LineIndex index;
-    const ReadResult result = ReadScript(std::move(bytes), content,
-                                         [&](const LineEffect& effect) { index.note(effect); });
     std::vector<Finding> findings;
+    std::vector<std::pair<std::size_t, MenuProblem>> lineProblems;
+    const ReadResult result = ReadScript(std::move(bytes), content, [&](const LineEffect& effect) {
+        index.note(effect);
+        if (const std::optional<MenuProblem> problem = lineProblem(effect))
+            lineProblems.emplace_back(effect.line, *problem);
+    });
     addReadProblems(findings, result);
+    for (const auto& [line, problem] : lineProblems)
+        findings.push_back(asFinding(line, problem));
     std::set<std::size_t> badLines;
     for (const Finding& finding : findings)
         badLines.insert(finding.line);
@@ -91,8 +101,7 @@ std::vector<Finding> findingsIn(std::string bytes, const FileSystem& files,
     // What a line that is not understood has set is no problem of its own.
     for (const MenuProblem& problem : problems)
         if (!badLines.contains(index.lineOf(problem)))
-            findings.push_back({index.lineOf(problem), kindOf(problem), itemPath(problem.item),
-                                problem.field, problemText(problem)});
+            findings.push_back(asFinding(index.lineOf(problem), problem));
     std::stable_sort(
         findings.begin(), findings.end(),
         [](const Finding& left, const Finding& right) { return left.line < right.line; });

@@ -112,6 +112,12 @@ void frmMenuProp::cmdAdvanced_Click() {
         m_advanced.exec();
 }
 
+// From the event loop, which begins with the dialog.
+void frmMenuProp::openAdvancedAtStart() {
+    QMetaObject::invokeMethod(
+        this, [this] { cmdAdvanced_Click(); }, Qt::QueuedConnection);
+}
+
 void frmMenuProp::cmdOK_Click() {
     if (const auto edited = editedMenu(m_host.document)) {
         MenuProp menu = m_host.document.menuProp(*edited);

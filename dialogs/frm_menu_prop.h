@@ -22,6 +22,9 @@ class frmMenuProp : public PropertyDialog {
     /// current node.
     bool fill();
 
+    /// The next time it is shown, the dialog goes on to the advanced properties at once.
+    void openAdvancedAtStart();
+
     bool bFontSet = false;  ///< the menu has a font of its own
 
   private:

@@ -2,6 +2,8 @@
 
 #include <QFocusEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
+#include <utility>
 
 #include "dialogs/single_line.h"
 #include "model/text_rules.h"
@@ -33,8 +35,22 @@ PropertyEdit::PropertyEdit(const QString& name, QWidget* parent) : QLineEdit(par
 void PropertyEdit::setCheck(TextCheck check, CheckedWhen when, MessageBox& messages) {
     m_check = std::move(check);
     m_messages = &messages;
-    connect(this, when == CheckedWhen::Left ? &PropertyEdit::left : &PropertyEdit::edited, this,
-            &PropertyEdit::check);
+    if (when == CheckedWhen::Left) {
+        connect(this, &PropertyEdit::left, this, &PropertyEdit::check);
+        return;
+    }
+    connect(
+        this, &PropertyEdit::edited, this,
+        [this] {
+            // Only undo leaves something to redo. What it brings back was refused before.
+            m_isBroughtBack = isRedoAvailable() && text() == m_refusedText;
+            if (!m_isBroughtBack)
+                this->check();
+        });
+    connect(this, &PropertyEdit::left, this, [this] {
+        if (std::exchange(m_isBroughtBack, false))
+            this->check();
+    });
 }
 
 void PropertyEdit::showValue(const std::string& value) {
@@ -44,6 +60,9 @@ void PropertyEdit::showValue(const std::string& value) {
     setCursorPosition(0);
     m_shownText = text();
     m_shownValue = value;
+    m_refusedText.clear();
+    m_checkedText.clear();
+    m_isBroughtBack = false;
 }
 
 std::string PropertyEdit::value() const {
@@ -53,22 +72,40 @@ std::string PropertyEdit::value() const {
 // A text that is set is none that was typed.
 void PropertyEdit::forgetTyping() {
     const int cursor = cursorPosition();
+    const QString current = text();
+    const bool isCheckedText = !m_refusedText.isEmpty() && current == m_checkedText;
     m_isShowing = true;
-    setText(text());
+    setText(isCheckedText ? m_refusedText : current);
+    if (isCheckedText)
+        replaceText(current);
     m_isShowing = false;
     setCursorPosition(cursor);
 }
 
 void PropertyEdit::check() {
+    if (m_isChecking)
+        return;
     const CheckedText checked = m_check(text().toStdString());
     if (!checked.message.empty())
         m_messages->notice(checked.message);
     const QString replaced = QString::fromStdString(checked.text);
-    if (replaced == text())
+    if (replaced == text()) {
+        if (replaced != m_checkedText)
+            m_refusedText.clear();
         return;
+    }
     const std::string before = text().left(cursorPosition()).toStdString();
-    setText(replaced);
+    m_refusedText = text();
+    m_checkedText = replaced;
+    const QScopedValueRollback checking(m_isChecking, true);
+    replaceText(replaced);
     setCursorPosition(static_cast<int>(QString::fromStdString(m_check(before).text).size()));
+}
+
+/// As typing over the whole text does, so that undo brings it back.
+void PropertyEdit::replaceText(const QString& replaced) {
+    selectAll();
+    insert(replaced);
 }
 
 void PropertyEdit::focusOutEvent(QFocusEvent* event) {

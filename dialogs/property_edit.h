@@ -44,10 +44,11 @@ class PropertyEdit : public QLineEdit {
     /// The text (UTF-8). While the box still shows what `showValue` put there, this is that very
     /// value, so that no text a box cannot hold (a line break) is damaged by being looked at.
     std::string value() const;
-    /// The box's own undo has nothing left to take back.
+    /// The box's own undo has nothing left to take back but the check's work.
     void forgetTyping();
     /// Runs the check: shows its message, and replaces the text by what the check makes of it; the
-    /// caret stays between the same characters.
+    /// caret stays between the same characters. The box's own undo brings the text back, which is
+    /// checked again when it has been changed or the box is left.
     void check();
 
   signals:
@@ -61,11 +62,18 @@ class PropertyEdit : public QLineEdit {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    void replaceText(const QString& replaced);
+
     TextCheck m_check;
     MessageBox* m_messages = nullptr;
     QString m_shownText;       ///< what the box made of `m_shownValue`
     std::string m_shownValue;  ///< as `showValue` was told
     bool m_isShowing = false;
+    bool m_isChecking = false;
+    bool m_isBroughtBack = false;  ///< by undo, after a check had refused it
+    /// What the check has last replaced, and by what; both empty: nothing that is still shown.
+    QString m_refusedText;
+    QString m_checkedText;
 };
 
 /// A text box and its label.

@@ -1,13 +1,17 @@
 #include "dialogs/property_form.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <utility>
+#include <variant>
 
 #include "dialogs/color_swatch.h"
 #include "dialogs/dialog_button.h"
+#include "model/menu_properties.h"
 
 namespace zev {
 
@@ -107,6 +111,25 @@ MenuProp PropertyForm::shown() const {
     MenuProp prop;
     storeBoxes(prop);
     return prop;
+}
+
+bool PropertyForm::focusBoxAtStart(std::string_view property) {
+    const MenuPropertyRow* const row = findMenuProperty(property);
+    const auto* text = row ? std::get_if<TextMember>(&row->member) : nullptr;
+    for (const Box& box : m_boxes)
+        if (text && box.member == text->member)
+            m_startBox = box.edit;
+    return m_startBox != nullptr;
+}
+
+bool PropertyForm::event(QEvent* event) {
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        if (PropertyEdit* box = std::exchange(m_startBox, nullptr)) {
+            box->setFocus();
+            box->selectAll();
+        }
+    return isHandled;
 }
 
 PropertyEdit* PropertyForm::firstBox() const {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dialogs/color_field.h"
@@ -34,6 +35,11 @@ struct PropertyBox {
 /// A form is made once and only hidden; its controls keep what they hold until it is filled again.
 class PropertyForm : public QDialog {
     Q_OBJECT
+  public:
+    /// The next time it is shown, the dialog begins with the box of this property, by its name in
+    /// the script. False when it has none; it begins as usual then.
+    bool focusBoxAtStart(std::string_view property);
+
   protected:
     // Columns of a frame: what a row stands for, its box, a colour's swatch, a button.
     static constexpr int kLabelColumn = 0;
@@ -75,6 +81,9 @@ class PropertyForm : public QDialog {
 
     virtual void cmdOK_Click() = 0;
 
+    /// A window that is shown becomes active at last, whatever had the focus in it before.
+    bool event(QEvent* event) override;
+
     DialogHost m_host;
 
   private:
@@ -83,6 +92,7 @@ class PropertyForm : public QDialog {
         std::string MenuProp::*member;
     };
     std::vector<Box> m_boxes;
+    PropertyEdit* m_startBox = nullptr;
 };
 
 }  // namespace zev

@@ -45,6 +45,8 @@ std::string reasonText(Reason reason, const std::string& value) {
             return "is empty";
         case Reason::SameCaption:
             return "an item before it in the menu has the same:" + quoted;
+        case Reason::NoSide:
+            return "none of right, bottom, left and top:" + quoted;
     }
     return {};
 }

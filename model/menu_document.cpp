@@ -233,11 +233,20 @@ void MenuDocument::NewDocument() {
 
 void MenuDocument::open(MenuContent content, std::string SaveFile, std::string SavePath) {
     change(SetFile{std::move(SaveFile), std::move(SavePath)});
-    auto opened = std::make_unique<MenuContent>(std::move(content));
-    const MenuNode* const first = opened->tree.firstNode();
     markSaved();
     // Last, so that whoever is told of it finds all else as it stays.
-    change(ReplaceContent{std::move(opened), {first, first}});
+    changeContent(std::move(content));
+}
+
+void MenuDocument::changeContent(MenuContent content) {
+    auto shown = std::make_unique<MenuContent>(std::move(content));
+    const MenuNode* const first = shown->tree.firstNode();
+    change(ReplaceContent{std::move(shown), {first, first}});
+}
+
+void MenuDocument::replaceContent(MenuContent content) {
+    markModified();
+    changeContent(std::move(content));
 }
 
 void MenuDocument::open(MenuContent content) {

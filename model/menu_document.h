@@ -80,6 +80,9 @@ class MenuDocument {
     void open(MenuContent content, std::string SaveFile, std::string SavePath);
     /// The same for content that belongs to no definition file yet.
     void open(MenuContent content);
+    /// Shows `content` in place of the whole menu, its first node current and selected; the file
+    /// stays, and `bModified` is set.
+    void replaceContent(MenuContent content);
     /// The document belongs to another file and folder from now on, and is not taken back from
     /// there.
     void setFile(std::string SaveFile, std::string SavePath);
@@ -103,6 +106,7 @@ class MenuDocument {
 
   private:
     bool isAlready(const Change& change) const;
+    void changeContent(MenuContent content);
     Change perform(InsertBranch&& change);
     Change perform(RemoveBranch&& change);
     Change perform(MoveBranch&& change);

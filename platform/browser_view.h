@@ -1,9 +1,17 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace zev {
+
+/// An error in a script that a page ran.
+struct ScriptError {
+    std::size_t line = 0;  ///< of the script, counted from 1
+    std::string message;   ///< the browser's own words
+};
 
 /// The embedded web browser of the Preview tab. It starts with the first page it is asked to load.
 class BrowserView {
@@ -14,6 +22,9 @@ class BrowserView {
     virtual void load(const std::string& path, const std::vector<std::string>& scripts) = 0;
     /// Another menu is at hand: what the person allowed the last one to load is forgotten.
     virtual void forgetAllowedPictures() = 0;
+
+    /// Called for the first error in one of the page's scripts, if there is any.
+    std::function<void(const ScriptError& error)> scriptFailed = [](const ScriptError&) {};
 };
 
 }  // namespace zev

@@ -36,8 +36,10 @@ class MenuScriptReader {
     void readLine(std::string_view line) {
         m_counts.textLines += line.empty() ? 0U : 1U;
         // A large file of other lines is passed quickly.
-        if (!line.starts_with(m_dialect.start))
+        if (!line.starts_with(m_dialect.start)) {
+            m_counts.foreignLines += line.empty() ? 0U : 1U;
             return;
+        }
         bool isUnderstood = false;
         m_isWarned = false;
         if (matchesPattern(line, m_dialect.defaultLine))
@@ -81,18 +83,20 @@ class MenuScriptReader {
 
     bool readDefault(std::string_view line) {
         const std::string_view name = GetPropName(line);
-        note({m_lines.number(), nullptr, name, true});
-        return SetProperty(m_content.DefaultProp, name, GetPropValue(line));
+        const std::string_view value = GetPropValue(line);
+        note({m_lines.number(), nullptr, name, value, true});
+        return SetProperty(m_content.DefaultProp, name, value);
     }
 
     bool readProperty(std::string_view line) {
         const std::string_view name = GetPropName(line);
+        const std::string_view value = GetPropValue(line);
         if (isTopLevel() || m_menuNode)
-            note({m_lines.number(), m_menuNode, name});
+            note({m_lines.number(), m_menuNode, name, value});
         if (isTopLevel())
-            return SetProperty(m_content.RootMenuProp, name, GetPropValue(line));
+            return SetProperty(m_content.RootMenuProp, name, value);
         if (m_menuNode)
-            return SetProperty(editMenuOf(*m_menuNode), name, GetPropValue(line));
+            return SetProperty(editMenuOf(*m_menuNode), name, value);
         warn(Reason::UnknownMenu);
         return findMenuProperty(name) != nullptr;
     }

@@ -41,17 +41,19 @@ struct LineEffect {
     std::size_t line = 0;            ///< counted from 1
     const MenuNode* item = nullptr;  ///< null: the top-level menu, or the menu-wide defaults
     std::string_view property = {};  ///< its name in the script; empty: the item itself
+    std::string_view value = {};     ///< of a property, as the line has it, without quotes
     bool isDefault = false;          ///< one of the menu-wide defaults
 };
 
-/// Told of each line that sets something, in their order. The property's name is part of the line.
+/// Told of each line that sets something, in their order. Name and value are parts of the line.
 using EffectSink = std::function<void(const LineEffect& effect)>;
 
 /// What a script had to give.
 struct MenuScriptCounts {
     std::size_t itemsLeftOut = 0;     ///< that came when the menu held `kMaxItemCounter`
     std::size_t textLines = 0;        ///< lines that are not empty
-    std::size_t understoodLines = 0;  ///< of these, the ones that were applied without a warning
+    std::size_t foreignLines = 0;     ///< of these, the ones that begin as no line of a menu does
+    std::size_t understoodLines = 0;  ///< and the ones that were applied without a warning
 };
 
 /// Replays a menu script into `content`, which must be that of a new menu. `note` may be empty.

@@ -41,6 +41,7 @@ ReadResult ReadScript(std::string bytes, MenuContent& content, const EffectSink&
         lines, kDefinition, content, [&](const LineWarning& warning) { result.count(warning); },
         note);
     result.itemsLeftOut = counts.itemsLeftOut;
+    result.foreignLineCount = counts.foreignLines;
     result.hasNoMenu = counts.textLines > 0 && counts.understoodLines == 0;
     return result;
 }

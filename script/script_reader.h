@@ -26,6 +26,8 @@ struct ReadResult {
     /// nor a property of `kMenuProperties` nor an item with exactly its arguments
     /// (`NotUnderstood`).
     std::size_t lostLineCount = 0;
+    /// Lines with text that begin as no line of a menu does: comments, other scripts, other texts.
+    std::size_t foreignLineCount = 0;
     /// Items, each of them an error too, that came when the menu held `kMaxItemCounter`: it lacks
     /// them, and written over its file it would lose them.
     std::size_t itemsLeftOut = 0;
@@ -33,6 +35,9 @@ struct ReadResult {
     bool hasNoMenu = false;
     /// The first `kMaxKeptWarnings` of the errors and lost lines, in the order of the lines.
     std::vector<LineWarning> warnings;
+
+    /// True when the file, written again, would lack lines that it has.
+    bool losesLines() const { return errorCount + lostLineCount + foreignLineCount > 0; }
 
     /// Counts a warning, and keeps it while there are few.
     void count(const LineWarning& warning);

@@ -128,8 +128,12 @@ bool PageWalls::isBesidePage(const QUrl& url) const {
     return localPath(url).startsWith(localPath(m_page.adjusted(QUrl::RemoveFilename)));
 }
 
+bool PageWalls::isScript(const QUrl& url) const {
+    return m_scripts.contains(localPath(url));
+}
+
 bool PageWalls::isOwnFile(const QUrl& url) const {
-    return url.host() == kPageHost && (isPage(url) || m_scripts.contains(localPath(url)));
+    return url.host() == kPageHost && (isPage(url) || isScript(url));
 }
 
 QUrl PageWalls::pictureUrl(const QString& path) const {
@@ -166,7 +170,7 @@ bool PageWalls::isAllowed(const QWebEngineUrlRequestInfo& request) const {
         case QWebEngineUrlRequestInfo::ResourceTypeMainFrame:
             return isPage(url);
         case QWebEngineUrlRequestInfo::ResourceTypeScript:
-            return m_scripts.contains(localPath(url));
+            return isScript(url);
         case QWebEngineUrlRequestInfo::ResourceTypeStylesheet:
             return m_owner.localLinks == WebView::LocalLinks::Followed && isBesidePage(url);
         case QWebEngineUrlRequestInfo::ResourceTypeImage:

@@ -46,6 +46,8 @@ class PageWalls : public QWebEngineUrlRequestInterceptor {
     /// Tells the owner where a picture that is not loaded lies, if that is on the network.
     void refusePicture(const QUrl& url);
 
+    /// True for the scripts that the page may run.
+    bool isScript(const QUrl& url) const;
     /// True for the page and its scripts under their own address.
     bool isOwnFile(const QUrl& url) const;
     QUrl pictureUrl(const QString& path) const;

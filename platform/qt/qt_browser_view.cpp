@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "platform/qt/web_view.h"
 
@@ -67,6 +68,7 @@ void QtBrowserView::reload() {
     m_note->hide();
     m_pictures->hide();
     m_refusedSites.clear();
+    m_hasFailedScript = false;
     m_webView->load(m_path, m_scripts);
 }
 
@@ -85,6 +87,13 @@ bool QtBrowserView::startBrowser() {
         showNote("The preview does not follow links. This one leads to " + address);
     };
     m_webView->messageShown = [this](const QString& text) { showNote("The page says: " + text); };
+    m_webView->scriptFailed = [this](int line, const QString& message) {
+        // What fails after it fails because of it.
+        if (std::exchange(m_hasFailedScript, true) || line < 1)
+            return;
+        scriptFailed({static_cast<std::size_t>(line),
+                      message.simplified().left(kMaxNoteLength).toStdString()});
+    };
     m_webView->pictureRefused = [this](const QString& site) { offerPictures(site); };
     m_webView->loaded = [this](bool isOk) { emit loaded(isOk); };
     m_webView->stopped = [this](const QString& reason) {

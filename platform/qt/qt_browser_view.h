@@ -44,6 +44,7 @@ class QtBrowserView : public QWidget, public BrowserView {
     QLabel* m_picturesNote;
     QString m_path;
     QStringList m_scripts;
+    bool m_hasFailedScript = false;
     QStringList m_refusedSites;  ///< those that the line names
 };
 

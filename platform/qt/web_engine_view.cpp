@@ -142,6 +142,17 @@ bool WebEnginePage::javaScriptPrompt(const QUrl&, const QString& text, const QSt
     return false;
 }
 
+// The engine's own channel: the page needs no way to the program for it. What a page writes to its
+// console by itself has no such beginning, or pretends to, and is a text like any other.
+void WebEnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level,
+                                             const QString& message, int line,
+                                             const QString& source) {
+    static const QString kUncaught = "Uncaught ";
+    if (level == ErrorMessageLevel && message.startsWith(kUncaught) &&
+        m_walls.isScript(QUrl(source)))
+        m_owner.scriptFailed(line, message.mid(kUncaught.size()));
+}
+
 QStringList WebEnginePage::chooseFiles(FileSelectionMode, const QStringList&, const QStringList&) {
     return {};
 }

@@ -24,6 +24,8 @@ class WebEnginePage : public QWebEnginePage {
     bool javaScriptConfirm(const QUrl& origin, const QString& text) override;
     bool javaScriptPrompt(const QUrl& origin, const QString& text, const QString& proposal,
                           QString* answer) override;
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString& message,
+                                  int line, const QString& source) override;
     QStringList chooseFiles(FileSelectionMode mode, const QStringList& oldFiles,
                             const QStringList& types) override;
 

@@ -33,6 +33,8 @@ class WebView : public QWidget {
     std::function<void(const QString& site)> pictureRefused = [](const QString&) {};
     /// Called with the text of a message that the page wants to show. It is not shown otherwise.
     std::function<void(const QString& text)> messageShown = [](const QString&) {};
+    /// Called for each error that ends a script of the page's own list; the line counts from 1.
+    std::function<void(int line, const QString& message)> scriptFailed = [](int, const QString&) {};
     /// Called when a page has been loaded, or could not be. It may not be painted yet.
     std::function<void(bool isOk)> loaded = [](bool) {};
     /// Called when a page was stopped, because it hung or used too much memory, with a sentence

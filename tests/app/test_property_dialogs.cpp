@@ -94,6 +94,51 @@ class test_property_dialogs : public QObject {
                                });
     }
 
+    void aRefusedNumberCanBeHadBackAndIsNotTakenUnchecked() {
+        WindowDesk desk;
+        const char* const refusal = "Please enter a value between 1 and 100";
+        inDefaults(desk, [&](frmDefaultProp& form) {
+            QLineEdit& box = fieldOf(form, "txtColumns");
+            desk.messages.expect(refusal);
+            typeInto(form, "txtColumns", "500");
+            QCOMPARE(box.text(), "");
+            box.setFocus();
+            QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(box.text(), "500");
+            QTest::keyClick(&box, Qt::Key_End);
+            QTest::keyClick(&box, Qt::Key_Backspace);
+            QCOMPARE(box.text(), "50");
+            press(form, "cmdOK");
+        });
+        QCOMPARE(desk.document().DefaultProp().Columns, std::string("50"));
+        inDefaults(desk, [&](frmDefaultProp& form) {
+            QLineEdit& box = fieldOf(form, "txtColumns");
+            desk.messages.expect(refusal);
+            typeInto(form, "txtColumns", "500");
+            box.setFocus();
+            QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+            desk.messages.expect(refusal);
+            press(form, "cmdOK");
+        });
+        QCOMPARE(desk.document().DefaultProp().Columns, std::string(""));
+    }
+
+    void theTextThatAnAdvancedBoxCleanedCanBeHadBack() {
+        WindowDesk desk;
+        desk.add("Tea");
+        inAdvanced(desk, "cmdOK", [&](frmAdvProp& form) {
+            QLineEdit& box = fieldOf(form, "txtHTMLBefore");
+            typeInto(form, "txtHTMLBefore", "it's");
+            fieldOf(form, "txtHTMLAfter").setFocus();
+            QCOMPARE(box.text(), "it\\'s");
+            box.setFocus();
+            QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(box.text(), "it's");
+            press(form, "cmdOK");
+        });
+        QCOMPARE(desk.document().RootMenuProp().HTMLBefore, std::string("it\\'s"));
+    }
+
     void theWindowsShortcutsDoNothingInADialog() {
         WindowDesk desk;
         desk.add("a");

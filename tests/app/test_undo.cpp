@@ -256,6 +256,48 @@ class test_undo : public QObject {
         QCOMPARE(desk.shownTree(), "");
     }
 
+    void whatAFieldsRuleRewroteCanBeHadBackInTheField_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("cleaned");
+        QTest::newRow("caption") << "txtCaption"
+                                 << "It's"
+                                 << "It\\'s";
+        QTest::newRow("URL") << "txtURL"
+                             << "say(\"hi\")"
+                             << "say(hi)";
+        QTest::newRow("all of it") << "txtTarget"
+                                   << "'\"'"
+                                   << "";
+    }
+    void whatAFieldsRuleRewroteCanBeHadBackInTheField() {
+        QFETCH(QString, name);
+        QFETCH(QString, typed);
+        QFETCH(QString, cleaned);
+        WindowDesk desk;
+        const MenuNode* item = desk.add("Tea");
+        desk.click(item);
+        QLineEdit& field = desk.field(name);
+        const QString before = field.text();
+        desk.type(name, typed);
+        desk.click(item);
+        QCOMPARE(field.text(), cleaned);
+        const QString step = undoText(desk);
+
+        QTest::mouseClick(&field, Qt::LeftButton);
+        QCOMPARE(undoText(desk), "Undo Typing");
+        QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field.text(), typed);
+        // Nothing else of the field's is left: what follows is the document's.
+        QVERIFY(!field.isUndoAvailable());
+        desk.click(item);
+        QCOMPARE(field.text(), cleaned);
+        QCOMPARE(undoText(desk), step);
+        desk.choose("mnuEditUndo");
+        QCOMPARE(field.text(), before);
+        QVERIFY2(!field.isUndoAvailable(), "what undo filled in was never typed");
+    }
+
     void aDialogsOkIsOneStep() {
         WindowDesk desk;
         desk.choose("mnuEditAddMenuItem");

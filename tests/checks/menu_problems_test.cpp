@@ -94,6 +94,63 @@ TEST(FindBrokenValues, HoldsNumbersToWhatTheLibraryTakes) {
     }
 }
 
+TEST(FindBrokenValues, LeavesAloneWhatTheItemsTypeDoesNotWrite) {
+    MenuContent content;
+    ItemProp item = textItem("Tea");
+    item.ImageOut = "it's.gif";
+    content.tree.append(nullptr, "1", "", item);
+    EXPECT_EQ(textsOf(findBrokenValues(content)), "");
+    item.IsRollover = true;
+    item.Caption = "It's";
+    content.tree.append(nullptr, "2", "", item);
+    EXPECT_EQ(textsOf(findBrokenValues(content)),
+              "it's.gif: out: an apostrophe without a backslash breaks the script in "
+              "\"it's.gif\"\n");
+}
+
+TEST(MendedValue, MendsWhateverBreaksTheScript) {
+    struct Case {
+        const char* field;
+        const char* value;
+        const char* mended;
+    };
+    const Case cases[] = {
+        {"caption", "It's 'so'", "It\\'s \\'so\\'"},
+        {"caption", "It\\'s 'so", "It\\'s \\'so"},
+        {"caption", "a\\\\'b", "a\\\\\\'b"},
+        {"url", "C:\\", "C:\\\\"},
+        {"caption", "a~||~b", "a~&#124;|~b"},
+        {"divider", "~||~", "~&#124;|~"},
+        {"url", "a~||~b", "a~%7C|~b"},
+        {"target", "a~||~b", "ab"},
+        {"caption", "a\r\nb\nc\rd", "a b c d"},
+        {"caption", "'\n~||~\\", "\\' ~&#124;|~\\\\"},
+    };
+    for (const Case& c : cases) {
+        const MenuProblem problem{.field = c.field, .value = c.value};
+        const std::optional<std::string> mended = mendedValue(problem);
+        ASSERT_TRUE(mended) << c.value;
+        EXPECT_EQ(*mended, c.mended) << c.value;
+        EXPECT_FALSE(mendedValue({.field = c.field, .value = *mended})) << c.value;
+    }
+    EXPECT_FALSE(mendedValue({.field = "nbgcolor", .value = "nvay"}));
+}
+
+TEST(LineProblem, TellsPositionsThatThereAreNot) {
+    const auto textOf = [](std::string_view property, std::string_view value) {
+        const std::optional<MenuProblem> problem =
+            lineProblem({.line = 1, .property = property, .value = value});
+        return problem ? problemText(*problem) : "";
+    };
+    for (const char* value : {"right", "bottom", "left", "top", " top "})
+        EXPECT_EQ(textOf("position", value), "") << value;
+    for (const char* value : {"", "none", "Top", "middle"})
+        EXPECT_EQ(textOf("position", value),
+                  std::string("the top menu: position: none of right, bottom, left and top: \"") +
+                      value + '"');
+    EXPECT_EQ(textOf("target", "middle"), "");
+}
+
 TEST(FindBrokenValues, TellsEmptyAndRepeatedCaptions) {
     MenuContent content = menuOf("Tea", "");
     for (const char* caption : {"<b>Tea</b>", "&nbsp;", "<img src=x alt=>", "Milk"})
@@ -177,6 +234,86 @@ TEST_F(FindBrokenLinks, TellsMissingImagesAndThoseWithoutAlt) {
     EXPECT_EQ(textsOf(findBrokenLinks(content, files, {"/site"})),
               "the defaults: bgimage: there is no file \"bg.png\"\n"
               "out.png: out: there is no file \"out.png\"\n");
+}
+
+TEST_F(FindBrokenLinks, LooksIntoTheHtmlAroundItems) {
+    MenuContent content = menuOf("A", "");
+    content.DefaultProp.marker = "<img src=mark.png alt=\"\">";
+    content.RootMenuProp.Divider = "<b>|</b>";
+    MenuProp& menu = content.tree.edit(*content.tree.firstNode()).item.MenuProperty.edit();
+    menu.HTMLBefore = "<img src=\"index.html\">";
+    menu.HTMLAfter = "<img src=\\'after.png\\' alt=x>";
+    menu.Divider = "<img src=line.png alt=x>";
+    EXPECT_EQ(textsOf(findBrokenLinks(content, files, {"/site"})),
+              "the defaults: marker: there is no file \"mark.png\"\n"
+              "the menu of A: htmlAfter: there is no file \"after.png\"\n"
+              "the menu of A: htmlBefore: the image has no alt text: \"index.html\"\n"
+              "the menu of A: divider: there is no file \"line.png\"\n");
+}
+
+/// Tells what was asked of the disk.
+class WatchedFiles : public FailingFileSystem {
+  public:
+    using FailingFileSystem::FailingFileSystem;
+    bool FileExists(const std::string& path) const override {
+        asked += path + "\n";
+        return FailingFileSystem::FileExists(path);
+    }
+    FileResult<std::string> readFile(const std::string& path,
+                                     std::uint64_t maxBytes) const override {
+        read += path + "\n";
+        return FailingFileSystem::readFile(path, maxBytes);
+    }
+    mutable std::string asked;
+    mutable std::string read;
+};
+
+TEST_F(FindBrokenLinks, OfAMenuThatNobodyAskedAboutStayNearItsFolder) {
+    files.addFile("/page.html", "");
+    files.addFile("/srv/page.html", "");
+    files.addFile("/srv/site/page.html", "");
+    files.addFile("/srv/site/sub/page.html", "");
+    files.addFile("/net/host/page.html", "");
+    WatchedFiles watched(files);
+    MenuContent content;
+    for (const char* url :
+         {"page.html#a", "sub/../page.html#a", "../page.html#a", "../../page.html#a",
+          "../../net/host/page.html#a", "x/../../../net/host/page.html#a", "sub/page.html#a"})
+        content.tree.append(nullptr, url, url, textItem(url, url));
+    const std::string problems =
+        textsOf(findBrokenLinks(content, watched, {.definition = "/srv/site", .isUnasked = true}));
+    EXPECT_EQ(watched.asked,
+              "/srv/site/page.html\n"
+              "/srv/site/sub/../page.html\n"
+              "/srv/site/../page.html\n"
+              "/srv/site/sub/page.html\n");
+    EXPECT_EQ(watched.read,
+              "/srv/site/page.html\n"
+              "/srv/site/sub/../page.html\n"
+              "/srv/site/sub/page.html\n");
+}
+
+TEST_F(FindBrokenLinks, OfAMenuThatNobodyAskedAboutReadLittle) {
+    files.addFile("/srv/site/large.html", std::string(5 << 20, ' '));
+    for (const char* name : {"a", "b", "c", "d", "e"})
+        files.addFile("/srv/site/" + std::string(name) + ".html", std::string(4 << 20, ' '));
+    MenuContent content;
+    for (const char* url : {"large.html#x", "large.html#y", "a.html#x", "b.html#x", "c.html#x",
+                            "d.html#x", "e.html#x"})
+        content.tree.append(nullptr, url, url, textItem(url, url));
+    const auto countOf = [&](bool isUnasked) {
+        WatchedFiles watched(files);
+        const std::size_t count =
+            findBrokenLinks(content, watched,
+                            {.definition = "/srv/site", .root = "", .isUnasked = isUnasked})
+                .size();
+        // Each page once.
+        EXPECT_EQ(watched.read.size(), std::string("/srv/site/large.html\n").size() +
+                                           5 * std::string("/srv/site/a.html\n").size());
+        return count;
+    };
+    EXPECT_EQ(countOf(false), 7U);
+    EXPECT_EQ(countOf(true), 3U);
 }
 
 }  // namespace

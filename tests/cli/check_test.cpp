@@ -78,6 +78,27 @@ TEST_F(CheckTest, LooksForFilesBesideTheDefinition) {
               "js/menu.js:4: C: url: there is no file \"tea.html\"\n");
 }
 
+TEST_F(CheckTest, LooksIntoTheHtmlAroundItemsAndAtPositions) {
+    makeFile(folder / "menu.js",
+             "zev_state.position = 'middle';\n"
+             "zev_state.marker = '<img src=mark.png alt=x>';\n"
+             "zevmenu = new ZEVMenu('0');\n"
+             "zevmenu.position = 'top';\n"
+             "zevmenu.AddItem('A', '', '');\n"
+             "zevmenu = new ZEVMenu('1');\n"
+             "zevmenu.htmlBefore = '<img src=menu.js>';\n"
+             "zevmenu.position = 'Top';\n"
+             "zevmenu.divider = '<img src=line.png alt=x>';\n"
+             "zevmenu.AddItem('B', '', '');\n");
+    EXPECT_EQ(check({"menu.js"}).output,
+              "menu.js:1: the defaults: position: none of right, bottom, left and top: "
+              "\"middle\"\n"
+              "menu.js:2: the defaults: marker: there is no file \"mark.png\"\n"
+              "menu.js:7: the menu of A: htmlBefore: the image has no alt text: \"menu.js\"\n"
+              "menu.js:8: the menu of A: position: none of right, bottom, left and top: \"Top\"\n"
+              "menu.js:9: the menu of A: divider: there is no file \"line.png\"\n");
+}
+
 TEST_F(CheckTest, ChecksTheOthersWhenOneCannotBeRead) {
     makeFile(folder / "page.html", "<html></html>\n");
     const ProgramResult result = check({"missing.js", "page.html"});

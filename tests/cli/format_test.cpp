@@ -206,6 +206,7 @@ TEST_F(FormatTest, DoesNotWriteAMenuThatLostItemsOntoItsInput) {
     for (const std::string output : {"in.js", "./in.js", "link.js", "hard.js"}) {
         for (std::vector<std::string> arguments :
              {std::vector<std::string>{"format"},
+              {"format", "--force"},
               {"rebase", "--from", "/site", "--to", "/site/sub"}}) {
             arguments.insert(arguments.end(), {"in.js", "-o", output});
             const ProgramResult result = run(arguments);

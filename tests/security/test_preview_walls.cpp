@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
+#include <QListWidget>
 #include <QNetworkInterface>
 #include <QNetworkProxy>
 #include <QPushButton>
@@ -140,6 +141,8 @@ class test_preview_walls : public QObject {
     void aPageThatHangsIsStopped();
     void aPageThatEatsMemoryIsStopped();
     void noPageKeepsTheNextOneAway();
+    void anErrorOfTheScriptStandsInThePageAndInTheNotes();
+    void whatAPageWritesToItsConsoleIsNoErrorOfTheScript();
 
   private:
     void openMenu(const QString& lines);
@@ -149,6 +152,18 @@ class test_preview_walls : public QObject {
     QJsonObject objectInPage(const QString& name) {
         const QByteArray text = inPage("JSON.stringify(window." + name + ")").toByteArray();
         return QJsonDocument::fromJson(text).object();
+    }
+    /// All rows of the list of notes, one a line.
+    QString notes() {
+        QCoreApplication::processEvents();
+        auto* list = m_window->findChild<QListWidget*>("NotesList");
+        for (auto* button : m_window->findChild<QWidget*>("Notes")->findChildren<QPushButton*>())
+            if (list->count() == 0 && button->text() == "Show Notes")
+                button->click();
+        QString rows;
+        for (int row = 0; row < list->count(); ++row)
+            rows += list->item(row)->text() + "\n";
+        return rows;
     }
     QLabel& note(const char* name = "lblPreviewNote") {
         return *m_browser->findChild<QLabel*>(name);
@@ -458,6 +473,34 @@ void test_preview_walls::noPageKeepsTheNextOneAway() {
         openPreview("zevmenu = new ZEVMenu('0');\r\n" + itemLine("Next", ""));
         QVERIFY(inPage("document.body.innerText").toString().contains("Menu preview"));
     }
+}
+
+void test_preview_walls::anErrorOfTheScriptStandsInThePageAndInTheNotes() {
+    openPreview("zevmenu = new ZEVMenu('0');\r\n" + itemLine("Tea", "") +
+                "zevmenu.nbgcolor = 'navy'';\r\n");
+    const QString shown =
+        "[...document.querySelectorAll('#problem, #empty')].filter("
+        "note => !note.hidden).map(note => note.textContent).join('|')";
+    const QString problem = inPage(shown).toString();
+    QVERIFY2(problem.startsWith("The menu's script has an error in line 14: SyntaxError"),
+             qPrintable(problem));
+    const QString note = "The menu's script has an error in line 14 (the top menu): \"SyntaxError";
+    QTRY_VERIFY2(notes().contains(note), qPrintable(notes()));
+
+    // Mended and shown again, neither says anything of it any more.
+    openPreview("zevmenu = new ZEVMenu('0');\r\n" + itemLine("Tea", ""));
+    QCOMPARE(inPage(shown).toString(), QString());
+    QTRY_VERIFY2(!notes().contains(note), qPrintable(notes()));
+}
+
+void test_preview_walls::whatAPageWritesToItsConsoleIsNoErrorOfTheScript() {
+    openPreview("zevmenu = new ZEVMenu('0');\r\n" +
+                itemLine("<img src=\"data:,\" onerror=\"" +
+                             asHandler("console.error('Uncaught Lie'); window.done = true;") +
+                             "\">",
+                         ""));
+    QTRY_COMPARE_WITH_TIMEOUT(inPage("window.done").toBool(), true, kPageTimeMs);
+    QVERIFY2(!notes().contains("Lie"), qPrintable(notes()));
 }
 
 QTEST_MAIN(test_preview_walls)

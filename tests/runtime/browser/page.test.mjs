@@ -363,6 +363,21 @@ test('the preview page says when the menu is empty', async () => {
     assert.equal(await showPreview('zev_state.columns = 1;\r\n\r\n\r\n'), 'This menu has no items yet.');
 });
 
+// What the page says of a broken definition; it never calls the menu empty then.
+async function brokenPreview(definition) {
+    assert.equal(await showPreview(definition), false);
+    return page.$eval('#problem', note => note.hidden ? '' : note.textContent);
+}
+
+test('the preview page tells an error of the script and its line', async () => {
+    assert.equal(await brokenPreview(nested), '');
+    const menu = "zevmenu = new ZEVMenu('0');\r\n";
+    assert.match(await brokenPreview(menu + "zevmenu.AddItem('It's', '', '');\r\n"),
+        /^The menu's script has an error in line 2: SyntaxError/);
+    assert.match(await brokenPreview(menu + "zevmenu.AddItem('A', '', '');\r\nzevmenu.columns = many;\r\n"),
+        /^The menu's script has an error in line 3: ReferenceError/);
+});
+
 test('the preview page is not wider than a phone', async () => {
     await showPreview(nested, 320);
     const [width, room] = await page.evaluate(() => [document.scrollingElement.scrollWidth,
