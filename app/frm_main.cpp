@@ -287,13 +287,22 @@ void frmMain::mnuEditMoveDown_Click() {
     Button_Update();
 }
 
+/// A folder for what the program remembers of one kind; empty when it remembers nothing.
+std::string frmMain::inUserFolder(const char* name) const {
+    return m_services.userFolder.empty() ? "" : Path(m_services.userFolder).child(name);
+}
+
 void frmMain::mnuToolsIntegrate_Click() {
-    frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs},
+    frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs,
+                          inUserFolder("wizard")},
                          mountedDrives(), this);
     if (!m_document.SaveFile().empty())
         wizard.setDefinition(m_document.SaveFile());
     if (m_document.CurNode() != nullptr)
         wizard.showSubmenus(ListSubmenus(m_document.content()));
+    if (m_document.bModified())
+        wizard.sayUnsaved();
+    wizard.recallEntries();
     wizard.exec();
 }
 

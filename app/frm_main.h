@@ -104,6 +104,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void leaveField();
     void edit(EditResult (*command)(MenuDocument&));
     void followChange();
+    std::string inUserFolder(const char* name) const;
     void openAddress(const std::string& address);
 
     void inserted() override { followChange(); }

@@ -17,6 +17,7 @@ struct PopupPlacement {
     bool isAtMouse = true;
     std::string x;  ///< with `y` the position on the page in pixels, when not at the mouse;
     std::string y;  ///< both go into the code as they are
+    bool operator==(const PopupPlacement&) const = default;
 };
 
 /// Reference to the definition file. `definitionURL` goes into the code as it is, but for double

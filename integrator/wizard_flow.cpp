@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "integrator/page_groups.h"
 #include "script/relative_url.h"
 #include "text/path.h"
 #include "text/pattern.h"
@@ -10,7 +11,6 @@ namespace zev {
 
 namespace {
 
-constexpr std::int16_t kPagesStep = 1;
 constexpr std::int16_t kPathsStep = 2;
 constexpr std::int16_t kMenuStep = 3;
 constexpr std::int16_t kReportStep = 4;
@@ -74,6 +74,26 @@ bool WizardFlow::choosePages(const ChosenFiles& files) {
         return false;
     InputFiles = files;
     return true;
+}
+
+bool WizardFlow::addPages(const std::vector<std::string>& paths) {
+    std::vector<std::string> all = pagePaths(InputFiles);
+    all.insert(all.end(), paths.begin(), paths.end());
+    return setPages(all);
+}
+
+bool WizardFlow::setPages(const std::vector<std::string>& paths) {
+    ChosenFiles pages = chosenPages(paths);
+    if (pages == InputFiles)
+        return false;
+    InputFiles = std::move(pages);
+    m_scriptCount = {};
+    return true;
+}
+
+std::string WizardFlow::libraryBeside(const std::string& definition) const {
+    const std::string folder = SplitPath(definition).folder;
+    return m_files.FileExists(pagePath(folder, "zevmenu_loader.js")) ? folder : std::string();
 }
 
 void WizardFlow::countScripts(const ShouldGoOn& shouldGoOn) {

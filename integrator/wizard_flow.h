@@ -26,6 +26,7 @@ struct WizardAnswers {
     PopupPlacement placement;
 
     bool needsPosition() const { return isPopup && !placement.isAtMouse; }
+    bool operator==(const WizardAnswers&) const = default;
 };
 
 /// Why the wizard does not do what the person wants.
@@ -66,6 +67,7 @@ struct PathHint {
 /// paths, kind of menu, report, code to paste.
 class WizardFlow {
   public:
+    static constexpr std::int16_t kPagesStep = 1;
     static constexpr std::int16_t kLastStep = 5;
 
     /// `files` is not owned and must outlive this object.
@@ -102,6 +104,13 @@ class WizardFlow {
     void setSubmenus(std::vector<Submenu> submenus) { m_submenus = std::move(submenus); }
     /// No names: the person cancelled, and everything stays. True when there are other pages now.
     bool choosePages(const ChosenFiles& files);
+    /// Pages of any folders, full paths, behind those that are chosen. False when nothing changed.
+    bool addPages(const std::vector<std::string>& paths);
+    /// Pages of any folders, full paths, in place of those that are chosen; there may be none.
+    /// False when nothing changed.
+    bool setPages(const std::vector<std::string>& paths);
+    /// Where the definition's folder holds the library too: that folder. Empty elsewhere.
+    std::string libraryBeside(const std::string& definition) const;
     /// Counts in the chosen pages. One that cannot be read has none; the report will say so.
     void countScripts(const ShouldGoOn& shouldGoOn);
     NextOutcome NextStep(const WizardAnswers& answers);

@@ -5,11 +5,11 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -19,6 +19,7 @@
 
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
+#include "integrator/wizard/extra_row.h"
 #include "messages/integration_messages.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
@@ -27,16 +28,9 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kPageFilter =
-    "Web Pages (*.htm;*.html;*.shtml;*.stm)|*.htm;*.html;*.shtml;*.stm|"
-    "Preprocessed HTML(*.asp;*.aspx;*.cfm;*.php)|*.asp;*.aspx;*.cfm;*.php|All Files (*.*)|*.*";
 constexpr const char* kDefinitionFilter = "JavaScript files (*.js)|*.js|All Files (*.*)|*.*";
 constexpr const char* kReportFilter = "Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*";
 
-constexpr int kPopupKind = 1;  // index in `cboIntegration`
-
-/// A window that stands still for less than this needs no explanation.
-constexpr int kMomentMs = 500;
 
 QString hintText(const PathHint& hint) {
     const QString url = QString::fromStdString(hint.url);
@@ -84,7 +78,10 @@ void setUsable(QLineEdit& field, bool isUsable) {
 
 frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringList& drives,
                              QWidget* parent)
-    : QDialog(parent), m_services(services), m_flow(services.files) {
+    : QDialog(parent),
+      m_services(services),
+      m_flow(services.files),
+      m_memory(services.files, services.memoryFolder) {
     setObjectName("frmIntegrator");
     setWindowTitle(tr("ZEVMenu Integrator"));
     m_frames = new QStackedWidget(this);
@@ -98,6 +95,7 @@ frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringLi
     layout->addWidget(m_frames, 1);
     layout->addWidget(makeButtonRow());
     m_pathForm = new frmPath(services.files, services.messages, drives, this);
+    setAcceptDrops(true);
     showHints();
     Initialize();
 }
@@ -113,8 +111,10 @@ void frmIntegrator::setDefinition(const std::string& path) {
     const QString file = QString::fromStdString(path);
     txtMenuDef->setText(file);
     // The library lies beside the menu, unless the person has moved it.
-    if (txtPath->text().isEmpty())
-        m_pathForm->openFolder(QFileInfo(file).path());
+    if (!txtPath->text().isEmpty())
+        return;
+    m_pathForm->openFolder(QFileInfo(file).path());
+    txtPath->setText(QString::fromStdString(m_flow.libraryBeside(path)));
 }
 
 void frmIntegrator::showSubmenus(const std::vector<Submenu>& submenus) {
@@ -187,54 +187,18 @@ bool frmIntegrator::eventFilter(QObject* watched, QEvent* event) {
            QDialog::eventFilter(watched, event);
 }
 
+void frmIntegrator::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_F6)
+        QDialog::keyPressEvent(event);
+    else if (!ExtraRow::focusNext(*this))
+        focusNextChild();
+}
+
 void frmIntegrator::reject() {
-    if (m_flow.mayClose())
-        QDialog::reject();
-}
-
-void frmIntegrator::BtnInputFile_Click() {
-    FileDialogRequest request;
-    request.title = "Open";
-    request.filter = kPageFilter;
-    request.folder = m_flow.pagesFolder();
-    if (!m_flow.choosePages(m_services.dialogs.openFiles(request)))
+    if (!m_flow.mayClose())
         return;
-    comboFiles->clear();
-    for (const std::string& name : m_flow.pages().names)
-        comboFiles->addItem(QString::fromStdString(name));
-    txtPathname->setText(QString::fromStdString(m_flow.pages().folder));
-    countScripts();
-    showHints();
-}
-
-void frmIntegrator::countScripts() {
-    // Shows itself only when counting takes longer than a moment, and then blocks the wizard.
-    QProgressDialog progress(tr("Counting the scripts that would be removed from the pages"),
-                             tr("&Skip"), 0, comboFiles->count(), this);
-    progress.setObjectName("frmProgress");
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kMomentMs);
-    m_flow.countScripts([&](std::size_t doneCount, std::size_t) {
-        progress.setValue(static_cast<int>(doneCount));
-        return !progress.wasCanceled();
-    });
-    showScriptCount();
-}
-
-void frmIntegrator::showScriptCount() {
-    const std::size_t pageCount = m_flow.pages().names.size();
-    if (pageCount == 0)
-        return;
-    const auto [count, countedPages] = m_flow.scriptCount(m_chkKeepScripts->isChecked());
-    const QString what =
-        count == 1 ? tr("1 script will be removed") : tr("%1 scripts will be removed").arg(count);
-    m_lblScripts->setText(countedPages == pageCount
-                              ? tr("%1 from the pages.").arg(what)
-                              : tr("%1 from the first %2 of %3 pages; the others were not counted.")
-                                    .arg(what)
-                                    .arg(countedPages)
-                                    .arg(pageCount));
+    rememberEntries();
+    QDialog::reject();
 }
 
 void frmIntegrator::btnPath_Click() {

@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "integrator/wizard/wizard_services.h"
 #include "integrator/wizard_flow.h"
+#include "integrator/wizard_memory.h"
 
 class QCheckBox;
 class QComboBox;
@@ -20,18 +22,8 @@ class QVBoxLayout;
 
 namespace zev {
 
-class CommonDialogs;
-class FileSystem;
-class MessageBox;
 class PropertyEdit;
 class frmPath;
-
-/// What the wizard needs. Nothing is owned; all outlives it.
-struct IntegratorServices {
-    FileSystem& files;
-    MessageBox& messages;
-    CommonDialogs& dialogs;
-};
 
 /// The window of the Menu Integrator: shows the steps of `WizardFlow` and tells it what is entered.
 class frmIntegrator : public QDialog {
@@ -45,12 +37,23 @@ class frmIntegrator : public QDialog {
     /// Fills the list of popup menus.
     void showSubmenus(const std::vector<Submenu>& submenus);
 
+    /// The open menu has changes that its file has not: the person is told.
+    void sayUnsaved();
+    /// Enters what was entered when the wizard was last closed for the definition that is entered
+    /// now. Called once, after the definition and the popup menus are shown.
+    void recallEntries();
+
     void reject() override;
     /// Keeps the second press of a double click from the Next button.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
     bool event(QEvent* event) override;
+    /// F6 leads to the buttons beside the steps.
+    void keyPressEvent(QKeyEvent* event) override;
+    /// Pages can be dropped on the step that asks for them.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     void Initialize();
@@ -58,6 +61,7 @@ class frmIntegrator : public QDialog {
     void btnBack_Click();
     void btnExit_Click();
     void BtnInputFile_Click();
+    void changePageList();
     void btnPath_Click();
     void btnMenuDef_Click();
     void cboIntegration_Click();
@@ -76,6 +80,10 @@ class frmIntegrator : public QDialog {
                             void (frmIntegrator::*click)());
 
     WizardAnswers answers() const;
+    void showPages();
+    void addPages(const std::vector<std::string>& paths);
+    void showEntries(const WizardEntries& entries);
+    void rememberEntries();
     void countScripts();
     void showScriptCount();
     void showHints();
@@ -85,10 +93,16 @@ class frmIntegrator : public QDialog {
     void setRunning(bool isRunning);
     void updateFrames();
 
+    static constexpr int kPopupKind = 1;  ///< index in `cboIntegration`
+
     IntegratorServices m_services;
     WizardFlow m_flow;
+    WizardMemory m_memory;
+    std::string m_openDefinition;
+    WizardEntries m_knownEntries;  ///< what the memory holds
 
     QStackedWidget* m_frames = nullptr;
+    QLabel* m_lblUnsaved = nullptr;
     QComboBox* comboFiles = nullptr;
     QLineEdit* txtPathname = nullptr;
     QCheckBox* chkBackup = nullptr;

@@ -23,6 +23,7 @@
 #include "dialogs/dialog_button.h"
 #include "dialogs/property_edit.h"
 #include "dialogs/single_line.h"
+#include "integrator/wizard/extra_row.h"
 
 namespace zev {
 
@@ -98,6 +99,12 @@ void frmIntegrator::makeWelcome() {
     layout->addWidget(
         makeText("lblWelcome2",
                  tr("Please click Next to continue or Exit to return to Menu Creator"), this));
+    m_lblUnsaved = makeText("lblUnsaved",
+                            tr("The open menu has changes that are not saved. The pages show the "
+                               "menu as it was saved last."),
+                            this);
+    m_lblUnsaved->hide();
+    layout->addWidget(m_lblUnsaved);
 }
 
 void frmIntegrator::makePagesFrame() {
@@ -108,6 +115,8 @@ void frmIntegrator::makePagesFrame() {
                     "menu. Multiple files can be selected"),
                  this));
     comboFiles = makeNamed<QComboBox>("comboFiles", this);
+    // As wide as the column: measuring thousands of names would be felt.
+    comboFiles->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     keepWheelForFocus(*comboFiles);
     QPushButton* BtnInputFile =
         makeButton("BtnInputFile", tr("B&rowse"), &frmIntegrator::BtnInputFile_Click);
@@ -140,6 +149,10 @@ void frmIntegrator::makePagesFrame() {
     m_lblScripts = makeText("lblScripts", QString(), this);
     layout->addWidget(m_lblScripts);
     layout->addStretch();
+    auto* row = new ExtraRow(this);
+    row->add("btnPageList", tr("&List of Pages\u2026"), tr("List of pages"),
+             [this] { changePageList(); });
+    layout->addWidget(row);
 }
 
 void frmIntegrator::makePathsFrame() {
