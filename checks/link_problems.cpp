@@ -11,9 +11,7 @@
 
 #include "checks/item_names.h"
 #include "html/caption_text.h"
-#include "html/html_attributes.h"
 #include "html/html_parse.h"
-#include "html/server_blocks.h"
 #include "text/ascii.h"
 #include "text/path.h"
 
@@ -163,26 +161,14 @@ class LinkFinder {
             if (html.TagName() == "img") {
                 const std::string source(html.Attribute("src"));
                 checkImage(source, {.item = &node, .field = "caption"});
-                if (!hasAlt(html.TagText()))
+                // An empty one says that the image is decoration.
+                if (!html.hasAttribute("alt"))
                     tell({Kind::Image, Reason::NoAlternative, &node, false, false, "caption",
                           source});
             }
             if (html.IsLast())
                 return;
         }
-    }
-
-    /// An empty one says that the image is decoration.
-    static bool hasAlt(std::string_view tag) {
-        ServerBlocks blocks(tag);
-        HtmlAttributeReader attributes(tag, blocks, std::string_view("img").size());
-        HtmlAttribute attribute;
-        while (attributes.next(attribute))
-            if (equalsIgnoringCase(
-                    tag.substr(attribute.nameBegin, attribute.nameEnd - attribute.nameBegin),
-                    "alt"))
-                return true;
-        return false;
     }
 
     void tell(MenuProblem problem) { m_problems.push_back(std::move(problem)); }

@@ -9,6 +9,7 @@
 #include "cli/command_arguments.h"
 #include "cli/commands.h"
 #include "cli/inspect_arguments.h"
+#include "cli/integrate_place.h"
 #include "cli/integrator_commands.h"
 #include "platform/posix/running_program.h"
 #include "script/submenu_list.h"
@@ -182,6 +183,7 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
     struct Options {
         IntegrateOptions integrate;
         PopupArguments popup;
+        PlaceArguments place;
         bool hasNoBackups = false;
     };
     const auto options = std::make_shared<Options>();
@@ -193,8 +195,13 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
         "address such as \"http://example.org/menu/\" is taken as it is.\n"
         "Exit status: 0 done, 1 a page failed (the others are done), 2 wrong use,\n"
         "3 the report could not be written.");
-    addRequired(command, "--definition", "FILE", integrate.definition, "Menu definition");
-    addRequired(command, "--library", "DIR", integrate.library, "Folder of the run-time scripts");
+    // Required as well, but not to take a menu out.
+    command.add_option("--definition", integrate.definition, "Menu definition")
+        ->type_name("FILE")
+        ->check(refuseEmpty);
+    command.add_option("--library", integrate.library, "Folder of the run-time scripts")
+        ->type_name("DIR")
+        ->check(refuseEmpty);
     command.add_flag("--no-backup", options->hasNoBackups, "Do not keep a copy PAGE.bak");
     command.add_flag("--keep-scripts", integrate.keepsOtherScripts,
                      "Keep scripts that do not name JavaScript in a language attribute");
@@ -203,6 +210,7 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
         ->type_name("FILE")
         ->check(refuseEmpty);
     addPopup(command, options->popup);
+    addPlaceOptions(command, options->place, integrate);
     command.add_option("PAGE", integrate.pages, "Web pages")
         ->required()
         ->type_name("")
@@ -210,7 +218,9 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
     command.callback([&files, &status, options] {
         options->integrate.hasBackups = !options->hasNoBackups;
         options->integrate.popup = options->popup.options();
-        status = integrateCommand(files, options->integrate);
+        takePlaceArguments(options->place, options->integrate);
+        status = options->place.isRemoval ? removeCommand(files, options->integrate)
+                                          : integrateCommand(files, options->integrate);
     });
 }
 
@@ -242,6 +252,7 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     addCheck(program, files, status);
     addDiff(program, files, status);
     addTree(program, files, status);
+    addOutline(program, files, status);
     addPublish(program, files, status);
     addLinkcode(program, status);
     addIntegrate(program, files, status);

@@ -48,12 +48,16 @@ std::string menuCode(const std::string& definitionURL) {
            "\r\n<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>";
 }
 
-std::string popupLinkCode(const std::string& submenuId, const PopupPlacement& placement) {
+std::string popupLinkTag(const std::string& submenuId, const PopupPlacement& placement) {
     const std::string arguments = argumentsOf(submenuId);
     const std::string start = "<a href=\"\" onmouseover=\"ZEVMenuOpen(" + arguments;
     if (placement.isAtMouse)
-        return start + ", event)\" onmouseout=\"ZEVMenuClose(" + arguments + ", false)\">Menu</a>";
-    return start + ", " + placement.x + ", " + placement.y + ")\">Menu</a>";
+        return start + ", event)\" onmouseout=\"ZEVMenuClose(" + arguments + ", false)\">";
+    return start + ", " + placement.x + ", " + placement.y + ")\">";
+}
+
+std::string popupLinkCode(const std::string& submenuId, const PopupPlacement& placement) {
+    return popupLinkTag(submenuId, placement) + "Menu</a>";
 }
 
 }  // namespace zev

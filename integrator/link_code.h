@@ -28,6 +28,9 @@ std::string definitionReference(const std::string& definitionURL);
 /// Code of a horizontal or vertical menu: the reference and the call that draws the menu in place.
 std::string menuCode(const std::string& definitionURL);
 
+/// Start tag of the hyperlink below.
+std::string popupLinkTag(const std::string& submenuId, const PopupPlacement& placement);
+
 /// Hyperlink that opens, and beside the mouse also closes, the submenu of this id, which goes into
 /// the code as it is: see `isSubmenuId`.
 std::string popupLinkCode(const std::string& submenuId, const PopupPlacement& placement);

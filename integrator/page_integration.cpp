@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "integrator/page_removal.h"
 #include "script/relative_url.h"
 #include "text/ascii.h"
 #include "text/path.h"
@@ -37,6 +38,24 @@ std::string temporaryPath(const std::string& pagePath) {
 /// A page may be of any size.
 FileResult<std::string> readPage(const FileSystem& files, const std::string& path) {
     return files.readFile(path, std::numeric_limits<std::uint64_t>::max());
+}
+
+/// For the report.
+std::string placeReason(PlaceProblem problem, const PlacedMenu& menu) {
+    const std::string place = "\"" + menu.place.text + "\"";
+    switch (problem) {
+        case PlaceProblem::NotFound:
+            return "There is no place " + place;
+        case PlaceProblem::NoEndTag:
+            return "The end of the element is not found: " + place;
+        case PlaceProblem::NoMarkup:
+            return "The element cannot hold a menu: " + place;
+        case PlaceProblem::HoldsThePage:
+            return "The element holds the page's head or body: " + place;
+        case PlaceProblem::TextNotFound:
+            return "The text for the link is not found: \"" + menu.link->text + "\"";
+    }
+    return {};
 }
 
 }  // namespace
@@ -105,15 +124,32 @@ std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) 
     if (!page->isOk())
         return PageError{PageError::Code::NotRead, page->error()};
     IntegrationStatus status;
-    std::string bytes = rewritePage(page->value(), m_options.rewrite, status);
+    const std::vector<PageEdit> edits = editsOf(page->value(), status);
+    if (status.placeProblem)
+        return PageError{PageError::Code::NoPlace,
+                         {FileError::Code::Other, path,
+                          placeReason(*status.placeProblem, *m_options.rewrite.menu)}};
+    std::string bytes = withEdits(page->value(), edits);
     page.reset();  // while the new page is written, the old one would only take up memory
-    if (!m_options.isDryRun) {
+    const bool isToStay = m_options.isRemoval && edits.empty();
+    if (!m_options.isDryRun && !isToStay) {
         if (std::optional<PageError> error = replacePage(path, std::move(bytes)))
             return error;
     }
-    status.bSuccess = status.bEndBodyDone && status.bBodyDone && status.bHeadDone;
-    m_status = status;
+    status.bSuccess =
+        m_options.isRemoval || (status.bEndBodyDone && status.bBodyDone && status.bHeadDone);
+    m_status = std::move(status);
     return {};
+}
+
+std::vector<PageEdit> PageIntegrator::editsOf(std::string_view page,
+                                              IntegrationStatus& status) const {
+    if (!m_options.isRemoval)
+        return pageEdits(page, m_options.rewrite, status);
+    PageRemoval removal = removeIntegration(page);
+    status.bPrevious = !removal.edits.empty();
+    status.notes = std::move(removal.notes);
+    return std::move(removal.edits);
 }
 
 std::optional<PageError> PageIntegrator::replacePage(const std::string& path, std::string bytes) {
@@ -152,7 +188,17 @@ void PageIntegrator::reportError(const std::string& path, const PageError& error
     appendLine("");
 }
 
+void PageIntegrator::writeRemovalReport() {
+    appendLine(m_status.bPrevious ? "Success: Menu integration removed"
+                                  : "No menu integration found");
+    appendLine("");
+}
+
 void PageIntegrator::WriteFileReport() {
+    if (m_options.isRemoval) {
+        writeRemovalReport();
+        return;
+    }
     if (m_status.bPrevious)
         appendLine("Previous integration detected!");
     appendLine(m_status.bHeadDone ? "Success: Menu library references added"
@@ -163,6 +209,8 @@ void PageIntegrator::WriteFileReport() {
                                      : "ERROR: Menu creation code NOT added. </BODY> not found.");
     appendLine(m_status.bSuccess ? "Success: Menu integration successful"
                                  : "ERROR: Menu integration failure");
+    if (m_options.rewrite.menu)
+        appendLine("Success: Menu placed");
     appendLine("");
 }
 

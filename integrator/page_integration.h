@@ -33,10 +33,10 @@ FileResult<std::size_t> countDroppedScripts(const FileSystem& files, const std::
 
 /// Why a page was not integrated.
 struct PageError {
-    enum class Code { IsTemporaryFile, NotRead, NotBackedUp, NotSaved };
+    enum class Code { IsTemporaryFile, NotRead, NoPlace, NotBackedUp, NotSaved };
     Code code = Code::NotSaved;
-    /// The file at fault and the system's words; of a page with the name of the temporary file only
-    /// its path.
+    /// The file at fault and the system's words, or what is wrong with the place; of a page with
+    /// the name of the temporary file only its path.
     FileError file;
 };
 
@@ -47,9 +47,11 @@ struct IntegrationOptions {
     RewriteOptions rewrite;
     bool hasBackups = true;  ///< each page is copied to its name with ".bak" first
     bool isDryRun = false;   ///< nothing is written; the report is that of a real run
+    bool isRemoval = false;  ///< what an earlier run put in is taken out instead
 };
 
-/// Puts the menu into pages that exist already, and writes a report about it. A page is replaced
+/// Puts the menu into pages that exist already, or takes it out of them, and writes a report about
+/// it. A page is replaced
 /// whole or not at all, and only after its backup is whole. While one is replaced, the file
 /// "~qxtmp.htm" lies beside it; a file of that name that was there before is lost.
 class PageIntegrator {
@@ -76,8 +78,10 @@ class PageIntegrator {
 
   private:
     void integratePage(const std::string& path);
+    std::vector<PageEdit> editsOf(std::string_view page, IntegrationStatus& status) const;
     std::optional<PageError> replacePage(const std::string& path, std::string bytes);
     void reportError(const std::string& path, const PageError& error);
+    void writeRemovalReport();
     void appendLine(std::string_view line);
 
     FileSystem& m_files;

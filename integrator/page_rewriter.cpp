@@ -1,21 +1,15 @@
 #include "integrator/page_rewriter.h"
 
-#include <cassert>
 #include <initializer_list>
 #include <utility>
 
 #include "html/html_parse.h"
-#include "text/ascii.h"
+#include "integrator/inserted_code.h"
+#include "integrator/page_references.h"
 
 namespace zev {
 
 namespace {
-
-constexpr std::string_view kMarker = "<!-- Added by ZEVMenu Creator, zevmenu.example -->";
-constexpr std::string_view kMarkerText = "Added by ZEVMenu Creator";
-constexpr std::string_view kScriptStart = "<script language=\"JavaScript1.2\">";
-constexpr std::string_view kLoaderStart = "<script language=\"JavaScript1.2\" src=\"";
-constexpr std::string_view kHandlerCall = "ZEVLoadMenu();";
 
 std::string joined(std::initializer_list<std::string_view> parts) {
     std::size_t size = 0;
@@ -36,10 +30,6 @@ bool namesJavaScript(const HtmlParse& parser) {
     return contains(parser.Attribute("language"), "JavaScript");
 }
 
-bool loadsLibrary(const HtmlParse& parser) {
-    return trimSpaces(parser.Attribute("src")).ends_with("zevmenu_loader.js");
-}
-
 bool isOldScript(const HtmlParse& parser) {
     const std::string_view script = parser.Text();
     return contains(script, "ZEVCreateMenu()") || contains(script, "var zev_path");
@@ -56,20 +46,38 @@ bool addHandler(HtmlParse& parser, std::string_view event) {
 
 class PageRewriter {
   public:
-    PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status)
-        : m_options(options), m_status(status) {
+    /// `placed` is what else changes: in the order of the page, without overlap, never within a tag
+    /// that integration changes.
+    PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status,
+                 std::vector<PageEdit> placed)
+        : m_options(options), m_status(status), m_placed(std::move(placed)) {
         m_parser.Load(page);
         m_edits.reserve(8);  // most pages need no more
     }
 
     std::vector<PageEdit> edits() {
         // The last token stays as it is, even if it is the body's end tag.
-        for (; !m_parser.IsLast(); m_parser.Next())
-            handleToken();
+        for (; !m_parser.IsLast(); m_parser.Next()) {
+            takePlaced(m_parser.offset());
+            if (m_parser.offset() >= m_replacedEnd)
+                handleToken();
+        }
+        takePlaced(std::string_view::npos);
         return std::move(m_edits);
     }
 
   private:
+    /// What is placed at the end of a head tag comes after the references, and what is placed at
+    /// the end of the body before the call.
+    void takePlaced(std::size_t offset) {
+        for (; m_nextPlaced < m_placed.size() && m_placed[m_nextPlaced].offset <= offset;
+             ++m_nextPlaced) {
+            PageEdit& edit = m_placed[m_nextPlaced];
+            m_replacedEnd = edit.offset + edit.length;
+            m_edits.push_back(std::move(edit));
+        }
+    }
+
     /// Looks at the name's length first: that rules most tokens out.
     void handleToken() {
         const std::string_view name = m_parser.TagName();
@@ -106,7 +114,7 @@ class PageRewriter {
         insert(
             m_parser.offset() + m_parser.Source().size(),
             joined({kMarker, kScriptStart, "var zev_path = '", m_options.libraryURL, "';</script>",
-                    kLoaderStart, m_options.libraryURL, "zevmenu_loader.js\"></script>"}));
+                    kSourceStart, m_options.libraryURL, "zevmenu_loader.js\"></script>"}));
         m_status.bHeadDone = true;
     }
 
@@ -152,6 +160,9 @@ class PageRewriter {
     HtmlParse m_parser;
     const RewriteOptions& m_options;
     IntegrationStatus& m_status;
+    std::vector<PageEdit> m_placed;
+    std::size_t m_nextPlaced = 0;
+    std::size_t m_replacedEnd = 0;  // of the last one taken
     std::vector<PageEdit> m_edits;
 };
 
@@ -160,24 +171,18 @@ class PageRewriter {
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status) {
     status = {};
-    return PageRewriter(page, options, status).edits();
-}
-
-std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits) {
-    std::size_t size = page.size();
-    for (const PageEdit& edit : edits)
-        size += edit.text.size() - edit.length;
-    std::string bytes;
-    bytes.reserve(size);
-    std::size_t done = 0;
-    for (const PageEdit& edit : edits) {
-        assert(edit.offset >= done && edit.offset + edit.length <= page.size());
-        bytes += page.substr(done, edit.offset - done);
-        bytes += edit.text;
-        done = edit.offset + edit.length;
+    std::vector<PageEdit> placed;
+    if (options.menu) {
+        Placement placement = placeMenu(page, *options.menu);
+        status.placeProblem = placement.problem;
+        status.notes = std::move(placement.notes);
+        if (placement.problem)
+            return {};
+        placed = std::move(placement.edits);
     }
-    bytes += page.substr(done);
-    return bytes;
+    if (!options.newDefinitionURL.empty())
+        addReferenceEdits(page, options.newDefinitionURL, placed);
+    return PageRewriter(page, options, status, std::move(placed)).edits();
 }
 
 std::string rewritePage(std::string_view page, const RewriteOptions& options,

@@ -1,9 +1,14 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "integrator/page_edit.h"
+#include "integrator/page_note.h"
+#include "integrator/placement.h"
 
 namespace zev {
 
@@ -14,29 +19,24 @@ struct IntegrationStatus {
     bool bBodyDone = false;     ///< the body tag has its event handlers
     bool bEndBodyDone = false;  ///< the call that creates the menu was written
     bool bSuccess = false;      ///< all three were written, and the page was saved
+    /// Why the menu could not be placed where it was to be; the page has no edits then.
+    std::optional<PlaceProblem> placeProblem;
+    std::vector<PageNote> notes;  ///< in the order of the page
 };
 
 struct RewriteOptions {
     std::string libraryURL;          ///< in front of "zevmenu_loader.js", as it is
     bool keepsOtherScripts = false;  ///< false: scripts that do not name JavaScript are dropped
-};
-
-/// One change of a page: from an offset on, so many bytes of the old page give way to a text.
-/// Offset and length count bytes; a length of 0 inserts.
-struct PageEdit {
-    std::size_t offset = 0;
-    std::size_t length = 0;
-    std::string text;
-    bool operator==(const PageEdit&) const = default;
+    std::optional<PlacedMenu> menu = {};  ///< put into the page, too; nothing: left to be pasted
+    /// Takes the place of the definition's address in code that this program wrote and somebody
+    /// pasted; empty: that stays.
+    std::string newDefinitionURL = {};
 };
 
 /// What puts the menu's code into a page and takes that of an earlier run out: in the order of the
 /// page, without overlap. Sets all of `status` but `bSuccess`.
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status);
-
-/// The page with such edits done.
-std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits);
 
 /// The page with its edits done, and the status of `pageEdits`.
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
