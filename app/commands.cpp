@@ -159,6 +159,9 @@ const std::vector<Command>& CommandActions::rows() {
         {{"", "mnuTools", QT_TR_NOOP("&Tools")}},
         {{"mnuTools", "mnuToolsIntegrate", QT_TR_NOOP("&Menu Integrator")},
          &frmMain::mnuToolsIntegrate_Click},
+        {{"mnuTools"}},
+        {{"mnuTools", "mnuToolsUndoIntegration", QT_TR_NOOP("&Undo Integration\u2026")},
+         &frmMain::undoIntegration},
 
         {{"", "mnuHelp", QT_TR_NOOP("&Help")}},
         {{"mnuHelp", "mnuHelpContents", QT_TR_NOOP("&Contents"), "F1"},

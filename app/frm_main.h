@@ -71,6 +71,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void mnuEditMoveDown_Click();
     void mnuEditDelete_Click();
     void mnuToolsIntegrate_Click();
+    /// Offers the last runs of the Menu Integrator to be undone.
+    void undoIntegration();
     void mnuHelpContents_Click();
     void mnuHelpAbout_Click();
     void mnuHelpSupport_Click();

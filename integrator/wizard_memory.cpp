@@ -1,6 +1,7 @@
 #include "integrator/wizard_memory.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdint>
 #include <string_view>
 #include <utility>
@@ -17,8 +18,8 @@ namespace {
 constexpr std::string_view kFormat = "zevmenu wizard 1";
 constexpr const char* kListName = "definitions";
 constexpr std::uint64_t kMaxBytes = std::uint64_t{64} << 20;
-/// Fields before the names of the pages.
-constexpr std::size_t kEntryFields = 12;
+/// Fields before the names of the kept scripts and of the pages.
+constexpr std::size_t kEntryFields = 14;
 
 void addField(std::string& bytes, std::string_view field) {
     bytes += field;
@@ -54,13 +55,17 @@ std::string bytesOf(const std::string& definition, const WizardEntries& entries)
     addField(bytes, answers.placement.isAtMouse);
     addField(bytes, answers.placement.x);
     addField(bytes, answers.placement.y);
+    addField(bytes, answers.skipsFailing);
     addField(bytes, entries.pages.folder);
+    addField(bytes, std::to_string(answers.keptScripts.size()));
+    for (const std::string& name : answers.keptScripts)
+        addField(bytes, name);
     for (const std::string& name : entries.pages.names)
         addField(bytes, name);
     return bytes;
 }
 
-WizardEntries entriesFrom(std::vector<std::string> fields) {
+WizardEntries entriesFrom(const std::vector<std::string>& fields) {
     WizardEntries entries;
     WizardAnswers& answers = entries.answers;
     answers.hasBackups = fields[2] == "1";
@@ -70,9 +75,15 @@ WizardEntries entriesFrom(std::vector<std::string> fields) {
     answers.isPopup = fields[6] == "1";
     answers.submenuId = fields[7];
     answers.placement = {fields[8] == "1", fields[9], fields[10]};
-    entries.pages.folder = fields[11];
-    fields.erase(fields.begin(), fields.begin() + kEntryFields);
-    entries.pages.names = std::move(fields);
+    answers.skipsFailing = fields[11] == "1";
+    entries.pages.folder = fields[12];
+    std::size_t keptCount = 0;
+    std::from_chars(fields[13].data(), fields[13].data() + fields[13].size(), keptCount);
+    const auto kept = fields.begin() + kEntryFields;
+    keptCount = std::min(keptCount, fields.size() - kEntryFields);
+    const auto pages = kept + static_cast<std::ptrdiff_t>(keptCount);
+    answers.keptScripts.assign(kept, pages);
+    entries.pages.names.assign(pages, fields.end());
     return entries;
 }
 
@@ -105,11 +116,11 @@ std::optional<WizardEntries> WizardMemory::recall(const std::string& definition)
         const FileResult<std::string> file = m_files.readFile(pathOf(slot.name), kMaxBytes);
         if (!file.isOk())
             return {};
-        std::vector<std::string> fields = fieldsOf(file.value());
+        const std::vector<std::string> fields = fieldsOf(file.value());
         // Two editors may have written at the same time: the file says itself whose it is.
         if (fields.size() < kEntryFields || fields[0] != kFormat || fields[1] != definition)
             return {};
-        return entriesFrom(std::move(fields));
+        return entriesFrom(fields);
     }
     return {};
 }

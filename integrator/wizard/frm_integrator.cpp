@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
@@ -29,7 +30,6 @@ namespace zev {
 namespace {
 
 constexpr const char* kDefinitionFilter = "JavaScript files (*.js)|*.js|All Files (*.*)|*.*";
-constexpr const char* kReportFilter = "Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*";
 
 
 QString hintText(const PathHint& hint) {
@@ -80,7 +80,7 @@ frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringLi
                              QWidget* parent)
     : QDialog(parent),
       m_services(services),
-      m_flow(services.files),
+      m_flow(services.files, services.recordFolder),
       m_memory(services.files, services.memoryFolder) {
     setObjectName("frmIntegrator");
     setWindowTitle(tr("ZEVMenu Integrator"));
@@ -117,6 +117,11 @@ void frmIntegrator::setDefinition(const std::string& path) {
     txtPath->setText(QString::fromStdString(m_flow.libraryBeside(path)));
 }
 
+void frmIntegrator::setLinkList(
+    std::function<std::string(const std::string& definitionURL)> linkList) {
+    m_linkList = std::move(linkList);
+}
+
 void frmIntegrator::showSubmenus(const std::vector<Submenu>& submenus) {
     m_flow.setSubmenus(submenus);
     for (const Submenu& submenu : submenus)
@@ -139,11 +144,20 @@ WizardAnswers frmIntegrator::answers() const {
             txtMenuDef->text().toStdString(),
             cboIntegration->currentIndex() == kPopupKind,
             cboMenuList->currentData().toString().toStdString(),
-            {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()}};
+            {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()},
+            m_keptScripts,
+            m_skipsFailing};
 }
 
 void frmIntegrator::btnNext_Click() {
     leaveFocusedEdit(*this);
+    if (m_flow.step() == WizardFlow::kPagesStep && needsReview())
+        showChanges(&frmIntegrator::goOn);
+    else
+        goOn();
+}
+
+void frmIntegrator::goOn() {
     const NextOutcome outcome = m_flow.NextStep(answers());
     showReport();
     if (outcome.notice)
@@ -218,6 +232,9 @@ void frmIntegrator::btnMenuDef_Click() {
 void frmIntegrator::showHints() {
     showHintsIn(*m_lblPathHint, m_flow.libraryHints(answers()));
     showHintsIn(*m_lblMenuDefHint, m_flow.definitionHints(answers()));
+    const QStringList missing = missingPaths();
+    m_lblMissing->setText(missing.join(u'\n'));
+    m_lblMissing->setVisible(!missing.isEmpty());
 }
 
 void frmIntegrator::cboIntegration_Click() {
@@ -236,63 +253,6 @@ void frmIntegrator::optXY_Change() {
     const bool isUsable = answers().needsPosition();
     setUsable(*txtX, isUsable);
     setUsable(*txtY, isUsable);
-}
-
-void frmIntegrator::integrate() {
-    setRunning(true);
-    m_flow.IntegratePages(answers(), [this](std::size_t doneCount, std::size_t totalCount) {
-        m_pbProgress->setMaximum(static_cast<int>(totalCount));
-        m_pbProgress->setValue(static_cast<int>(doneCount));
-        // Lets Cancel be pressed; everything else that could start something is disabled.
-        QCoreApplication::processEvents();
-    });
-    showReport();
-    // What was pressed while a page took its time was not meant for the frame that is shown now.
-    QCoreApplication::processEvents();
-    setRunning(false);
-}
-
-void frmIntegrator::setRunning(bool isRunning) {
-    const bool hasManyPages = m_flow.pages().names.size() > 1;
-    m_pbProgress->setVisible(isRunning && hasManyPages);
-    btnCancel->setVisible(isRunning && hasManyPages);
-    for (QPushButton* button : {btnBack, btnNext, btnExit, btnSaveReport})
-        button->setEnabled(!isRunning);
-}
-
-void frmIntegrator::showReport() {
-    txtReport->setPlainText(QString::fromStdString(m_flow.report()));
-}
-
-void frmIntegrator::ShowResultMessage() {
-    const bool hasSucceeded = m_flow.hasSucceeded();
-    lblMsg->setText(
-        hasSucceeded
-            ? tr("Menu integration successful. Copy and paste the following code on the web page "
-                 "to complete the integration. Switch to HTML mode before pasting if you are using "
-                 "a WYSIWYG editor, e.g. FrontPage")
-            : tr("Menu integration failure. Verify that your input file is a valid HTML file "
-                 "containing <head></head> and <body></body> tags"));
-    txtCode->setPlainText(QString::fromStdString(m_flow.code()));
-    txtLinkCode->setPlainText(QString::fromStdString(m_flow.linkCode()));
-    for (QWidget* widget : std::initializer_list<QWidget*>{txtCode, m_btnCopyCode})
-        widget->setVisible(hasSucceeded);
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{lblLinkCode, txtLinkCode, m_btnCopyLinkCode})
-        widget->setVisible(hasSucceeded && !m_flow.linkCode().empty());
-}
-
-void frmIntegrator::btnSaveReport_Click() {
-    FileDialogRequest request;
-    request.title = "Save";
-    request.filter = kReportFilter;
-    request.asksBeforeReplacing = true;
-    request.extension = "txt";
-    const std::string path = m_services.dialogs.saveFile(request);
-    if (path.empty())
-        return;
-    if (const FileOutcome error = m_flow.saveReport(path))
-        m_services.messages.notice(error->path + " not saved: " + error->reason);
 }
 
 }  // namespace zev

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QStringList>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,9 @@ class frmIntegrator : public QDialog {
     /// Fills the list of popup menus.
     void showSubmenus(const std::vector<Submenu>& submenus);
 
+    /// Gives the list of the menu's links, for the definition's address as a page sees it, that can
+    /// be placed with the menu.
+    void setLinkList(std::function<std::string(const std::string& definitionURL)> linkList);
     /// The open menu has changes that its file has not: the person is told.
     void sayUnsaved();
     /// Enters what was entered when the wizard was last closed for the definition that is entered
@@ -61,7 +65,12 @@ class frmIntegrator : public QDialog {
     void btnBack_Click();
     void btnExit_Click();
     void BtnInputFile_Click();
+    void goOn();
+    void addFolder();
     void changePageList();
+    void placeMenu();
+    void replaceReferences();
+    void undoRun();
     void btnPath_Click();
     void btnMenuDef_Click();
     void cboIntegration_Click();
@@ -84,11 +93,18 @@ class frmIntegrator : public QDialog {
     void addPages(const std::vector<std::string>& paths);
     void showEntries(const WizardEntries& entries);
     void rememberEntries();
-    void countScripts();
+    void surveyPages();
+    bool needsReview();
+    QStringList missingPaths() const;
+    void showChanges(void (frmIntegrator::*next)());
     void showScriptCount();
     void showHints();
     void integrate();
     void ShowResultMessage();
+    void showSummary();
+    void showLines(QStringList lines);
+    void runFurther(const QString& what,
+                    const std::function<void(const WizardFlow::Progress&)>& work);
     void showReport();
     void setRunning(bool isRunning);
     void updateFrames();
@@ -100,6 +116,9 @@ class frmIntegrator : public QDialog {
     WizardMemory m_memory;
     std::string m_openDefinition;
     WizardEntries m_knownEntries;  ///< what the memory holds
+    std::vector<std::string> m_keptScripts;
+    bool m_skipsFailing = false;
+    std::function<std::string(const std::string&)> m_linkList;
 
     QStackedWidget* m_frames = nullptr;
     QLabel* m_lblUnsaved = nullptr;
@@ -112,6 +131,7 @@ class frmIntegrator : public QDialog {
     QLabel* m_lblPathHint = nullptr;
     QLineEdit* txtMenuDef = nullptr;
     QLabel* m_lblMenuDefHint = nullptr;
+    QLabel* m_lblMissing = nullptr;
     QComboBox* cboIntegration = nullptr;
     QComboBox* cboMenuList = nullptr;
     QRadioButton* optMouse = nullptr;
@@ -122,12 +142,16 @@ class frmIntegrator : public QDialog {
     QPushButton* btnSaveReport = nullptr;
     QProgressBar* m_pbProgress = nullptr;
     QPushButton* btnCancel = nullptr;
+    QLabel* m_lblSummary = nullptr;
     QLabel* lblMsg = nullptr;
     QPlainTextEdit* txtCode = nullptr;
     QPushButton* m_btnCopyCode = nullptr;
     QLabel* lblLinkCode = nullptr;
     QPlainTextEdit* txtLinkCode = nullptr;
     QPushButton* m_btnCopyLinkCode = nullptr;
+    QPushButton* m_btnPlace = nullptr;
+    QPushButton* m_btnReferences = nullptr;
+    QPushButton* m_btnUndoRun = nullptr;
     QPushButton* btnBack = nullptr;
     QPushButton* btnNext = nullptr;
     QPushButton* btnExit = nullptr;

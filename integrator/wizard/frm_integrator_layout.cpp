@@ -150,8 +150,14 @@ void frmIntegrator::makePagesFrame() {
     layout->addWidget(m_lblScripts);
     layout->addStretch();
     auto* row = new ExtraRow(this);
+    row->add("btnAddFolder", tr("A&dd Folder\u2026"), tr("Add a folder of pages"),
+             [this] { addFolder(); });
     row->add("btnPageList", tr("&List of Pages\u2026"), tr("List of pages"),
              [this] { changePageList(); });
+    row->add("btnChanges", tr("&What Will Change\u2026"), tr("What will change"), [this] {
+        surveyPages();
+        showChanges(nullptr);
+    });
     layout->addWidget(row);
 }
 
@@ -193,6 +199,8 @@ void frmIntegrator::makePathsFrame() {
     grid->addWidget(txtMenuDef, 5, 1);
     grid->addWidget(btnMenuDef, 5, 2);
     grid->addWidget(m_lblMenuDefHint, 6, 1, 1, 2);
+    m_lblMissing = makeText("lblMissing", QString(), this);
+    grid->addWidget(m_lblMissing, 7, 0, 1, 3);
     grid->setRowMinimumHeight(3, fontMetrics().height() / 2);  // sets the two questions apart
     grid->setColumnStretch(1, 1);
     layout->addLayout(grid);
@@ -277,10 +285,12 @@ void frmIntegrator::makeCodeFrame() {
     txtLinkCode = makeTextBox("txtLinkCode", tr("Code example for hyperlinks"), this);
     m_btnCopyLinkCode = makeDialogButton("btnCopyLinkCode", tr("Co&py"), this);
     m_btnCopyLinkCode->setAccessibleName(tr("Copy the code example"));
+    m_lblSummary = makeText("lblSummary", QString(), this);
     lblMsg = makeText("lblMsg", QString(), this);
     lblLinkCode = makeText("lblLinkCode",
                            tr("Copy the code e&xample below to add the menu to hyperlinks:"), this);
     lblLinkCode->setBuddy(txtLinkCode);
+    layout->addWidget(m_lblSummary);
     layout->addWidget(lblMsg);
     const auto addCode = [&](QPlainTextEdit* box, QPushButton* copy) {
         box->setMaximumHeight((kCodeLines + 2) * box->fontMetrics().lineSpacing());
@@ -295,6 +305,14 @@ void frmIntegrator::makeCodeFrame() {
     layout->addWidget(lblLinkCode);
     addCode(txtLinkCode, m_btnCopyLinkCode);
     layout->addStretch();
+    auto* row = new ExtraRow(this);
+    m_btnPlace = row->add("btnPlace", tr("Place &It For Me\u2026"), tr("Place the menu"),
+                          [this] { placeMenu(); });
+    m_btnUndoRun = row->add("btnUndoRun", tr("&Undo This Run"), tr("Undo this run"),
+                            [this] { undoRun(); });
+    m_btnReferences = row->add("btnReferences", tr("Replace Ea&rlier References"),
+                               tr("Replace earlier references"), [this] { replaceReferences(); });
+    layout->addWidget(row);
 }
 
 QWidget* frmIntegrator::makeButtonRow() {

@@ -11,6 +11,7 @@
 
 #include "dialogs/property_edit.h"
 #include "integrator/wizard/frm_integrator.h"
+#include "integrator/wizard/frm_changes.h"
 #include "integrator/wizard/frm_page_list.h"
 #include "integrator/wizard/page_sources.h"
 #include "platform/common_dialogs.h"
@@ -29,7 +30,7 @@ void frmIntegrator::BtnInputFile_Click() {
     if (!m_flow.choosePages(m_services.dialogs.openFiles(pageRequest(m_flow.pagesFolder()))))
         return;
     showPages();
-    countScripts();
+    surveyPages();
 }
 
 void frmIntegrator::showPages() {
@@ -46,7 +47,11 @@ void frmIntegrator::addPages(const std::vector<std::string>& paths) {
     if (!m_flow.addPages(paths))
         return;
     showPages();
-    countScripts();
+    surveyPages();
+}
+
+void frmIntegrator::addFolder() {
+    addPages(pagesOfFolder(m_services, m_flow.pagesFolder(), this));
 }
 
 void frmIntegrator::changePageList() {
@@ -54,20 +59,20 @@ void frmIntegrator::changePageList() {
     if (list.exec() != QDialog::Accepted || !m_flow.setPages(list.paths()))
         return;
     showPages();
-    countScripts();
+    surveyPages();
 }
 
 void frmIntegrator::dragEnterEvent(QDragEnterEvent* event) {
-    if (m_flow.step() == WizardFlow::kPagesStep && !draggedPaths(*event->mimeData()).empty())
+    if (m_flow.step() == WizardFlow::kPagesStep && isOnlyFiles(*event->mimeData()))
         event->acceptProposedAction();
 }
 
 void frmIntegrator::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    addPages(draggedPaths(*event->mimeData()));
+    addPages(droppedPages(m_services, *event->mimeData()));
 }
 
-void frmIntegrator::countScripts() {
+void frmIntegrator::surveyPages() {
     // Shows itself only when counting takes longer than a moment, and then blocks the wizard.
     QProgressDialog progress(tr("Counting the scripts that would be removed from the pages"),
                              tr("&Skip"), 0, comboFiles->count(), this);
@@ -75,11 +80,51 @@ void frmIntegrator::countScripts() {
     progress.setWindowTitle(windowTitle());
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(kMomentMs);
-    m_flow.countScripts([&](std::size_t doneCount, std::size_t) {
+    m_flow.surveyPages([&](std::size_t doneCount, std::size_t) {
         progress.setValue(static_cast<int>(doneCount));
         return !progress.wasCanceled();
     });
     showScriptCount();
+}
+
+bool frmIntegrator::needsReview() {
+    if (m_flow.pages().names.empty() || !m_flow.needsReview(answers()))
+        return false;
+    surveyPages();
+    return m_flow.needsReview(answers());
+}
+
+QStringList frmIntegrator::missingPaths() const {
+    const WizardAnswers given = answers();
+    const auto [isLibraryMissing, isDefinitionMissing] = m_flow.missingPaths(given);
+    QStringList notes;
+    if (isLibraryMissing)
+        notes.append(
+            tr("The library is not in %1.").arg(QString::fromStdString(given.library)));
+    if (isDefinitionMissing)
+        notes.append(tr("There is no menu definition %1.")
+                         .arg(QString::fromStdString(given.definition)));
+    return notes;
+}
+
+/// Shows what the pages would lose, and calls `next` once that is answered. The window does not
+/// wait for it: what is pressed meanwhile does nothing.
+void frmIntegrator::showChanges(void (frmIntegrator::*next)()) {
+    QStringList notes = missingPaths();
+    if (!m_lblUnsaved->isHidden())
+        notes.prepend(m_lblUnsaved->text());
+    auto* changes = new frmChanges(
+        {m_flow.pages().names, m_flow.survey(), notes, m_flow.isReviewed()}, answers(), this);
+    changes->setAttribute(Qt::WA_DeleteOnClose);
+    connect(changes, &QDialog::accepted, this, [this, changes, next] {
+        m_flow.markReviewed();
+        m_keptScripts = changes->keptScripts();
+        m_skipsFailing = changes->skipsFailing();
+        m_chkKeepScripts->setChecked(changes->keepsAll());
+        if (next != nullptr)
+            (this->*next)();
+    });
+    changes->open();
 }
 
 void frmIntegrator::showScriptCount() {
@@ -112,6 +157,8 @@ void frmIntegrator::showEntries(const WizardEntries& entries) {
     const WizardAnswers& last = entries.answers;
     chkBackup->setChecked(last.hasBackups);
     m_chkKeepScripts->setChecked(last.keepsOtherScripts);
+    m_keptScripts = last.keptScripts;
+    m_skipsFailing = last.skipsFailing;
     txtPath->setText(QString::fromStdString(last.library));
     txtMenuDef->setText(QString::fromStdString(last.definition));
     cboMenuList->setCurrentIndex(cboMenuList->findData(QString::fromStdString(last.submenuId)));

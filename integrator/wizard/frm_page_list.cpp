@@ -66,6 +66,9 @@ void frmPageList::arrange() {
         return button;
     };
     addButton("btnAddPages", tr("&Add Pages\u2026"), &frmPageList::addPages);
+    addButton("btnAddFolder", tr("Add &Folder\u2026"), &frmPageList::addFolder);
+    addButton("btnAddList", tr("From a &List\u2026"), &frmPageList::addList)
+        ->setToolTip(tr("A text file with a path a line, or a sitemap.xml"));
     m_btnRemove = addButton("btnRemovePages", tr("&Remove"), &frmPageList::removeSelected);
     buttons->addStretch();
     auto* middle = new QHBoxLayout;
@@ -97,7 +100,7 @@ void frmPageList::showPaths() {
     m_names->setStringList(names);
     const QString folder = QString::fromStdString(pages.folder);
     if (names.isEmpty())
-        m_lblFolder->setText(tr("No pages are chosen. They can be dropped here."));
+        m_lblFolder->setText(tr("No pages are chosen. Pages and folders can be dropped here."));
     else if (names.size() == 1)
         m_lblFolder->setText(tr("1 page in %1").arg(folder));
     else
@@ -110,6 +113,14 @@ void frmPageList::followSelection() {
 
 void frmPageList::addPages() {
     add(pagePaths(m_services.dialogs.openFiles(pageRequest(m_folder))));
+}
+
+void frmPageList::addFolder() {
+    add(pagesOfFolder(m_services, m_folder, this));
+}
+
+void frmPageList::addList() {
+    add(pagesOfList(m_services, m_folder));
 }
 
 void frmPageList::add(const std::vector<std::string>& paths) {
@@ -131,13 +142,13 @@ void frmPageList::removeSelected() {
 }
 
 void frmPageList::dragEnterEvent(QDragEnterEvent* event) {
-    if (!draggedPaths(*event->mimeData()).empty())
+    if (isOnlyFiles(*event->mimeData()))
         event->acceptProposedAction();
 }
 
 void frmPageList::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    add(draggedPaths(*event->mimeData()));
+    add(droppedPages(m_services, *event->mimeData()));
 }
 
 }  // namespace zev

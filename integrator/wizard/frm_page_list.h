@@ -31,6 +31,8 @@ class frmPageList : public QDialog {
   private:
     void arrange();
     void addPages();
+    void addFolder();
+    void addList();
     void add(const std::vector<std::string>& paths);
     void removeSelected();
     void showPaths();

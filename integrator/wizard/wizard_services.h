@@ -15,6 +15,8 @@ struct IntegratorServices {
     CommonDialogs& dialogs;
     /// Folder of the user's where what was entered is kept; empty: it is not.
     std::string memoryFolder = {};
+    /// The same for what it takes to undo runs.
+    std::string recordFolder = {};
 };
 
 }  // namespace zev

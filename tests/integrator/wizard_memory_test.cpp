@@ -10,7 +10,8 @@ namespace {
 WizardEntries someEntries() {
     WizardEntries entries;
     entries.pages = {"/site", {"a.htm", "x/new\nline.htm", "\xC3\x84 'b' \"c\".htm"}};
-    entries.answers = {false, true, "/site/js", "/site/menu.js", true, "1i2", {false, "10", "-20"}};
+    entries.answers = {false, true, "/site/js", "/site/menu.js", true, "1i2", {false, "10", "-20"},
+                       {"a.js", "count();"}, true};
     return entries;
 }
 
@@ -37,6 +38,8 @@ TEST(WizardMemory, EachFieldIsKept) {
         [](WizardEntries& entries) { entries.answers.placement.isAtMouse = true; },
         [](WizardEntries& entries) { entries.answers.placement.x = ""; },
         [](WizardEntries& entries) { entries.answers.placement.y = "7"; },
+        [](WizardEntries& entries) { entries.answers.keptScripts.clear(); },
+        [](WizardEntries& entries) { entries.answers.skipsFailing = false; },
     };
     FakeFileSystem files;
     WizardMemory memory(files, "/me");
