@@ -4,6 +4,7 @@
 #include <set>
 
 #include "cli/command_paths.h"
+#include "cli/run_commands.h"
 #include "integrator/page_integration.h"
 #include "script/relative_url.h"
 #include "text/ascii.h"
@@ -83,22 +84,24 @@ ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) 
     const std::optional<std::vector<PageGroup>> groups = groupPages(options);
     if (!groups)
         return ExitStatus::FileProblem;
+    CommandRun run(files, options.isDryRun);
     std::string report;
-    bool hasFailed = false;
+    RunSummary summary;
     for (const PageGroup& group : *groups) {
-        for (const std::string& name : group.files.names) {
-            PageIntegrator integrator(files, {{group.urls.library, options.keepsOtherScripts},
-                                              options.hasBackups,
-                                              options.isDryRun});
-            integrator.IntegratePages({group.files.folder, {name}});
-            report += integrator.report();
-            if (!integrator.hasFailed())
-                continue;
-            hasFailed = true;
-            if (!options.report.empty())
-                printProblem(pagePath(group.files.folder, name) + ": failed; see the report");
-        }
+        PageIntegrator integrator(files, {{group.urls.library, options.keepsOtherScripts},
+                                          options.hasBackups,
+                                          options.isDryRun,
+                                          options.skipsFailing,
+                                          run.record()});
+        integrator.IntegratePages(group.files);
+        report += integrator.report();
+        summary.add(integrator.summary());
     }
+    if (!options.report.empty())
+        for (const std::string& page : summary.failedPages)
+            printProblem(page + ": failed; see the report");
+    run.printOutcome();
+    report += summary.text();
     std::string output = codeOfAll(*groups, options);
     if (options.report.empty()) {
         output = withUnixLineEnds(report) + output;
@@ -109,7 +112,7 @@ ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) 
     }
     if (!writeStandardOutput(output))
         return ExitStatus::FileProblem;
-    return hasFailed ? ExitStatus::Counted : ExitStatus::Done;
+    return !summary.failedPages.empty() ? ExitStatus::Counted : ExitStatus::Done;
 }
 
 }  // namespace zev

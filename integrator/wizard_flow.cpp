@@ -138,7 +138,7 @@ void WizardFlow::IntegratePages(const WizardAnswers& answers, const Progress& pr
     });
     m_isRunning = false;
     m_status = integrator.status();
-    m_report = integrator.report();
+    m_report = integrator.report() + integrator.summary().text();
 }
 
 bool WizardFlow::mayClose() {

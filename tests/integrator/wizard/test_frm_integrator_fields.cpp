@@ -359,9 +359,13 @@ class test_frm_integrator_fields : public QObject {
                                        << "D:\\m.js"
                                        << "D:"
                                        << "D:";
+        QTest::newRow("an apostrophe in a URL") << "it's/"
+                                                << "it's/m.js"
+                                                << "enter \"it%27s/\"."
+                                                << "";
         QTest::newRow("an apostrophe in a folder") << "/site/it's"
                                                    << "/site/it's/m.js"
-                                                   << "enter \"it%27s/\"."
+                                                   << ""
                                                    << "";
         QTest::newRow("a double quote in a URL") << "a\"b/"
                                                  << "a\"b/m.js"
