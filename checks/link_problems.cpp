@@ -1,7 +1,6 @@
 #include "checks/link_problems.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -14,6 +13,7 @@
 #include "html/html_parse.h"
 #include "text/ascii.h"
 #include "text/path.h"
+#include "text/percent_encoding.h"
 
 namespace zev {
 
@@ -28,24 +28,6 @@ constexpr std::uint64_t kMaxPageBytes = std::uint64_t{64} << 20;
 bool hasScheme(std::string_view url) {
     const std::size_t end = url.find_first_of(":/?#");
     return end != std::string_view::npos && end > 0 && url[end] == ':';
-}
-
-std::string percentDecoded(std::string_view text) {
-    std::string result;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        unsigned char byte = 0;
-        if (text[at] == '%' && at + 2 < text.size()) {
-            const char* const digits = text.data() + at + 1;
-            const auto [end, error] = std::from_chars(digits, digits + 2, byte, 16);
-            if (error == std::errc() && end == digits + 2) {
-                result += static_cast<char>(byte);
-                at += 2;
-                continue;
-            }
-        }
-        result += text[at];
-    }
-    return result;
 }
 
 bool isHtmlFile(std::string_view path) {

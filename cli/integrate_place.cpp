@@ -40,12 +40,6 @@ void addPlaceOptions(CLI::App& command, PlaceArguments& place, IntegrateOptions&
 
 void takePlaceArguments(const PlaceArguments& place, IntegrateOptions& options) {
     options.place = parsePlace(place.where);
-    if (place.isRemoval)
-        return;
-    if (options.definition.empty())
-        throw CLI::RequiredError("--definition");
-    if (options.library.empty())
-        throw CLI::RequiredError("--library");
 }
 
 }  // namespace zev

@@ -6,6 +6,7 @@
 
 #include "checks/menu_links.h"
 #include "cli/command_paths.h"
+#include "cli/run_commands.h"
 #include "integrator/page_integration.h"
 #include "messages/integration_messages.h"
 #include "script/relative_url.h"
@@ -76,39 +77,45 @@ std::string codeOfAll(const std::vector<PageGroup>& groups, const IntegrateOptio
 /// What the pages of a run have become.
 struct RunReport {
     std::string text;
-    bool hasFailed = false;
+    RunSummary summary;
 };
 
-/// Integrates one page or takes the menu out of it, and prints what to know of it.
-void processPage(FileSystem& files, const IntegrationOptions& options, const ChosenFiles& page,
-                 bool isReportAFile, RunReport& report) {
-    PageIntegrator integrator(files, options);
-    integrator.IntegratePages(page);
+/// Integrates pages of one folder or takes the menu out of them, and prints what to know of them.
+void processPages(FileSystem& files, IntegrationOptions integration,
+                  const IntegrateOptions& options, const ChosenFiles& pages, CommandRun& run,
+                  RunReport& report) {
+    integration.hasBackups = options.hasBackups;
+    integration.isDryRun = options.isDryRun;
+    integration.skipsFailing = options.skipsFailing;
+    integration.record = run.record();
+    PageIntegrator integrator(files, integration);
+    for (const std::string& name : pages.names) {
+        integrator.IntegratePages({pages.folder, {name}});
+        for (const PageNote& note : integrator.status().notes)
+            printProblem(pagePath(pages.folder, name) + ": " + noteText(note));
+    }
     report.text += integrator.report();
-    const std::string path = pagePath(page.folder, page.names.front());
-    for (const PageNote& note : integrator.status().notes)
-        printProblem(path + ": " + noteText(note));
-    if (!integrator.hasFailed())
-        return;
-    report.hasFailed = true;
-    if (isReportAFile)
-        printProblem(path + ": failed; see the report");
+    report.summary.add(integrator.summary());
 }
 
 /// Writes the report where it is wanted, and `code` to standard output.
 ExitStatus writeReport(FileSystem& files, const std::string& path, const RunReport& report,
                        const std::string& code) {
+    const std::string text = report.text + report.summary.text();
     std::string output = code;
+    if (!path.empty())
+        for (const std::string& page : report.summary.failedPages)
+            printProblem(page + ": failed; see the report");
     if (path.empty()) {
-        output = withUnixLineEnds(report.text) + code;
+        output = withUnixLineEnds(text) + code;
     } else if (const FileOutcome error =
-                   files.writeFile(path, report.text + "\r\n", Links::Followed)) {
+                   files.writeFile(path, text + "\r\n", Links::Followed)) {
         printProblem(*error);
         return ExitStatus::FileProblem;
     }
     if (!writeStandardOutput(output))
         return ExitStatus::FileProblem;
-    return report.hasFailed ? ExitStatus::Counted : ExitStatus::Done;
+    return report.summary.failedPages.empty() ? ExitStatus::Done : ExitStatus::Counted;
 }
 
 /// The menu whose links are to stand in the pages; null when none are. Nothing, with the problem
@@ -154,27 +161,30 @@ ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) 
     const std::optional<MenuContent*> menu = menuForLinks(files, options);
     if (!groups || !menu)
         return ExitStatus::FileProblem;
+    CommandRun run(files, options.isDryRun);
     RunReport report;
     for (const PageGroup& group : *groups) {
-        const RewriteOptions rewrite = rewriteOptions(options, group.urls, *menu);
-        for (const std::string& name : group.files.names)
-            processPage(files, {rewrite, options.hasBackups, options.isDryRun, false},
-                        {group.files.folder, {name}}, !options.report.empty(), report);
+        IntegrationOptions integration{rewriteOptions(options, group.urls, *menu)};
+        processPages(files, integration, options, group.files, run, report);
     }
+    run.printOutcome();
     return writeReport(files, options.report, report,
                        options.place ? "" : codeOfAll(*groups, options));
 }
 
 ExitStatus removeCommand(FileSystem& files, const IntegrateOptions& options) {
+    CommandRun run(files, options.isDryRun);
     RunReport report;
     for (const std::string& page : options.pages) {
         const std::optional<std::string> path = fullPath(page);
         if (!path)
             return ExitStatus::FileProblem;
         const PathParts parts = SplitPath(*path);
-        processPage(files, {{}, options.hasBackups, options.isDryRun, true},
-                    {parts.folder, {parts.name}}, !options.report.empty(), report);
+        IntegrationOptions integration;
+        integration.isRemoval = true;
+        processPages(files, integration, options, {parts.folder, {parts.name}}, run, report);
     }
+    run.printOutcome();
     return writeReport(files, options.report, report, "");
 }
 

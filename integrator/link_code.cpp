@@ -1,6 +1,7 @@
 #include "integrator/link_code.h"
 
 #include "script/submenu_list.h"
+#include "text/percent_encoding.h"
 
 namespace zev {
 
@@ -16,20 +17,13 @@ std::string argumentsOf(const std::string& submenuId) {
 
 /// What would end an attribute in double quotes or its tag, or break its line, percent-encoded.
 std::string withinAttribute(std::string_view url) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    std::string encoded;
-    for (const char c : url) {
-        const auto byte = static_cast<unsigned char>(c);
-        const bool isControl = byte < 0x20 || byte == 0x7F;
-        if (isControl || c == '"' || c == '<' || c == '>') {
-            encoded += '%';
-            encoded += kDigits[byte >> 4];
-            encoded += kDigits[byte & 0xF];
-        } else {
-            encoded += c;
-        }
-    }
-    return encoded;
+    return percentEncoded(
+        url,
+        [](char c) {
+            const auto byte = static_cast<unsigned char>(c);
+            const bool isControl = byte < 0x20 || byte == 0x7F;
+            return !isControl && c != '"' && c != '<' && c != '>';
+        });
 }
 
 }  // namespace

@@ -1,15 +1,19 @@
 #include "integrator/page_rewriter.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
 #include "html/html_parse.h"
 #include "integrator/inserted_code.h"
 #include "integrator/page_references.h"
+#include "integrator/script_name.h"
 
 namespace zev {
 
 namespace {
+
+constexpr std::string_view kLoaderName = "zevmenu_loader.js";
 
 std::string joined(std::initializer_list<std::string_view> parts) {
     std::size_t size = 0;
@@ -33,6 +37,17 @@ bool namesJavaScript(const HtmlParse& parser) {
 bool isOldScript(const HtmlParse& parser) {
     const std::string_view script = parser.Text();
     return contains(script, "ZEVCreateMenu()") || contains(script, "var zev_path");
+}
+
+/// Whether an earlier run wrote the script, and nobody anything into it.
+bool isOwnScript(const HtmlParse& parser) {
+    std::string_view script = parser.Text();
+    while (!script.empty() && isHtmlSpace(script.front()))
+        script.remove_prefix(1);
+    while (!script.empty() && (isHtmlSpace(script.back()) || script.back() == ';'))
+        script.remove_suffix(1);
+    return loadsLibrary(parser) || script == "ZEVCreateMenu()" ||
+           (script.starts_with("var zev_path") && !contains(script, ";"));
 }
 
 /// The call goes before what the page does at the event. True when it was not there yet.
@@ -114,7 +129,7 @@ class PageRewriter {
         insert(
             m_parser.offset() + m_parser.Source().size(),
             joined({kMarker, kScriptStart, "var zev_path = '", m_options.libraryURL, "';</script>",
-                    kSourceStart, m_options.libraryURL, "zevmenu_loader.js\"></script>"}));
+                    kSourceStart, m_options.libraryURL, kLoaderName, "\"></script>"}));
         m_status.bHeadDone = true;
     }
 
@@ -132,14 +147,15 @@ class PageRewriter {
     }
 
     void handleScript() {
-        if (!m_options.keepsOtherScripts && !namesJavaScript(m_parser)) {
+        const bool isForeign = !m_options.keepsOtherScripts && !namesJavaScript(m_parser);
+        const bool isPrevious = loadsLibrary(m_parser);
+        if ((!isForeign && !isPrevious && !isOldScript(m_parser)) || staysByName())
+            return;
+        if (isForeign) {
             // Without its start tag a script's end tag means nothing to a browser; it stays.
             replaceToken({});
             return;
         }
-        const bool isPrevious = loadsLibrary(m_parser);
-        if (!isPrevious && !isOldScript(m_parser))
-            return;
         if (isPrevious)
             m_status.bPrevious = true;
         replaceToken({});
@@ -147,6 +163,18 @@ class PageRewriter {
         // Now on the end tag, which goes too, unless it is the page's last token.
         if (!m_parser.IsLast())
             m_edits.back().length += m_parser.Source().size();
+    }
+
+    /// Whether a script that would go was asked to stay. One that goes is noted.
+    bool staysByName() {
+        if (isOwnScript(m_parser))
+            return false;
+        std::string name = scriptName(m_parser.Attribute("src"), m_parser.Text());
+        const std::vector<std::string>& kept = m_options.keptScripts;
+        if (std::find(kept.begin(), kept.end(), name) != kept.end())
+            return true;
+        m_status.removedScripts.push_back(std::move(name));
+        return false;
     }
 
     void insert(std::size_t offset, std::string text) {
@@ -185,9 +213,37 @@ std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& opt
     return PageRewriter(page, options, status, std::move(placed)).edits();
 }
 
+std::vector<PageEdit> reverseEdits(std::string_view page, const std::vector<PageEdit>& edits) {
+    std::vector<PageEdit> reversed;
+    reversed.reserve(edits.size());
+    std::size_t insertedBytes = 0;
+    std::size_t removedBytes = 0;
+    for (const PageEdit& edit : edits) {
+        reversed.push_back({edit.offset + insertedBytes - removedBytes, edit.text.size(),
+                            std::string(page.substr(edit.offset, edit.length))});
+        insertedBytes += edit.text.size();
+        removedBytes += edit.length;
+    }
+    return reversed;
+}
+
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status) {
     return withEdits(page, pageEdits(page, options, status));
+}
+
+bool isIntegrated(std::string_view page) {
+    if (!contains(page, kMarkerText) && !contains(page, kLoaderName))
+        return false;
+    HtmlParse parser;
+    for (parser.Load(page);; parser.Next()) {
+        const std::string_view name = parser.TagName();
+        if ((name == "!" && contains(parser.Text(), kMarkerText)) ||
+            (name == "script" && loadsLibrary(parser)))
+            return true;
+        if (parser.IsLast())
+            return false;
+    }
 }
 
 std::size_t countDroppedScripts(std::string_view page) {

@@ -22,11 +22,19 @@ struct IntegrationStatus {
     /// Why the menu could not be placed where it was to be; the page has no edits then.
     std::optional<PlaceProblem> placeProblem;
     std::vector<PageNote> notes;  ///< in the order of the page
+    /// Names, as `scriptName` gives them, of the scripts that were dropped, but for those that an
+    /// earlier run wrote; in the order of the page, each as often as it stands there.
+    std::vector<std::string> removedScripts;
+
+    /// Whether every place for the menu's code was found.
+    bool hasAllPlaces() const { return bHeadDone && bBodyDone && bEndBodyDone; }
 };
 
 struct RewriteOptions {
     std::string libraryURL;          ///< in front of "zevmenu_loader.js", as it is
     bool keepsOtherScripts = false;  ///< false: scripts that do not name JavaScript are dropped
+    /// Names, as `scriptName` gives them, of scripts that stay all the same.
+    std::vector<std::string> keptScripts = {};
     std::optional<PlacedMenu> menu = {};  ///< put into the page, too; nothing: left to be pasted
     /// Takes the place of the definition's address in code that this program wrote and somebody
     /// pasted; empty: that stays.
@@ -38,9 +46,15 @@ struct RewriteOptions {
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status);
 
+/// The edits that make the page again of what these edits, as `pageEdits` gives them, make of it.
+std::vector<PageEdit> reverseEdits(std::string_view page, const std::vector<PageEdit>& edits);
+
 /// The page with its edits done, and the status of `pageEdits`.
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status);
+
+/// Whether an earlier run has left its mark, or its reference to the library, in the page.
+bool isIntegrated(std::string_view page);
 
 /// How many scripts of the page are dropped unless other scripts are kept.
 std::size_t countDroppedScripts(std::string_view page);

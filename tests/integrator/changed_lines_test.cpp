@@ -7,10 +7,6 @@ namespace {
 
 using Changes = std::vector<ChangedLines>;
 
-std::ostream& operator<<(std::ostream& stream, const ChangedLines& lines) {
-    return stream << lines.line << " [" << lines.before << "] [" << lines.after << ']';
-}
-
 constexpr std::size_t kWide = 1000;
 
 TEST(ChangedLines, AnEditShowsItsWholeLine) {

@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "integrator/wizard/frm_add_folder.h"
 #include "integrator/wizard/frm_page_list.h"
 #include "tests/app/when_shown.h"
 #include "wizard_desk.h"
@@ -56,6 +57,24 @@ void inPageList(WizardDesk& desk, const std::function<void(frmPageList&)>& work)
     });
     QTest::keyClick(&desk.wizard, Qt::Key_L, Qt::AltModifier);
     QTRY_VERIFY(isDone);
+}
+
+/// The window that asks for a folder, opened by its key from step 1.
+void inAddFolder(WizardDesk& desk, const std::function<void(frmAddFolder&)>& work) {
+    bool isDone = false;
+    whenShown<frmAddFolder>([&](frmAddFolder& window) {
+        work(window);
+        window.close();
+        isDone = true;
+    });
+    QTest::keyClick(&desk.wizard, Qt::Key_D, Qt::AltModifier);
+    QTRY_VERIFY(isDone);
+}
+
+void enter(QWidget& window, const char* name, const QString& text) {
+    auto& field = *window.findChild<QLineEdit*>(name);
+    field.selectAll();
+    QTest::keyClicks(&field, text);
 }
 
 void press(QWidget& window, const char* name) {
@@ -168,6 +187,146 @@ class test_page_list : public QObject {
         QCOMPARE(items(desk.list("comboFiles")), (QStringList{"b.htm", "a.htm"}));
     }
 
+    void theFolderOfASiteIsAdded() {
+        WizardDesk desk;
+        for (const char* page : {"/site/x/c.html", "/site/x/old/d.htm", "/site/x/e.txt"})
+            desk.disk.addFile(page, kPage);
+        desk.next();
+        inAddFolder(desk, [&](frmAddFolder& window) {
+            enter(window, "txtFolder", "/site");
+            enter(window, "txtExcluded", "x/old/* ; nothing");
+            press(window, "btnOK");
+        });
+        QCOMPARE(items(desk.list("comboFiles")), (QStringList{"a.htm", "b.htm", "x/c.html"}));
+        QCOMPARE(desk.field("txtPathname").text(), QString("/site"));
+    }
+
+    void theFolderIsBrowsedFor() {
+        WizardDesk desk;
+        desk.wizard.setDefinition("/site/js/menu.js");
+        desk.next();
+        inAddFolder(desk, [&](frmAddFolder& window) {
+            QCOMPARE(window.findChild<QLineEdit*>("txtFolder")->text(), QString("/site/js"));
+            desk.dialogs.expectOpenFolder("/site");
+            press(window, "btnBrowseFolder");
+            QCOMPARE(desk.dialogs.recorded().back().request.folder, std::string("/site/js"));
+            QCOMPARE(window.findChild<QLineEdit*>("txtFolder")->text(), QString("/site"));
+            desk.dialogs.expectOpenFolder("");
+            press(window, "btnBrowseFolder");
+            QCOMPARE(window.findChild<QLineEdit*>("txtFolder")->text(), QString("/site"));
+        });
+        QCOMPARE(desk.list("comboFiles").count(), 0);
+    }
+
+    void subfoldersCanBeLeftOut() {
+        WizardDesk desk;
+        desk.disk.addFile("/site/x/c.htm", kPage);
+        desk.next();
+        inAddFolder(desk, [&](frmAddFolder& window) {
+            enter(window, "txtFolder", "/site");
+            QTest::keyClick(window.findChild<QWidget*>("chkSubfolders"), Qt::Key_Space);
+            press(window, "btnOK");
+        });
+        QCOMPARE(items(desk.list("comboFiles")), (QStringList{"a.htm", "b.htm"}));
+    }
+
+    void otherPatternsFindOtherPages() {
+        WizardDesk desk;
+        desk.disk.addFile("/site/c.php", kPage);
+        desk.next();
+        inAddFolder(desk, [&](frmAddFolder& window) {
+            enter(window, "txtFolder", "/site");
+            enter(window, "txtPatterns", "*.php;b.*");
+            press(window, "btnOK");
+        });
+        QCOMPARE(items(desk.list("comboFiles")), (QStringList{"b.htm", "c.php"}));
+    }
+
+    void aFolderWithoutPagesKeepsTheWindowOpen() {
+        WizardDesk desk;
+        desk.next();
+        inAddFolder(desk, [&](frmAddFolder& window) {
+            desk.messages.expect("Please enter a folder");
+            press(window, "btnOK");
+            enter(window, "txtFolder", "/nowhere");
+            desk.messages.expect("/nowhere is not a folder");
+            press(window, "btnOK");
+            enter(window, "txtFolder", "/site/js");
+            desk.messages.expect("No pages found in /site/js");
+            press(window, "btnOK");
+            QVERIFY(window.isVisible());
+        });
+        QCOMPARE(desk.list("comboFiles").count(), 0);
+    }
+
+    void pagesComeFromAList_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("relative and full paths") << "a.htm\n/site/b.htm\n";
+        QTest::newRow("lines of another system") << "a.htm\r\nb.htm\r\n";
+        QTest::newRow("a site map")
+            << "<?xml version=\"1.0\"?><urlset "
+               "xmlns=\"http://www.sitemaps.org/schemas/sitemap/0.9\">"
+               "<url><loc>http://zevmenu.example/a.htm</loc></url>"
+               "<url><loc>http://zevmenu.example/b.htm</loc></url></urlset>";
+    }
+    void pagesComeFromAList() {
+        QFETCH(QString, text);
+        WizardDesk desk;
+        desk.disk.addFile("/site/list", text.toStdString());
+        desk.next();
+        inPageList(desk, [&](frmPageList& window) {
+            desk.dialogs.expectOpenFile("/site/list");
+            press(window, "btnAddList");
+            QCOMPARE(listed(window), (QStringList{"a.htm", "b.htm"}));
+            press(window, "btnOK");
+        });
+        QCOMPARE(items(desk.list("comboFiles")), (QStringList{"a.htm", "b.htm"}));
+    }
+
+    void aListThatIsNoHelpIsTold() {
+        WizardDesk desk;
+        desk.disk.addFile("/site/empty", "\n");
+        desk.next();
+        inPageList(desk, [&](frmPageList& window) {
+            desk.dialogs.expectOpenFile("/site/empty");
+            desk.messages.expect("No pages found in /site/empty");
+            press(window, "btnAddList");
+            desk.dialogs.expectOpenFile("/site/gone");
+            desk.messages.expect("/site/gone not read: No such file or directory");
+            press(window, "btnAddList");
+            desk.dialogs.expectOpenFile("");
+            press(window, "btnAddList");
+        });
+    }
+
+    void thePagesOfADroppedFolderAreTaken() {
+        WizardDesk desk;
+        desk.disk.addFile("/site/x/c.htm", kPage);
+        desk.next();
+        QVERIFY(drop(desk.wizard, {"/site"}));
+        QCOMPARE(items(desk.list("comboFiles")), (QStringList{"a.htm", "b.htm", "x/c.htm"}));
+    }
+
+    void pagesOfTwoFoldersAreIntegratedInOneRun() {
+        WizardDesk desk;
+        desk.disk.addFile("/site/x/c.htm", kPage);
+        desk.next();
+        QVERIFY(drop(desk.wizard, {"/site/a.htm", "/site/x/c.htm"}));
+        desk.next();
+        desk.type("txtPath", "/site/js");
+        desk.type("txtMenuDef", "/site/menu_def.js");
+        desk.next(2);
+        QVERIFY(desk.page("a.htm").find("src=\"js/zevmenu_loader.js\"") != std::string::npos);
+        QVERIFY(desk.page("x/c.htm").find("src=\"../js/zevmenu_loader.js\"") !=
+                std::string::npos);
+        desk.next();
+        QVERIFY2(desk.text("txtCode").contains("Code for the pages in /site\n") &&
+                     desk.text("txtCode").contains("src=\"menu_def.js\"") &&
+                     desk.text("txtCode").contains("Code for the pages in /site/x\n") &&
+                     desk.text("txtCode").contains("src=\"../menu_def.js\""),
+                 qPrintable(desk.text("txtCode")));
+    }
+
     void f6LeadsToTheButtonsBesideTheSteps() {
         WizardDesk desk;
         desk.next();
@@ -176,8 +335,8 @@ class test_page_list : public QObject {
         do {
             QTest::keyClick(desk.wizard.focusWidget(), Qt::Key_F6);
             names.append(desk.wizard.focusWidget()->objectName());
-        } while (desk.button(names.last()).focusPolicy() == Qt::NoFocus && names.size() < 9);
-        QCOMPARE(names.first(), QString("btnPageList"));
+        } while (desk.wizard.focusWidget()->focusPolicy() == Qt::NoFocus && names.size() < 9);
+        QCOMPARE(names.mid(0, 3), (QStringList{"btnAddFolder", "btnPageList", "btnChanges"}));
         QCOMPARE(desk.wizard.focusWidget()->focusPolicy() == Qt::NoFocus, false);
     }
 
