@@ -196,10 +196,14 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
         "Exit status: 0 done, 1 a page failed (the others are done), 2 wrong use,\n"
         "3 the report could not be written.");
     // Required as well, but not to take a menu out.
-    command.add_option("--definition", integrate.definition, "Menu definition")
+    command
+        .add_option("--definition", integrate.definition,
+                    "Menu definition; needed but for --remove")
         ->type_name("FILE")
         ->check(refuseEmpty);
-    command.add_option("--library", integrate.library, "Folder of the run-time scripts")
+    command
+        .add_option("--library", integrate.library,
+                    "Folder of the run-time scripts; needed but for --remove")
         ->type_name("DIR")
         ->check(refuseEmpty);
     command.add_flag("--no-backup", options->hasNoBackups, "Do not keep a copy PAGE.bak");
