@@ -212,10 +212,14 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
         "Exit status: 0 done, 1 a page failed (the others are done), no page was found or nothing\n"
         "could be undone, 2 wrong use, 3 the report could not be written or a list not read.");
     // Required as well, but not to take a menu out nor for what is done with earlier runs.
-    command.add_option("--definition", integrate.definition, "Menu definition")
+    command
+        .add_option("--definition", integrate.definition,
+                    "Menu definition; needed but for --remove, --undo and --list-runs")
         ->type_name("FILE")
         ->check(refuseEmpty);
-    command.add_option("--library", integrate.library, "Folder of the run-time scripts")
+    command
+        .add_option("--library", integrate.library,
+                    "Folder of the run-time scripts; needed where a definition is")
         ->type_name("DIR")
         ->check(refuseEmpty);
     command.add_flag("--no-backup", options->hasNoBackups, "Do not keep a copy PAGE.bak");

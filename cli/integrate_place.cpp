@@ -6,6 +6,8 @@ namespace zev {
 
 namespace {
 
+constexpr const char* kRemovalOptions = "goes with PAGE, --no-backup, --dry-run and --report only";
+
 std::string refuseNoPlace(const std::string& where) {
     return parsePlace(where)
                ? ""
@@ -33,13 +35,16 @@ void addPlaceOptions(CLI::App& command, PlaceArguments& place, IntegrateOptions&
                      "Correct the definition's address in code that was pasted into the pages");
     command
         .add_flag("--remove", place.isRemoval,
-                  "Take the menu out of the pages; only PAGE, --no-backup, --dry-run and --report "
-                  "go with it")
+                  std::string("Take the menu out of the pages; ") + kRemovalOptions)
         ->excludes(where);
 }
 
 void takePlaceArguments(const PlaceArguments& place, IntegrateOptions& options) {
     options.place = parsePlace(place.where);
+    if (place.isRemoval && (!options.definition.empty() || !options.library.empty() ||
+                            options.popup || options.keepsOtherScripts ||
+                            options.replacesReferences))
+        throw CLI::ValidationError("--remove", kRemovalOptions);
 }
 
 }  // namespace zev

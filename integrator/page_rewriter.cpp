@@ -77,6 +77,10 @@ class PageRewriter {
             if (m_parser.offset() >= m_replacedEnd)
                 handleToken();
         }
+        takePlaced(m_parser.offset());
+        // With something placed behind it, it is the last one no more.
+        if (m_nextPlaced < m_placed.size() && m_parser.offset() >= m_replacedEnd)
+            handleToken();
         takePlaced(std::string_view::npos);
         return std::move(m_edits);
     }
