@@ -161,6 +161,8 @@ const std::vector<Command>& CommandActions::rows() {
          &frmMain::mnuToolsIntegrate_Click},
         {{"mnuTools"}},
         {{"mnuTools", "mnuToolsCheck", QT_TR_NOOP("&Check Menu")}, &frmMain::checkMenu},
+        {{"mnuTools", "mnuToolsUndoIntegration", QT_TR_NOOP("&Undo Integration\u2026")},
+         &frmMain::undoIntegration},
 
         {{"", "mnuHelp", QT_TR_NOOP("&Help")}},
         {{"mnuHelp", "mnuHelpContents", QT_TR_NOOP("&Contents"), "F1"},

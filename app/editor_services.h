@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/browser_view.h"
 #include "platform/common_dialogs.h"
 #include "platform/file_system.h"
@@ -17,6 +19,8 @@ struct EditorServices {
     Shell& shell;
     HelpViewer& help;
     BrowserView& browser;
+    /// Folder of the user's for what the program remembers; empty: it remembers nothing.
+    std::string userFolder = {};
 };
 
 }  // namespace zev

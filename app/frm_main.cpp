@@ -23,6 +23,7 @@
 #include "app/open_url.h"
 #include "app/script_view.h"
 #include "app/strip_line.h"
+#include "checks/menu_links.h"
 #include "dialogs/frm_adv_prop.h"
 #include "dialogs/frm_default_prop.h"
 #include "dialogs/frm_menu_prop.h"
@@ -30,6 +31,7 @@
 #include "dialogs/property_edit.h"
 #include "html/caption_text.h"
 #include "integrator/wizard/frm_integrator.h"
+#include "integrator/wizard/frm_undo.h"
 #include "library/changed_files.h"
 #include "messages/library_messages.h"
 #include "script/script_writer.h"
@@ -295,14 +297,32 @@ void frmMain::mnuEditMoveDown_Click() {
     Button_Update();
 }
 
+/// A folder for what the program remembers of one kind; empty when it remembers nothing.
+std::string frmMain::inUserFolder(const char* name) const {
+    return m_services.userFolder.empty() ? "" : Path(m_services.userFolder).child(name);
+}
+
 void frmMain::mnuToolsIntegrate_Click() {
-    frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs},
+    frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs,
+                          inUserFolder("wizard"), inUserFolder("runs")},
                          mountedDrives(), this);
     if (!m_document.SaveFile().empty())
         wizard.setDefinition(m_document.SaveFile());
-    if (m_document.CurNode() != nullptr)
+    if (m_document.CurNode() != nullptr) {
         wizard.showSubmenus(ListSubmenus(m_document.content()));
+        wizard.setLinkList([this](const std::string& definitionURL) {
+            return noScriptLinks(m_document.content(), definitionURL);
+        });
+    }
+    if (m_document.bModified())
+        wizard.sayUnsaved();
+    wizard.recallEntries();
     wizard.exec();
+}
+
+void frmMain::undoIntegration() {
+    frmUndo window(m_services.files, m_services.messages, inUserFolder("runs"), this);
+    window.exec();
 }
 
 void frmMain::mnuHelpContents_Click() {

@@ -75,6 +75,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void mnuToolsIntegrate_Click();
     /// Tools > Check Menu.
     void checkMenu() { m_notes.checkMenu(); }
+    /// Offers the last runs of the Menu Integrator to be undone.
+    void undoIntegration();
     void mnuHelpContents_Click();
     void mnuHelpAbout_Click();
     void mnuHelpSupport_Click();
@@ -109,6 +111,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void leaveField();
     void edit(EditResult (*command)(MenuDocument&));
     void followChange();
+    std::string inUserFolder(const char* name) const;
     void openAddress(const std::string& address);
     void goTo(const NotePlace& place);
     void goToItem(const MenuNode& node);

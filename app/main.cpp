@@ -47,10 +47,9 @@ void describeArguments(QCommandLineParser& parser) {
 
 /// The folder that holds the run-time files. Without them the editor still runs, and each save says
 /// which file is missing.
-std::string programFolder(FileSystem& files, MessageBox& messages) {
+std::string programFolder(FileSystem& files, MessageBox& messages,
+                          const std::string& userFolder) {
     const std::string executable = QCoreApplication::applicationFilePath().toStdString();
-    const std::string userFolder =
-        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
     const FileResult<std::string> folder = findProgramFolder(files, executable, userFolder);
     if (folder.isOk())
         return folder.value();
@@ -66,9 +65,12 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     QtCommonDialogs dialogs;
     QtHelpViewer help;
     auto* browser = new QtBrowserView;
-    const EditorServices services{fileSystem, messages, dialogs, shell, help, *browser};
+    const std::string userFolder =
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+    const EditorServices services{fileSystem, messages, dialogs, shell,
+                                  help,       *browser, userFolder};
 
-    frmMain window(services, programFolder(fileSystem, messages), browser);
+    frmMain window(services, programFolder(fileSystem, messages, userFolder), browser);
     // Ends the program also while the manual's window is open.
     QObject::connect(
         &window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); },

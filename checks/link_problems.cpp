@@ -1,7 +1,6 @@
 #include "checks/link_problems.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -12,11 +11,10 @@
 
 #include "checks/item_names.h"
 #include "html/caption_text.h"
-#include "html/html_attributes.h"
 #include "html/html_parse.h"
-#include "html/server_blocks.h"
 #include "text/ascii.h"
 #include "text/path.h"
+#include "text/percent_encoding.h"
 
 namespace zev {
 
@@ -35,24 +33,6 @@ constexpr std::uint64_t kMaxUnaskedBytes = std::uint64_t{16} << 20;
 bool hasScheme(std::string_view url) {
     const std::size_t end = url.find_first_of(":/?#");
     return end != std::string_view::npos && end > 0 && url[end] == ':';
-}
-
-std::string percentDecoded(std::string_view text) {
-    std::string result;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        unsigned char byte = 0;
-        if (text[at] == '%' && at + 2 < text.size()) {
-            const char* const digits = text.data() + at + 1;
-            const auto [end, error] = std::from_chars(digits, digits + 2, byte, 16);
-            if (error == std::errc() && end == digits + 2) {
-                result += static_cast<char>(byte);
-                at += 2;
-                continue;
-            }
-        }
-        result += text[at];
-    }
-    return result;
 }
 
 bool isHtmlFile(std::string_view path) {
@@ -225,25 +205,13 @@ class LinkFinder {
                 checkImage(problem.value, problem);
                 problem.kind = Kind::Image;
                 problem.reason = Reason::NoAlternative;
-                if (!hasAlt(html.TagText()))
+                // An empty one says that the image is decoration.
+                if (!html.hasAttribute("alt"))
                     tell(problem);
             }
             if (html.IsLast())
                 return;
         }
-    }
-
-    /// An empty one says that the image is decoration.
-    static bool hasAlt(std::string_view tag) {
-        ServerBlocks blocks(tag);
-        HtmlAttributeReader attributes(tag, blocks, std::string_view("img").size());
-        HtmlAttribute attribute;
-        while (attributes.next(attribute))
-            if (equalsIgnoringCase(
-                    tag.substr(attribute.nameBegin, attribute.nameEnd - attribute.nameBegin),
-                    "alt"))
-                return true;
-        return false;
     }
 
     void tell(MenuProblem problem) { m_problems.push_back(std::move(problem)); }

@@ -77,10 +77,13 @@ bool writeStandardOutput(std::string_view bytes) {
     return error == 0;
 }
 
-FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path) {
+FileResult<std::string> readInputFile(const FileSystem& files, const std::string& path) {
     const int handed = handedDescriptor(path);
-    FileResult<std::string> bytes =
-        handed >= 0 ? readHanded(handed, path) : files.readFile(path, kMaxDefinitionFileBytes);
+    return handed >= 0 ? readHanded(handed, path) : files.readFile(path, kMaxDefinitionFileBytes);
+}
+
+FileResult<std::string> readMenuFile(const FileSystem& files, const std::string& path) {
+    FileResult<std::string> bytes = readInputFile(files, path);
     if (bytes.isOk()) {
         if (!isBinary(bytes.value()))
             return bytes;

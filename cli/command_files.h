@@ -32,6 +32,10 @@ void printProblem(const FileError& error);
 /// Writes to standard output. False, with the problem printed, when not all of it could be written.
 bool writeStandardOutput(std::string_view bytes);
 
+/// The bytes of the file `path` ("-": standard input), of at most the size of a definition. Pipes
+/// are read only by the names that a shell gives what it hands over, as by `readMenuFile`.
+FileResult<std::string> readInputFile(const FileSystem& files, const std::string& path);
+
 /// The bytes of the text file `path` ("-": standard input). Pipes are read only by the names that a
 /// shell gives what it hands over, "/dev/stdin" and "/dev/fd/63". The error may also be that no
 /// menu is in it: it is not text, or too large.

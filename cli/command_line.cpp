@@ -9,7 +9,10 @@
 #include "cli/command_arguments.h"
 #include "cli/commands.h"
 #include "cli/inspect_arguments.h"
+#include "cli/integrate_place.h"
+#include "cli/integrate_site.h"
 #include "cli/integrator_commands.h"
+#include "cli/run_commands.h"
 #include "platform/posix/running_program.h"
 #include "script/submenu_list.h"
 #include "text/program_name.h"
@@ -178,10 +181,24 @@ void addLinkcode(CLI::App& program, ExitStatus& status) {
     });
 }
 
+/// Throws CLI::ParseError when one is missing.
+void requireArguments(const IntegrateOptions& integrate, const SiteArguments& site,
+                      bool isRemoval) {
+    if (!isRemoval && integrate.definition.empty())
+        throw CLI::RequiredError("--definition");
+    if (!isRemoval && integrate.library.empty())
+        throw CLI::RequiredError("--library");
+    if (integrate.pages.empty() && !site.areGiven())
+        throw CLI::RequiredError("PAGE");
+}
+
 void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
     struct Options {
         IntegrateOptions integrate;
         PopupArguments popup;
+        PlaceArguments place;
+        SiteArguments site;
+        RunArguments runs;
         bool hasNoBackups = false;
     };
     const auto options = std::make_shared<Options>();
@@ -191,26 +208,50 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
     command.footer(
         "Definition and library need not exist. Relative paths count from the current folder; an\n"
         "address such as \"http://example.org/menu/\" is taken as it is.\n"
-        "Exit status: 0 done, 1 a page failed (the others are done), 2 wrong use,\n"
-        "3 the report could not be written.");
-    addRequired(command, "--definition", "FILE", integrate.definition, "Menu definition");
-    addRequired(command, "--library", "DIR", integrate.library, "Folder of the run-time scripts");
+        "A run prints its name on standard error; --undo takes it back.\n"
+        "Exit status: 0 done, 1 a page failed (the others are done), no page was found or nothing\n"
+        "could be undone, 2 wrong use, 3 the report could not be written or a list not read.");
+    // Required as well, but not to take a menu out nor for what is done with earlier runs.
+    command
+        .add_option("--definition", integrate.definition,
+                    "Menu definition; needed but for --remove, --undo and --list-runs")
+        ->type_name("FILE")
+        ->check(refuseEmpty);
+    command
+        .add_option("--library", integrate.library,
+                    "Folder of the run-time scripts; needed where a definition is")
+        ->type_name("DIR")
+        ->check(refuseEmpty);
     command.add_flag("--no-backup", options->hasNoBackups, "Do not keep a copy PAGE.bak");
     command.add_flag("--keep-scripts", integrate.keepsOtherScripts,
                      "Keep scripts that do not name JavaScript in a language attribute");
+    command.add_flag("--skip-failing", integrate.skipsFailing,
+                     "Leave pages that lack a place for the menu's code as they are");
     command.add_flag("--dry-run", integrate.isDryRun, "Report, but leave every page as it is");
     command.add_option("--report", integrate.report, "File for the report")
         ->type_name("FILE")
         ->check(refuseEmpty);
     addPopup(command, options->popup);
-    command.add_option("PAGE", integrate.pages, "Web pages")
-        ->required()
-        ->type_name("")
-        ->check(refuseEmpty);
+    addPlaceOptions(command, options->place, integrate);
+    addSiteOptions(command, options->site);
+    addRunOptions(command, options->runs);
+    command.add_option("PAGE", integrate.pages, "Web pages")->type_name("")->check(refuseEmpty);
     command.callback([&files, &status, options] {
+        if (options->runs.areGiven()) {
+            status = runsCommand(files, options->runs);
+            return;
+        }
         options->integrate.hasBackups = !options->hasNoBackups;
         options->integrate.popup = options->popup.options();
-        status = integrateCommand(files, options->integrate);
+        takePlaceArguments(options->place, options->integrate);
+        requireArguments(options->integrate, options->site, options->place.isRemoval);
+        const std::optional<ExitStatus> problem =
+            addSitePages(files, options->site, options->integrate.pages);
+        if (problem)
+            status = *problem;
+        else
+            status = options->place.isRemoval ? removeCommand(files, options->integrate)
+                                              : integrateCommand(files, options->integrate);
     });
 }
 
@@ -242,6 +283,7 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     addCheck(program, files, status);
     addDiff(program, files, status);
     addTree(program, files, status);
+    addOutline(program, files, status);
     addPublish(program, files, status);
     addLinkcode(program, status);
     addIntegrate(program, files, status);

@@ -15,6 +15,11 @@ void addJson(CLI::App& command, bool& isJson) {
     command.add_flag("--json", isJson, "Print JSON, for other programs");
 }
 
+std::string refuseNoAddress(const std::string& url) {
+    const bool isAddress = url.starts_with("http://") || url.starts_with("https://");
+    return isAddress ? "" : "must begin with http:// or https://";
+}
+
 }  // namespace
 
 void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status) {
@@ -68,6 +73,36 @@ void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status) {
     addJson(command, options->isJson);
     command.callback([&files, &status, options] {
         status = treeCommand(files, options->input, options->isJson);
+    });
+}
+
+void addOutline(CLI::App& program, FileSystem& files, ExitStatus& status) {
+    struct Options {
+        OutlineOptions outline;
+        bool isHtml = false;
+    };
+    const auto options = std::make_shared<Options>();
+    CLI::App& command = addCommand(program, "outline",
+                                   "Print the menu's links as a list or a site map for web pages");
+    CLI::Option* const html =
+        command.add_flag("--html", options->isHtml, "Print a nested list of links");
+    CLI::Option* const base =
+        command
+            .add_option("--base", options->outline.base,
+                        "Address of the menu definition; the links are absolute then")
+            ->type_name("URL")
+            ->check(refuseNoAddress);
+    command
+        .add_flag("--sitemap", options->outline.isSiteMap,
+                  "Print a site map of all pages that the menu leads to")
+        ->needs(base)
+        ->excludes(html);
+    addInput(command, options->outline.input);
+    addOutput(command, options->outline.output);
+    command.callback([&files, &status, options] {
+        if (!options->isHtml && !options->outline.isSiteMap)
+            throw CLI::RequiredError("--html or --sitemap");
+        status = outlineCommand(files, options->outline);
     });
 }
 

@@ -7,7 +7,7 @@
 
 namespace zev {
 
-// Each adds a command that looks at menus and writes none; when it is the one that was asked for,
+// Each adds a command that looks at menus and changes none; when it is the one that was asked for,
 // it runs and sets `status`.
 
 void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status);
@@ -15,5 +15,7 @@ void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status);
 void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status);
 
 void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status);
+
+void addOutline(CLI::App& program, FileSystem& files, ExitStatus& status);
 
 }  // namespace zev

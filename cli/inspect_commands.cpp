@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "checks/difference_json.h"
+#include "checks/menu_links.h"
 #include "checks/menu_outline.h"
 #include "messages/difference_messages.h"
 #include "script/property_lines.h"
@@ -32,6 +33,22 @@ ExitStatus treeCommand(const FileSystem& files, const std::string& input, bool i
         return ExitStatus::FileProblem;
     const std::string text = isJson ? menuOutlineJson(content) : menuOutline(content);
     return writeStandardOutput(text) ? read->status : ExitStatus::FileProblem;
+}
+
+ExitStatus outlineCommand(FileSystem& files, const OutlineOptions& options) {
+    MenuContent& content = commandContent();
+    const std::optional<DefinitionInput> read = readDefinition(files, options.input, content);
+    if (!read)
+        return ExitStatus::FileProblem;
+    const std::string text =
+        options.isSiteMap ? siteMap(content, options.base) : menuLinkList(content, options.base);
+    if (options.output.empty() || options.output == "-")
+        return writeStandardOutput(text) ? read->status : ExitStatus::FileProblem;
+    const FileOutcome error = files.writeFile(options.output, text, Links::Followed);
+    if (!error)
+        return read->status;
+    printProblem(*error);
+    return ExitStatus::FileProblem;
 }
 
 ExitStatus diffCommand(const FileSystem& files, const std::string& oldInput,

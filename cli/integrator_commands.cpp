@@ -2,9 +2,13 @@
 
 #include <map>
 #include <set>
+#include <utility>
 
+#include "checks/menu_links.h"
 #include "cli/command_paths.h"
+#include "cli/run_commands.h"
 #include "integrator/page_integration.h"
+#include "messages/integration_messages.h"
 #include "script/relative_url.h"
 #include "text/ascii.h"
 #include "text/pattern.h"
@@ -70,6 +74,79 @@ std::string codeOfAll(const std::vector<PageGroup>& groups, const IntegrateOptio
     return text;
 }
 
+/// What the pages of a run have become.
+struct RunReport {
+    std::string text;
+    RunSummary summary;
+};
+
+/// Integrates pages of one folder or takes the menu out of them, and prints what to know of them.
+void processPages(FileSystem& files, IntegrationOptions integration,
+                  const IntegrateOptions& options, const ChosenFiles& pages, CommandRun& run,
+                  RunReport& report) {
+    integration.hasBackups = options.hasBackups;
+    integration.isDryRun = options.isDryRun;
+    integration.skipsFailing = options.skipsFailing;
+    integration.record = run.record();
+    PageIntegrator integrator(files, integration);
+    for (const std::string& name : pages.names) {
+        integrator.IntegratePages({pages.folder, {name}});
+        for (const PageNote& note : integrator.status().notes)
+            printProblem(pagePath(pages.folder, name) + ": " + noteText(note));
+    }
+    report.text += integrator.report();
+    report.summary.add(integrator.summary());
+}
+
+/// Writes the report where it is wanted, and `code` to standard output.
+ExitStatus writeReport(FileSystem& files, const std::string& path, const RunReport& report,
+                       const std::string& code) {
+    const std::string text = report.text + report.summary.text();
+    std::string output = code;
+    if (!path.empty())
+        for (const std::string& page : report.summary.failedPages)
+            printProblem(page + ": failed; see the report");
+    if (path.empty()) {
+        output = withUnixLineEnds(text) + code;
+    } else if (const FileOutcome error =
+                   files.writeFile(path, text + "\r\n", Links::Followed)) {
+        printProblem(*error);
+        return ExitStatus::FileProblem;
+    }
+    if (!writeStandardOutput(output))
+        return ExitStatus::FileProblem;
+    return report.summary.failedPages.empty() ? ExitStatus::Done : ExitStatus::Counted;
+}
+
+/// The menu whose links are to stand in the pages; null when none are. Nothing, with the problem
+/// printed, when it cannot be read.
+std::optional<MenuContent*> menuForLinks(const FileSystem& files, const IntegrateOptions& options) {
+    if (!options.hasLinkList)
+        return nullptr;
+    MenuContent& content = commandContent();
+    if (!readDefinition(files, options.definition, content))
+        return {};
+    return &content;
+}
+
+/// For the pages of a folder from which the URLs are seen so.
+RewriteOptions rewriteOptions(const IntegrateOptions& options, const IntegrationURLs& urls,
+                              const MenuContent* menu) {
+    RewriteOptions rewrite{urls.library, options.keepsOtherScripts};
+    if (options.replacesReferences)
+        rewrite.newDefinitionURL = urls.definition;
+    if (!options.place)
+        return rewrite;
+    std::string code = options.popup
+                           ? definitionReference(urls.definition) +
+                                 popupLinkCode(options.popup->submenuId, options.popup->placement)
+                           : placedMenuCode(urls.definition);
+    if (menu)
+        code += noScriptLinks(*menu, urls.definition);
+    rewrite.menu = PlacedMenu{*options.place, std::move(code)};
+    return rewrite;
+}
+
 }  // namespace
 
 ExitStatus linkcodeCommand(const std::string& definitionURL,
@@ -81,35 +158,34 @@ ExitStatus linkcodeCommand(const std::string& definitionURL,
 
 ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) {
     const std::optional<std::vector<PageGroup>> groups = groupPages(options);
-    if (!groups)
+    const std::optional<MenuContent*> menu = menuForLinks(files, options);
+    if (!groups || !menu)
         return ExitStatus::FileProblem;
-    std::string report;
-    bool hasFailed = false;
+    CommandRun run(files, options.isDryRun);
+    RunReport report;
     for (const PageGroup& group : *groups) {
-        for (const std::string& name : group.files.names) {
-            PageIntegrator integrator(files, {{group.urls.library, options.keepsOtherScripts},
-                                              options.hasBackups,
-                                              options.isDryRun});
-            integrator.IntegratePages({group.files.folder, {name}});
-            report += integrator.report();
-            if (!integrator.hasFailed())
-                continue;
-            hasFailed = true;
-            if (!options.report.empty())
-                printProblem(pagePath(group.files.folder, name) + ": failed; see the report");
-        }
+        IntegrationOptions integration{rewriteOptions(options, group.urls, *menu)};
+        processPages(files, integration, options, group.files, run, report);
     }
-    std::string output = codeOfAll(*groups, options);
-    if (options.report.empty()) {
-        output = withUnixLineEnds(report) + output;
-    } else if (const FileOutcome error =
-                   files.writeFile(options.report, report + "\r\n", Links::Followed)) {
-        printProblem(*error);
-        return ExitStatus::FileProblem;
+    run.printOutcome();
+    return writeReport(files, options.report, report,
+                       options.place ? "" : codeOfAll(*groups, options));
+}
+
+ExitStatus removeCommand(FileSystem& files, const IntegrateOptions& options) {
+    CommandRun run(files, options.isDryRun);
+    RunReport report;
+    for (const std::string& page : options.pages) {
+        const std::optional<std::string> path = fullPath(page);
+        if (!path)
+            return ExitStatus::FileProblem;
+        const PathParts parts = SplitPath(*path);
+        IntegrationOptions integration;
+        integration.isRemoval = true;
+        processPages(files, integration, options, {parts.folder, {parts.name}}, run, report);
     }
-    if (!writeStandardOutput(output))
-        return ExitStatus::FileProblem;
-    return hasFailed ? ExitStatus::Counted : ExitStatus::Done;
+    run.printOutcome();
+    return writeReport(files, options.report, report, "");
 }
 
 }  // namespace zev

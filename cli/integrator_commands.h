@@ -6,6 +6,7 @@
 
 #include "cli/command_files.h"
 #include "integrator/link_code.h"
+#include "integrator/menu_place.h"
 #include "platform/file_system.h"
 
 namespace zev {
@@ -28,14 +29,22 @@ struct IntegrateOptions {
     bool hasBackups = true;
     bool keepsOtherScripts = false;
     bool isDryRun = false;
-    std::string report;  ///< file for the report; empty: standard output
+    bool skipsFailing = false;  ///< pages that lack a place for the menu's code stay as they are
+    std::string report;         ///< file for the report; empty: standard output
     std::optional<PopupOptions> popup;
+    std::optional<MenuPlace> place;   ///< the menu is put there; nothing: its code is printed
+    bool hasLinkList = false;         ///< with the menu, a list of its links for who has no script
+    bool replacesReferences = false;  ///< to the definition, in code of this program
     std::vector<std::string> pages;
 };
 
 /// Integrates the pages, writes the report and prints the code to paste, which differs between
-/// pages of different folders. Counted when any page failed; when the report goes to a file, each
+/// pages of different folders. The run's name is printed on standard error. Counted when any page
+/// failed; when the report goes to a file, each
 /// that did is named on standard error.
 ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options);
+
+/// Takes the menu out of the pages and writes the report; of the options, those about files count.
+ExitStatus removeCommand(FileSystem& files, const IntegrateOptions& options);
 
 }  // namespace zev

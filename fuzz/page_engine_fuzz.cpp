@@ -4,9 +4,14 @@
 #include <string>
 
 #include "tests/support/page_properties.h"
+#include "tests/support/placement_properties.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string page(reinterpret_cast<const char*>(bytes), size);
+    if (const std::string problem = zev::problemOfPlacements(page); !problem.empty()) {
+        std::fprintf(stderr, "%s\n", problem.c_str());
+        std::abort();
+    }
     for (const bool keepsOtherScripts : {true, false}) {
         const std::string problem = zev::problemOfIntegration(page, keepsOtherScripts);
         if (!problem.empty()) {

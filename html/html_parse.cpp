@@ -98,13 +98,18 @@ std::string_view HtmlParse::TagText() const {
 
 std::string_view HtmlParse::Attribute(std::string_view name) const {
     HtmlAttribute attribute;
-    if (!hasAttributes() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute))
+    if (!isElementTag() || !findHtmlAttribute(TagText(), nameEnd(), name, attribute))
         return {};
     return TagText().substr(attribute.valueBegin, attribute.valueEnd - attribute.valueBegin);
 }
 
+bool HtmlParse::hasAttribute(std::string_view name) const {
+    HtmlAttribute attribute;
+    return isElementTag() && findHtmlAttribute(TagText(), nameEnd(), name, attribute);
+}
+
 void HtmlParse::SetAttribute(std::string_view name, std::string_view value) {
-    if (!hasAttributes())
+    if (!isElementTag())
         return;
     HtmlAttribute attribute;
     m_changedText = findHtmlAttribute(TagText(), nameEnd(), name, attribute)
@@ -123,8 +128,8 @@ void HtmlParse::readBatch() {
     m_changed = nullptr;
 }
 
-/// Comments and text have none.
-bool HtmlParse::hasAttributes() const {
+/// Comments and text have no attributes.
+bool HtmlParse::isElementTag() const {
     return m_current->kind == HtmlToken::Kind::StartTag ||
            m_current->kind == HtmlToken::Kind::EndTag;
 }

@@ -41,6 +41,8 @@ class HtmlParse {
     /// The value of an attribute as it is spelled in the page, without its quotes; empty when
     /// absent. The name's case does not matter; of several attributes of one name the first counts.
     std::string_view Attribute(std::string_view name) const;
+    /// True when the tag has such an attribute, with or without a value.
+    bool hasAttribute(std::string_view name) const;
     /// Changes the value in the tag's text, which keeps its quotes and without any gets double
     /// ones, or adds the attribute at its end. Every other byte of the tag stays. Where the value
     /// holds the quote outside of server-side code, it is written as a character reference. Nothing
@@ -69,7 +71,7 @@ class HtmlParse {
   private:
     void readBatch();
     std::string_view lowerCaseName() const;
-    bool hasAttributes() const;
+    bool isElementTag() const;
     std::size_t nameEnd() const { return m_current->name.size(); }
 
     // Tokens are read in batches, and what a reader asks every one of them is answered in this

@@ -24,6 +24,13 @@ bool hasUtf16Mark(std::string_view page) {
 
 }  // namespace
 
+bool hasRawContent(std::string_view elementName) {
+    return equalsIgnoringCase(elementName, kScript) ||
+           std::any_of(
+               kRawElements.begin(), kRawElements.end(),
+               [&](std::string_view name) { return equalsIgnoringCase(elementName, name); });
+}
+
 HtmlTokenizer::HtmlTokenizer(std::string_view page)
     : m_page(page), m_blocks(page), m_rawElement(hasUtf16Mark(page) ? kPlaintext : "") {}
 

@@ -12,6 +12,10 @@
 
 namespace zev {
 
+/// True for elements that hold nothing but text up to their end tag; the name's case does not
+/// matter.
+bool hasRawContent(std::string_view elementName);
+
 /// Cuts a page into tokens, in one pass and without memory of its own for a token. The tokens'
 /// sources joined are the page. A page that begins with a UTF-16 byte order mark is all text.
 class HtmlTokenizer {

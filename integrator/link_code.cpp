@@ -1,6 +1,7 @@
 #include "integrator/link_code.h"
 
 #include "script/submenu_list.h"
+#include "text/percent_encoding.h"
 
 namespace zev {
 
@@ -16,20 +17,13 @@ std::string argumentsOf(const std::string& submenuId) {
 
 /// What would end an attribute in double quotes or its tag, or break its line, percent-encoded.
 std::string withinAttribute(std::string_view url) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    std::string encoded;
-    for (const char c : url) {
-        const auto byte = static_cast<unsigned char>(c);
-        const bool isControl = byte < 0x20 || byte == 0x7F;
-        if (isControl || c == '"' || c == '<' || c == '>') {
-            encoded += '%';
-            encoded += kDigits[byte >> 4];
-            encoded += kDigits[byte & 0xF];
-        } else {
-            encoded += c;
-        }
-    }
-    return encoded;
+    return percentEncoded(
+        url,
+        [](char c) {
+            const auto byte = static_cast<unsigned char>(c);
+            const bool isControl = byte < 0x20 || byte == 0x7F;
+            return !isControl && c != '"' && c != '<' && c != '>';
+        });
 }
 
 }  // namespace
@@ -48,12 +42,16 @@ std::string menuCode(const std::string& definitionURL) {
            "\r\n<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>";
 }
 
-std::string popupLinkCode(const std::string& submenuId, const PopupPlacement& placement) {
+std::string popupLinkTag(const std::string& submenuId, const PopupPlacement& placement) {
     const std::string arguments = argumentsOf(submenuId);
     const std::string start = "<a href=\"\" onmouseover=\"ZEVMenuOpen(" + arguments;
     if (placement.isAtMouse)
-        return start + ", event)\" onmouseout=\"ZEVMenuClose(" + arguments + ", false)\">Menu</a>";
-    return start + ", " + placement.x + ", " + placement.y + ")\">Menu</a>";
+        return start + ", event)\" onmouseout=\"ZEVMenuClose(" + arguments + ", false)\">";
+    return start + ", " + placement.x + ", " + placement.y + ")\">";
+}
+
+std::string popupLinkCode(const std::string& submenuId, const PopupPlacement& placement) {
+    return popupLinkTag(submenuId, placement) + "Menu</a>";
 }
 
 }  // namespace zev

@@ -17,6 +17,7 @@ struct PopupPlacement {
     bool isAtMouse = true;
     std::string x;  ///< with `y` the position on the page in pixels, when not at the mouse;
     std::string y;  ///< both go into the code as they are
+    bool operator==(const PopupPlacement&) const = default;
 };
 
 /// Reference to the definition file. `definitionURL` goes into the code as it is, but for double
@@ -26,6 +27,9 @@ std::string definitionReference(const std::string& definitionURL);
 
 /// Code of a horizontal or vertical menu: the reference and the call that draws the menu in place.
 std::string menuCode(const std::string& definitionURL);
+
+/// Start tag of the hyperlink below.
+std::string popupLinkTag(const std::string& submenuId, const PopupPlacement& placement);
 
 /// Hyperlink that opens, and beside the mouse also closes, the submenu of this id, which goes into
 /// the code as it is: see `isSubmenuId`.

@@ -4,15 +4,18 @@
 #include <limits>
 #include <utility>
 
+#include "integrator/page_removal.h"
+#include "integrator/run_record.h"
 #include "script/relative_url.h"
 #include "text/ascii.h"
 #include "text/path.h"
+#include "text/percent_encoding.h"
 
 namespace zev {
 
-namespace {
+const char* const kTemporaryPageName = "~qxtmp.htm";
 
-constexpr const char* kTemporaryName = "~qxtmp.htm";
+namespace {
 
 /// Of drives only those with an upper-case letter are turned into URLs.
 bool isFullPath(std::string_view text) {
@@ -30,13 +33,44 @@ std::string withSeparator(std::string_view folder) {
     return path;
 }
 
+/// The URL of a full path as seen from the folder. What an address cannot hold is percent-encoded,
+/// characters outside ASCII too: the page may have another encoding. A path on another drive has no
+/// URL and stays.
+std::string relativeURL(std::string_view folder, std::string_view path) {
+    std::string url = ToRelativeURL(folder, path);
+    if (url == path)
+        return url;
+    return percentEncoded(url, [](char c) {
+        return isAsciiLetter(c) || isAsciiDigit(c) ||
+               std::string_view("-._~/:@!$*+,;=()").find(c) != std::string_view::npos;
+    });
+}
+
 std::string temporaryPath(const std::string& pagePath) {
-    return Path(Path(pagePath).folder()).child(kTemporaryName);
+    return Path(Path(pagePath).folder()).child(kTemporaryPageName);
 }
 
 /// A page may be of any size.
 FileResult<std::string> readPage(const FileSystem& files, const std::string& path) {
     return files.readFile(path, std::numeric_limits<std::uint64_t>::max());
+}
+
+/// For the report.
+std::string placeReason(PlaceProblem problem, const PlacedMenu& menu) {
+    const std::string place = "\"" + menu.place.text + "\"";
+    switch (problem) {
+        case PlaceProblem::NotFound:
+            return "There is no place " + place;
+        case PlaceProblem::NoEndTag:
+            return "The end of the element is not found: " + place;
+        case PlaceProblem::NoMarkup:
+            return "The element cannot hold a menu: " + place;
+        case PlaceProblem::HoldsThePage:
+            return "The element holds the page's head or body: " + place;
+        case PlaceProblem::TextNotFound:
+            return "The text for the link is not found: \"" + menu.link->text + "\"";
+    }
+    return {};
 }
 
 }  // namespace
@@ -46,10 +80,10 @@ IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view defi
     IntegrationURLs urls;
     definition = trimSpaces(definition);
     urls.definition =
-        isFullPath(definition) ? ToRelativeURL(pagesFolder, definition) : std::string(definition);
+        isFullPath(definition) ? relativeURL(pagesFolder, definition) : std::string(definition);
     // The folder goes into the sum with its spaces: a folder's name may end in one.
     urls.library = isFullPath(trimSpaces(library))
-                       ? ToRelativeURL(pagesFolder, withSeparator(library))
+                       ? relativeURL(pagesFolder, withSeparator(library))
                        : std::string(trimSpaces(library));
     return urls;
 }
@@ -63,6 +97,24 @@ FileResult<std::size_t> countDroppedScripts(const FileSystem& files, const std::
     if (!page.isOk())
         return page.error();
     return countDroppedScripts(page.value());
+}
+
+void RunSummary::add(const RunSummary& other) {
+    doneCount += other.doneCount;
+    failedPages.insert(failedPages.end(), other.failedPages.begin(), other.failedPages.end());
+    skippedPages.insert(skippedPages.end(), other.skippedPages.begin(), other.skippedPages.end());
+}
+
+std::string RunSummary::text() const {
+    std::string lines;
+    for (const std::string& page : failedPages)
+        lines += "Failed: " + page + "\r\n";
+    for (const std::string& page : skippedPages)
+        lines += "Skipped: " + page + "\r\n";
+    lines += std::to_string(doneCount) + " done, " + std::to_string(failedPages.size()) + " failed";
+    if (!skippedPages.empty())
+        lines += ", " + std::to_string(skippedPages.size()) + " skipped";
+    return lines + "\r\n\r\n";
 }
 
 PageIntegrator::PageIntegrator(FileSystem& files, IntegrationOptions options)
@@ -85,61 +137,99 @@ void PageIntegrator::integratePage(const std::string& path) {
     if (!m_files.FileExists(path) && !m_files.isFolder(path)) {
         appendLine("ERROR: " + path + " Not Found!");
         appendLine("");
-        m_hasFailed = true;
+        m_summary.failedPages.push_back(path);
         return;
     }
     appendLine("Processing " + path);
-    if (const std::optional<PageError> error = IntegrateFile(path))
+    const std::optional<PageError> error = IntegrateFile(path);
+    if (error)
         reportError(path, *error);
     else
         WriteFileReport();
-    if (!m_status.bSuccess)
-        m_hasFailed = true;
+    if (!error && isSkipped())
+        m_summary.skippedPages.push_back(path);
+    else if (!m_status.bSuccess)
+        m_summary.failedPages.push_back(path);
+    else
+        ++m_summary.doneCount;
 }
 
 std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) {
     m_status = {};
     if (path == temporaryPath(path))
         return PageError{PageError::Code::IsTemporaryFile, {FileError::Code::Other, path, ""}};
-    std::optional<FileResult<std::string>> page = readPage(m_files, path);
-    if (!page->isOk())
-        return PageError{PageError::Code::NotRead, page->error()};
+    FileResult<std::string> page = readPage(m_files, path);
+    if (!page.isOk())
+        return PageError{PageError::Code::NotRead, page.error()};
     IntegrationStatus status;
-    std::string bytes = rewritePage(page->value(), m_options.rewrite, status);
-    page.reset();  // while the new page is written, the old one would only take up memory
-    if (!m_options.isDryRun) {
-        if (std::optional<PageError> error = replacePage(path, std::move(bytes)))
+    const std::vector<PageEdit> edits = editsOf(page.value(), status);
+    if (status.placeProblem)
+        return PageError{PageError::Code::NoPlace,
+                         {FileError::Code::Other, path,
+                          placeReason(*status.placeProblem, *m_options.rewrite.menu)}};
+    const bool hasPlaces = m_options.isRemoval || status.hasAllPlaces();
+    const bool isLeft = m_options.isDryRun || (m_options.skipsFailing && !hasPlaces) ||
+                        (m_options.isRemoval && edits.empty());
+    if (!isLeft) {
+        if (std::optional<PageError> error = replacePage(path, page.take(), edits))
             return error;
     }
-    status.bSuccess = status.bEndBodyDone && status.bBodyDone && status.bHeadDone;
-    m_status = status;
+    status.bSuccess = hasPlaces;
+    m_status = std::move(status);
     return {};
 }
 
-std::optional<PageError> PageIntegrator::replacePage(const std::string& path, std::string bytes) {
-    const std::string temporary = temporaryPath(path);
-    PageError::Code code = PageError::Code::NotSaved;
-    FileOutcome error = m_files.writeTemporaryFile(temporary, bytes);
-    // Copying reads a whole file; two texts of a page's size in memory would be one too many.
-    std::string().swap(bytes);
-    if (!error && m_options.hasBackups) {
-        error = m_files.backUpFile(path, path + ".bak");
+std::vector<PageEdit> PageIntegrator::editsOf(std::string_view page,
+                                              IntegrationStatus& status) const {
+    if (!m_options.isRemoval)
+        return pageEdits(page, m_options.rewrite, status);
+    PageRemoval removal = removeIntegration(page);
+    status.bPrevious = !removal.edits.empty();
+    status.notes = std::move(removal.notes);
+    return std::move(removal.edits);
+}
+
+bool PageIntegrator::isSkipped() const {
+    return m_options.skipsFailing && !m_options.isRemoval && !m_status.hasAllPlaces();
+}
+
+std::optional<PageError> PageIntegrator::replacePage(const std::string& path, std::string page,
+                                                     const std::vector<PageEdit>& edits) {
+    if (m_options.hasBackups) {
+        FileOutcome error = keepOriginal(path, page);
+        if (!error)
+            error = m_files.backUpFile(path, path + ".bak", page);
         if (error)
-            code = PageError::Code::NotBackedUp;
+            return PageError{PageError::Code::NotBackedUp, *error};
     }
-    if (!error)
-        error = m_files.CopyFile(temporary, path, Links::Followed);
-    if (error) {
-        if (m_files.FileExists(temporary))
-            m_files.DeleteFile(temporary);
-        return PageError{code, *error};
-    }
-    if (const FileOutcome left = m_files.DeleteFile(temporary)) {
-        // The page is saved; what is left over is reported beside it.
-        appendLine("ERROR: " + temporary + " not deleted: " + left->reason);
-        m_hasFailed = true;
-    }
+    const std::string bytes = withEdits(page, edits);
+    if (m_options.record != nullptr)
+        m_options.record->append(path, page, bytes, edits);
+    // While the new page is written, the old one would only take up memory.
+    std::string().swap(page);
+    if (const FileOutcome error = m_files.writeFileThrough(kTemporaryPageName, path, bytes))
+        return PageError{PageError::Code::NotSaved, *error};
     return {};
+}
+
+FileOutcome PageIntegrator::keepOriginal(const std::string& path, const std::string& page) {
+    const std::string backup = path + ".bak";
+    // What a link leads to stays where it is.
+    if (m_files.entryAt(backup) != DiskEntry::File || !isIntegrated(page))
+        return {};
+    const FileResult<std::string> old = readPage(m_files, backup);
+    if (!old.isOk())
+        return old.error();
+    if (isIntegrated(old.value()))
+        return {};
+    std::string kept = backup + ".original";
+    for (int number = 2; m_files.entryAt(kept) != DiskEntry::Nothing; ++number) {
+        const FileResult<std::string> before = readPage(m_files, kept);
+        if (before.isOk() && before.value() == old.value())
+            return {};
+        kept = backup + ".original." + std::to_string(number);
+    }
+    return m_files.backUpFile(path, kept, old.value());
 }
 
 void PageIntegrator::reportError(const std::string& path, const PageError& error) {
@@ -152,9 +242,29 @@ void PageIntegrator::reportError(const std::string& path, const PageError& error
     appendLine("");
 }
 
+void PageIntegrator::writeRemovalReport() {
+    appendLine(m_status.bPrevious ? "Success: Menu integration removed"
+                                  : "No menu integration found");
+    appendLine("");
+}
+
 void PageIntegrator::WriteFileReport() {
+    if (m_options.isRemoval) {
+        writeRemovalReport();
+        return;
+    }
     if (m_status.bPrevious)
         appendLine("Previous integration detected!");
+    if (isSkipped())
+        reportSkippedPage();
+    else
+        reportPlaces();
+    appendLine("");
+    if (!isSkipped())
+        reportRemovedScripts();
+}
+
+void PageIntegrator::reportPlaces() {
     appendLine(m_status.bHeadDone ? "Success: Menu library references added"
                                   : "ERROR: Menu library references NOT added. <HEAD> not found.");
     appendLine(m_status.bBodyDone ? "Success: Event handlers added"
@@ -163,7 +273,24 @@ void PageIntegrator::WriteFileReport() {
                                      : "ERROR: Menu creation code NOT added. </BODY> not found.");
     appendLine(m_status.bSuccess ? "Success: Menu integration successful"
                                  : "ERROR: Menu integration failure");
-    appendLine("");
+    if (m_options.rewrite.menu)
+        appendLine("Success: Menu placed");
+}
+
+void PageIntegrator::reportSkippedPage() {
+    if (!m_status.bHeadDone)
+        appendLine("Skipped: <HEAD> not found.");
+    if (!m_status.bBodyDone)
+        appendLine("Skipped: <BODY> not found.");
+    if (!m_status.bEndBodyDone)
+        appendLine("Skipped: </BODY> not found.");
+}
+
+void PageIntegrator::reportRemovedScripts() {
+    for (const std::string& name : m_status.removedScripts)
+        appendLine("Removed: " + name);
+    if (!m_status.removedScripts.empty())
+        appendLine("");
 }
 
 void PageIntegrator::appendLine(std::string_view line) {

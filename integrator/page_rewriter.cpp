@@ -1,21 +1,19 @@
 #include "integrator/page_rewriter.h"
 
-#include <cassert>
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
 #include "html/html_parse.h"
-#include "text/ascii.h"
+#include "integrator/inserted_code.h"
+#include "integrator/page_references.h"
+#include "integrator/script_name.h"
 
 namespace zev {
 
 namespace {
 
-constexpr std::string_view kMarker = "<!-- Added by ZEVMenu Creator, zevmenu.example -->";
-constexpr std::string_view kMarkerText = "Added by ZEVMenu Creator";
-constexpr std::string_view kScriptStart = "<script language=\"JavaScript1.2\">";
-constexpr std::string_view kLoaderStart = "<script language=\"JavaScript1.2\" src=\"";
-constexpr std::string_view kHandlerCall = "ZEVLoadMenu();";
+constexpr std::string_view kLoaderName = "zevmenu_loader.js";
 
 std::string joined(std::initializer_list<std::string_view> parts) {
     std::size_t size = 0;
@@ -36,13 +34,20 @@ bool namesJavaScript(const HtmlParse& parser) {
     return contains(parser.Attribute("language"), "JavaScript");
 }
 
-bool loadsLibrary(const HtmlParse& parser) {
-    return trimSpaces(parser.Attribute("src")).ends_with("zevmenu_loader.js");
-}
-
 bool isOldScript(const HtmlParse& parser) {
     const std::string_view script = parser.Text();
     return contains(script, "ZEVCreateMenu()") || contains(script, "var zev_path");
+}
+
+/// Whether an earlier run wrote the script, and nobody anything into it.
+bool isOwnScript(const HtmlParse& parser) {
+    std::string_view script = parser.Text();
+    while (!script.empty() && isHtmlSpace(script.front()))
+        script.remove_prefix(1);
+    while (!script.empty() && (isHtmlSpace(script.back()) || script.back() == ';'))
+        script.remove_suffix(1);
+    return loadsLibrary(parser) || script == "ZEVCreateMenu()" ||
+           (script.starts_with("var zev_path") && !contains(script, ";"));
 }
 
 /// The call goes before what the page does at the event. True when it was not there yet.
@@ -56,20 +61,42 @@ bool addHandler(HtmlParse& parser, std::string_view event) {
 
 class PageRewriter {
   public:
-    PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status)
-        : m_options(options), m_status(status) {
+    /// `placed` is what else changes: in the order of the page, without overlap, never within a tag
+    /// that integration changes.
+    PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status,
+                 std::vector<PageEdit> placed)
+        : m_options(options), m_status(status), m_placed(std::move(placed)) {
         m_parser.Load(page);
         m_edits.reserve(8);  // most pages need no more
     }
 
     std::vector<PageEdit> edits() {
         // The last token stays as it is, even if it is the body's end tag.
-        for (; !m_parser.IsLast(); m_parser.Next())
+        for (; !m_parser.IsLast(); m_parser.Next()) {
+            takePlaced(m_parser.offset());
+            if (m_parser.offset() >= m_replacedEnd)
+                handleToken();
+        }
+        takePlaced(m_parser.offset());
+        // With something placed behind it, it is the last one no more.
+        if (m_nextPlaced < m_placed.size() && m_parser.offset() >= m_replacedEnd)
             handleToken();
+        takePlaced(std::string_view::npos);
         return std::move(m_edits);
     }
 
   private:
+    /// What is placed at the end of a head tag comes after the references, and what is placed at
+    /// the end of the body before the call.
+    void takePlaced(std::size_t offset) {
+        for (; m_nextPlaced < m_placed.size() && m_placed[m_nextPlaced].offset <= offset;
+             ++m_nextPlaced) {
+            PageEdit& edit = m_placed[m_nextPlaced];
+            m_replacedEnd = edit.offset + edit.length;
+            m_edits.push_back(std::move(edit));
+        }
+    }
+
     /// Looks at the name's length first: that rules most tokens out.
     void handleToken() {
         const std::string_view name = m_parser.TagName();
@@ -106,7 +133,7 @@ class PageRewriter {
         insert(
             m_parser.offset() + m_parser.Source().size(),
             joined({kMarker, kScriptStart, "var zev_path = '", m_options.libraryURL, "';</script>",
-                    kLoaderStart, m_options.libraryURL, "zevmenu_loader.js\"></script>"}));
+                    kSourceStart, m_options.libraryURL, kLoaderName, "\"></script>"}));
         m_status.bHeadDone = true;
     }
 
@@ -124,14 +151,15 @@ class PageRewriter {
     }
 
     void handleScript() {
-        if (!m_options.keepsOtherScripts && !namesJavaScript(m_parser)) {
+        const bool isForeign = !m_options.keepsOtherScripts && !namesJavaScript(m_parser);
+        const bool isPrevious = loadsLibrary(m_parser);
+        if ((!isForeign && !isPrevious && !isOldScript(m_parser)) || staysByName())
+            return;
+        if (isForeign) {
             // Without its start tag a script's end tag means nothing to a browser; it stays.
             replaceToken({});
             return;
         }
-        const bool isPrevious = loadsLibrary(m_parser);
-        if (!isPrevious && !isOldScript(m_parser))
-            return;
         if (isPrevious)
             m_status.bPrevious = true;
         replaceToken({});
@@ -139,6 +167,18 @@ class PageRewriter {
         // Now on the end tag, which goes too, unless it is the page's last token.
         if (!m_parser.IsLast())
             m_edits.back().length += m_parser.Source().size();
+    }
+
+    /// Whether a script that would go was asked to stay. One that goes is noted.
+    bool staysByName() {
+        if (isOwnScript(m_parser))
+            return false;
+        std::string name = scriptName(m_parser.Attribute("src"), m_parser.Text());
+        const std::vector<std::string>& kept = m_options.keptScripts;
+        if (std::find(kept.begin(), kept.end(), name) != kept.end())
+            return true;
+        m_status.removedScripts.push_back(std::move(name));
+        return false;
     }
 
     void insert(std::size_t offset, std::string text) {
@@ -152,6 +192,9 @@ class PageRewriter {
     HtmlParse m_parser;
     const RewriteOptions& m_options;
     IntegrationStatus& m_status;
+    std::vector<PageEdit> m_placed;
+    std::size_t m_nextPlaced = 0;
+    std::size_t m_replacedEnd = 0;  // of the last one taken
     std::vector<PageEdit> m_edits;
 };
 
@@ -160,29 +203,51 @@ class PageRewriter {
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status) {
     status = {};
-    return PageRewriter(page, options, status).edits();
+    std::vector<PageEdit> placed;
+    if (options.menu) {
+        Placement placement = placeMenu(page, *options.menu);
+        status.placeProblem = placement.problem;
+        status.notes = std::move(placement.notes);
+        if (placement.problem)
+            return {};
+        placed = std::move(placement.edits);
+    }
+    if (!options.newDefinitionURL.empty())
+        addReferenceEdits(page, options.newDefinitionURL, placed);
+    return PageRewriter(page, options, status, std::move(placed)).edits();
 }
 
-std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits) {
-    std::size_t size = page.size();
-    for (const PageEdit& edit : edits)
-        size += edit.text.size() - edit.length;
-    std::string bytes;
-    bytes.reserve(size);
-    std::size_t done = 0;
+std::vector<PageEdit> reverseEdits(std::string_view page, const std::vector<PageEdit>& edits) {
+    std::vector<PageEdit> reversed;
+    reversed.reserve(edits.size());
+    std::size_t insertedBytes = 0;
+    std::size_t removedBytes = 0;
     for (const PageEdit& edit : edits) {
-        assert(edit.offset >= done && edit.offset + edit.length <= page.size());
-        bytes += page.substr(done, edit.offset - done);
-        bytes += edit.text;
-        done = edit.offset + edit.length;
+        reversed.push_back({edit.offset + insertedBytes - removedBytes, edit.text.size(),
+                            std::string(page.substr(edit.offset, edit.length))});
+        insertedBytes += edit.text.size();
+        removedBytes += edit.length;
     }
-    bytes += page.substr(done);
-    return bytes;
+    return reversed;
 }
 
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status) {
     return withEdits(page, pageEdits(page, options, status));
+}
+
+bool isIntegrated(std::string_view page) {
+    if (!contains(page, kMarkerText) && !contains(page, kLoaderName))
+        return false;
+    HtmlParse parser;
+    for (parser.Load(page);; parser.Next()) {
+        const std::string_view name = parser.TagName();
+        if ((name == "!" && contains(parser.Text(), kMarkerText)) ||
+            (name == "script" && loadsLibrary(parser)))
+            return true;
+        if (parser.IsLast())
+            return false;
+    }
 }
 
 std::size_t countDroppedScripts(std::string_view page) {

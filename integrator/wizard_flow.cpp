@@ -1,8 +1,15 @@
 #include "integrator/wizard_flow.h"
 
+#include <algorithm>
+#include <ctime>
+#include <limits>
+#include <map>
+#include <set>
 #include <utility>
 
+#include "integrator/page_groups.h"
 #include "script/relative_url.h"
+#include "text/ascii.h"
 #include "text/path.h"
 #include "text/pattern.h"
 
@@ -10,7 +17,6 @@ namespace zev {
 
 namespace {
 
-constexpr std::int16_t kPagesStep = 1;
 constexpr std::int16_t kPathsStep = 2;
 constexpr std::int16_t kMenuStep = 3;
 constexpr std::int16_t kReportStep = 4;
@@ -27,7 +33,29 @@ const std::string& WizardFlow::pagesFolder() const {
 }
 
 WizardFlow::ScriptCount WizardFlow::scriptCount(bool keepsOtherScripts) const {
-    return keepsOtherScripts ? ScriptCount{0, InputFiles.names.size()} : m_scriptCount;
+    if (keepsOtherScripts)
+        return {0, InputFiles.names.size()};
+    ScriptCount count{0, m_survey.size()};
+    for (const SurveyedPage& page : m_survey)
+        count.scriptCount += page.findings.removedScripts.size();
+    return count;
+}
+
+bool WizardFlow::needsReview(const WizardAnswers& answers) const {
+    if (m_isReviewed || answers.keepsOtherScripts)
+        return false;
+    return m_survey.size() < InputFiles.names.size() ||
+           std::any_of(m_survey.begin(), m_survey.end(), [](const SurveyedPage& page) {
+               return !page.findings.removedScripts.empty();
+           });
+}
+
+WizardFlow::MissingPaths WizardFlow::missingPaths(const WizardAnswers& answers) const {
+    const std::string library(trimSpaces(answers.library));
+    const std::string definition(trimSpaces(answers.definition));
+    return {Path(library).kind() == Path::Kind::System &&
+                !m_files.FileExists(pagePath(library, "zevmenu_loader.js")),
+            Path(definition).kind() == Path::Kind::System && !m_files.FileExists(definition)};
 }
 
 IntegrationURLs WizardFlow::urlsOf(const WizardAnswers& answers) const {
@@ -73,19 +101,37 @@ bool WizardFlow::choosePages(const ChosenFiles& files) {
     if (files.names.empty())
         return false;
     InputFiles = files;
+    m_survey.clear();
+    m_isReviewed = false;
     return true;
 }
 
-void WizardFlow::countScripts(const ShouldGoOn& shouldGoOn) {
-    m_scriptCount = {};
-    for (const std::string& name : InputFiles.names) {
-        if (!shouldGoOn(m_scriptCount.pageCount, InputFiles.names.size()))
-            return;
-        const auto count = countDroppedScripts(m_files, pagePath(InputFiles.folder, name));
-        if (count.isOk())
-            m_scriptCount.scriptCount += count.value();
-        ++m_scriptCount.pageCount;
-    }
+bool WizardFlow::addPages(const std::vector<std::string>& paths) {
+    std::vector<std::string> all = pagePaths(InputFiles);
+    all.insert(all.end(), paths.begin(), paths.end());
+    return setPages(all);
+}
+
+bool WizardFlow::setPages(const std::vector<std::string>& paths) {
+    ChosenFiles pages = chosenPages(paths);
+    if (pages == InputFiles)
+        return false;
+    InputFiles = std::move(pages);
+    m_survey.clear();
+    m_isReviewed = false;
+    return true;
+}
+
+std::string WizardFlow::libraryBeside(const std::string& definition) const {
+    const std::string folder = SplitPath(definition).folder;
+    return m_files.FileExists(pagePath(folder, "zevmenu_loader.js")) ? folder : std::string();
+}
+
+void WizardFlow::surveyPages(const ShouldGoOn& shouldGoOn) {
+    const std::size_t count = InputFiles.names.size();
+    while (m_survey.size() < count && shouldGoOn(m_survey.size(), count))
+        m_survey.push_back(
+            surveyPage(m_files, pagePath(InputFiles.folder, InputFiles.names[m_survey.size()])));
 }
 
 NextOutcome WizardFlow::NextStep(const WizardAnswers& answers) {
@@ -124,21 +170,95 @@ void WizardFlow::goBack() {
         --CurStep;
 }
 
+bool WizardFlow::hasSucceeded() const {
+    return m_result.summary.doneCount > 0 && m_result.summary.failedPages.empty();
+}
+
 void WizardFlow::IntegratePages(const WizardAnswers& answers, const Progress& progress) {
-    const IntegrationURLs urls = urlsOf(answers);
-    m_code = answers.isPopup ? definitionReference(urls.definition) : menuCode(urls.definition);
+    m_code = codeFor(answers);
     m_linkCode = answers.isPopup ? popupLinkCode(answers.submenuId, answers.placement) : "";
-    PageIntegrator integrator(
-        m_files, {{urls.library, answers.keepsOtherScripts}, answers.hasBackups, false});
+    m_runs.clear();
+    run({answers}, progress);
+    m_report = m_result.report;
+}
+
+void WizardFlow::placeMenu(const WizardAnswers& answers, const MenuPlacing& placing,
+                           const Progress& progress) {
+    SiteRunOptions options{answers, placing};
+    options.answers.hasBackups = false;
+    run(options, progress);
+}
+
+void WizardFlow::replaceReferences(const WizardAnswers& answers, const Progress& progress) {
+    SiteRunOptions options{answers};
+    options.answers.hasBackups = false;
+    options.replacesReferences = true;
+    run(options, progress);
+}
+
+void WizardFlow::run(const SiteRunOptions& wanted, const Progress& progress) {
+    SiteRunOptions options = wanted;
+    options.recordFolder = m_recordFolder;
+    options.startedAt = std::time(nullptr);
     m_isCancelled = false;
     m_isRunning = true;
-    integrator.IntegratePages(InputFiles, [&](std::size_t doneCount, std::size_t totalCount) {
-        progress(doneCount, totalCount);
-        return !m_isCancelled;
-    });
+    m_result = runOverSite(m_files, InputFiles, options,
+                           [&](std::size_t doneCount, std::size_t totalCount) {
+                               progress(doneCount, totalCount);
+                               return !m_isCancelled;
+                           });
     m_isRunning = false;
-    m_status = integrator.status();
-    m_report = integrator.report();
+    if (!m_result.name.empty())
+        m_runs.push_back(m_result.name);
+}
+
+std::vector<UndoneRun> WizardFlow::undoRuns(const Progress& progress) {
+    std::vector<UndoneRun> undone;
+    while (!m_runs.empty()) {
+        const FileResult<UndoneRun> run =
+            undoRun(m_files, m_recordFolder, m_runs.back(),
+                    [&](std::size_t doneCount, std::size_t totalCount) {
+                        progress(doneCount, totalCount);
+                        return true;
+                    });
+        undone.push_back(run.isOk() ? run.value() : UndoneRun{{}, {}, {run.error()}});
+        if (!undone.back().isWhole())
+            break;
+        m_runs.pop_back();
+    }
+    return undone;
+}
+
+FileResult<Placement> WizardFlow::placementIn(const std::string& name,
+                                              const WizardAnswers& answers,
+                                              const MenuPlacing& placing) const {
+    const std::string path = pagePath(InputFiles.folder, name);
+    const FileResult<std::string> page =
+        m_files.readFile(path, std::numeric_limits<std::uint64_t>::max());
+    if (!page.isOk())
+        return page.error();
+    const IntegrationURLs urls =
+        CalculateURL(SplitPath(path).folder, answers.definition, answers.library);
+    return zev::placeMenu(page.value(), placedMenu(answers, placing, urls.definition));
+}
+
+/// Pages of several folders may see the definition at several addresses; the code for each is named
+/// then.
+std::string WizardFlow::codeFor(const WizardAnswers& answers) const {
+    std::map<std::string, std::set<std::string>> foldersOfURLs;
+    for (const ChosenFiles& group : pagesByFolder(InputFiles))
+        foldersOfURLs[CalculateURL(group.folder, answers.definition, answers.library).definition]
+            .insert(group.folder);
+    std::string text;
+    for (const auto& [url, folders] : foldersOfURLs) {
+        if (!text.empty())
+            text += "\r\n\r\n";
+        if (foldersOfURLs.size() > 1)
+            for (const std::string& folder : folders)
+                text += "Code for the pages in " + folder + "\r\n";
+        text += answers.isPopup ? definitionReference(url) : menuCode(url);
+    }
+    return text;
 }
 
 bool WizardFlow::mayClose() {

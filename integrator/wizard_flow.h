@@ -10,23 +10,14 @@
 
 #include "integrator/link_code.h"
 #include "integrator/page_integration.h"
+#include "integrator/run_undo.h"
+#include "integrator/site_run.h"
+#include "integrator/survey.h"
+#include "integrator/wizard_answers.h"
 #include "platform/common_dialogs.h"
 #include "script/submenu_list.h"
 
 namespace zev {
-
-/// What the person has entered in the wizard's steps.
-struct WizardAnswers {
-    bool hasBackups = true;
-    bool keepsOtherScripts = false;
-    std::string library;     ///< path or URL of the run-time files, as typed
-    std::string definition;  ///< the same of the definition file
-    bool isPopup = false;
-    std::string submenuId;  ///< of a popup menu; empty: none is chosen
-    PopupPlacement placement;
-
-    bool needsPosition() const { return isPopup && !placement.isAtMouse; }
-};
 
 /// Why the wizard does not do what the person wants.
 enum class WizardNotice {
@@ -66,10 +57,13 @@ struct PathHint {
 /// paths, kind of menu, report, code to paste.
 class WizardFlow {
   public:
+    static constexpr std::int16_t kPagesStep = 1;
     static constexpr std::int16_t kLastStep = 5;
 
-    /// `files` is not owned and must outlive this object.
-    explicit WizardFlow(FileSystem& files) : m_files(files) {}
+    /// `files` is not owned and must outlive this object. `recordFolder` is for what it takes to
+    /// undo runs; empty: nothing is recorded.
+    explicit WizardFlow(FileSystem& files, std::string recordFolder = {})
+        : m_files(files), m_recordFolder(std::move(recordFolder)) {}
 
     std::int16_t step() const { return CurStep; }
     bool canGoBack() const { return m_canGoBack; }
@@ -84,14 +78,38 @@ class WizardFlow {
         std::size_t pageCount = 0;
     };
     ScriptCount scriptCount(bool keepsOtherScripts) const;
+    /// What is known of the first of the chosen pages; of less than all when looking was stopped.
+    const std::vector<SurveyedPage>& survey() const { return m_survey; }
+    /// Whether the person has to see what the chosen pages would lose before they do.
+    bool needsReview(const WizardAnswers& answers) const;
+    /// What the person enters for paths that lead nowhere, in the order of the step; a URL is taken
+    /// on trust.
+    struct MissingPaths {
+        bool isLibraryMissing = false;
+        bool isDefinitionMissing = false;
+    };
+    MissingPaths missingPaths(const WizardAnswers& answers) const;
     std::vector<PathHint> libraryHints(const WizardAnswers& answers) const;
     std::vector<PathHint> definitionHints(const WizardAnswers& answers) const;
     /// Why the menu cannot be of the kind that is answered.
     std::optional<WizardNotice> checkKind(const WizardAnswers& answers) const;
     /// Of the last run; empty after a further press of Next.
     const std::string& report() const { return m_report; }
-    /// Whether the last run's last page has the menu now.
-    bool hasSucceeded() const { return m_status.bSuccess; }
+    /// What became of the pages of the last run.
+    const RunSummary& summary() const { return m_result.summary; }
+    /// Whether every page of the last run has the menu now.
+    bool hasSucceeded() const;
+    /// References to the definition at another place than the last run was told.
+    const std::vector<EarlierReference>& movedReferences() const {
+        return m_result.movedReferences;
+    }
+    const std::vector<EarlierReference>& foreignReferences() const {
+        return m_result.foreignReferences;
+    }
+    /// Why the last run cannot be undone; nothing when it can.
+    const FileOutcome& recordError() const { return m_result.recordError; }
+    /// Whether runs of this wizard can be undone.
+    bool canUndo() const { return !m_runs.empty(); }
     /// What the last run leaves to be pasted.
     const std::string& code() const { return m_code; }
     /// The same for hyperlinks; empty for a menu in place.
@@ -102,8 +120,19 @@ class WizardFlow {
     void setSubmenus(std::vector<Submenu> submenus) { m_submenus = std::move(submenus); }
     /// No names: the person cancelled, and everything stays. True when there are other pages now.
     bool choosePages(const ChosenFiles& files);
-    /// Counts in the chosen pages. One that cannot be read has none; the report will say so.
-    void countScripts(const ShouldGoOn& shouldGoOn);
+    /// Pages of any folders, full paths, behind those that are chosen. False when nothing changed.
+    bool addPages(const std::vector<std::string>& paths);
+    /// Pages of any folders, full paths, in place of those that are chosen; there may be none.
+    /// False when nothing changed.
+    bool setPages(const std::vector<std::string>& paths);
+    /// Where the definition's folder holds the library too: that folder. Empty elsewhere.
+    std::string libraryBeside(const std::string& definition) const;
+    /// Looks at the chosen pages, from where it was stopped on. One that cannot be read loses no
+    /// scripts; the report will say so.
+    void surveyPages(const ShouldGoOn& shouldGoOn);
+    /// The person has seen what the chosen pages would lose.
+    void markReviewed() { m_isReviewed = true; }
+    bool isReviewed() const { return m_isReviewed; }
     NextOutcome NextStep(const WizardAnswers& answers);
     void goBack();
     /// Tells how many pages are done of how many, before each one. `cancel` and `mayClose` may be
@@ -111,6 +140,17 @@ class WizardFlow {
     using Progress = std::function<void(std::size_t doneCount, std::size_t totalCount)>;
     /// The work: builds the code to paste, integrates the pages, writes the report.
     void IntegratePages(const WizardAnswers& answers, const Progress& progress);
+    /// A further run over the same pages that puts the menu into them, without backups: those of
+    /// the first run hold the pages as they were.
+    void placeMenu(const WizardAnswers& answers, const MenuPlacing& placing,
+                   const Progress& progress);
+    /// The same to correct references to the definition's earlier place.
+    void replaceReferences(const WizardAnswers& answers, const Progress& progress);
+    /// Gives the pages back as they were before the wizard's runs over them.
+    std::vector<UndoneRun> undoRuns(const Progress& progress);
+    /// Where the edits would be made in one of the chosen pages.
+    FileResult<Placement> placementIn(const std::string& name, const WizardAnswers& answers,
+                                      const MenuPlacing& placing) const;
     /// Stops a run before its next page.
     void cancel() { m_isCancelled = true; }
     /// False, and the run is stopped, while pages are integrated.
@@ -119,18 +159,23 @@ class WizardFlow {
 
   private:
     std::optional<WizardNotice> checkStep(const WizardAnswers& answers) const;
+    void run(const SiteRunOptions& options, const Progress& progress);
+    std::string codeFor(const WizardAnswers& answers) const;
     IntegrationURLs urlsOf(const WizardAnswers& answers) const;
 
     FileSystem& m_files;
+    std::string m_recordFolder;
     std::int16_t CurStep = 0;
     bool m_canGoBack = false;
     ChosenFiles InputFiles;
     std::string m_definitionFolder;
-    ScriptCount m_scriptCount;
+    std::vector<SurveyedPage> m_survey;
+    bool m_isReviewed = false;
     std::vector<Submenu> m_submenus;
     bool m_isRunning = false;
     bool m_isCancelled = false;
-    IntegrationStatus m_status;  // of the page last processed
+    SiteRunResult m_result;           // of the last run
+    std::vector<std::string> m_runs;  // that can be undone, the oldest first
     std::string m_report;
     std::string m_code;
     std::string m_linkCode;

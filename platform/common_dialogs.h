@@ -51,6 +51,8 @@ class CommonDialogs {
     virtual std::string openFile(const FileDialogRequest& request) = 0;
     /// One or more existing files of one folder.
     virtual ChosenFiles openFiles(const FileDialogRequest& request) = 0;
+    /// Full path of an existing folder.
+    virtual std::string openFolder(const FileDialogRequest& request) = 0;
     /// Full path of the file to write.
     virtual std::string saveFile(const FileDialogRequest& request) = 0;
     /// A colour value, preselected with `initial`. The part for mixing colours is open from the

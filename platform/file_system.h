@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -53,6 +54,17 @@ enum class Links {
 /// What stands under a path. A link is a link, wherever it leads.
 enum class DiskEntry { Nothing, File, Folder, Link, Other };
 
+/// A file that grows while something goes on, so that what happened can be told after a crash.
+class GrowingFile {
+  public:
+    virtual ~GrowingFile() = default;
+    /// Writes at the end, where it outlives this program at once. After a failure part of the bytes
+    /// may be there.
+    virtual FileOutcome append(std::string_view bytes) = 0;
+    /// What was appended outlives the power from now on.
+    virtual FileOutcome flush() = 0;
+};
+
 /// The file operations the program needs. Whatever it writes for the user is whole or not there at
 /// all: after a failure the target holds its old content and nothing is left beside it.
 class FileSystem {
@@ -70,6 +82,8 @@ class FileSystem {
     /// True when both paths lead to one regular file of the disk, by links, letter case or
     /// spelling.
     virtual bool isSameFile(const std::string& left, const std::string& right) const = 0;
+    /// True when the content of the file may be replaced.
+    virtual bool isWritableFile(const std::string& path) const = 0;
     /// True when new files can be made in the folder.
     virtual bool isWritableFolder(const std::string& path) const = 0;
     /// The file's whole content; files of more than `maxBytes` are refused (Code::TooLarge), and
@@ -78,23 +92,35 @@ class FileSystem {
                                              std::uint64_t maxBytes) const = 0;
     /// Replaces the content of `path`, or makes the file.
     virtual FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) = 0;
-    /// The same for a file that the caller reads and deletes itself before it ends: nobody else can
-    /// read it, nothing of an old file is kept, and the power may fail on it. That saves the waits
-    /// for the disk, which are most of what `writeFile` costs. A link is replaced. A failure leaves
-    /// no file.
+    /// The same, with links followed, by way of a file of this name in the target's folder. One of
+    /// that name that is there already is lost, but waited for while another run uses it. The name
+    /// must not be that of the target.
+    virtual FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
+                                         std::string_view bytes) = 0;
+    /// The same as `writeFile` for a file that the caller reads and deletes itself before it ends:
+    /// nobody else can read it, nothing of an old file is kept, and the power may fail on it. That
+    /// saves the waits for the disk, which are most of what `writeFile` costs. A link is replaced.
+    /// A failure leaves no file.
     virtual FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) = 0;
     /// Makes `destination` a copy of `source`'s bytes, replacing it. The error names the file at
     /// fault.
     virtual FileOutcome CopyFile(const std::string& source, const std::string& destination,
                                  Links links) = 0;
-    /// Makes `backup` a copy of the file `path`, which is about to be replaced. It has the owner,
-    /// group, mode and attributes of `path` from its first byte on, and where it cannot have them
-    /// is open to nobody who may not read `path`. A link `backup` is replaced. A `path` that may
-    /// not be written is refused. The error names the file at fault.
-    virtual FileOutcome backUpFile(const std::string& path, const std::string& backup) = 0;
     /// Gives the file or link `path` another name on the same disk. A link stays what it is. It is
     /// an error when something has the new name already; nothing is ever replaced.
     virtual FileOutcome renameFile(const std::string& path, const std::string& newPath) = 0;
+    /// Makes `backup` hold `bytes`, the content of the file `path`, which is about to be replaced.
+    /// It has the owner, group, mode and attributes of `path` from its first byte on, and where it
+    /// cannot have them is open to nobody who may not read `path`. A link `backup` is replaced. A
+    /// `path` that may not be written is refused. The error names the file at fault.
+    virtual FileOutcome backUpFile(const std::string& path, const std::string& backup,
+                                   std::string_view bytes) = 0;
+    /// Makes a file that is not there yet, for the user's eyes alone; so is its folder, which is
+    /// made when it is missing.
+    virtual FileResult<std::unique_ptr<GrowingFile>> makePrivateFile(const std::string& path) = 0;
+    /// The file's permissions, as in 0644; links are followed.
+    virtual FileResult<unsigned> modeOf(const std::string& path) const = 0;
+    virtual FileOutcome setMode(const std::string& path, unsigned mode) = 0;
     virtual FileOutcome DeleteFile(const std::string& path) = 0;
     /// Makes the folder and those above it that are missing. A folder that is there is no error.
     virtual FileOutcome makeFolder(const std::string& path) = 0;

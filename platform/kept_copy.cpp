@@ -33,7 +33,7 @@ FileResult<std::string> keepCopy(FileSystem& files, const std::string& path) {
             return name;
         if (files.entryAt(name) != DiskEntry::Nothing)
             continue;
-        if (FileOutcome error = files.backUpFile(path, name))
+        if (FileOutcome error = files.backUpFile(path, name, content.value()))
             return *error;
         return name;
     }

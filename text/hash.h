@@ -16,4 +16,8 @@ constexpr std::uint64_t hashOf(std::string_view text) {
     return hash;
 }
 
+/// A faster one for whole files, on machines of the same byte order the same. Like `hashOf` it
+/// guards against chance only.
+std::uint64_t fileHashOf(std::string_view bytes);
+
 }  // namespace zev

@@ -5,20 +5,22 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 #include "dialogs/frm_path.h"
 #include "dialogs/property_edit.h"
+#include "integrator/wizard/extra_row.h"
 #include "messages/integration_messages.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
@@ -27,16 +29,8 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kPageFilter =
-    "Web Pages (*.htm;*.html;*.shtml;*.stm)|*.htm;*.html;*.shtml;*.stm|"
-    "Preprocessed HTML(*.asp;*.aspx;*.cfm;*.php)|*.asp;*.aspx;*.cfm;*.php|All Files (*.*)|*.*";
 constexpr const char* kDefinitionFilter = "JavaScript files (*.js)|*.js|All Files (*.*)|*.*";
-constexpr const char* kReportFilter = "Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*";
 
-constexpr int kPopupKind = 1;  // index in `cboIntegration`
-
-/// A window that stands still for less than this needs no explanation.
-constexpr int kMomentMs = 500;
 
 QString hintText(const PathHint& hint) {
     const QString url = QString::fromStdString(hint.url);
@@ -84,7 +78,10 @@ void setUsable(QLineEdit& field, bool isUsable) {
 
 frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringList& drives,
                              QWidget* parent)
-    : QDialog(parent), m_services(services), m_flow(services.files) {
+    : QDialog(parent),
+      m_services(services),
+      m_flow(services.files, services.recordFolder),
+      m_memory(services.files, services.memoryFolder) {
     setObjectName("frmIntegrator");
     setWindowTitle(tr("ZEVMenu Integrator"));
     m_frames = new QStackedWidget(this);
@@ -98,6 +95,7 @@ frmIntegrator::frmIntegrator(const IntegratorServices& services, const QStringLi
     layout->addWidget(m_frames, 1);
     layout->addWidget(makeButtonRow());
     m_pathForm = new frmPath(services.files, services.messages, drives, this);
+    setAcceptDrops(true);
     showHints();
     Initialize();
 }
@@ -113,8 +111,15 @@ void frmIntegrator::setDefinition(const std::string& path) {
     const QString file = QString::fromStdString(path);
     txtMenuDef->setText(file);
     // The library lies beside the menu, unless the person has moved it.
-    if (txtPath->text().isEmpty())
-        m_pathForm->openFolder(QFileInfo(file).path());
+    if (!txtPath->text().isEmpty())
+        return;
+    m_pathForm->openFolder(QFileInfo(file).path());
+    txtPath->setText(QString::fromStdString(m_flow.libraryBeside(path)));
+}
+
+void frmIntegrator::setLinkList(
+    std::function<std::string(const std::string& definitionURL)> linkList) {
+    m_linkList = std::move(linkList);
 }
 
 void frmIntegrator::showSubmenus(const std::vector<Submenu>& submenus) {
@@ -139,11 +144,20 @@ WizardAnswers frmIntegrator::answers() const {
             txtMenuDef->text().toStdString(),
             cboIntegration->currentIndex() == kPopupKind,
             cboMenuList->currentData().toString().toStdString(),
-            {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()}};
+            {optMouse->isChecked(), txtX->text().toStdString(), txtY->text().toStdString()},
+            m_keptScripts,
+            m_skipsFailing};
 }
 
 void frmIntegrator::btnNext_Click() {
     leaveFocusedEdit(*this);
+    if (m_flow.step() == WizardFlow::kPagesStep && needsReview())
+        showChanges(&frmIntegrator::goOn);
+    else
+        goOn();
+}
+
+void frmIntegrator::goOn() {
     const NextOutcome outcome = m_flow.NextStep(answers());
     showReport();
     if (outcome.notice)
@@ -187,54 +201,18 @@ bool frmIntegrator::eventFilter(QObject* watched, QEvent* event) {
            QDialog::eventFilter(watched, event);
 }
 
+void frmIntegrator::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_F6)
+        QDialog::keyPressEvent(event);
+    else if (!ExtraRow::focusNext(*this))
+        focusNextChild();
+}
+
 void frmIntegrator::reject() {
-    if (m_flow.mayClose())
-        QDialog::reject();
-}
-
-void frmIntegrator::BtnInputFile_Click() {
-    FileDialogRequest request;
-    request.title = "Open";
-    request.filter = kPageFilter;
-    request.folder = m_flow.pagesFolder();
-    if (!m_flow.choosePages(m_services.dialogs.openFiles(request)))
+    if (!m_flow.mayClose())
         return;
-    comboFiles->clear();
-    for (const std::string& name : m_flow.pages().names)
-        comboFiles->addItem(QString::fromStdString(name));
-    txtPathname->setText(QString::fromStdString(m_flow.pages().folder));
-    countScripts();
-    showHints();
-}
-
-void frmIntegrator::countScripts() {
-    // Shows itself only when counting takes longer than a moment, and then blocks the wizard.
-    QProgressDialog progress(tr("Counting the scripts that would be removed from the pages"),
-                             tr("&Skip"), 0, comboFiles->count(), this);
-    progress.setObjectName("frmProgress");
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kMomentMs);
-    m_flow.countScripts([&](std::size_t doneCount, std::size_t) {
-        progress.setValue(static_cast<int>(doneCount));
-        return !progress.wasCanceled();
-    });
-    showScriptCount();
-}
-
-void frmIntegrator::showScriptCount() {
-    const std::size_t pageCount = m_flow.pages().names.size();
-    if (pageCount == 0)
-        return;
-    const auto [count, countedPages] = m_flow.scriptCount(m_chkKeepScripts->isChecked());
-    const QString what =
-        count == 1 ? tr("1 script will be removed") : tr("%1 scripts will be removed").arg(count);
-    m_lblScripts->setText(countedPages == pageCount
-                              ? tr("%1 from the pages.").arg(what)
-                              : tr("%1 from the first %2 of %3 pages; the others were not counted.")
-                                    .arg(what)
-                                    .arg(countedPages)
-                                    .arg(pageCount));
+    rememberEntries();
+    QDialog::reject();
 }
 
 void frmIntegrator::btnPath_Click() {
@@ -254,6 +232,9 @@ void frmIntegrator::btnMenuDef_Click() {
 void frmIntegrator::showHints() {
     showHintsIn(*m_lblPathHint, m_flow.libraryHints(answers()));
     showHintsIn(*m_lblMenuDefHint, m_flow.definitionHints(answers()));
+    const QStringList missing = missingPaths();
+    m_lblMissing->setText(missing.join(u'\n'));
+    m_lblMissing->setVisible(!missing.isEmpty());
 }
 
 void frmIntegrator::cboIntegration_Click() {
@@ -272,63 +253,6 @@ void frmIntegrator::optXY_Change() {
     const bool isUsable = answers().needsPosition();
     setUsable(*txtX, isUsable);
     setUsable(*txtY, isUsable);
-}
-
-void frmIntegrator::integrate() {
-    setRunning(true);
-    m_flow.IntegratePages(answers(), [this](std::size_t doneCount, std::size_t totalCount) {
-        m_pbProgress->setMaximum(static_cast<int>(totalCount));
-        m_pbProgress->setValue(static_cast<int>(doneCount));
-        // Lets Cancel be pressed; everything else that could start something is disabled.
-        QCoreApplication::processEvents();
-    });
-    showReport();
-    // What was pressed while a page took its time was not meant for the frame that is shown now.
-    QCoreApplication::processEvents();
-    setRunning(false);
-}
-
-void frmIntegrator::setRunning(bool isRunning) {
-    const bool hasManyPages = m_flow.pages().names.size() > 1;
-    m_pbProgress->setVisible(isRunning && hasManyPages);
-    btnCancel->setVisible(isRunning && hasManyPages);
-    for (QPushButton* button : {btnBack, btnNext, btnExit, btnSaveReport})
-        button->setEnabled(!isRunning);
-}
-
-void frmIntegrator::showReport() {
-    txtReport->setPlainText(QString::fromStdString(m_flow.report()));
-}
-
-void frmIntegrator::ShowResultMessage() {
-    const bool hasSucceeded = m_flow.hasSucceeded();
-    lblMsg->setText(
-        hasSucceeded
-            ? tr("Menu integration successful. Copy and paste the following code on the web page "
-                 "to complete the integration. Switch to HTML mode before pasting if you are using "
-                 "a WYSIWYG editor, e.g. FrontPage")
-            : tr("Menu integration failure. Verify that your input file is a valid HTML file "
-                 "containing <head></head> and <body></body> tags"));
-    txtCode->setPlainText(QString::fromStdString(m_flow.code()));
-    txtLinkCode->setPlainText(QString::fromStdString(m_flow.linkCode()));
-    for (QWidget* widget : std::initializer_list<QWidget*>{txtCode, m_btnCopyCode})
-        widget->setVisible(hasSucceeded);
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{lblLinkCode, txtLinkCode, m_btnCopyLinkCode})
-        widget->setVisible(hasSucceeded && !m_flow.linkCode().empty());
-}
-
-void frmIntegrator::btnSaveReport_Click() {
-    FileDialogRequest request;
-    request.title = "Save";
-    request.filter = kReportFilter;
-    request.asksBeforeReplacing = true;
-    request.extension = "txt";
-    const std::string path = m_services.dialogs.saveFile(request);
-    if (path.empty())
-        return;
-    if (const FileOutcome error = m_flow.saveReport(path))
-        m_services.messages.notice(error->path + " not saved: " + error->reason);
 }
 
 }  // namespace zev

@@ -23,6 +23,7 @@
 #include "dialogs/dialog_button.h"
 #include "dialogs/property_edit.h"
 #include "dialogs/single_line.h"
+#include "integrator/wizard/extra_row.h"
 
 namespace zev {
 
@@ -98,6 +99,12 @@ void frmIntegrator::makeWelcome() {
     layout->addWidget(
         makeText("lblWelcome2",
                  tr("Please click Next to continue or Exit to return to Menu Creator"), this));
+    m_lblUnsaved = makeText("lblUnsaved",
+                            tr("The open menu has changes that are not saved. The pages show the "
+                               "menu as it was saved last."),
+                            this);
+    m_lblUnsaved->hide();
+    layout->addWidget(m_lblUnsaved);
 }
 
 void frmIntegrator::makePagesFrame() {
@@ -108,6 +115,8 @@ void frmIntegrator::makePagesFrame() {
                     "menu. Multiple files can be selected"),
                  this));
     comboFiles = makeNamed<QComboBox>("comboFiles", this);
+    // As wide as the column: measuring thousands of names would be felt.
+    comboFiles->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     keepWheelForFocus(*comboFiles);
     QPushButton* BtnInputFile =
         makeButton("BtnInputFile", tr("B&rowse"), &frmIntegrator::BtnInputFile_Click);
@@ -140,6 +149,16 @@ void frmIntegrator::makePagesFrame() {
     m_lblScripts = makeText("lblScripts", QString(), this);
     layout->addWidget(m_lblScripts);
     layout->addStretch();
+    auto* row = new ExtraRow(this);
+    row->add("btnAddFolder", tr("A&dd Folder\u2026"), tr("Add a folder of pages"),
+             [this] { addFolder(); });
+    row->add("btnPageList", tr("&List of Pages\u2026"), tr("List of pages"),
+             [this] { changePageList(); });
+    row->add("btnChanges", tr("&What Will Change\u2026"), tr("What will change"), [this] {
+        surveyPages();
+        showChanges(nullptr);
+    });
+    layout->addWidget(row);
 }
 
 void frmIntegrator::makePathsFrame() {
@@ -180,6 +199,8 @@ void frmIntegrator::makePathsFrame() {
     grid->addWidget(txtMenuDef, 5, 1);
     grid->addWidget(btnMenuDef, 5, 2);
     grid->addWidget(m_lblMenuDefHint, 6, 1, 1, 2);
+    m_lblMissing = makeText("lblMissing", QString(), this);
+    grid->addWidget(m_lblMissing, 7, 0, 1, 3);
     grid->setRowMinimumHeight(3, fontMetrics().height() / 2);  // sets the two questions apart
     grid->setColumnStretch(1, 1);
     layout->addLayout(grid);
@@ -264,10 +285,12 @@ void frmIntegrator::makeCodeFrame() {
     txtLinkCode = makeTextBox("txtLinkCode", tr("Code example for hyperlinks"), this);
     m_btnCopyLinkCode = makeDialogButton("btnCopyLinkCode", tr("Co&py"), this);
     m_btnCopyLinkCode->setAccessibleName(tr("Copy the code example"));
+    m_lblSummary = makeText("lblSummary", QString(), this);
     lblMsg = makeText("lblMsg", QString(), this);
     lblLinkCode = makeText("lblLinkCode",
                            tr("Copy the code e&xample below to add the menu to hyperlinks:"), this);
     lblLinkCode->setBuddy(txtLinkCode);
+    layout->addWidget(m_lblSummary);
     layout->addWidget(lblMsg);
     const auto addCode = [&](QPlainTextEdit* box, QPushButton* copy) {
         box->setMaximumHeight((kCodeLines + 2) * box->fontMetrics().lineSpacing());
@@ -282,6 +305,14 @@ void frmIntegrator::makeCodeFrame() {
     layout->addWidget(lblLinkCode);
     addCode(txtLinkCode, m_btnCopyLinkCode);
     layout->addStretch();
+    auto* row = new ExtraRow(this);
+    m_btnPlace = row->add("btnPlace", tr("Place &It For Me\u2026"), tr("Place the menu"),
+                          [this] { placeMenu(); });
+    m_btnUndoRun = row->add("btnUndoRun", tr("&Undo This Run"), tr("Undo this run"),
+                            [this] { undoRun(); });
+    m_btnReferences = row->add("btnReferences", tr("Replace Ea&rlier References"),
+                               tr("Replace earlier references"), [this] { replaceReferences(); });
+    layout->addWidget(row);
 }
 
 QWidget* frmIntegrator::makeButtonRow() {

@@ -100,6 +100,10 @@ bool FakeFileSystem::isSameFile(const std::string& left, const std::string& righ
     return FileExists(fileAt(left)) && fileAt(left) == fileAt(right);
 }
 
+bool FakeFileSystem::isWritableFile(const std::string& path) const {
+    return FileExists(path) && isWritableFolder(folderOf(withoutLink(path)));
+}
+
 bool FakeFileSystem::isWritableFolder(const std::string& path) const {
     return isFolder(path) && !m_unwritableFolders.contains(path);
 }
@@ -130,6 +134,19 @@ FileOutcome FakeFileSystem::writeFile(const std::string& path, std::string_view 
     return {};
 }
 
+FileOutcome FakeFileSystem::writeFileThrough(const std::string& temporaryName,
+                                             const std::string& path, std::string_view bytes) {
+    const std::string folder = folderOf(withoutLink(path));
+    const std::string separator = path.find('\\') != std::string::npos ? "\\" : "/";
+    const std::string temporary = folder + (folder == "/" ? "" : separator) + temporaryName;
+    if (isFolder(temporary))
+        return isAFolder(path);
+    const FileOutcome error = writeFile(path, bytes, Links::Followed);
+    if (!error && m_targetOfLink.erase(temporary) == 0)
+        m_files.erase(temporary);
+    return error;
+}
+
 FileOutcome FakeFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
     return writeFile(path, bytes, Links::Replaced);
 }
@@ -142,8 +159,57 @@ FileOutcome FakeFileSystem::CopyFile(const std::string& source, const std::strin
     return writeFile(destination, bytes.value(), links);
 }
 
-FileOutcome FakeFileSystem::backUpFile(const std::string& path, const std::string& backup) {
-    return CopyFile(path, backup, Links::Replaced);
+FileOutcome FakeFileSystem::backUpFile(const std::string& path, const std::string& backup,
+                                       std::string_view bytes) {
+    if (!FileExists(path))
+        return notFound(path);
+    return writeFile(backup, bytes, Links::Replaced);
+}
+
+/// Its file system must outlive it.
+class FakeGrowingFile : public GrowingFile {
+  public:
+    FakeGrowingFile(FakeFileSystem& files, std::string path)
+        : m_files(files), m_path(std::move(path)) {}
+    FileOutcome append(std::string_view bytes) override {
+        ++m_files.m_appendCount;
+        if (m_files.m_failingAppend != 0 && m_files.m_appendCount >= m_files.m_failingAppend) {
+            m_files.m_files[m_path] += bytes.substr(0, bytes.size() / 2);
+            return FileError{FileError::Code::NoSpace, m_path, "No space left on device"};
+        }
+        m_files.m_files[m_path] += bytes;
+        return {};
+    }
+    FileOutcome flush() override { return {}; }
+
+  private:
+    FakeFileSystem& m_files;
+    std::string m_path;
+};
+
+FileResult<std::unique_ptr<GrowingFile>> FakeFileSystem::makePrivateFile(const std::string& path) {
+    if (const FileOutcome error = makeFolder(folderOf(path)))
+        return *error;
+    if (FileExists(path))
+        return FileError{FileError::Code::Other, path, "File exists"};
+    if (const FileOutcome error = writeFile(path, "", Links::Replaced))
+        return *error;
+    m_modeOfFile[path] = 0600;
+    return std::unique_ptr<GrowingFile>(new FakeGrowingFile(*this, path));
+}
+
+FileResult<unsigned> FakeFileSystem::modeOf(const std::string& path) const {
+    if (!FileExists(path))
+        return notFound(path);
+    const auto mode = m_modeOfFile.find(withoutLink(path));
+    return mode == m_modeOfFile.end() ? 0644U : mode->second;
+}
+
+FileOutcome FakeFileSystem::setMode(const std::string& path, unsigned mode) {
+    if (!FileExists(path))
+        return notFound(path);
+    m_modeOfFile[withoutLink(path)] = mode;
+    return {};
 }
 
 FileOutcome FakeFileSystem::renameFile(const std::string& path, const std::string& newPath) {
@@ -241,6 +307,10 @@ bool FailingFileSystem::isSameFile(const std::string& left, const std::string& r
     return m_inner.isSameFile(left, right);
 }
 
+bool FailingFileSystem::isWritableFile(const std::string& path) const {
+    return m_inner.isWritableFile(path);
+}
+
 bool FailingFileSystem::isWritableFolder(const std::string& path) const {
     return m_inner.isWritableFolder(path);
 }
@@ -258,6 +328,12 @@ FileOutcome FailingFileSystem::writeFile(const std::string& path, std::string_vi
     return error ? error : m_inner.writeFile(path, bytes, links);
 }
 
+FileOutcome FailingFileSystem::writeFileThrough(const std::string& temporaryName,
+                                                const std::string& path, std::string_view bytes) {
+    const FileOutcome error = nextOperation(path);
+    return error ? error : m_inner.writeFileThrough(temporaryName, path, bytes);
+}
+
 FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
     const FileOutcome error = nextOperation(path);
     return error ? error : m_inner.writeTemporaryFile(path, bytes);
@@ -271,11 +347,30 @@ FileOutcome FailingFileSystem::CopyFile(const std::string& source, const std::st
     return error ? error : m_inner.CopyFile(source, destination, links);
 }
 
-FileOutcome FailingFileSystem::backUpFile(const std::string& path, const std::string& backup) {
+FileOutcome FailingFileSystem::backUpFile(const std::string& path, const std::string& backup,
+                                          std::string_view bytes) {
     FileOutcome error = nextOperation(path);
     if (!error)
         error = errorOfPath(backup);
-    return error ? error : m_inner.backUpFile(path, backup);
+    return error ? error : m_inner.backUpFile(path, backup, bytes);
+}
+
+FileResult<std::unique_ptr<GrowingFile>> FailingFileSystem::makePrivateFile(
+    const std::string& path) {
+    if (const FileOutcome error = nextOperation(path))
+        return *error;
+    return m_inner.makePrivateFile(path);
+}
+
+FileResult<unsigned> FailingFileSystem::modeOf(const std::string& path) const {
+    if (const FileOutcome error = nextOperation(path))
+        return *error;
+    return m_inner.modeOf(path);
+}
+
+FileOutcome FailingFileSystem::setMode(const std::string& path, unsigned mode) {
+    const FileOutcome error = nextOperation(path);
+    return error ? error : m_inner.setMode(path, mode);
 }
 
 FileOutcome FailingFileSystem::renameFile(const std::string& path, const std::string& newPath) {

@@ -27,6 +27,8 @@ class FakeFileSystem : public FileSystem {
     void addFolderAlias(const std::string& folder, const std::string& alias);
     /// Gives the file a second path, by which `isSameFile` knows it.
     void addFileAlias(const std::string& file, const std::string& alias);
+    /// Makes growing files fail from the append with this number on, counted from 1 over all.
+    void failAppend(std::size_t number) { m_failingAppend = number; }
     /// In such a folder no file can be made, replaced or deleted.
     void setWritable(const std::string& folder, bool isWritable);
     /// Every file: path and bytes. Links are none.
@@ -37,15 +39,22 @@ class FakeFileSystem : public FileSystem {
     DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
+    bool isWritableFile(const std::string& path) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
     FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
+    FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
+                                 std::string_view bytes) override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
-    FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
     FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
+    FileOutcome backUpFile(const std::string& path, const std::string& backup,
+                           std::string_view bytes) override;
+    FileResult<std::unique_ptr<GrowingFile>> makePrivateFile(const std::string& path) override;
+    FileResult<unsigned> modeOf(const std::string& path) const override;
+    FileOutcome setMode(const std::string& path, unsigned mode) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
@@ -61,6 +70,11 @@ class FakeFileSystem : public FileSystem {
     std::map<std::string, std::string> m_folderOfAlias;
     std::map<std::string, std::string> m_fileOfAlias;
     std::set<std::string> m_unwritableFolders;
+    std::map<std::string, unsigned> m_modeOfFile;  // where it is not 0644
+    std::size_t m_appendCount = 0;
+    std::size_t m_failingAppend = 0;
+
+    friend class FakeGrowingFile;
 };
 
 /// Passes everything on to another file system, and breaks what it was told to break. A broken
@@ -83,15 +97,22 @@ class FailingFileSystem : public FileSystem {
     DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
+    bool isWritableFile(const std::string& path) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
     FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
+    FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
+                                 std::string_view bytes) override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
-    FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
     FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
+    FileOutcome backUpFile(const std::string& path, const std::string& backup,
+                           std::string_view bytes) override;
+    FileResult<std::unique_ptr<GrowingFile>> makePrivateFile(const std::string& path) override;
+    FileResult<unsigned> modeOf(const std::string& path) const override;
+    FileOutcome setMode(const std::string& path, unsigned mode) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;

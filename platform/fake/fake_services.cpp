@@ -37,6 +37,8 @@ std::string nameOf(FakeCommonDialogs::Kind kind) {
             return "open dialog";
         case FakeCommonDialogs::Kind::OpenFiles:
             return "open dialog for several files";
+        case FakeCommonDialogs::Kind::OpenFolder:
+            return "folder dialog";
         case FakeCommonDialogs::Kind::SaveFile:
             return "save dialog";
         case FakeCommonDialogs::Kind::Color:
@@ -110,6 +112,10 @@ void FakeCommonDialogs::expectOpenFiles(ChosenFiles files) {
     m_expected.push_back({Kind::OpenFiles, {}, {}, {}, std::move(files)});
 }
 
+void FakeCommonDialogs::expectOpenFolder(const std::string& path) {
+    m_expected.push_back({Kind::OpenFolder, path, {}, {}, {}});
+}
+
 void FakeCommonDialogs::expectSaveFile(const std::string& path) {
     m_expected.push_back({Kind::SaveFile, path, {}, {}, {}});
 }
@@ -137,6 +143,11 @@ std::string FakeCommonDialogs::openFile(const FileDialogRequest& request) {
 ChosenFiles FakeCommonDialogs::openFiles(const FileDialogRequest& request) {
     m_recorded.push_back({Kind::OpenFiles, request});
     return answer(Kind::OpenFiles, request.title).files;
+}
+
+std::string FakeCommonDialogs::openFolder(const FileDialogRequest& request) {
+    m_recorded.push_back({Kind::OpenFolder, request});
+    return answer(Kind::OpenFolder, request.title).path;
 }
 
 std::string FakeCommonDialogs::saveFile(const FileDialogRequest& request) {

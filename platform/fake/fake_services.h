@@ -57,7 +57,7 @@ class FakeMessageBox : public MessageBox {
 
 class FakeCommonDialogs : public CommonDialogs {
   public:
-    enum class Kind { OpenFile, OpenFiles, SaveFile, Color, Font };
+    enum class Kind { OpenFile, OpenFiles, OpenFolder, SaveFile, Color, Font };
     struct Recorded {
         Kind kind;
         FileDialogRequest request;
@@ -71,6 +71,8 @@ class FakeCommonDialogs : public CommonDialogs {
     /// The next dialog must be an open dialog for several files; it returns `files` (no names:
     /// cancelled).
     void expectOpenFiles(ChosenFiles files);
+    /// The next dialog must be one for a folder; it returns `path` (empty: cancelled).
+    void expectOpenFolder(const std::string& path);
     /// The next dialog must be a save dialog; it returns `path` (empty: cancelled).
     void expectSaveFile(const std::string& path);
     /// The next dialog must be a colour dialog; it returns `color` (nothing: cancelled).
@@ -89,6 +91,7 @@ class FakeCommonDialogs : public CommonDialogs {
     /// An unexpected dialog is cancelled.
     std::string openFile(const FileDialogRequest& request) override;
     ChosenFiles openFiles(const FileDialogRequest& request) override;
+    std::string openFolder(const FileDialogRequest& request) override;
     std::string saveFile(const FileDialogRequest& request) override;
     std::optional<std::int32_t> chooseColor(std::int32_t initial) override;
     std::optional<FontChoice> chooseFont(const FontChoice& initial) override;

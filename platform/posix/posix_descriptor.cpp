@@ -62,26 +62,29 @@ int readAll(int descriptor, std::uint64_t maxBytes, std::string& bytes) {
     struct stat status {};
     if (::fstat(descriptor, &status) != 0)
         return errno;
-    if (S_ISREG(status.st_mode) && status.st_size > 0) {
-        const auto size = static_cast<std::uint64_t>(status.st_size);
-        if (size > maxBytes)
-            return EFBIG;
-        bytes.reserve(bytes.size() + static_cast<std::size_t>(size));
-    }
-    std::string chunk(kChunkBytes, '\0');
-    std::uint64_t totalBytes = 0;
+    std::uint64_t expectedBytes = 0;
+    if (S_ISREG(status.st_mode) && status.st_size > 0)
+        expectedBytes = static_cast<std::uint64_t>(status.st_size);
+    if (expectedBytes > maxBytes)
+        return EFBIG;
+    const std::size_t begin = bytes.size();
+    std::size_t end = begin;
+    // One byte more than expected, so that one look tells that the file has ended there.
+    bytes.resize(begin +
+                 (expectedBytes > 0 ? static_cast<std::size_t>(expectedBytes) + 1 : kChunkBytes));
     for (;;) {
-        const ssize_t count = ::read(descriptor, chunk.data(), chunk.size());
+        const ssize_t count = ::read(descriptor, bytes.data() + end, bytes.size() - end);
         if (count < 0 && errno == EINTR)
             continue;
-        if (count < 0)
-            return errno;
-        if (count == 0)
-            return 0;
-        totalBytes += static_cast<std::uint64_t>(count);
-        if (totalBytes > maxBytes)
-            return EFBIG;
-        bytes.append(chunk, 0, static_cast<std::size_t>(count));
+        const int error = count < 0 ? errno : 0;
+        end += count > 0 ? static_cast<std::size_t>(count) : 0;
+        const bool isTooLarge = end - begin > maxBytes;
+        if (count <= 0 || isTooLarge) {
+            bytes.resize(end);
+            return isTooLarge ? EFBIG : error;
+        }
+        if (end == bytes.size())
+            bytes.resize(end + kChunkBytes);
     }
 }
 

@@ -222,10 +222,15 @@ FileOutcome replaceRegularFile(const WriteTarget& target, const WriteTarget* ori
 }
 
 FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original,
-                            std::string_view bytes, Links links, FolderLeftovers& leftovers) {
+                            std::string_view bytes, Links links, FolderLeftovers& leftovers,
+                            const std::string& temporaryName = {}) {
     WriteTarget target;
     FileOutcome outcome;
-    if (int error = resolveWriteTarget(path, links, target)) {
+    int error = resolveWriteTarget(path, links, target);
+    target.temporaryName = temporaryName;
+    if (error == 0 && !temporaryName.empty() && target.name == temporaryName)
+        error = EINVAL;  // a link led to it
+    if (error != 0) {
         outcome = fileErrorOf(error, path);
     } else if (target.isWrittenStraight && links == Links::Replaced) {
         outcome = refuseSpecialFile(target.status.st_mode, path);
@@ -250,8 +255,8 @@ FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original
 }  // namespace
 
 FileOutcome replaceFile(const std::string& path, std::string_view bytes, Links links,
-                        FolderLeftovers& leftovers) {
-    return replaceOrBackUp(path, nullptr, bytes, links, leftovers);
+                        FolderLeftovers& leftovers, const std::string& temporaryName) {
+    return replaceOrBackUp(path, nullptr, bytes, links, leftovers, temporaryName);
 }
 
 FileOutcome writeBackup(const std::string& original, const std::string& backup,

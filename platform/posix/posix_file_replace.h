@@ -23,10 +23,13 @@ namespace zev {
 /// are replaced, nothing is ever written to what a link, symbolic or hard, leads to, and a device
 /// or pipe is an error.
 ///
+/// `temporaryName`, where given, is what the new file is called meanwhile, in place of a name that
+/// nothing else has; a file that has it is lost. It must not be the target's own name.
+///
 /// What a killed run left beside the target is removed by the next call for the same target, as far
 /// as it is among `leftovers`, which a failure empties: it may leave something itself.
 FileOutcome replaceFile(const std::string& path, std::string_view bytes, Links links,
-                        FolderLeftovers& leftovers);
+                        FolderLeftovers& leftovers, const std::string& temporaryName = {});
 
 /// Replaces `backup`, a name of the program's own, by a file that holds `bytes`, the content of the
 /// file `original`, and has from its first byte on what that one has of owner, group, mode and

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "platform/posix/posix_descriptor.h"
 #include "platform/posix/posix_file_replace.h"
@@ -44,6 +45,37 @@ FileOutcome openForReading(const std::string& path, PosixDescriptor& file) {
         return fileErrorOf(errno, path);
     return refuseSpecialFile(status.st_mode, path);
 }
+
+/// Makes the folder and what is missing above it. Only the user can look into it, also where it was
+/// there before.
+FileOutcome makePrivateFolder(const std::string& path) {
+    const std::string above = std::filesystem::path(path).parent_path().string();
+    std::error_code error;
+    std::filesystem::create_directories(above, error);
+    if (error)
+        return fileErrorOf(error.value(), above);
+    if (::mkdir(path.c_str(), 0700) != 0 && (errno != EEXIST || ::chmod(path.c_str(), 0700) != 0))
+        return fileErrorOf(errno, path);
+    return {};
+}
+
+class PosixGrowingFile : public GrowingFile {
+  public:
+    PosixGrowingFile(std::string path, PosixDescriptor file)
+        : m_path(std::move(path)), m_file(std::move(file)) {}
+    FileOutcome append(std::string_view bytes) override {
+        return outcomeOf(writeAll(m_file.get(), bytes));
+    }
+    FileOutcome flush() override { return outcomeOf(flushToDisk(m_file.get())); }
+
+  private:
+    FileOutcome outcomeOf(int error) const {
+        return error == 0 ? FileOutcome{} : FileOutcome{fileErrorOf(error, m_path)};
+    }
+
+    std::string m_path;
+    PosixDescriptor m_file;
+};
 
 }  // namespace
 
@@ -81,6 +113,10 @@ bool PosixFileSystem::isSameFile(const std::string& left, const std::string& rig
     return isSame(left, right, S_IFREG);
 }
 
+bool PosixFileSystem::isWritableFile(const std::string& path) const {
+    return FileExists(path) && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
 bool PosixFileSystem::isWritableFolder(const std::string& path) const {
     return isFolder(path) && ::faccessat(AT_FDCWD, path.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
@@ -99,6 +135,11 @@ FileResult<std::string> PosixFileSystem::readFile(const std::string& path,
 FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view bytes,
                                        Links links) {
     return replaceFile(path, bytes, links, m_leftovers);
+}
+
+FileOutcome PosixFileSystem::writeFileThrough(const std::string& temporaryName,
+                                              const std::string& path, std::string_view bytes) {
+    return replaceFile(path, bytes, Links::Followed, m_leftovers, temporaryName);
 }
 
 FileOutcome PosixFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
@@ -130,11 +171,40 @@ FileOutcome PosixFileSystem::CopyFile(const std::string& source, const std::stri
     return replaceFile(destination, bytes.value(), links, m_leftovers);
 }
 
-FileOutcome PosixFileSystem::backUpFile(const std::string& path, const std::string& backup) {
-    const FileResult<std::string> bytes = readFile(path, kMaxCopyBytes);
-    if (!bytes.isOk())
-        return bytes.error();
-    return writeBackup(path, backup, bytes.value(), m_leftovers);
+FileOutcome PosixFileSystem::backUpFile(const std::string& path, const std::string& backup,
+                                        std::string_view bytes) {
+    return writeBackup(path, backup, bytes, m_leftovers);
+}
+
+FileResult<std::unique_ptr<GrowingFile>> PosixFileSystem::makePrivateFile(const std::string& path) {
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    if (const FileOutcome error = makePrivateFolder(folder.string()))
+        return *error;
+    PosixDescriptor file;
+    int error = openDescriptor(path, O_WRONLY | O_CREAT | O_EXCL | O_APPEND, 0600, file);
+    PosixDescriptor opened;
+    if (error == 0)
+        error = openDescriptor(folder.string(), O_RDONLY | O_DIRECTORY, 0, opened);
+    if (error == 0)
+        error = flushToDisk(opened.get());
+    if (error == 0)
+        return std::unique_ptr<GrowingFile>(new PosixGrowingFile(path, std::move(file)));
+    if (file.isOpen())
+        ::unlink(path.c_str());
+    return fileErrorOf(error, path);
+}
+
+FileResult<unsigned> PosixFileSystem::modeOf(const std::string& path) const {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0)
+        return fileErrorOf(errno, path);
+    return static_cast<unsigned>(status.st_mode & 07777);
+}
+
+FileOutcome PosixFileSystem::setMode(const std::string& path, unsigned mode) {
+    if (::chmod(path.c_str(), mode) != 0)
+        return fileErrorOf(errno, path);
+    return {};
 }
 
 FileOutcome PosixFileSystem::renameFile(const std::string& path, const std::string& newPath) {

@@ -14,15 +14,22 @@ class PosixFileSystem : public FileSystem {
     DiskEntry entryAt(const std::string& path) const override;
     bool isSameFolder(const std::string& left, const std::string& right) const override;
     bool isSameFile(const std::string& left, const std::string& right) const override;
+    bool isWritableFile(const std::string& path) const override;
     bool isWritableFolder(const std::string& path) const override;
     FileResult<std::string> readFile(const std::string& path,
                                      std::uint64_t maxBytes) const override;
     FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
+    FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
+                                 std::string_view bytes) override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
-    FileOutcome backUpFile(const std::string& path, const std::string& backup) override;
     FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
+    FileOutcome backUpFile(const std::string& path, const std::string& backup,
+                           std::string_view bytes) override;
+    FileResult<std::unique_ptr<GrowingFile>> makePrivateFile(const std::string& path) override;
+    FileResult<unsigned> modeOf(const std::string& path) const override;
+    FileOutcome setMode(const std::string& path, unsigned mode) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;

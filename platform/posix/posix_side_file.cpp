@@ -22,6 +22,7 @@ namespace {
 
 constexpr std::string_view kMark = ".zev-";
 constexpr std::size_t kRandomLength = 6;
+constexpr int kMaxAttempts = 100;
 constexpr std::string_view kRandomCharacters =
     "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
 
@@ -100,6 +101,33 @@ bool isStillAt(int descriptor, const std::string& path) {
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
+/// Waits while another process has the lock.
+void lockFile(int descriptor) {
+    while (::flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
+    }
+}
+
+/// Removes the file or link that has a temporary name, as soon as no live process holds it. 0 or an
+/// errno.
+int removeUnused(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0)
+        return errno == ENOENT ? 0 : errno;
+    if (S_ISDIR(status.st_mode))
+        return EISDIR;
+    PosixDescriptor file;
+    if (S_ISREG(status.st_mode)) {
+        // What may not be read cannot be waited for.
+        if (openDescriptor(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK, 0, file) == 0)
+            lockFile(file.get());
+        if (file.isOpen() && !isStillAt(file.get(), path))
+            return 0;
+    } else if (!S_ISLNK(status.st_mode)) {
+        return EEXIST;
+    }
+    return ::unlink(path.c_str()) == 0 || errno == ENOENT ? 0 : errno;
+}
+
 }  // namespace
 
 SideFile::~SideFile() {
@@ -108,41 +136,56 @@ SideFile::~SideFile() {
 }
 
 int SideFile::makeBeside(const WriteTarget& target, Kind kind, unsigned mode) {
-    return make(target.folder, prefixBeside(target, kind), mode);
+    if (kind == Kind::NewContent && !target.temporaryName.empty())
+        return makeByName(target.folder, target.temporaryName, mode);
+    return makeByPrefix(target.folder, prefixBeside(target, kind), mode);
 }
 
 int SideFile::makeInTemporaryFolder(const WriteTarget& target, unsigned mode) {
-    return make(temporaryFolder(), prefixInTemporaryFolder(target), mode);
+    return makeByPrefix(temporaryFolder(), prefixInTemporaryFolder(target), mode);
 }
 
-int SideFile::make(const std::string& folder, const std::string& prefix, unsigned mode) {
-    constexpr int kMaxAttempts = 100;
-    for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
-        const std::string path = folder + "/" + randomName(prefix);
-        PosixDescriptor file;
-        const int error = openDescriptor(path, O_RDWR | O_CREAT | O_EXCL, mode, file);
-        if (error == EEXIST)
-            continue;
-        if (error != 0)
-            return error;
-        // Network drives may know no locks; leftovers are not removed there.
-        ::flock(file.get(), LOCK_EX | LOCK_NB);
-        // Before the lock was there another process may have taken the file for a leftover.
-        if (!isStillAt(file.get(), path))
-            continue;
-        PosixDescriptor lock(::fcntl(file.get(), F_DUPFD_CLOEXEC, 0));
-        if (!lock.isOpen()) {
-            const int lockError = errno;
-            ::unlink(path.c_str());
-            return lockError;
-        }
-        m_folder = folder;
-        m_path = path;
-        m_file = std::move(file);
-        m_lock = std::move(lock);
-        return 0;
+int SideFile::makeByPrefix(const std::string& folder, const std::string& prefix, unsigned mode) {
+    int error = EEXIST;
+    for (int attempt = 0; attempt < kMaxAttempts && error == EEXIST; ++attempt)
+        error = make(folder, randomName(prefix), mode);
+    return error;
+}
+
+int SideFile::makeByName(const std::string& folder, const std::string& name, unsigned mode) {
+    int error = EEXIST;
+    for (int attempt = 0; attempt < kMaxAttempts && error == EEXIST; ++attempt) {
+        error = make(folder, name, mode);
+        if (error != EEXIST)
+            break;
+        if (const int removeError = removeUnused(folder + "/" + name))
+            return removeError;
     }
-    return EEXIST;
+    return error;
+}
+
+/// EEXIST also when another process has taken the file away again.
+int SideFile::make(const std::string& folder, const std::string& name, unsigned mode) {
+    const std::string path = folder + "/" + name;
+    PosixDescriptor file;
+    if (const int error = openDescriptor(path, O_RDWR | O_CREAT | O_EXCL, mode, file))
+        return error;
+    // Network drives may know no locks; leftovers are not removed there.
+    lockFile(file.get());
+    // Before the lock was there another process may have taken the file for a leftover.
+    if (!isStillAt(file.get(), path))
+        return EEXIST;
+    PosixDescriptor lock(::fcntl(file.get(), F_DUPFD_CLOEXEC, 0));
+    if (!lock.isOpen()) {
+        const int lockError = errno;
+        ::unlink(path.c_str());
+        return lockError;
+    }
+    m_folder = folder;
+    m_path = path;
+    m_file = std::move(file);
+    m_lock = std::move(lock);
+    return 0;
 }
 
 const std::vector<std::string>& FolderLeftovers::namesIn(const std::string& folder) {

@@ -13,7 +13,8 @@ namespace zev {
 /// lives, which tells it from the leftover of a killed run. It is removed when the object goes,
 /// unless it was handed over.
 ///
-///     .menu.js.zev-k3Xw9a~      new content, on its way to be renamed to menu.js
+///     .menu.js.zev-k3Xw9a~      new content, on its way to be renamed to menu.js; where the caller
+///                               gives it a name of its own, that
 ///     menu.js.zev-k3Xw9a~       old content, kept while menu.js is written in place; not hidden,
 ///                               for after a power failure it may be the only whole one
 class SideFile {
@@ -25,7 +26,8 @@ class SideFile {
     SideFile& operator=(const SideFile&) = delete;
     ~SideFile();
 
-    /// Makes the file beside the target, open for reading and writing. 0 or an errno.
+    /// Makes the file beside the target, open for reading and writing. 0 or an errno. A temporary
+    /// name that is in use is waited for.
     int makeBeside(const WriteTarget& target, Kind kind, unsigned mode);
     /// The same in the folder for temporary files, for old content.
     int makeInTemporaryFolder(const WriteTarget& target, unsigned mode);
@@ -40,7 +42,9 @@ class SideFile {
     void handOver() { m_path.clear(); }
 
   private:
-    int make(const std::string& folder, const std::string& prefix, unsigned mode);
+    int makeByPrefix(const std::string& folder, const std::string& prefix, unsigned mode);
+    int makeByName(const std::string& folder, const std::string& name, unsigned mode);
+    int make(const std::string& folder, const std::string& name, unsigned mode);
 
     std::string m_folder;
     std::string m_path;

@@ -10,9 +10,11 @@ namespace zev {
 
 /// Where a write to some path ends up.
 struct WriteTarget {
-    std::string path;         ///< the file itself: its last component is no symbolic link
-    std::string folder;       ///< its folder, "." when the path names none
-    std::string name;         ///< its name in that folder
+    std::string path;    ///< the file itself: its last component is no symbolic link
+    std::string folder;  ///< its folder, "." when the path names none
+    std::string name;    ///< its name in that folder
+    /// What its new content is called while it is written; empty: a name that nothing else has.
+    std::string temporaryName;
     bool exists = false;      ///< `status` is valid
     struct stat status = {};  ///< as lstat() gives it
     /// It has no place of its own on the disk that could be replaced: a device, a pipe, a file

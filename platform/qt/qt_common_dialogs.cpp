@@ -224,6 +224,17 @@ ChosenFiles QtCommonDialogs::openFiles(const FileDialogRequest& request) {
     return {};
 }
 
+std::string QtCommonDialogs::openFolder(const FileDialogRequest& request) {
+    QFileDialog dialog(parentWindow());
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    prepare(dialog, request, m_lastFolder);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    m_lastFolder = dialog.selectedFiles().value(0);
+    return QDir::toNativeSeparators(m_lastFolder).toStdString();
+}
+
 std::string QtCommonDialogs::saveFile(const FileDialogRequest& request) {
     QFileDialog dialog(parentWindow());
     dialog.setAcceptMode(QFileDialog::AcceptSave);

@@ -27,6 +27,7 @@ class QtCommonDialogs : public CommonDialogs {
   public:
     std::string openFile(const FileDialogRequest& request) override;
     ChosenFiles openFiles(const FileDialogRequest& request) override;
+    std::string openFolder(const FileDialogRequest& request) override;
     std::string saveFile(const FileDialogRequest& request) override;
     std::optional<std::int32_t> chooseColor(std::int32_t initial) override;
     std::optional<FontChoice> chooseFont(const FontChoice& initial) override;

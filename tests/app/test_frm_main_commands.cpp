@@ -7,7 +7,9 @@
 #include <stdexcept>
 
 #include "app/frm_about.h"
+#include "integrator/run_record.h"
 #include "integrator/wizard/frm_integrator.h"
+#include "integrator/wizard/frm_undo.h"
 #include "script/script_writer.h"
 #include "when_shown.h"
 #include "window_desk.h"
@@ -382,6 +384,57 @@ class test_frm_main_commands : public QObject {
         desk.choose("mnuToolsIntegrate");
         QCOMPARE(definition, QString("/site/menu_def.js"));
         QCOMPARE(entries, QStringList{"Tea (1)"});
+    }
+
+    void theWizardOpensWithWhatWasEnteredLast() {
+        WindowDesk desk("/me");
+        desk.disk.addFile("/site/a.htm", "<head></head><body></body>\n");
+        desk.document().setFile("/site/menu_def.js", desk.document().SavePath());
+        whenShown<frmIntegrator>([&](frmIntegrator& wizard) {
+            desk.dialogs.expectOpenFiles({"/site", {"a.htm"}});
+            wizard.findChild<QPushButton*>("BtnInputFile")->click();
+            wizard.reject();
+        });
+        desk.choose("mnuToolsIntegrate");
+        QString page;
+        whenShown<frmIntegrator>([&](frmIntegrator& wizard) {
+            page = wizard.findChild<QComboBox*>("comboFiles")->currentText();
+            wizard.reject();
+        });
+        desk.choose("mnuToolsIntegrate");
+        QCOMPARE(page, QString("a.htm"));
+    }
+
+    void theWizardSaysThatTheMenuIsNotSaved_data() {
+        QTest::addColumn<bool>("isModified");
+        QTest::newRow("saved") << false;
+        QTest::newRow("modified") << true;
+    }
+    void theWizardSaysThatTheMenuIsNotSaved() {
+        QFETCH(bool, isModified);
+        WindowDesk desk;
+        if (isModified)
+            desk.add("Tea");
+        bool isSaid = false;
+        whenShown<frmIntegrator>([&](frmIntegrator& wizard) {
+            isSaid = wizard.findChild<QLabel*>("lblUnsaved")->isVisible();
+            wizard.reject();
+        });
+        desk.choose("mnuToolsIntegrate");
+        QCOMPARE(isSaid, isModified);
+    }
+
+    void earlierRunsAreOfferedToBeUndone() {
+        WindowDesk desk("/me");
+        RunRecord(desk.disk, "/me/runs", 0).append("/site/a.htm", "old", "new", {{0, 3, "new"}});
+        desk.disk.addFile("/site/a.htm", "new");
+        whenShown<frmUndo>([&](frmUndo& window) {
+            desk.messages.expect("1 page is as before the run.");
+            window.findChild<QPushButton*>("btnUndo")->click();
+            window.reject();
+        });
+        desk.choose("mnuToolsUndoIntegration");
+        QCOMPARE(desk.disk.allFiles().at("/site/a.htm"), std::string("old"));
     }
 
     void theWizardOfANewDocumentKnowsNothing() {

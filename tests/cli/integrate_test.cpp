@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <regex>
 
 #include "tests/cli/run_program.h"
 #include "tests/support/temp_folder.h"
@@ -34,6 +35,19 @@ std::string successOf(const std::string& page) {
            "\n";
 }
 
+std::string summaryOf(int doneCount, const Arguments& failedPages = {}) {
+    std::string lines;
+    for (const std::string& page : failedPages)
+        lines += "Failed: " + page + "\n";
+    return lines + std::to_string(doneCount) + " done, " + std::to_string(failedPages.size()) +
+           " failed\n\n";
+}
+
+/// Without the line that names the run.
+std::string withoutRun(const std::string& problems) {
+    return std::regex_replace(problems, std::regex("zevmenu: run [-0-9T:]+\n"), "");
+}
+
 std::string codeFor(const std::string& folder, const std::string& url) {
     return "Code for the pages in " + folder + "\n\n<script language=\"JavaScript1.2\" src=\"" +
            url +
@@ -52,8 +66,11 @@ TEST(IntegrateTest, IntegratesThePageKeepsABackupAndPrintsReportAndCode) {
     makeFile(folder / "a.htm", kPage);
     const ProgramResult result = integrate(folder, {"a.htm"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.output, successOf(folder / "a.htm") + codeFor(folder.path(), "menu.js"));
-    EXPECT_EQ(result.problems, "");
+    EXPECT_EQ(result.output,
+              successOf(folder / "a.htm") + summaryOf(1) + codeFor(folder.path(), "menu.js"));
+    EXPECT_TRUE(std::regex_match(
+        result.problems, std::regex("zevmenu: run \\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d-1\n")))
+        << result.problems;
     EXPECT_EQ(contentOf(folder / "a.htm"), integrated("lib/"));
     EXPECT_EQ(contentOf(folder / "a.htm.bak"), kPage);
     EXPECT_EQ(namesIn(folder.path()), (Arguments{"a.htm", "a.htm.bak"}));
@@ -74,7 +91,7 @@ TEST(IntegrateTest, URLsAreRelativeToEachPagesFolder) {
     EXPECT_EQ(result.output,
               successOf(folder / "a.htm") + successOf(folder / "sub/b.htm") +
                   successOf(folder / "sub/deep/c.htm") + successOf(folder / "d.htm") +
-                  codeFor(folder / "sub/deep", "../../menu.js") +
+                  summaryOf(4) + codeFor(folder / "sub/deep", "../../menu.js") +
                   codeFor(folder / "sub", "../menu.js") + codeFor(folder.path(), "menu.js"));
 }
 
@@ -116,7 +133,9 @@ TEST(IntegrateTest, HasStatusOneWhenAnyPageFailedAndDoesTheOthers) {
                                  "\n"
                                  "ERROR: " +
                                  (folder / "b.htm") + " Not Found!\n\n" +
-                                 successOf(folder / "c.htm") + codeFor(folder.path(), "menu.js"));
+                                 successOf(folder / "c.htm") +
+                                 summaryOf(1, {folder / "a.htm", folder / "b.htm"}) +
+                                 codeFor(folder.path(), "menu.js"));
     EXPECT_EQ(contentOf(folder / "c.htm"), integrated("lib/"));
 }
 
@@ -145,7 +164,8 @@ TEST(IntegrateTest, ReportGoesToAFileAsTheEditorSavesIt) {
     const ProgramResult result = integrate(folder, {"--report", "report.txt", "a.htm"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(contentOf(folder / "report.txt"),
-              "ERROR: " + (folder / "a.htm") + " Not Found!\r\n\r\n\r\n");
+              "ERROR: " + (folder / "a.htm") + " Not Found!\r\n\r\nFailed: " + (folder / "a.htm") +
+                  "\r\n0 done, 1 failed\r\n\r\n\r\n");
     EXPECT_EQ(result.output, codeFor(folder.path(), "menu.js"));
 }
 
@@ -156,11 +176,11 @@ TEST(IntegrateTest, WithTheReportInAFileEachPageThatFailedIsNamed) {
     const ProgramResult result =
         integrate(folder, {"--report", "report.txt", "a.htm", "b.htm", "none.htm"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.problems, "zevmenu: " + (folder / "a.htm") +
-                                   ": failed; see the report\nzevmenu: " + (folder / "none.htm") +
-                                   ": failed; see the report\n");
-    EXPECT_EQ(integrate(folder, {"--report", "report.txt", "b.htm"}).problems, "");
-    EXPECT_EQ(integrate(folder, {"a.htm"}).problems, "");  // the report itself is shown
+    EXPECT_EQ(withoutRun(result.problems),
+              "zevmenu: " + (folder / "a.htm") + ": failed; see the report\nzevmenu: " +
+                  (folder / "none.htm") + ": failed; see the report\n");
+    EXPECT_EQ(withoutRun(integrate(folder, {"--report", "report.txt", "b.htm"}).problems), "");
+    EXPECT_EQ(withoutRun(integrate(folder, {"a.htm"}).problems), "");  // the report itself is shown
 }
 
 TEST(IntegrateTest, AReportThatCannotBeWrittenHasStatusThree) {
@@ -168,7 +188,7 @@ TEST(IntegrateTest, AReportThatCannotBeWrittenHasStatusThree) {
     makeFile(folder / "a.htm", kPage);
     const ProgramResult result = integrate(folder, {"--report", "none/report.txt", "a.htm"});
     EXPECT_EQ(result.status, 3);
-    EXPECT_EQ(result.problems, "zevmenu: none/report.txt: No such file or directory\n");
+    EXPECT_EQ(withoutRun(result.problems), "zevmenu: none/report.txt: No such file or directory\n");
 }
 
 TEST(IntegrateTest, PrintsTheCodeOfAPopupMenu) {
@@ -178,7 +198,8 @@ TEST(IntegrateTest, PrintsTheCodeOfAPopupMenu) {
         integrate(folder, {"--popup", "Products (2)", "--at", "10,20", "a.htm"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output,
-              successOf(folder / "a.htm") + "Code for the pages in " + folder.path() +
+              successOf(folder / "a.htm") + summaryOf(1) + "Code for the pages in " +
+                  folder.path() +
                   "\n\n<script language=\"JavaScript1.2\" src=\"menu.js\"></script>\n"
                   "<a href=\"\" onmouseover=\"ZEVMenuOpen('zev1', '2', 10, 20)\">Menu</a>\n\n");
 }
@@ -203,7 +224,7 @@ TEST(IntegrateTest, AFolderAmongThePagesIsReported) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output.substr(0, result.output.find("Code for")),
               "Processing " + (folder / "a.htm") + "\nERROR: " + (folder / "a.htm") +
-                  " not saved: Is a directory\n\n");
+                  " not saved: Is a directory\n\n" + summaryOf(0, {folder / "a.htm"}));
 }
 
 TEST(IntegrateTest, NamesWithAnyCharactersWork) {
@@ -214,6 +235,38 @@ TEST(IntegrateTest, NamesWithAnyCharactersWork) {
     EXPECT_EQ(result.status, 0) << result.output;
     EXPECT_EQ(contentOf(folder / name), integrated("lib/"));
     EXPECT_EQ(contentOf(folder / (name + ".bak")), kPage);
+}
+
+TEST(IntegrateTest, PathsBecomeAddressesAndWhatWasTypedAsOneStays) {
+    const TempFolder folder;
+    const std::string site = "a#b/men\xC3\xBC";
+    fs::create_directories(folder / site);
+    makeFile(folder / "a.htm", kPage);
+    ProgramResult result = runZevmenu(
+        {"integrate", "--definition", site + "/m 1.js", "--library", site, "a.htm"}, folder.path());
+    EXPECT_EQ(result.status, 0) << result.problems;
+    EXPECT_EQ(contentOf(folder / "a.htm"), integrated("a%23b/men%C3%BC/"));
+    EXPECT_NE(result.output.find("src=\"a%23b/men%C3%BC/m%201.js\""), std::string::npos);
+    result = runZevmenu({"integrate", "--definition", "http://x.example/m 1.js", "--library",
+                         "http://x.example/a b/", "a.htm"},
+                        folder.path());
+    EXPECT_EQ(contentOf(folder / "a.htm"), integrated("http://x.example/a b/"));
+}
+
+TEST(IntegrateTest, RemovedScriptsAreNamedAndPagesOfFramesSkippedWhenAsked) {
+    const TempFolder folder;
+    const std::string frames = "<head><script>own()</script></head><frameset></frameset>\n";
+    makeFile(folder / "a.htm", frames);
+    ProgramResult result = integrate(folder, {"--skip-failing", "a.htm"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(contentOf(folder / "a.htm"), frames);
+    EXPECT_EQ(namesIn(folder.path()), Arguments{"a.htm"});
+    EXPECT_NE(result.output.find("0 done, 0 failed, 1 skipped\n"), std::string::npos);
+    EXPECT_EQ(result.problems, "") << "no page was changed, so there is no run";
+    result = integrate(folder, {"a.htm"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.output.find("\n\nRemoved: own()\n\nFailed: "), std::string::npos)
+        << result.output;
 }
 
 }  // namespace

@@ -40,8 +40,13 @@ const std::string kSmallDefinition =
 
 namespace {
 
+const TempFolder* s_userData = nullptr;
+
 [[noreturn]] void runChild(const std::string& program, std::vector<char*>& arguments,
                            const std::string& folder, const std::string& files, OutputTo outputTo) {
+    const std::string userData = s_userData != nullptr ? s_userData->path() : files + "/data";
+    if (::setenv("XDG_DATA_HOME", userData.c_str(), 1) != 0)
+        ::_exit(99);
     const auto connect = [](const std::string& path, int flags, int descriptor) {
         const int file = ::open(path.c_str(), flags | O_CLOEXEC, 0600);
         if (file < 0 || ::dup2(file, descriptor) < 0)
@@ -70,6 +75,14 @@ std::string contentIfAny(const std::string& path) {
 }
 
 }  // namespace
+
+UserData::UserData() {
+    s_userData = &m_folder;
+}
+
+UserData::~UserData() {
+    s_userData = nullptr;
+}
 
 ProgramResult runZevmenu(const std::vector<std::string>& arguments, const std::string& folder,
                          const std::string& input, OutputTo outputTo) {

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/temp_folder.h"
+
 namespace zev::test {
 
 struct ProgramResult {
@@ -13,6 +15,20 @@ struct ProgramResult {
 
 /// What standard output is connected to.
 enum class OutputTo { Collected, FullDisk, ClosedPipe, Nothing };
+
+/// While it lives, the programs keep their data of the user here; without one, each in a folder of
+/// its own, that is gone when the program has ended.
+class UserData {
+  public:
+    UserData();
+    UserData(const UserData&) = delete;
+    UserData& operator=(const UserData&) = delete;
+    ~UserData();
+    std::string operator/(const std::string& name) const { return m_folder / name; }
+
+  private:
+    TempFolder m_folder;
+};
 
 /// Runs `zevmenu` with these arguments in `folder` and waits for it.
 ProgramResult runZevmenu(const std::vector<std::string>& arguments, const std::string& folder,

@@ -38,6 +38,7 @@ class OneFile : public CommonDialogs {
     explicit OneFile(std::string path) : m_path(std::move(path)) {}
     std::string openFile(const FileDialogRequest&) override { return m_path; }
     ChosenFiles openFiles(const FileDialogRequest&) override { return {}; }
+    std::string openFolder(const FileDialogRequest&) override { return {}; }
     std::string saveFile(const FileDialogRequest&) override { return m_path; }
     std::optional<std::int32_t> chooseColor(std::int32_t) override { return std::nullopt; }
     std::optional<FontChoice> chooseFont(const FontChoice&) override { return std::nullopt; }

@@ -38,6 +38,7 @@ class SiteDialogs : public CommonDialogs {
     explicit SiteDialogs(std::string site) : m_site(std::move(site)) {}
     std::string openFile(const FileDialogRequest&) override { return {}; }
     ChosenFiles openFiles(const FileDialogRequest&) override { return {m_site, {"page.htm"}}; }
+    std::string openFolder(const FileDialogRequest&) override { return {}; }
     std::string saveFile(const FileDialogRequest&) override { return m_site + "/report.txt"; }
     std::optional<std::int32_t> chooseColor(std::int32_t) override { return std::nullopt; }
     std::optional<FontChoice> chooseFont(const FontChoice&) override { return std::nullopt; }

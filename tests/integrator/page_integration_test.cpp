@@ -41,7 +41,7 @@ TEST(CalculateURLTest, FullPathsBecomeRelativeAndOthersStay) {
         {"C:\\web", "C:m.js", "C:m.js", "C:lib", "C:lib\\"},
         {"C:\\web", "", "", "", ""},
         {"C:\\web", "C:\\web\\menu.js", "menu.js", "C:\\web\\lib\\", "lib//"},
-        {"C:\\web", "menu.js", "menu.js", "C:\\web\\lib ", "lib /"},
+        {"C:\\web", "menu.js", "menu.js", "C:\\web\\lib ", "lib%20/"},
         {"C:\\web", "menu.js", "menu.js", " C:\\web\\lib", " C:\\web\\lib\\"},
         {"/web", "/web/menu.js", "menu.js", "/web/lib", "lib/"},
         {"/web/a/b", " /web/js/menu.js", "../../js/menu.js", "/web", "../../"},
@@ -51,6 +51,11 @@ TEST(CalculateURLTest, FullPathsBecomeRelativeAndOthersStay) {
         {"/", "/menu.js", "menu.js", "/", ""},
         {"/web", "/web/menu.js", "menu.js", "/web/lib/", "lib/"},
         {"/web", "js\\menu.js", "js\\menu.js", "js", "js"},
+        {"/web", "/web/a#b?/100%.js", "a%23b%3F/100%25.js", "/web/men\xC3\xBC \"'",
+         "men%C3%BC%20%22%27/"},
+        {"/a#b/c", "/a#b/-._~:@!$*+,;=().js", "../-._~:@!$*+,;=().js", "/a#b/<&>", "../%3C%26%3E/"},
+        {"C:\\web", "C:\\web\\a#b\\m.js", "a%23b/m.js", "D:\\a#b", "D:\\a#b\\"},
+        {"/web", "a#b/men\xC3\xBC.js", "a#b/men\xC3\xBC.js", "it's/ %/", "it's/ %/"},
     };
     for (const Case& c : cases) {
         const IntegrationURLs urls = CalculateURL(c.pagesFolder, c.definition, c.library);
@@ -288,7 +293,7 @@ TEST(PageIntegratorTest, ABackupThatCannotBeMadeIsNamedAndThePageKept) {
 }
 
 // A run on one page asks for these operations in this order.
-enum Operation : std::size_t { Read = 1, WriteTemporary, BackUp, Replace, DeleteTemporary };
+enum Operation : std::size_t { Read = 1, BackUp, Replace };
 
 class FailingOperation : public testing::TestWithParam<std::size_t> {};
 
@@ -312,27 +317,118 @@ TEST_P(FailingOperation, KeepsThePageLeavesNoTemporaryFileAndGoesOn) {
     EXPECT_TRUE(desk.integrator.hasFailed());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, FailingOperation,
-                         testing::Values(Read, WriteTemporary, BackUp, Replace));
+INSTANTIATE_TEST_SUITE_P(Each, FailingOperation, testing::Values(Read, BackUp, Replace));
 
 TEST(PageIntegratorTest, OperationsAreThoseTheFailuresAreCountedBy) {
     Desk desk(kWithBackups);
     desk.addPage("a.htm");
     desk.integrate({"a.htm"});
-    EXPECT_EQ(desk.failing.operationCount(), DeleteTemporary);
+    EXPECT_EQ(desk.failing.operationCount(), Replace);
 }
 
-TEST(PageIntegratorTest, ATemporaryFileThatCannotBeDeletedIsReportedBesideTheSuccess) {
+TEST(PageIntegratorTest, ScriptsThatAreDroppedAreNamedInABlockOfTheirOwn) {
+    Desk desk;
+    desk.addPage("a.htm",
+                 "<head><script src=\"js/analytics.js\"></script></head><body><script>\n"
+                 "startCounting(7);\nmore();</script><script language=JavaScript>own()"
+                 "</script></body>.");
+    desk.addPage("b.htm");
+    desk.integrate({"a.htm", "b.htm"});
+    EXPECT_EQ(desk.integrator.report(), "Processing /web/a.htm\r\n" + kSuccessLines +
+                                            "Removed: js/analytics.js\r\n"
+                                            "Removed: startCounting(7);\xE2\x80\xA6\r\n\r\n"
+                                            "Processing /web/b.htm\r\n" +
+                                            kSuccessLines);
+}
+
+TEST(PageIntegratorTest, ScriptsCanBeKeptByTheirNames) {
+    Desk desk({{"lib/", false, {"a.js"}}, false, false});
+    desk.addPage("a.htm", "<script src=a.js></script><script src=b.js></script>.");
+    desk.integrate({"a.htm"});
+    EXPECT_EQ(desk.files.allFiles().at("/web/a.htm"), "<script src=a.js></script></script>.");
+    EXPECT_EQ(desk.integrator.status().removedScripts, std::vector<std::string>{"b.js"});
+}
+
+TEST(PageIntegratorTest, TheSummaryNamesFailedPagesFirst) {
+    Desk desk;
+    for (const char* const name : {"a.htm", "c.htm"})
+        desk.addPage(name);
+    desk.addPage("b.htm", "text");
+    desk.integrate({"a.htm", "b.htm", "c.htm", "d.htm"});
+    EXPECT_EQ(desk.integrator.summary().text(),
+              "Failed: /web/b.htm\r\nFailed: /web/d.htm\r\n2 done, 2 failed\r\n\r\n");
+    RunSummary all = desk.integrator.summary();
+    all.add({1, {"/e.htm"}, {"/f.htm"}});
+    EXPECT_EQ(all.text(),
+              "Failed: /web/b.htm\r\nFailed: /web/d.htm\r\nFailed: /e.htm\r\n"
+              "Skipped: /f.htm\r\n3 done, 3 failed, 1 skipped\r\n\r\n");
+}
+
+TEST(PageIntegratorTest, PagesThatCannotBeIntegratedAreSkippedWhenAsked) {
+    IntegrationOptions options = kWithBackups;
+    options.skipsFailing = true;
+    Desk desk(options);
+    const std::string frames = "<head><script>a</script></head><frameset></frameset>.";
+    desk.addPage("a.htm", frames);
+    desk.addPage("b.htm");
+    desk.integrate({"a.htm", "b.htm"});
+    EXPECT_EQ(desk.files.allFiles(), (Disk{{"/web/a.htm", frames},
+                                           {"/web/b.htm", rewritten(kPage).page},
+                                           {"/web/b.htm.bak", kPage}}));
+    EXPECT_EQ(desk.integrator.report(),
+              "Processing /web/a.htm\r\n"
+              "Skipped: <BODY> not found.\r\n"
+              "Skipped: </BODY> not found.\r\n\r\n"
+              "Processing /web/b.htm\r\n" +
+                  kSuccessLines);
+    EXPECT_FALSE(desk.integrator.hasFailed());
+    EXPECT_EQ(desk.integrator.summary().skippedPages, std::vector<std::string>{"/web/a.htm"});
+}
+
+TEST(PageIntegratorTest, ABackupWithoutTheMenuIsKeptBeforeOneWithItTakesItsPlace) {
     Desk desk(kWithBackups);
     desk.addPage("a.htm");
-    desk.failing.failOperation(DeleteTemporary,
-                               {FileError::Code::NoPermission, "/web/~qxtmp.htm", "Not permitted"});
+    for (int run = 0; run < 3; ++run)
+        desk.integrate({"a.htm"});
+    const std::string page = rewritten(kPage).page;
+    const Disk expected{
+        {"/web/a.htm", page}, {"/web/a.htm.bak", page}, {"/web/a.htm.bak.original", kPage}};
+    EXPECT_EQ(desk.files.allFiles(), expected);
+    // The page is made anew and integrated twice: the first original stays.
+    desk.addPage("a.htm", kPage + "new");
     desk.integrate({"a.htm"});
-    EXPECT_EQ(desk.files.allFiles().at("/web/a.htm"), rewritten(kPage).page);
+    EXPECT_EQ(desk.files.allFiles().at("/web/a.htm.bak"), kPage + "new");
+    desk.integrate({"a.htm"});
+    EXPECT_EQ(desk.files.allFiles().at("/web/a.htm.bak.original"), kPage);
+    EXPECT_EQ(desk.files.allFiles().at("/web/a.htm.bak.original.2"), kPage + "new");
+    // One that is kept already is not kept twice.
+    desk.addPage("a.htm.bak", kPage);
+    desk.integrate({"a.htm"});
+    EXPECT_EQ(desk.files.allFiles().size(), 4u);
+}
+
+TEST(PageIntegratorTest, ABackupThatIsALinkIsNoOriginalToBeKept) {
+    Desk desk(kWithBackups);
+    desk.addPage("a.htm", rewritten(kPage).page);
+    desk.files.addFile("/home/secret", "mine");
+    desk.files.addLink("/web/a.htm.bak", "/home/secret");
+    desk.integrate({"a.htm"});
+    EXPECT_FALSE(desk.files.FileExists("/web/a.htm.bak.original"));
+    EXPECT_EQ(desk.files.allFiles().at("/home/secret"), "mine");
+}
+
+TEST(PageIntegratorTest, AnOriginalThatCannotBeKeptKeepsPageAndBackup) {
+    Desk desk(kWithBackups);
+    const std::string page = rewritten(kPage).page;
+    desk.addPage("a.htm", page);
+    desk.addPage("a.htm.bak", kPage);
+    desk.failing.failPath("/web/a.htm.bak.original",
+                          {FileError::Code::NoSpace, "/web/a.htm.bak.original", "No space left"});
+    desk.integrate({"a.htm"});
+    EXPECT_EQ(desk.files.allFiles(), (Disk{{"/web/a.htm", page}, {"/web/a.htm.bak", kPage}}));
     EXPECT_EQ(desk.integrator.report(),
-              "Processing /web/a.htm\r\nERROR: /web/~qxtmp.htm not deleted: Not permitted\r\n" +
-                  kSuccessLines);
-    EXPECT_TRUE(desk.integrator.hasFailed());
+              "Processing /web/a.htm\r\nERROR: /web/a.htm not saved: "
+              "/web/a.htm.bak.original: No space left\r\n\r\n");
 }
 
 TEST(PageIntegratorTest, StatusOfAPageThatCouldNotBeReadOrSavedIsAllFalse) {
@@ -364,8 +460,8 @@ TEST(PageIntegratorTest, AnErrorSaysWhatFailedOnWhichFileAndWhy) {
     };
     const FileError noSpace{FileError::Code::NoSpace, "/web/x", "No space left"};
     for (const Case& c :
-         {Case{Read, PageError::Code::NotRead}, Case{WriteTemporary, PageError::Code::NotSaved},
-          Case{BackUp, PageError::Code::NotBackedUp}, Case{Replace, PageError::Code::NotSaved}}) {
+         {Case{Read, PageError::Code::NotRead}, Case{BackUp, PageError::Code::NotBackedUp},
+          Case{Replace, PageError::Code::NotSaved}}) {
         Desk desk(kWithBackups);
         desk.addPage("a.htm");
         desk.failing.failOperation(c.broken, noSpace);

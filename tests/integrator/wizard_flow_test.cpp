@@ -240,7 +240,8 @@ TEST(WizardFlowTest, HintsNameWhatAPageCannotReach) {
         {"js", "m.js", {{Kind::NoLastSlash, "js"}}, {}},
         {"d:\\lib", "d:\\m.js", {{Kind::OnADrive, "d:\\lib"}}, {{Kind::OnADrive, "d:\\m.js"}}},
         {"D:\\it's", "m.js", {{Kind::OnADrive, "D:\\it's\\"}}, {}},
-        {"/site/it's", "/site/it's/m.js", {{Kind::Quote, "it%27s/"}}, {}},
+        {"/site/it's", "/site/it's/m.js", {}, {}},
+        {"it's/", "it's/m.js", {{Kind::Quote, "it%27s/"}}, {}},
         {"a\"b/", "a\"b/m.js", {{Kind::Quote, "a%22b/"}}, {{Kind::Quote, "a%22b/m.js"}}},
         {"it's", "m.js", {{Kind::NoLastSlash, "it's"}, {Kind::Quote, "it%27s"}}, {}},
     };
@@ -301,7 +302,8 @@ TEST(WizardFlowTest, CancelAndClosingStopARunAndTheNextOneStartsAfresh) {
         EXPECT_TRUE(desk.flow.mayClose());
         EXPECT_NE(desk.page("a.htm"), kPage);
         EXPECT_EQ(desk.page("b.htm"), kPage);
-        EXPECT_TRUE(desk.flow.report().ends_with("Cancelled: 1 of 2 pages not processed\r\n"));
+        EXPECT_TRUE(desk.flow.report().ends_with(
+            "Cancelled: 1 of 2 pages not processed\r\n1 done, 0 failed\r\n\r\n"));
         desk.flow.goBack();
         desk.run();
         EXPECT_NE(desk.page("b.htm"), kPage);
@@ -313,7 +315,9 @@ TEST(WizardFlowTest, TheReportIsOfOneRunAndGoneWithTheNextPress) {
     desk.goToMenuStep({"gone.htm"});
     desk.run();
     const std::string report = desk.flow.report();
-    EXPECT_EQ(report, "ERROR: /site/gone.htm Not Found!\r\n\r\n");
+    EXPECT_EQ(report,
+              "ERROR: /site/gone.htm Not Found!\r\n\r\n"
+              "Failed: /site/gone.htm\r\n0 done, 1 failed\r\n\r\n");
     desk.flow.goBack();
     EXPECT_EQ(desk.flow.report(), report);
     desk.run();
@@ -327,7 +331,9 @@ TEST(WizardFlowTest, TheReportIsSavedWithOneMoreLineBreakOrTheErrorGiven) {
     desk.goToMenuStep({"gone.htm"});
     desk.run();
     EXPECT_FALSE(desk.flow.saveReport("/site/report.txt").has_value());
-    EXPECT_EQ(desk.page("report.txt"), "ERROR: /site/gone.htm Not Found!\r\n\r\n\r\n");
+    EXPECT_EQ(desk.page("report.txt"),
+              "ERROR: /site/gone.htm Not Found!\r\n\r\n"
+              "Failed: /site/gone.htm\r\n0 done, 1 failed\r\n\r\n\r\n");
     desk.files.setWritable("/site", false);
     const FileOutcome error = desk.flow.saveReport("/site/other.txt");
     ASSERT_TRUE(error.has_value());

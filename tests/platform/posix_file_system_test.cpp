@@ -199,7 +199,7 @@ TEST_F(PosixFileSystemTest, PutsNoFileOfItsOwnInThePlaceOfAPipeOrSocket) {
         const auto before = std::filesystem::status(path).type();
         for (const FileOutcome& error :
              {files.writeFile(path, "x", Links::Replaced), files.writeTemporaryFile(path, "x"),
-              files.backUpFile(folder / "page", path)}) {
+              files.backUpFile(folder / "page", path, "text")}) {
             ASSERT_TRUE(error) << c.name;
             EXPECT_EQ(error->path, path);
             EXPECT_EQ(error->reason, c.reason);

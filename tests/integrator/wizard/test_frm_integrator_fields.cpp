@@ -1,12 +1,14 @@
 // What the wizard is told in its first three steps.
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QProgressDialog>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include "dialogs/frm_path.h"
+#include "integrator/wizard/frm_changes.h"
 #include "tests/dialogs/roll_wheel.h"
 #include "wizard_desk.h"
 
@@ -206,13 +208,20 @@ class test_frm_integrator_fields : public QObject {
         QFETCH(bool, isTicked);
         WizardDesk desk;
         desk.disk.addFile("/site/a.htm", "<head></head><body><script>mine()</script></body>\n");
-        if (isTicked) {
-            desk.next();
-            desk.click("chkKeepScripts");
-            desk.click("btnBack");
-        }
-        desk.goToMenuFrame();
         desk.next();
+        desk.choosePages({"a.htm"});
+        if (isTicked)
+            desk.click("chkKeepScripts");
+        desk.next();
+        if (!isTicked) {
+            // What would go is shown first.
+            auto& changes = desk.named<frmChanges>("frmChanges");
+            changes.findChild<QCheckBox*>("chkKeepAll")->setChecked(false);
+            changes.accept();
+        }
+        QCOMPARE(desk.shownFrames(), QList<int>{2});
+        desk.type("txtMenuDef", "/site/menu_def.js");
+        desk.next(2);
         QCOMPARE(desk.page().find("mine()") != std::string::npos, isTicked);
     }
 
@@ -359,9 +368,13 @@ class test_frm_integrator_fields : public QObject {
                                        << "D:\\m.js"
                                        << "D:"
                                        << "D:";
+        QTest::newRow("an apostrophe in a URL") << "it's/"
+                                                << "it's/m.js"
+                                                << "enter \"it%27s/\"."
+                                                << "";
         QTest::newRow("an apostrophe in a folder") << "/site/it's"
                                                    << "/site/it's/m.js"
-                                                   << "enter \"it%27s/\"."
+                                                   << ""
                                                    << "";
         QTest::newRow("a double quote in a URL") << "a\"b/"
                                                  << "a\"b/m.js"

@@ -33,7 +33,7 @@ class test_frm_integrator_run : public QObject {
         QCOMPARE(desk.text("txtReport"), "Processing /site/b.htm\n" + done +
                                              "ERROR: /site/gone.htm Not Found!\n\n"
                                              "Processing /site/a.htm\n" +
-                                             done);
+                                             done + "Failed: /site/gone.htm\n2 done, 1 failed\n\n");
         for (const char* name : {"a.htm", "b.htm"})
             QVERIFY(desk.page(name).find("src=\"js/zevmenu_loader.js\"") != std::string::npos);
     }
@@ -45,7 +45,8 @@ class test_frm_integrator_run : public QObject {
         desk.dialogs.expectSaveFile("/site/report.txt");
         desk.click("btnSaveReport");
         QCOMPARE(desk.page("report.txt"),
-                 std::string("ERROR: /site/gone.htm Not Found!\r\n\r\n\r\n"));
+                 std::string("ERROR: /site/gone.htm Not Found!\r\n\r\n"
+                             "Failed: /site/gone.htm\r\n0 done, 1 failed\r\n\r\n\r\n"));
         const FileDialogRequest& request = desk.dialogs.recorded().back().request;
         QCOMPARE(QString::fromStdString(request.filter),
                  QString("Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*"));

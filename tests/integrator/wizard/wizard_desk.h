@@ -166,7 +166,7 @@ struct WizardDesk {
     WatchedDisk disk;
     FakeMessageBox messages{failWizardTest};
     FakeCommonDialogs dialogs{failWizardTest};
-    frmIntegrator wizard{{disk, messages, dialogs}, {"/"}, nullptr};
+    frmIntegrator wizard{{disk, messages, dialogs, "", "/me/runs"}, {"/"}, nullptr};
 };
 
 }  // namespace zev

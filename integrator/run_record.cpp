@@ -1,0 +1,240 @@
+#include "integrator/run_record.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <limits>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+#include "text/ascii.h"
+#include "text/hash.h"
+#include "text/path.h"
+
+namespace zev {
+
+namespace {
+
+// A line of names and numbers, then as many bytes as it says:
+//
+//     zevmenu run 1
+//     page <mode> <size> <hash> <size> <hash> <number of edits> <bytes of path>
+//     <path>
+//     edit <offset> <length> <bytes of text>
+//     <text>
+//
+// The marks of a page are those before and after the run.
+constexpr std::string_view kFirstLine = "zevmenu run 1\n";
+constexpr std::string_view kPageWord = "page";
+constexpr std::string_view kEditWord = "edit";
+
+// As "2026-11-22T02:15:07-": a digit where a 0 stands.
+constexpr std::string_view kStampForm = "0000-00-00T00:00:00-";
+
+std::string stampOf(std::time_t time) {
+    std::tm parts{};
+    ::gmtime_r(&time, &parts);
+    std::array<char, 32> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S-", &parts)};
+}
+
+/// The number behind the stamp; 0 in a name that is none of a run.
+unsigned numberIn(std::string_view name) {
+    if (name.size() <= kStampForm.size())
+        return 0;
+    for (std::size_t i = 0; i < kStampForm.size(); ++i)
+        if (kStampForm[i] == '0' ? !isAsciiDigit(name[i]) : name[i] != kStampForm[i])
+            return 0;
+    const char* const end = name.data() + name.size();
+    unsigned number = 0;
+    const auto [rest, error] = std::from_chars(name.data() + kStampForm.size(), end, number);
+    return error == std::errc() && rest == end ? number : 0;
+}
+
+bool isNewer(const std::string& left, const std::string& right) {
+    const int order = left.compare(0, kStampForm.size(), right, 0, kStampForm.size());
+    return order != 0 ? order > 0 : numberIn(left) > numberIn(right);
+}
+
+void addNumber(std::string& line, std::uint64_t number) {
+    line += ' ';
+    line += std::to_string(number);
+}
+
+void addText(std::string& entry, std::string_view text) {
+    addNumber(entry, text.size());
+    entry += '\n';
+    entry += text;
+    entry += '\n';
+}
+
+std::string entryOf(const RecordedPage& page) {
+    std::string entry(kPageWord);
+    addNumber(entry, page.mode);
+    for (const PageMark& mark : {page.before, page.after}) {
+        addNumber(entry, mark.size);
+        addNumber(entry, mark.hash);
+    }
+    addNumber(entry, page.edits.size());
+    addText(entry, page.path);
+    for (const PageEdit& edit : page.edits) {
+        entry += kEditWord;
+        addNumber(entry, edit.offset);
+        addNumber(entry, edit.length);
+        addText(entry, edit.text);
+    }
+    return entry;
+}
+
+/// Reads what `entryOf` writes. Every function gives false where the text is not that.
+class EntryReader {
+  public:
+    explicit EntryReader(std::string_view text) : m_rest(text) {}
+
+    bool readPage(RecordedPage& page) {
+        std::uint64_t editCount = 0;
+        if (!takeWord(kPageWord) || !takeNumber(page.mode))
+            return false;
+        for (PageMark* const mark : {&page.before, &page.after})
+            if (!takeNumber(mark->size) || !takeNumber(mark->hash))
+                return false;
+        if (!takeNumber(editCount) || !takeText(page.path))
+            return false;
+        while (page.edits.size() < editCount) {
+            PageEdit edit;
+            if (!takeWord(kEditWord) || !takeNumber(edit.offset) || !takeNumber(edit.length) ||
+                !takeText(edit.text))
+                return false;
+            page.edits.push_back(std::move(edit));
+        }
+        return true;
+    }
+
+  private:
+    bool takeWord(std::string_view word) {
+        if (!m_rest.starts_with(word))
+            return false;
+        m_rest.remove_prefix(word.size());
+        return true;
+    }
+
+    template <typename Number>
+    bool takeNumber(Number& number) {
+        if (!takeWord(" "))
+            return false;
+        const char* const end = m_rest.data() + m_rest.size();
+        const auto [rest, error] = std::from_chars(m_rest.data(), end, number);
+        if (error != std::errc())
+            return false;
+        m_rest.remove_prefix(static_cast<std::size_t>(rest - m_rest.data()));
+        return true;
+    }
+
+    bool takeText(std::string& text) {
+        std::size_t size = 0;
+        if (!takeNumber(size) || !takeWord("\n") || size >= m_rest.size())
+            return false;
+        text = m_rest.substr(0, size);
+        m_rest.remove_prefix(size);
+        return takeWord("\n");
+    }
+
+    std::string_view m_rest;
+};
+
+std::string recordPath(const std::string& folder, const std::string& name) {
+    return Path(folder).child(name);
+}
+
+}  // namespace
+
+PageMark PageMark::of(std::string_view page) {
+    return {page.size(), fileHashOf(page)};
+}
+
+RunRecord::RunRecord(FileSystem& files, std::string folder, std::time_t startedAt)
+    : m_files(files), m_folder(std::move(folder)), m_startedAt(startedAt) {}
+
+RunRecord::~RunRecord() {
+    // Too late to tell anybody; what the disk did not take was written all the same.
+    if (m_file && !m_error)
+        m_file->flush();
+}
+
+void RunRecord::append(const std::string& path, std::string_view page, std::string_view result,
+                       const std::vector<PageEdit>& edits) {
+    if (m_error || page == result)
+        return;
+    const FileResult<unsigned> mode = m_files.modeOf(path);
+    if (!mode.isOk())
+        return;  // nor can the page be written
+    if (!m_file)
+        m_error = begin();
+    if (!m_error)
+        m_error = flushAtNewFolder(path);
+    if (!m_error)
+        m_error = m_file->append(entryOf({path, mode.value(), PageMark::of(page),
+                                          PageMark::of(result), reverseEdits(page, edits)}));
+}
+
+FileOutcome RunRecord::begin() {
+    const std::string stamp = stampOf(m_startedAt);
+    for (int number = 1;; ++number) {
+        const std::string name = stamp + std::to_string(number);
+        const std::string path = recordPath(m_folder, name);
+        if (m_files.FileExists(path))
+            continue;
+        FileResult<std::unique_ptr<GrowingFile>> file = m_files.makePrivateFile(path);
+        if (!file.isOk() && m_files.FileExists(path))
+            continue;  // another run was quicker
+        if (!file.isOk())
+            return file.error();
+        m_file = file.take();
+        m_name = name;
+        return m_file->append(kFirstLine);
+    }
+}
+
+/// Flushing page by page would cost as much as the pages do.
+FileOutcome RunRecord::flushAtNewFolder(const std::string& path) {
+    const std::string_view folder = Path(path).folder();
+    if (folder == m_pagesFolder)
+        return {};
+    const bool isFirst = m_pagesFolder.empty();
+    m_pagesFolder = folder;
+    return isFirst ? FileOutcome{} : m_file->flush();
+}
+
+std::vector<std::string> listRuns(const FileSystem& files, const std::string& folder) {
+    std::vector<std::string> runs;
+    FileResult<std::vector<std::string>> names = files.listFolder(folder);
+    if (names.isOk())
+        for (std::string& name : names.take())
+            if (numberIn(name) > 0)
+                runs.push_back(std::move(name));
+    std::sort(runs.begin(), runs.end(), isNewer);
+    return runs;
+}
+
+FileResult<std::vector<RecordedPage>> readRun(const FileSystem& files, const std::string& folder,
+                                              const std::string& name) {
+    const std::string path = recordPath(folder, name);
+    const FileResult<std::string> record =
+        files.readFile(path, std::numeric_limits<std::uint64_t>::max());
+    if (!record.isOk())
+        return record.error();
+    std::string_view text = record.value();
+    // Killed at once, a run leaves the beginning of the first line.
+    if (!text.starts_with(kFirstLine) && !kFirstLine.starts_with(text))
+        return FileError{FileError::Code::Other, path, "is not the record of a run"};
+    text.remove_prefix(std::min(kFirstLine.size(), text.size()));
+    std::vector<RecordedPage> pages;
+    EntryReader reader(text);
+    for (RecordedPage page; reader.readPage(page); page = {})
+        pages.push_back(std::move(page));
+    return pages;
+}
+
+}  // namespace zev

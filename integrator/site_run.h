@@ -1,0 +1,60 @@
+#pragma once
+
+#include <ctime>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "integrator/page_integration.h"
+#include "integrator/placement.h"
+#include "integrator/wizard_answers.h"
+
+namespace zev {
+
+/// How the menu is put into pages, beside their integration.
+struct MenuPlacing {
+    MenuPlace place;
+    /// Words of the page that become the link of a popup menu. Empty: the link is put at the place.
+    std::string linkText;
+    /// What stands behind the menu's code, for the definition's address as the page sees it; null:
+    /// nothing.
+    std::function<std::string(const std::string& definitionURL)> addition = {};
+};
+
+struct SiteRunOptions {
+    WizardAnswers answers;
+    std::optional<MenuPlacing> placing = {};
+    /// References of this program to the definition at an earlier place are given its new one.
+    bool replacesReferences = false;
+    std::string recordFolder = {};  ///< for what it takes to undo runs; empty: nothing is recorded
+    std::time_t startedAt = 0;
+};
+
+/// A reference that names the definition's earlier place, or somebody's own.
+struct EarlierReference {
+    std::string page;  ///< full path
+    std::string url;
+};
+
+struct SiteRunResult {
+    std::string report;         ///< lines that end in CR LF, the summary the last ones
+    RunSummary summary;
+    IntegrationStatus lastPage;
+    std::string name;           ///< by which the run can be undone; empty: it changed nothing, or
+                                ///< nothing is recorded
+    FileOutcome recordError;    ///< why not all of it can be undone
+    std::vector<EarlierReference> movedReferences;    ///< that this program can replace
+    std::vector<EarlierReference> foreignReferences;  ///< written by hand, to another address
+};
+
+/// Integrates pages of any folders, each with the addresses as its own folder sees them. In pages
+/// that were integrated before, references to the definition's earlier place are looked for.
+SiteRunResult runOverSite(FileSystem& files, const ChosenFiles& pages,
+                          const SiteRunOptions& options, const ShouldGoOn& shouldGoOn);
+
+/// The menu that is put into a page from which the definition has this address.
+PlacedMenu placedMenu(const WizardAnswers& answers, const MenuPlacing& placing,
+                      const std::string& definitionURL);
+
+}  // namespace zev

@@ -1,0 +1,200 @@
+// The wizard's run and what follows it: the report, the last frame, and what it offers.
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <initializer_list>
+#include <set>
+
+#include "integrator/wizard/frm_integrator.h"
+#include "integrator/wizard/frm_place.h"
+#include "integrator/wizard/undone_message.h"
+#include "platform/common_dialogs.h"
+#include "platform/message_box.h"
+
+namespace zev {
+
+namespace {
+
+constexpr const char* kReportFilter = "Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*";
+
+/// A window that stands still for less than this needs no explanation.
+constexpr int kMomentMs = 500;
+/// Pages that are named in a line, and lines that are shown, on the last frame.
+constexpr std::size_t kNamedPages = 3;
+constexpr qsizetype kSummaryLines = 6;
+
+QString shortList(const std::vector<std::string>& pages) {
+    QStringList names;
+    for (const std::string& page : pages) {
+        if (static_cast<std::size_t>(names.size()) == kNamedPages) {
+            names.append(QString(QChar(0x2026)));
+            break;
+        }
+        names.append(QString::fromStdString(page));
+    }
+    return names.join(", ");
+}
+
+std::set<std::string> pagesOf(const std::vector<EarlierReference>& references) {
+    std::set<std::string> pages;
+    for (const EarlierReference& reference : references)
+        pages.insert(reference.page);
+    return pages;
+}
+
+}  // namespace
+
+void frmIntegrator::integrate() {
+    setRunning(true);
+    m_flow.IntegratePages(answers(), [this](std::size_t doneCount, std::size_t totalCount) {
+        m_pbProgress->setMaximum(static_cast<int>(totalCount));
+        m_pbProgress->setValue(static_cast<int>(doneCount));
+        // Lets Cancel be pressed; everything else that could start something is disabled.
+        QCoreApplication::processEvents();
+    });
+    showReport();
+    // What was pressed while a page took its time was not meant for the frame that is shown now.
+    QCoreApplication::processEvents();
+    setRunning(false);
+}
+
+void frmIntegrator::setRunning(bool isRunning) {
+    const bool hasManyPages = m_flow.pages().names.size() > 1;
+    m_pbProgress->setVisible(isRunning && hasManyPages);
+    btnCancel->setVisible(isRunning && hasManyPages);
+    for (QPushButton* button : {btnBack, btnNext, btnExit, btnSaveReport})
+        button->setEnabled(!isRunning);
+}
+
+void frmIntegrator::showReport() {
+    txtReport->setPlainText(QString::fromStdString(m_flow.report()));
+}
+
+void frmIntegrator::ShowResultMessage() {
+    lblMsg->setText(
+        m_flow.hasSucceeded()
+            ? tr("Menu integration successful. Copy and paste the following code on the web page "
+                 "to complete the integration. Switch to HTML mode before pasting if you are using "
+                 "a WYSIWYG editor, e.g. FrontPage")
+            : tr("Menu integration failure. Verify that your input file is a valid HTML file "
+                 "containing <head></head> and <body></body> tags"));
+    showSummary();
+    // Pages that are done need the code, whatever became of the others.
+    const bool hasCode = m_flow.summary().doneCount > 0;
+    txtCode->setPlainText(QString::fromStdString(m_flow.code()));
+    txtLinkCode->setPlainText(QString::fromStdString(m_flow.linkCode()));
+    for (QWidget* widget : std::initializer_list<QWidget*>{txtCode, m_btnCopyCode})
+        widget->setVisible(hasCode);
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{lblLinkCode, txtLinkCode, m_btnCopyLinkCode})
+        widget->setVisible(hasCode && !m_flow.linkCode().empty());
+    m_btnPlace->setEnabled(hasCode);
+}
+
+/// What became of all pages of the run, failures first.
+void frmIntegrator::showSummary() {
+    const RunSummary& summary = m_flow.summary();
+    QStringList lines;
+    for (const auto& [pages, what] : {std::pair(&summary.failedPages, tr("%1 failed: %2")),
+                                      std::pair(&summary.skippedPages, tr("%1 skipped: %2"))})
+        if (!pages->empty())
+            lines.append(what.arg(pages->size()).arg(shortList(*pages)));
+    if (!lines.isEmpty())
+        lines.append(tr("%1 done").arg(summary.doneCount));
+    if (const FileOutcome& error = m_flow.recordError())
+        lines.append(tr("This run cannot be undone: %1: %2")
+                         .arg(QString::fromStdString(error->path),
+                              QString::fromStdString(error->reason)));
+    if (const auto& moved = m_flow.movedReferences(); !moved.empty())
+        lines.append(tr("%1 refer to the menu at its earlier place (%2).")
+                         .arg(pagesOf(moved).size())
+                         .arg(QString::fromStdString(moved.front().url)));
+    for (const EarlierReference& reference : m_flow.foreignReferences())
+        lines.append(tr("Not written by this program, and left: %1 in %2")
+                         .arg(QString::fromStdString(reference.url),
+                              QString::fromStdString(reference.page)));
+    showLines(lines);
+    m_btnReferences->setVisible(!m_flow.movedReferences().empty());
+    m_btnUndoRun->setVisible(m_flow.canUndo());
+}
+
+void frmIntegrator::showLines(QStringList lines) {
+    if (lines.size() > kSummaryLines) {
+        const qsizetype more = lines.size() - kSummaryLines;
+        lines = lines.mid(0, kSummaryLines);
+        lines.append(tr("%1 more; the report and the page list tell all").arg(more));
+    }
+    m_lblSummary->setText(lines.join(u'\n'));
+    m_lblSummary->setVisible(!lines.isEmpty());
+}
+
+/// Runs further work over the pages, with a window that shows itself when it takes more than a
+/// moment.
+void frmIntegrator::runFurther(const QString& what,
+                               const std::function<void(const WizardFlow::Progress&)>& work) {
+    QProgressDialog progress(what, tr("&Cancel"), 0, 1, this);
+    progress.setObjectName("frmProgress");
+    progress.setWindowTitle(windowTitle());
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(kMomentMs);
+    work([&](std::size_t doneCount, std::size_t totalCount) {
+        progress.setMaximum(static_cast<int>(totalCount));
+        progress.setValue(static_cast<int>(doneCount));
+        if (progress.wasCanceled())
+            m_flow.cancel();
+    });
+}
+
+void frmIntegrator::placeMenu() {
+    const WizardAnswers given = answers();
+    frmPlace window(m_flow, m_services.files, given, m_linkList, this);
+    if (!window.lookForPlaces() || window.exec() != QDialog::Accepted)
+        return;
+    runFurther(tr("Placing the menu"), [&](const WizardFlow::Progress& progress) {
+        m_flow.placeMenu(given, window.placing(), progress);
+    });
+    showSummary();
+    lblMsg->setText(m_flow.summary().doneCount == 1
+                        ? tr("The menu stands in the page.")
+                        : tr("The menu stands in %1 pages.").arg(m_flow.summary().doneCount));
+}
+
+void frmIntegrator::replaceReferences() {
+    runFurther(tr("Replacing earlier references"), [&](const WizardFlow::Progress& progress) {
+        m_flow.replaceReferences(answers(), progress);
+    });
+    showSummary();
+}
+
+void frmIntegrator::undoRun() {
+    std::vector<UndoneRun> undone;
+    runFurther(tr("Undoing the run"), [&](const WizardFlow::Progress& progress) {
+        undone = m_flow.undoRuns(progress);
+    });
+    showUndone(m_services.messages, undone);
+    if (m_flow.canUndo())
+        return;
+    lblMsg->setText(tr("The run was undone. The pages have no code that needs the lines below."));
+    m_lblSummary->hide();
+    for (QWidget* widget : {m_btnUndoRun, m_btnPlace, m_btnReferences})
+        widget->setEnabled(false);
+}
+
+void frmIntegrator::btnSaveReport_Click() {
+    FileDialogRequest request;
+    request.title = "Save";
+    request.filter = kReportFilter;
+    request.asksBeforeReplacing = true;
+    request.extension = "txt";
+    const std::string path = m_services.dialogs.saveFile(request);
+    if (path.empty())
+        return;
+    if (const FileOutcome error = m_flow.saveReport(path))
+        m_services.messages.notice(error->path + " not saved: " + error->reason);
+}
+
+}  // namespace zev
