@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSplitter>
@@ -20,6 +21,7 @@
 #include "app/item_panel.h"
 #include "app/menu_tree_view.h"
 #include "app/open_url.h"
+#include "app/recovery_commands.h"
 #include "app/script_view.h"
 #include "app/strip_line.h"
 #include "dialogs/frm_adv_prop.h"
@@ -157,10 +159,12 @@ QWidget* frmMain::buildMenuTab() {
     connect(m_panel, &ItemPanel::fieldLeft, &m_history, &EditHistory::endTypingOf);
 
     auto* splitter = new QSplitter;
+    m_recoveryLine = new StripLine("Recovery", tr("Recovery"), this);
     m_lastCommand = new StripLine("LastCommand", tr("Last command"), this);
     auto* treeSide = new QWidget;
     auto* treeLayout = new QVBoxLayout(treeSide);
     treeLayout->setContentsMargins(0, 0, 0, 0);
+    treeLayout->addWidget(m_recoveryLine);
     treeLayout->addWidget(m_lastCommand);
     treeLayout->addWidget(TreeView);
     splitter->addWidget(panelArea);
@@ -185,6 +189,22 @@ void frmMain::buildDialogs() {
                 [this, form] { m_history.cut(form->windowTitle().toStdString()); });
     // Window managers keep it in front of the dialog that it is opened from, whatever is clicked.
     advanced->setParent(m_menuForm, advanced->windowFlags());
+}
+
+void frmMain::keepUnsavedMenus(const std::string& folder) {
+    m_recovery = std::make_unique<RecoveryCommands>(
+        RecoveryHost{m_document, m_history, m_services.files, *m_recoveryLine,
+                     *findChild<QMenu*>("mnuFileRestore"), *this,
+                     [this](const std::string& step, const std::function<void()>& work) {
+                         run(step, work);
+                     }},
+        folder);
+}
+
+/// What is about to be replaced outlasts a power failure too.
+void frmMain::syncRecovery() {
+    if (m_recovery)
+        m_recovery->sync();
 }
 
 void frmMain::openDefinition(const std::string& path) {
@@ -215,9 +235,27 @@ void frmMain::Button_Update() {
     m_commands.Button_Update(m_document);
 }
 
+void frmMain::mnuFileNew_Click() {
+    syncRecovery();
+    m_fileCommands.mnuFileNew_Click();
+}
+
+void frmMain::mnuFileOpen_Click() {
+    syncRecovery();
+    m_fileCommands.mnuFileOpen_Click();
+}
+
+void frmMain::importMenu(const ImportFormat& format) {
+    syncRecovery();
+    m_importCommands.run(format);
+}
+
 void frmMain::mnuFileExit_Click() {
+    syncRecovery();
     if (!m_fileCommands.mnuFileExit_Click())
         return;
+    if (m_recovery)
+        m_recovery->leave(m_fileCommands.hasDeclinedToSave());
     m_isEnding = true;
     close();
     emit ended();

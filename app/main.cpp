@@ -18,6 +18,7 @@
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_shell.h"
+#include "text/path.h"
 
 using namespace zev;
 
@@ -45,13 +46,16 @@ void describeArguments(QCommandLineParser& parser) {
     parser.addPositionalArgument("file", "Menu definition file to open.", "[file]");
 }
 
+/// Where the program keeps what is this user's alone.
+std::string userFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+}
+
 /// The folder that holds the run-time files. Without them the editor still runs, and each save says
 /// which file is missing.
 std::string programFolder(FileSystem& files, MessageBox& messages) {
     const std::string executable = QCoreApplication::applicationFilePath().toStdString();
-    const std::string userFolder =
-        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
-    const FileResult<std::string> folder = findProgramFolder(files, executable, userFolder);
+    const FileResult<std::string> folder = findProgramFolder(files, executable, userFolder());
     if (folder.isOk())
         return folder.value();
     messages.notice("The program's own files could not be prepared. " + folder.error().path + ": " +
@@ -80,6 +84,8 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
             window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
         if (!picture.isEmpty())
             takePreviewPicture(window, *browser, picture);
+        else
+            window.keepUnsavedMenus(Path::onThisSystem(userFolder()).child("recovery"));
     };
     QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
     return QApplication::exec();

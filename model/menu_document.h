@@ -80,6 +80,10 @@ class MenuDocument {
     void open(MenuContent content, std::string SaveFile, std::string SavePath);
     /// The same for content that belongs to no definition file yet.
     void open(MenuContent content);
+    /// The same for content that its file does not hold: `bModified` is true afterwards, and no
+    /// step has led to what was saved. `selection` is in `content`.
+    void restore(MenuContent content, std::string SaveFile, std::string SavePath,
+                 NodeSelection selection);
     /// The document belongs to another file and folder from now on, and is not taken back from
     /// there.
     void setFile(std::string SaveFile, std::string SavePath);

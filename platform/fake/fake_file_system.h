@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_system.h"
+#include "platform/locked_file.h"
 
 namespace zev {
 
@@ -48,9 +48,15 @@ class FakeFileSystem : public FileSystem {
     FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
+    FileOutcome makePrivateFolder(const std::string& path) override;
+    FileOutcome deleteFolder(const std::string& path) override;
+    FileResult<std::unique_ptr<LockedFile>> makeLockedFile(const std::string& path,
+                                                           std::string_view bytes) override;
+    std::unique_ptr<LockedFile> lockFile(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
 
   private:
+    friend class FakeLockedFile;
     /// The folder that a path leads to.
     std::string folderAt(const std::string& path) const;
     std::string withoutLink(const std::string& path) const;
@@ -61,6 +67,7 @@ class FakeFileSystem : public FileSystem {
     std::map<std::string, std::string> m_folderOfAlias;
     std::map<std::string, std::string> m_fileOfAlias;
     std::set<std::string> m_unwritableFolders;
+    std::set<std::string> m_lockedFiles;
 };
 
 /// Passes everything on to another file system, and breaks what it was told to break. A broken
@@ -94,6 +101,11 @@ class FailingFileSystem : public FileSystem {
     FileOutcome renameFile(const std::string& path, const std::string& newPath) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
+    FileOutcome makePrivateFolder(const std::string& path) override;
+    FileOutcome deleteFolder(const std::string& path) override;
+    FileResult<std::unique_ptr<LockedFile>> makeLockedFile(const std::string& path,
+                                                           std::string_view bytes) override;
+    std::unique_ptr<LockedFile> lockFile(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
 
   private:
