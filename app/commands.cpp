@@ -85,6 +85,9 @@ const std::vector<Command>& CommandActions::rows() {
         {{"mnuFile", "mnuFileImport", QT_TR_NOOP("&Import")}},
         {{"mnuFile"}},
         {{"mnuFile", "mnuFileExit", QT_TR_NOOP("E&xit")}, &frmMain::mnuFileExit_Click},
+        // Below the rest, whose places people know. Filled when it is opened.
+        {{"mnuFile"}},
+        {{"mnuFile", "mnuFileRestore", QT_TR_NOOP("&Restore Unsaved Menu")}},
 
         {{"", "mnuEdit", QT_TR_NOOP("&Edit")}},
         {{"mnuEdit", "mnuEditDefault", QT_TR_NOOP("&Default Menu Properties"), "F8"},

@@ -18,6 +18,7 @@ void EditHistory::run(const std::string& name, const std::function<void()>& comm
     m_history.begin();
     const auto atEnd = qScopeGuard([this] {
         m_history.end(std::move(m_name));
+        emit stepEnded();
         emit changed();
     });
     command();
@@ -27,6 +28,7 @@ void EditHistory::cut(const std::string& name) {
     if (!m_history.isInStep())
         return;
     m_history.end(name);
+    emit stepEnded();
     m_history.begin();
 }
 
@@ -45,6 +47,7 @@ void EditHistory::endTyping() {
     if (m_typingName.empty())
         return;
     m_history.end(std::exchange(m_typingName, {}));
+    emit stepEnded();
     emit changed();
 }
 
@@ -91,6 +94,7 @@ void EditHistory::clear() {
 
 void EditHistory::move(void (DocumentHistory::*there)()) {
     (m_history.*there)();
+    emit stepEnded();
     emit changed();
 }
 

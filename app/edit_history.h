@@ -48,6 +48,8 @@ class EditHistory : public QObject {
 
   signals:
     void changed();
+    /// Something that a person does is done, be it a step or not.
+    void stepEnded();
 
   private:
     void move(void (DocumentHistory::*there)());

@@ -80,6 +80,7 @@ bool FileCommands::mnuFileExit_Click() {
 /// Asks about unsaved changes before the document is given up. Answered Yes, only a failed write
 /// keeps the document: a cancelled Save As dialog does not.
 bool FileCommands::mayDiscardDocument() {
+    m_hasDeclinedToSave = false;
     if (!m_document.bModified())
         return true;
     MessageRequest question;
@@ -89,6 +90,7 @@ bool FileCommands::mayDiscardDocument() {
         case MessageBox::Answer::Yes:
             return saveAs() != SaveOutcome::Failed;
         case MessageBox::Answer::No:
+            m_hasDeclinedToSave = true;
             return true;
         default:
             return false;

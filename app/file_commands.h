@@ -38,6 +38,9 @@ class FileCommands {
     /// True when the program is to end now.
     bool mnuFileExit_Click();
 
+    /// The person was asked last whether to save, and did not want to.
+    bool hasDeclinedToSave() const { return m_hasDeclinedToSave; }
+
     /// Asks for a file to open: the second kind of `filter` is preselected, the dialog starts in
     /// `folder` (empty: where the last file was chosen). Empty when the person cancelled.
     std::string chooseFile(const char* filter, const std::string& folder);
@@ -100,6 +103,7 @@ class FileCommands {
     KnownFiles m_known;
     /// The person has been asked whether the file may be replaced.
     bool m_isReplacementAsked = false;
+    bool m_hasDeclinedToSave = false;
     /// What the browser was last told to show.
     std::string m_previewedScript;
     std::string m_previewedFolder;

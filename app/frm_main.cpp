@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSplitter>
@@ -21,6 +22,7 @@
 #include "app/menu_tree_view.h"
 #include "app/notes_bar.h"
 #include "app/open_url.h"
+#include "app/recovery_commands.h"
 #include "app/script_view.h"
 #include "app/strip_line.h"
 #include "checks/menu_links.h"
@@ -160,10 +162,12 @@ QWidget* frmMain::buildMenuTab() {
     connect(m_panel, &ItemPanel::fieldLeft, &m_history, &EditHistory::endTypingOf);
 
     auto* splitter = new QSplitter;
+    m_recoveryLine = new StripLine("Recovery", tr("Recovery"), this);
     m_lastCommand = new StripLine("LastCommand", tr("Last command"), this);
     auto* treeSide = new QWidget;
     auto* treeLayout = new QVBoxLayout(treeSide);
     treeLayout->setContentsMargins(0, 0, 0, 0);
+    treeLayout->addWidget(m_recoveryLine);
     auto* notesBar = new NotesBar(m_notes, this);
     connect(
         notesBar, &NotesBar::placeChosen, this,
@@ -197,6 +201,22 @@ void frmMain::buildDialogs() {
     m_advancedForm->setParent(m_menuForm, m_advancedForm->windowFlags());
 }
 
+void frmMain::keepUnsavedMenus(const std::string& folder) {
+    m_recovery = std::make_unique<RecoveryCommands>(
+        RecoveryHost{m_document, m_history, m_services.files, *m_recoveryLine,
+                     *findChild<QMenu*>("mnuFileRestore"), *this,
+                     [this](const std::string& step, const std::function<void()>& work) {
+                         run(step, work);
+                     }},
+        folder);
+}
+
+/// What is about to be replaced outlasts a power failure too.
+void frmMain::syncRecovery() {
+    if (m_recovery)
+        m_recovery->sync();
+}
+
 void frmMain::openDefinition(const std::string& path) {
     run("Open", [this, &path] { m_fileCommands.openDefinition(path); });
     // The program has started with it: there is nothing before it to go back to.
@@ -225,9 +245,27 @@ void frmMain::Button_Update() {
     m_commands.Button_Update(m_document);
 }
 
+void frmMain::mnuFileNew_Click() {
+    syncRecovery();
+    m_fileCommands.mnuFileNew_Click();
+}
+
+void frmMain::mnuFileOpen_Click() {
+    syncRecovery();
+    m_fileCommands.mnuFileOpen_Click();
+}
+
+void frmMain::importMenu(const ImportFormat& format) {
+    syncRecovery();
+    m_importCommands.run(format);
+}
+
 void frmMain::mnuFileExit_Click() {
+    syncRecovery();
     if (!m_fileCommands.mnuFileExit_Click())
         return;
+    if (m_recovery)
+        m_recovery->leave(m_fileCommands.hasDeclinedToSave());
     m_isEnding = true;
     close();
     emit ended();

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "app/commands.h"
@@ -22,6 +23,7 @@ namespace zev {
 
 class ItemPanel;
 class MenuTreeView;
+class RecoveryCommands;
 class ScriptView;
 class StripLine;
 class frmAdvProp;
@@ -46,6 +48,10 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     MenuDocument& document() { return m_document; }
     const DocumentHistory& history() const { return m_history.steps(); }
 
+    /// Keeps the menu in `folder`, which need not be there, from now on, and offers what a crash
+    /// has left there.
+    void keepUnsavedMenus(const std::string& folder);
+
     /// Opens the definition file at `path` (full path), as File > Open does with a chosen file.
     void openDefinition(const std::string& path);
 
@@ -54,12 +60,12 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void showScript(const std::string& script) override;
     void Button_Update() override;
 
-    void mnuFileNew_Click() { m_fileCommands.mnuFileNew_Click(); }
-    void mnuFileOpen_Click() { m_fileCommands.mnuFileOpen_Click(); }
+    void mnuFileNew_Click();
+    void mnuFileOpen_Click();
     void mnuFileSave_Click() { m_fileCommands.mnuFileSave_Click(); }
     void mnuFileSaveAs_Click() { m_fileCommands.mnuFileSaveAs_Click(); }
     /// The entry of File > Import of this format.
-    void importMenu(const ImportFormat& format) { m_importCommands.run(format); }
+    void importMenu(const ImportFormat& format);
     void mnuFileExit_Click();
     void undo();
     void redo();
@@ -109,6 +115,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void followDocument();
     void guard(const std::function<void()>& work);
     void leaveField();
+    void syncRecovery();
     void edit(EditResult (*command)(MenuDocument&));
     void followChange();
     std::string inUserFolder(const char* name) const;
@@ -147,6 +154,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     ItemPanel* m_panel = nullptr;
     MenuTreeView* TreeView = nullptr;
     ScriptView* txtJavaScript = nullptr;
+    StripLine* m_recoveryLine = nullptr;
     StripLine* m_lastCommand = nullptr;
     /// What `m_lastCommand` says of the step that is being made, and of which state it spoke last.
     QString m_commandLine;
@@ -157,6 +165,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     frmDefaultProp* m_defaultForm = nullptr;
     frmMenuProp* m_menuForm = nullptr;
     frmAdvProp* m_advancedForm = nullptr;
+
+    std::unique_ptr<RecoveryCommands> m_recovery;  ///< null: nothing is kept
 };
 
 }  // namespace zev

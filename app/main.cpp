@@ -18,6 +18,7 @@
 #include "platform/qt/qt_help_viewer.h"
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_shell.h"
+#include "text/path.h"
 
 using namespace zev;
 
@@ -82,9 +83,13 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     // Before the window is painted for the first time: so it is painted once.
     if (!files.isEmpty())
         window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
-    const auto takePicture = [&] { takePreviewPicture(window, *browser, picture); };
-    if (!picture.isEmpty())
-        QMetaObject::invokeMethod(&window, takePicture, Qt::QueuedConnection);
+    const auto begin = [&] {
+        if (!picture.isEmpty())
+            takePreviewPicture(window, *browser, picture);
+        else
+            window.keepUnsavedMenus(Path::onThisSystem(userFolder).child("recovery"));
+    };
+    QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
     return QApplication::exec();
 }
 

@@ -46,6 +46,8 @@ class DocumentHistory : private ChangeRecorder {
     void redo();
     /// Changes with every step, undo and redo; two equal values mean one and the same content.
     std::uint64_t state() const { return m_state; }
+    /// True when the document is the one last opened or written, as far as steps can tell.
+    bool isSaved() const { return m_state == m_savedState; }
 
   private:
     // Lists of changes are applied from their last to their first, as they take back what was done.

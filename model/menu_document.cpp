@@ -253,6 +253,13 @@ void MenuDocument::open(MenuContent content) {
     open(std::move(content), "", m_programFolder);
 }
 
+void MenuDocument::restore(MenuContent content, std::string SaveFile, std::string SavePath,
+                           NodeSelection selection) {
+    change(SetFile{std::move(SaveFile), std::move(SavePath)});
+    change(ReplaceContent{std::make_unique<MenuContent>(std::move(content)), selection});
+    markModified();
+}
+
 void MenuDocument::setFile(std::string SaveFile, std::string SavePath) {
     apply(SetFile{std::move(SaveFile), std::move(SavePath)});
 }

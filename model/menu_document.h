@@ -83,6 +83,10 @@ class MenuDocument {
     /// Shows `content` in place of the whole menu, its first node current and selected; the file
     /// stays, and `bModified` is set.
     void replaceContent(MenuContent content);
+    /// The same for content that its file does not hold: `bModified` is true afterwards, and no
+    /// step has led to what was saved. `selection` is in `content`.
+    void restore(MenuContent content, std::string SaveFile, std::string SavePath,
+                 NodeSelection selection);
     /// The document belongs to another file and folder from now on, and is not taken back from
     /// there.
     void setFile(std::string SaveFile, std::string SavePath);

@@ -51,6 +51,8 @@ enum class Links {
     Replaced
 };
 
+class LockedFile;
+
 /// What stands under a path. A link is a link, wherever it leads.
 enum class DiskEntry { Nothing, File, Folder, Link, Other };
 
@@ -124,6 +126,16 @@ class FileSystem {
     virtual FileOutcome DeleteFile(const std::string& path) = 0;
     /// Makes the folder and those above it that are missing. A folder that is there is no error.
     virtual FileOutcome makeFolder(const std::string& path) = 0;
+    /// Makes a folder that only this user can look into. It is an error when something is there.
+    virtual FileOutcome makePrivateFolder(const std::string& path) = 0;
+    /// Of an empty folder; any other stays, and is an error.
+    virtual FileOutcome deleteFolder(const std::string& path) = 0;
+    /// Makes a file that holds `bytes` and that only this user can read, locked from the moment
+    /// that it has its name. It is an error when something is there.
+    virtual FileResult<std::unique_ptr<LockedFile>> makeLockedFile(const std::string& path,
+                                                                   std::string_view bytes) = 0;
+    /// Locks a file that is there. Null when another program holds it, or it cannot be opened.
+    virtual std::unique_ptr<LockedFile> lockFile(const std::string& path) = 0;
     /// Names (without folder) of everything in the folder, sorted by byte value.
     virtual FileResult<std::vector<std::string>> listFolder(const std::string& path) const = 0;
 };

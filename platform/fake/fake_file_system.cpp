@@ -30,6 +30,25 @@ FileError noPermission(const std::string& path) {
 
 }  // namespace
 
+class FakeLockedFile : public LockedFile {
+  public:
+    FakeLockedFile(FakeFileSystem& files, std::string path)
+        : m_files(files), m_path(std::move(path)) {}
+    ~FakeLockedFile() override { m_files.m_lockedFiles.erase(m_path); }
+
+    FileOutcome append(std::string_view bytes) override {
+        return rewrite(m_files.m_files[m_path] + std::string(bytes));
+    }
+    FileOutcome rewrite(std::string_view bytes) override {
+        return m_files.writeFile(m_path, bytes, Links::Replaced);
+    }
+    FileOutcome sync() override { return {}; }
+
+  private:
+    FakeFileSystem& m_files;
+    std::string m_path;
+};
+
 FakeFileSystem::FakeFileSystem() {
     m_folders.insert("/");
 }
@@ -257,6 +276,39 @@ FileOutcome FakeFileSystem::makeFolder(const std::string& path) {
     return {};
 }
 
+FileOutcome FakeFileSystem::makePrivateFolder(const std::string& path) {
+    if (entryAt(path) != DiskEntry::Nothing)
+        return FileError{FileError::Code::Other, path, "File exists"};
+    if (!isFolder(folderOf(path)))
+        return notFound(path);
+    return makeFolder(path);
+}
+
+FileOutcome FakeFileSystem::deleteFolder(const std::string& path) {
+    const FileResult<std::vector<std::string>> names = listFolder(path);
+    if (!names.isOk())
+        return names.error();
+    if (!names.value().empty())
+        return FileError{FileError::Code::Other, path, "Directory not empty"};
+    m_folders.erase(path);
+    return {};
+}
+
+FileResult<std::unique_ptr<LockedFile>> FakeFileSystem::makeLockedFile(const std::string& path,
+                                                                       std::string_view bytes) {
+    if (entryAt(path) != DiskEntry::Nothing)
+        return FileError{FileError::Code::Other, path, "File exists"};
+    if (FileOutcome error = writeFile(path, bytes, Links::Replaced))
+        return *error;
+    return lockFile(path);
+}
+
+std::unique_ptr<LockedFile> FakeFileSystem::lockFile(const std::string& path) {
+    if (entryAt(path) != DiskEntry::File || !m_lockedFiles.insert(path).second)
+        return nullptr;
+    return std::make_unique<FakeLockedFile>(*this, path);
+}
+
 FileResult<std::vector<std::string>> FakeFileSystem::listFolder(const std::string& path) const {
     if (!isFolder(path))
         return notFound(path);
@@ -388,6 +440,27 @@ FileOutcome FailingFileSystem::DeleteFile(const std::string& path) {
 FileOutcome FailingFileSystem::makeFolder(const std::string& path) {
     const FileOutcome error = nextOperation(path);
     return error ? error : m_inner.makeFolder(path);
+}
+
+FileOutcome FailingFileSystem::makePrivateFolder(const std::string& path) {
+    const FileOutcome error = nextOperation(path);
+    return error ? error : m_inner.makePrivateFolder(path);
+}
+
+FileOutcome FailingFileSystem::deleteFolder(const std::string& path) {
+    const FileOutcome error = nextOperation(path);
+    return error ? error : m_inner.deleteFolder(path);
+}
+
+FileResult<std::unique_ptr<LockedFile>> FailingFileSystem::makeLockedFile(const std::string& path,
+                                                                          std::string_view bytes) {
+    if (FileOutcome error = nextOperation(path))
+        return *error;
+    return m_inner.makeLockedFile(path, bytes);
+}
+
+std::unique_ptr<LockedFile> FailingFileSystem::lockFile(const std::string& path) {
+    return nextOperation(path) ? nullptr : m_inner.lockFile(path);
 }
 
 FileResult<std::vector<std::string>> FailingFileSystem::listFolder(const std::string& path) const {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_system.h"
+#include "platform/locked_file.h"
 
 namespace zev {
 
@@ -57,9 +57,15 @@ class FakeFileSystem : public FileSystem {
     FileOutcome setMode(const std::string& path, unsigned mode) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
+    FileOutcome makePrivateFolder(const std::string& path) override;
+    FileOutcome deleteFolder(const std::string& path) override;
+    FileResult<std::unique_ptr<LockedFile>> makeLockedFile(const std::string& path,
+                                                           std::string_view bytes) override;
+    std::unique_ptr<LockedFile> lockFile(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
 
   private:
+    friend class FakeLockedFile;
     /// The folder that a path leads to.
     std::string folderAt(const std::string& path) const;
     std::string withoutLink(const std::string& path) const;
@@ -70,6 +76,7 @@ class FakeFileSystem : public FileSystem {
     std::map<std::string, std::string> m_folderOfAlias;
     std::map<std::string, std::string> m_fileOfAlias;
     std::set<std::string> m_unwritableFolders;
+    std::set<std::string> m_lockedFiles;
     std::map<std::string, unsigned> m_modeOfFile;  // where it is not 0644
     std::size_t m_appendCount = 0;
     std::size_t m_failingAppend = 0;
@@ -115,6 +122,11 @@ class FailingFileSystem : public FileSystem {
     FileOutcome setMode(const std::string& path, unsigned mode) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
+    FileOutcome makePrivateFolder(const std::string& path) override;
+    FileOutcome deleteFolder(const std::string& path) override;
+    FileResult<std::unique_ptr<LockedFile>> makeLockedFile(const std::string& path,
+                                                           std::string_view bytes) override;
+    std::unique_ptr<LockedFile> lockFile(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
 
   private:

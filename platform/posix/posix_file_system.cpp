@@ -13,6 +13,7 @@
 
 #include "platform/posix/posix_descriptor.h"
 #include "platform/posix/posix_file_replace.h"
+#include "platform/posix/posix_locked_file.h"
 
 namespace zev {
 
@@ -231,6 +232,29 @@ FileOutcome PosixFileSystem::makeFolder(const std::string& path) {
     if (error)
         return fileErrorOf(error.value(), path);
     return {};
+}
+
+FileOutcome PosixFileSystem::makePrivateFolder(const std::string& path) {
+    if (::mkdir(path.c_str(), S_IRWXU) != 0)
+        return fileErrorOf(errno, path);
+    return {};
+}
+
+FileOutcome PosixFileSystem::deleteFolder(const std::string& path) {
+    if (::rmdir(path.c_str()) != 0)
+        return fileErrorOf(errno, path);
+    return {};
+}
+
+FileResult<std::unique_ptr<LockedFile>> PosixFileSystem::makeLockedFile(const std::string& path,
+                                                                        std::string_view bytes) {
+    if (entryAt(path) != DiskEntry::Nothing)
+        return fileErrorOf(EEXIST, path);
+    return makePosixLockedFile(path, bytes);
+}
+
+std::unique_ptr<LockedFile> PosixFileSystem::lockFile(const std::string& path) {
+    return lockPosixFile(path);
 }
 
 FileResult<std::vector<std::string>> PosixFileSystem::listFolder(const std::string& path) const {

@@ -32,6 +32,11 @@ class PosixFileSystem : public FileSystem {
     FileOutcome setMode(const std::string& path, unsigned mode) override;
     FileOutcome DeleteFile(const std::string& path) override;
     FileOutcome makeFolder(const std::string& path) override;
+    FileOutcome makePrivateFolder(const std::string& path) override;
+    FileOutcome deleteFolder(const std::string& path) override;
+    FileResult<std::unique_ptr<LockedFile>> makeLockedFile(const std::string& path,
+                                                           std::string_view bytes) override;
+    std::unique_ptr<LockedFile> lockFile(const std::string& path) override;
     FileResult<std::vector<std::string>> listFolder(const std::string& path) const override;
 
   private:

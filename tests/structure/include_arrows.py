@@ -12,7 +12,7 @@ import sys
 from pathlib import Path
 
 CORE = {"text", "model", "script", "importers", "html", "library", "integrator", "checks", "platform",
-        "messages"}
+        "recovery", "messages"}
 QT = {"Qt"}
 
 # Folder of the including file -> what it may include beside its own folder and the standard and
@@ -30,6 +30,7 @@ ALLOWED = {
     "library": {"platform", "text"},
     "integrator": {"script", "model", "html", "platform", "text"},
     "checks": {"script", "model", "html", "platform", "text"},
+    "recovery": {"script", "model", "platform", "text"},
     "messages": {"checks", "importers", "library", "integrator", "script", "model", "platform", "text"},
     "integrator/wizard": CORE | {"dialogs"} | QT,
     "dialogs": CORE | QT,

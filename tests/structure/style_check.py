@@ -22,7 +22,7 @@ import sys
 from pathlib import Path
 
 PRODUCT = ["text", "model", "script", "importers", "html", "library", "integrator", "checks",
-           "messages", "platform", "dialogs", "app", "cli"]
+           "messages", "platform", "recovery", "dialogs", "app", "cli"]
 OTHERS = ["bench", "fuzz", "tests"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.M)
 
