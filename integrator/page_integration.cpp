@@ -132,9 +132,13 @@ std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) 
     std::string bytes = withEdits(page->value(), edits);
     page.reset();  // while the new page is written, the old one would only take up memory
     const bool isToStay = m_options.isRemoval && edits.empty();
-    if (!m_options.isDryRun && !isToStay) {
-        if (std::optional<PageError> error = replacePage(path, std::move(bytes)))
-            return error;
+    if (!m_options.isDryRun) {
+        // What a killed run has left goes with the next one, also when there is nothing to write.
+        if (isToStay && m_files.FileExists(temporaryPath(path)))
+            m_files.DeleteFile(temporaryPath(path));
+        if (!isToStay)
+            if (std::optional<PageError> error = replacePage(path, std::move(bytes)))
+                return error;
     }
     status.bSuccess =
         m_options.isRemoval || (status.bEndBodyDone && status.bBodyDone && status.bHeadDone);
