@@ -69,7 +69,7 @@ const std::vector<std::string> kOwnFragments = {
 
 void expectNoProblems(const std::vector<std::string>& fragments, unsigned seed) {
     std::mt19937 random(seed);
-    for (int i = 0; i < 4000; ++i) {
+    for (int i = 0; i < 2000; ++i) {
         std::string page;
         for (auto count = random() % 24; count > 0; --count)
             page += fragments[random() % fragments.size()];
