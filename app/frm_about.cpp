@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/frm_about.h"
 
 #include <QApplication>

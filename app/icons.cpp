@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/icons.h"
 
 /// The icons lie in a static library, which the linker cuts down to what is named. Outside any

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One Add Menu Item in a tree of 20,000 items: from the command to the repainted window.
 //
 // Run by hand or by scripts/bench; QT_QPA_PLATFORM=offscreen keeps other windows out of the figure.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "library/program_folder.h"
 
 #include <vector>

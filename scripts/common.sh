@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Shared by the commands in this folder: what they need from Debian, and how they build.
 # Sourced, never run; expects `set -euo pipefail`.
 

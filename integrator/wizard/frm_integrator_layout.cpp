@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the wizard's frames look like. What its controls do is in frm_integrator.cpp.
 
 #include "integrator/wizard/frm_integrator.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window: what the commands of its menus do.
 
 #include <QApplication>

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Checks that every command has a manual page that names exactly the options of its --help.
 
 usage: manual_pages_test.py PROGRAM FOLDER

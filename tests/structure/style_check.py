@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Checks the handwriting of the C++ sources.
 
 usage: style_check.py format ROOT

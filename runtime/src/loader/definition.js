@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Definition ----
 
 function submenuId(menu, position) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The wizard's window and its steps.
 
 #include <QAccessible>
