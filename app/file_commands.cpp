@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/file_commands.h"
 
+#include "app/recent_documents.h"
 #include "library/library_files.h"
 #include "messages/definition_messages.h"
 #include "messages/library_messages.h"
@@ -118,6 +119,7 @@ void FileCommands::openDefinition(const std::string& path) {
     if (result.itemsLeftOut > 0)
         opened.overfullFile = path;
     m_document.open(std::move(opened), path, SplitPath(path).folder);
+    noteRecentDocument(m_services.files, m_services.recentDocuments, path);
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
                                    " errors encountered during parsing");
@@ -197,6 +199,8 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     // The preview script has a name that the person did not choose.
     const Links links = path.empty() ? Links::Replaced : Links::Followed;
     const FileOutcome failure = m_services.files.writeFile(target, bytes, links);
+    if (!failure && !path.empty())
+        noteRecentDocument(m_services.files, m_services.recentDocuments, path);
     if (failure)
         addLine(notice.text, "Could not save " + target + ": " + failure->reason);
     if (!notice.text.empty())

@@ -41,8 +41,8 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kSupportAddress = "https://zevmenu.example/support";
 constexpr const char* kManual = "help/index.html";
+constexpr const char* kManualOfSupport = "help/support.html";
 
 // A list instead of recursion: a menu may be thousands of levels deep.
 std::size_t sizeOf(const MenuNode& top) {
@@ -289,8 +289,9 @@ void frmMain::mnuEditMoveDown_Click() {
 }
 
 void frmMain::mnuToolsIntegrate_Click() {
-    frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs},
-                         mountedDrives(), this);
+    frmIntegrator wizard(
+        {m_services.files, m_services.messages, m_services.dialogs, m_services.vendor},
+        mountedDrives(), this);
     if (!m_document.SaveFile().empty())
         wizard.setDefinition(m_document.SaveFile());
     if (m_document.CurNode() != nullptr)
@@ -303,12 +304,13 @@ void frmMain::mnuHelpContents_Click() {
 }
 
 void frmMain::mnuHelpAbout_Click() {
-    frmAbout about([this](const std::string& address) { openAddress(address); }, this);
+    frmAbout about(
+        m_services.vendor, [this](const std::string& address) { openAddress(address); }, this);
     about.exec();
 }
 
 void frmMain::mnuHelpSupport_Click() {
-    openAddress(kSupportAddress);
+    openAddress(m_services.vendor.support);
 }
 
 void frmMain::tbToolBar_ButtonClick(const QString& key) {
@@ -473,7 +475,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::openAddress(const std::string& address) {
-    OpenURL(address, m_document.programFolder(), m_services);
+    if (address.empty())
+        m_services.help.show(Path(m_document.programFolder()).child(kManualOfSupport));
+    else
+        OpenURL(address, m_document.programFolder(), m_services);
 }
 
 void frmMain::contentReplaced() {

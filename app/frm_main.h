@@ -105,6 +105,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void leaveField();
     void edit(EditResult (*command)(MenuDocument&));
     void followChange();
+    /// An empty address is that of the manual's page about support.
     void openAddress(const std::string& address);
 
     void inserted() override { followChange(); }

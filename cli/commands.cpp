@@ -42,6 +42,23 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable, cons
     return problems.empty() ? ExitStatus::Done : ExitStatus::FileProblem;
 }
 
+/// Makes `folder` when only that is missing; a mistyped path is not made from its top. False, with
+/// the problem printed, when there is none then.
+bool hasFolder(FileSystem& files, const std::string& folder) {
+    if (files.isFolder(folder))
+        return true;
+    const Path path = Path::onThisSystem(Path::onThisSystem(folder).withoutTrailingSeparators());
+    const std::string above = path.folder().empty() ? "." : std::string(path.folder());
+    if (files.FileExists(folder) || !files.isFolder(above)) {
+        printProblem((files.FileExists(folder) ? folder : above) + ": is not a folder");
+        return false;
+    }
+    const FileOutcome error = files.makeFolder(std::string(path.text()));
+    if (error)
+        printProblem(*error);
+    return !error;
+}
+
 /// Prints the lines that writing the menu again would change of its file.
 ExitStatus printChanges(const std::string& bytes, const DefinitionInput& read,
                         const MenuContent& content) {
@@ -150,10 +167,8 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
     const std::optional<DefinitionInput> read = readDefinition(files, input, content);
     if (!read)
         return ExitStatus::FileProblem;
-    if (!files.isFolder(folder)) {
-        printProblem(folder + ": is not a folder");
+    if (!hasFolder(files, folder))
         return ExitStatus::FileProblem;
-    }
     const Path target = Path::onThisSystem(folder);
     const std::string definition = target.child(name);
     if (!mayReplace(files, definition, *read))

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "integrator/wizard_flow.h"
+#include "text/vendor_addresses.h"
 
 class QCheckBox;
 class QComboBox;
@@ -27,11 +28,12 @@ class MessageBox;
 class PropertyEdit;
 class frmPath;
 
-/// What the wizard needs. Nothing is owned; all outlives it.
+/// What the wizard needs. No service is owned; all outlive it.
 struct IntegratorServices {
     FileSystem& files;
     MessageBox& messages;
     CommonDialogs& dialogs;
+    VendorAddresses vendor = vendorAddresses();
 };
 
 /// The window of the Menu Integrator: shows the steps of `WizardFlow` and tells it what is entered.

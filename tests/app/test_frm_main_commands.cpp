@@ -412,6 +412,20 @@ class test_frm_main_commands : public QObject {
         desk.shell.verify();
     }
 
+    void supportOpensTheManualWhereTheProgramIsOfNoSite() {
+        WindowDesk desk{VendorAddresses{}};
+        desk.choose("mnuHelpSupport");
+        QCOMPARE(desk.help.recorded(), std::vector<std::string>{"/program/help/support.html"});
+    }
+
+    void aboutOpensTheManualWhereTheProgramIsOfNoSite() {
+        WindowDesk desk{VendorAddresses{}};
+        whenShown<frmAbout>(
+            [](frmAbout& about) { about.findChild<QPushButton*>("cmdEMail")->click(); });
+        desk.choose("mnuHelpAbout");
+        QCOMPARE(desk.help.recorded(), std::vector<std::string>{"/program/help/support.html"});
+    }
+
     void aboutShowsTheAboutBox() {
         WindowDesk desk;
         bool wasShown = false;

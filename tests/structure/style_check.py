@@ -24,7 +24,7 @@ from pathlib import Path
 
 PRODUCT = ["text", "model", "script", "importers", "html", "library", "integrator", "checks",
            "messages", "platform", "dialogs", "app", "cli"]
-OTHERS = ["bench", "fuzz", "tests"]
+OTHERS = ["bench", "fuzz", "packaging", "tests"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.M)
 
 

@@ -85,6 +85,14 @@ class test_frm_integrator : public QObject {
         QVERIFY(desk.label("lblWelcome1").contains("support@zevmenu.example"));
     }
 
+    void theWelcomeNamesTheHelpEntryWhereTheProgramIsOfNoSite() {
+        WizardDesk desk{VendorAddresses{}};
+        QVERIFY2(desk.label("lblWelcome1")
+                     .endsWith("\n\nPlease tell us about problems: Help > Support & Upgrades tells "
+                               "how."),
+                 qPrintable(desk.label("lblWelcome1")));
+    }
+
     void theKindsOfMenuAndTheTooltips() {
         WizardDesk desk;
         QCOMPARE(desk.list("cboIntegration").count(), 2);
