@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QMenu>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <stdexcept>
 

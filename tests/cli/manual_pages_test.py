@@ -76,7 +76,7 @@ def editor_options(editor):
     text = subprocess.run([editor, "--help"], check=True, capture_output=True, text=True).stdout
     listed = text.split("Options:\n")[1].split("\n\n")[0]
     return {(option, argument.upper())
-            for spellings, argument in re.findall(r"^  (-\S+(?:, -\S+)*)(?: <(\S+)>)?", listed,
+            for spellings, argument in re.findall(r"^  (-[\w-]+(?:, -[\w-]+)*)(?: <(\S+)>)?(?=  )", listed,
                                                   re.MULTILINE)
             for option in spellings.split(", ")}
 

@@ -25,10 +25,10 @@ EDITOR = "zevmenu-creator"
 ASK_BASH = r"""
 source "$1"; shift
 COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); COMP_TYPE=9
-options=()
-compopt() { options+=("$*"); }
+asked=()
+compopt() { asked+=("$*"); }
 $(complete -p "$1" | sed 's/.*-F \([^ ]*\).*/\1/') "$1" "${COMP_WORDS[-1]}" "${COMP_WORDS[-2]}"
-printf '%s\n' "${COMPREPLY[@]}" "${options[@]/#/compopt }"
+printf '%s\n' "${COMPREPLY[@]}" "${asked[@]/#/compopt }"
 """
 
 

@@ -78,12 +78,14 @@ class Types(unittest.TestCase):
     def setUpClass(cls):
         program("update-mime-database")
         cls.folder = Path(tempfile.mkdtemp(prefix="zev-types-"))
-        for share, sources in (("share", [TYPES]), ("without", [])):
+        system = "/usr/share/mime/packages/freedesktop.org.xml"
+        for share, sources in (("share", [system, TYPES]), ("without", [system]), ("own", [TYPES])):
             packages = cls.folder / share / "mime/packages"
             packages.mkdir(parents=True)
-            for source in ("/usr/share/mime/packages/freedesktop.org.xml", *sources):
+            for source in sources:
                 shutil.copy(source, packages)
-            run("update-mime-database", cls.folder / share / "mime")
+            run("update-mime-database", cls.folder / share / "mime",
+                env=os.environ | {"PKGSYSTEM_ENABLE_FSYNC": "0"})
         applications = cls.folder / "share/applications"
         applications.mkdir()
         shutil.copy(DESKTOP, applications)
@@ -113,13 +115,21 @@ class Types(unittest.TestCase):
         shutil.rmtree(cls.folder)
 
     def check(self, types_in):
-        """`types_in` gives the types of the files, in their order, in an environment."""
-        types = dict(zip(self.files, types_in(self.environment), strict=True))
-        without = dict(zip(self.files, types_in(
-            self.environment | {"XDG_DATA_DIRS": str(self.folder / "without")}), strict=True))
+        """`types_in` gives the types of the files, in their order, in an environment.
+
+        Installed beside the system's types, or below another prefix that is looked at first.
+        """
+        def types_with(*shares):
+            folders = ":".join(str(self.folder / share) for share in shares)
+            found = types_in(self.environment | {"XDG_DATA_DIRS": folders})
+            return dict(zip(self.files, found, strict=True))
+
+        without = types_with("without")
+        self.assertIn(without["plain.js"], SCRIPT)
         definitions = dict.fromkeys(("definition.js", "marked.js"), DEFINITION)
-        self.assertEqual(types, without | definitions)
-        self.assertIn(types["plain.js"], SCRIPT)
+        for shares in (["share"], ["own", "without"]):
+            with self.subTest(shares=shares):
+                self.assertEqual(types_with(*shares), without | definitions)
 
     def test_gio_tells_definitions_from_scripts(self):
         gio = program("gio")
