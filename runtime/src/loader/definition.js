@@ -58,6 +58,8 @@ ZEVMenu.prototype.AddRollover = function (url, imageOut, imageOver, target) {
 };
 
 var noMenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
+
+ZEVMenu.version = '1.0.0';
 function warnOfItem() {
     warn('an item stands before any menu');
 }
