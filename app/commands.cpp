@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/commands.h"
 
 #include <QAction>

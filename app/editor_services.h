@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -8,10 +9,12 @@
 #include "platform/help_viewer.h"
 #include "platform/message_box.h"
 #include "platform/shell.h"
+#include "text/vendor_addresses.h"
 
 namespace zev {
 
-/// The system's services as the editor uses them. Not owned; all outlive the main window.
+/// The system's services as the editor uses them, not owned, all of which outlive the main window;
+/// and what is known of the desktop and of who built the program.
 struct EditorServices {
     FileSystem& files;
     MessageBox& messages;
@@ -21,6 +24,9 @@ struct EditorServices {
     BrowserView& browser;
     /// Folder of the user's for what the program remembers; empty: it remembers nothing.
     std::string userFolder = {};
+    /// The desktop's list of recent documents, a file of its own kind; empty: none is kept.
+    std::string recentDocuments{};
+    VendorAddresses vendor = vendorAddresses();
 };
 
 }  // namespace zev

@@ -1,7 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "app/file_commands.h"
 
 #include <utility>
 
+#include "app/recent_documents.h"
 #include "library/library_files.h"
 #include "library/own_files.h"
 #include "messages/definition_messages.h"
@@ -131,6 +133,7 @@ void FileCommands::openDefinition(const std::string& path) {
         opened.overfullFile = path;
     m_document.open(std::move(opened), path, SplitPath(path).folder);
     m_listener->opened({path, bytes, result});
+    noteRecentDocument(m_services.files, m_services.recentDocuments, path);
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
                                    " errors encountered during parsing");
@@ -229,10 +232,12 @@ bool FileCommands::SaveDefinition(const std::string& path) {
     FileResult<std::string> kept = path.empty() ? std::string() : keepReplaced(target, bytes);
     const FileOutcome failure =
         kept.isOk() ? m_services.files.writeFile(target, bytes, links) : FileOutcome(kept.error());
-    if (failure)
+    if (failure) {
         addLine(notice.text, "Could not save " + target + ": " + failure->reason);
-    else if (!path.empty())
+    } else if (!path.empty()) {
         seeSaved(path, bytes, kept.value());
+        noteRecentDocument(m_services.files, m_services.recentDocuments, path);
+    }
     if (!notice.text.empty())
         m_services.messages.show(notice);
     return !failure;

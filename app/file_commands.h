@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -14,8 +15,9 @@ namespace zev {
 /// What file dialogs for definition files offer.
 inline constexpr const char* kDefinitionFilter = "All Files (*.*)|*.*|JavaScript (*.js)|*.js";
 
-/// The procedures of the File menu and of the preview: New, Open, Save, Save As, Exit. Without
-/// widgets; document, view and services are handed in, not owned, and outlive it.
+/// The procedures of the File menu and of the preview: New, Open, Save, Save As, Exit. What was
+/// opened or saved is put among the desktop's recent documents. Without widgets; document, view and
+/// services are handed in, not owned, and outlive it.
 class FileCommands {
   public:
     FileCommands(MenuDocument& document, EditorView& view, const EditorServices& services);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/frm_about.h"
 
 #include <QApplication>
@@ -31,7 +32,8 @@ QLabel* makeNameLabel() {
 
 }  // namespace
 
-frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget* parent)
+frmAbout::frmAbout(const VendorAddresses& vendor,
+                   std::function<void(const std::string&)> openAddress, QWidget* parent)
     : QDialog(parent), m_openAddress(std::move(openAddress)) {
     setObjectName("frmAbout");
     setWindowTitle(QString("About ") + kProgramName);
@@ -41,10 +43,11 @@ frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget*
 
     auto* links = new QFormLayout;
     links->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    const QString mail = QString::fromStdString(vendor.mail);
     links->addRow("Web site:",
-                  makeLink("cmdWebSite", "https://zevmenu.example/", "https://zevmenu.example/"));
-    links->addRow("E-mail:", makeLink("cmdEMail", "mailto:support@zevmenu.example",
-                                      "support@zevmenu.example"));
+                  makeLink("cmdWebSite", vendor.webSite, QString::fromStdString(vendor.webSite)));
+    links->addRow("E-mail:",
+                  makeLink("cmdEMail", vendor.isEmpty() ? "" : "mailto:" + vendor.mail, mail));
 
     auto* texts = new QVBoxLayout;
     texts->addWidget(makeNameLabel());
@@ -78,8 +81,10 @@ frmAbout::frmAbout(std::function<void(const std::string&)> openAddress, QWidget*
 
 /// A button that looks like a link: a label with a link in it takes a second press of Tab before
 /// Enter follows it. In the colour of text, as many dark palettes keep a dark blue for links.
-QPushButton* frmAbout::makeLink(const QString& name, const QString& address,
-                                const QString& shownText) {
+QPushButton* frmAbout::makeLink(const QString& name, const std::string& address,
+                                QString shownText) {
+    if (address.empty())
+        shownText = "see the manual";
     auto* link = new QPushButton(shownText);
     link->setObjectName(name);
     link->setFlat(true);
@@ -87,9 +92,15 @@ QPushButton* frmAbout::makeLink(const QString& name, const QString& address,
     QFont font = link->font();
     font.setUnderline(true);
     link->setFont(font);
-    connect(link, &QPushButton::clicked, this,
-            [this, address] { m_openAddress(address.toStdString()); });
+    connect(link, &QPushButton::clicked, this, [this, address] { follow(address); });
     return link;
+}
+
+void frmAbout::follow(const std::string& address) {
+    // In front of the manual's window this box would keep it from being used.
+    if (address.empty())
+        accept();
+    m_openAddress(address);
 }
 
 }  // namespace zev

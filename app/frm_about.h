@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QDialog>
 #include <functional>
 #include <string>
+
+#include "text/vendor_addresses.h"
 
 class QPushButton;
 
@@ -12,12 +15,15 @@ namespace zev {
 class frmAbout : public QDialog {
     Q_OBJECT
   public:
-    /// `openAddress` is called with the address of a link that the person follows.
-    explicit frmAbout(std::function<void(const std::string&)> openAddress,
-                      QWidget* parent = nullptr);
+    /// `openAddress` is called with the address of a link that the person follows. Without
+    /// addresses in `vendor` the links lead to the manual: the box closes and `openAddress` is
+    /// called with an empty one.
+    frmAbout(const VendorAddresses& vendor, std::function<void(const std::string&)> openAddress,
+             QWidget* parent = nullptr);
 
   private:
-    QPushButton* makeLink(const QString& name, const QString& address, const QString& shownText);
+    QPushButton* makeLink(const QString& name, const std::string& address, QString shownText);
+    void follow(const std::string& address);
 
     std::function<void(const std::string&)> m_openAddress;
 };

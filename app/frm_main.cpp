@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/frm_main.h"
 
 #include <QApplication>
@@ -45,8 +46,8 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kSupportAddress = "https://zevmenu.example/support";
 constexpr const char* kManual = "help/index.html";
+constexpr const char* kManualOfSupport = "help/support.html";
 
 // A list instead of recursion: a menu may be thousands of levels deep.
 std::size_t sizeOf(const MenuNode& top) {
@@ -342,7 +343,7 @@ std::string frmMain::inUserFolder(const char* name) const {
 
 void frmMain::mnuToolsIntegrate_Click() {
     frmIntegrator wizard({m_services.files, m_services.messages, m_services.dialogs,
-                          inUserFolder("wizard"), inUserFolder("runs")},
+                          inUserFolder("wizard"), inUserFolder("runs"), m_services.vendor},
                          mountedDrives(), this);
     if (!m_document.SaveFile().empty())
         wizard.setDefinition(m_document.SaveFile());
@@ -368,12 +369,13 @@ void frmMain::mnuHelpContents_Click() {
 }
 
 void frmMain::mnuHelpAbout_Click() {
-    frmAbout about([this](const std::string& address) { openAddress(address); }, this);
+    frmAbout about(
+        m_services.vendor, [this](const std::string& address) { openAddress(address); }, this);
     about.exec();
 }
 
 void frmMain::mnuHelpSupport_Click() {
-    openAddress(kSupportAddress);
+    openAddress(m_services.vendor.support);
 }
 
 void frmMain::tbToolBar_ButtonClick(const QString& key) {
@@ -588,7 +590,10 @@ void frmMain::goToMenu(const NotePlace& place) {
 }
 
 void frmMain::openAddress(const std::string& address) {
-    OpenURL(address, m_document.programFolder(), m_services);
+    if (address.empty())
+        m_services.help.show(Path(m_document.programFolder()).child(kManualOfSupport));
+    else
+        OpenURL(address, m_document.programFolder(), m_services);
 }
 
 void frmMain::contentReplaced() {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QMainWindow>
@@ -119,6 +120,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void edit(EditResult (*command)(MenuDocument&));
     void followChange();
     std::string inUserFolder(const char* name) const;
+    /// An empty address is that of the manual's page about support.
     void openAddress(const std::string& address);
     void goTo(const NotePlace& place);
     void goToItem(const MenuNode& node);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/import_commands.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/item_panel.h"
 
 #include <QEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -59,6 +60,12 @@ std::string programFolder(FileSystem& files, MessageBox& messages,
     return QCoreApplication::applicationDirPath().toStdString();
 }
 
+/// A file of the desktop's own, which all its programs share.
+std::string dataFile(const char* name) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return (folder + '/' + name).toStdString();
+}
+
 int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     PosixFileSystem fileSystem;
     QtShell shell;
@@ -68,8 +75,11 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     auto* browser = new QtBrowserView;
     const std::string userFolder =
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
-    const EditorServices services{fileSystem, messages, dialogs, shell,
-                                  help,       *browser, userFolder};
+    const QString picture = arguments.value("screenshot");
+    EditorServices services{fileSystem, messages, dialogs, shell, help, *browser, userFolder};
+    // Whoever asks for a picture works with a script, not on the document.
+    if (picture.isEmpty())
+        services.recentDocuments = dataFile("recently-used.xbel");
 
     frmMain window(services, programFolder(fileSystem, messages, userFolder), browser);
     // Ends the program also while the manual's window is open.
@@ -79,7 +89,6 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     fitScreen(window);
     window.show();
     const QStringList files = arguments.positionalArguments();
-    const QString picture = arguments.value("screenshot");
     // Before the window is painted for the first time: so it is painted once.
     if (!files.isEmpty())
         window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
@@ -108,7 +117,12 @@ int main(int argc, char** argv) {
         QCoreApplication application(argc, argv);
         parser.process(application);
     }
+    // By this the desktop knows whose windows these are.
+    QGuiApplication::setDesktopFileName("example.zevmenu.Creator");
     QApplication application(argc, argv);
+    // An installation keeps the program's modules there, a build beside the program.
+    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
+                                     "/../lib/zevmenu-creator");
     QApplication::setStyle(new PlainButtonStyle);
     QApplication::setWindowIcon(programIcon());
     return runEditor(application, parser);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/menu_tree_view.h"
 
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/open_url.h"
 
 #include <string_view>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/preview_picture.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/script_view.h"
 
 #include <QFontDatabase>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/shortcut_keys.h"
 
 #include <QCoreApplication>

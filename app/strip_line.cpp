@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/strip_line.h"
 
 #include <QHBoxLayout>

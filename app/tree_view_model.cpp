@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/tree_view_model.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """`zevmenu format` against copying the same bytes: ratios of medians, in one run.
 
 command_line.py ZEVMENU WORK_FOLDER

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The peer of `zevmenu integrate`: does with each page what has to be done to replace it, without
 // looking into it. Reads the page, writes a temporary file beside it, copies that over the page and
 // deletes it.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writer, reader and Add Menu Item, each over menus of 2,000 and 20,000 items. BM_Memcpy copies the
 // very text that the other two write and read: the floor that the machine's memory sets.
 

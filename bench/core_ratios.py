@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Turns the core benchmark's JSON (standard input) into ratios against memcpy of the same text."""
 
 import json

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One Add Menu Item in a tree of 20,000 items: from the command to the repainted window, and what
 // keeping it on the disk adds.
 //

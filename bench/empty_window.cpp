@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The floor of every start-up figure: the smallest program that shows a window of the toolkit.
 #include <QApplication>
 #include <QLabel>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """`zevmenu integrate` over many pages and over a very large one.
 
 integrate_pages.py ZEVMENU COPY_PAGES SAMPLE_PAGES_FOLDER WORK_FOLDER [PAGES_A_FOLDER]

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Writes a definition of N items to standard output, in the form the editor writes.
 
 make_definition.py N: a site-like tree, twenty top-level menus, four levels, captions and links of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The page engine's whole job in memory, beside looking for every "<" in the same bytes: the floor
 // for whoever reads markup.
 //

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Turns the page engine benchmark's JSON (standard input) into ratios against looking for "<" in the
 same pages, and names the hostile pages that are read slowest."""
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Start of the editor to its painted window, and its memory then, under a virtual display.
 
 start_up.py EDITOR PEER DEFINITION

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/css_values.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/difference_json.h"
 
 #include "text/json_text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/item_names.h"
 
 #include <algorithm>

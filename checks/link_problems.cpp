@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/link_problems.h"
 
 #include <algorithm>

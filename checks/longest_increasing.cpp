@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/longest_increasing.h"
 
 #include <algorithm>

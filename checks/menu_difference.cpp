@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/menu_difference.h"
 
 #include <string_view>

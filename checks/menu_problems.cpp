@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/menu_problems.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/command_arguments.h"
 
 namespace zev {

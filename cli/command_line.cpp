@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
@@ -105,7 +106,8 @@ void addPublish(CLI::App& program, FileSystem& files, ExitStatus& status) {
     CLI::App& command = addCommand(
         program, "publish", "Write a menu definition and the run-time scripts into a folder");
     addInput(command, options->input);
-    addRequired(command, "DIR", "TEXT", options->folder, "Folder of the web site; it must exist");
+    addRequired(command, "DIR", "TEXT", options->folder,
+                "Folder of the web site, made where one is missing");
     command.callback([&files, &status, options] {
         status = publishCommand(files, runningProgram(), options->input, options->folder);
     });
@@ -255,6 +257,31 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
     });
 }
 
+/// What "--help" prints of a command, or of the program when none is named.
+std::string helpText(const CLI::App& program, const std::string& command) {
+    if (command.empty())
+        return program.get_formatter()->make_help(&program, program.get_name(),
+                                                  CLI::AppFormatMode::Normal);
+    return program.get_subcommand(command)->help(program.get_name());
+}
+
+void addHelp(CLI::App& program, ExitStatus& status) {
+    const auto name = std::make_shared<std::string>();
+    CLI::App& command = addCommand(program, "help", "Print the help of a command");
+    command.footer("Exit status: 0 done, 2 wrong use, 3 the output could not be written.");
+    command.add_option("COMMAND", *name, "Command; without it, those there are are listed")
+        ->type_name("")
+        ->check([&program](const std::string& text) {
+            const auto found = program.get_subcommands(
+                [&text](const CLI::App* each) { return each->get_name() == text; });
+            return found.empty() ? "there is no such command" : "";
+        });
+    command.callback([&program, &status, name] {
+        status = writeStandardOutput(helpText(program, *name)) ? ExitStatus::Done
+                                                               : ExitStatus::FileProblem;
+    });
+}
+
 /// Prints help, version or what was wrong with the arguments.
 ExitStatus report(const CLI::App& program, const CLI::ParseError& outcome) {
     std::ostringstream output;
@@ -269,13 +296,12 @@ ExitStatus report(const CLI::App& program, const CLI::ParseError& outcome) {
 
 }  // namespace
 
-ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileSystem& files) {
-    CLI::App program(std::string("Works on the menu definitions of ") + kProgramName + ".",
-                     "zevmenu");
+void addCommands(CLI::App& program, FileSystem& files, ExitStatus& status) {
+    program.description(std::string("Works on the menu definitions of ") + kProgramName + ".");
+    program.name("zevmenu");
     program.set_version_flag("--version", "zevmenu " ZEV_VERSION, "Print the version and exit");
     program.require_subcommand(1);
     program.footer(kFooter);
-    ExitStatus status = ExitStatus::Done;
     addFormat(program, files, status);
     addImport(program, files, status);
     addRebase(program, files, status);
@@ -287,6 +313,13 @@ ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileS
     addPublish(program, files, status);
     addLinkcode(program, status);
     addIntegrate(program, files, status);
+    addHelp(program, status);
+}
+
+ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileSystem& files) {
+    CLI::App program;
+    ExitStatus status = ExitStatus::Done;
+    addCommands(program, files, status);
     try {
         program.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& outcome) {

@@ -1,9 +1,18 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "cli/command_files.h"
 #include "platform/file_system.h"
 
+namespace CLI {
+class App;
+}
+
 namespace zev {
+
+/// Describes the program and its commands to `program`, for whose life the rest must live. When it
+/// then takes arguments apart, the command that they name runs and sets `status`.
+void addCommands(CLI::App& program, FileSystem& files, ExitStatus& status);
 
 /// Takes the arguments of main() apart and runs the command they name.
 ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileSystem& files);

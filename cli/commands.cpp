@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/commands.h"
 
 #include <algorithm>
@@ -40,6 +41,23 @@ ExitStatus publishLibrary(FileSystem& files, const std::string& executable, cons
                          ? copyProblemText(problem)
                          : copyProblemText(problem) + " (" + problem.reason + ")");
     return problems.empty() ? ExitStatus::Done : ExitStatus::FileProblem;
+}
+
+/// Makes `folder` when only that is missing; a mistyped path is not made from its top. False, with
+/// the problem printed, when there is none then.
+bool hasFolder(FileSystem& files, const std::string& folder) {
+    if (files.isFolder(folder))
+        return true;
+    const Path path = Path::onThisSystem(Path::onThisSystem(folder).withoutTrailingSeparators());
+    const std::string above = path.folder().empty() ? "." : std::string(path.folder());
+    if (files.FileExists(folder) || !files.isFolder(above)) {
+        printProblem((files.FileExists(folder) ? folder : above) + ": is not a folder");
+        return false;
+    }
+    const FileOutcome error = files.makeFolder(std::string(path.text()));
+    if (error)
+        printProblem(*error);
+    return !error;
 }
 
 /// Prints the lines that writing the menu again would change of its file.
@@ -152,10 +170,8 @@ ExitStatus publishCommand(FileSystem& files, const std::string& executable,
     const std::optional<DefinitionInput> read = readDefinition(files, input, content);
     if (!read)
         return ExitStatus::FileProblem;
-    if (!files.isFolder(folder)) {
-        printProblem(folder + ": is not a folder");
+    if (!hasFolder(files, folder))
         return ExitStatus::FileProblem;
-    }
     if (!mayReplace(files, definition, *read))
         return ExitStatus::FileProblem;
     const ExitStatus libraryStatus = publishLibrary(files, executable, target);

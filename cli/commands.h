@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -45,8 +46,8 @@ ExitStatus rebaseCommand(FileSystem& files, const RebaseOptions& options);
 /// `input` may be "-".
 ExitStatus submenusCommand(const FileSystem& files, const std::string& input);
 
-/// Writes the definition and the run-time scripts into `folder`, which must be there. `executable`
-/// is the full path of this program.
+/// Writes the definition and the run-time scripts into `folder`, made when the folder above it is
+/// there. `executable` is the full path of this program.
 ExitStatus publishCommand(FileSystem& files, const std::string& executable,
                           const std::string& input, const std::string& folder);
 

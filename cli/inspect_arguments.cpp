@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/inspect_arguments.h"
 
 #include <memory>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/inspect_commands.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/integrator_commands.h"
 
 #include <map>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/color_field.h"
 
 #include <QPushButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/combo_wheel.h"
 
 #include <QComboBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/frm_adv_prop.h"
 
 #include <QGroupBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/frm_default_prop.h"
 
 #include <QGroupBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/preview_label.h"
 
 #include <QFontMetrics>

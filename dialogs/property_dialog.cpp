@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/property_dialog.h"
 
 #include <QComboBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/single_line.h"
 
 #include <QValidator>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /*
  * Reads properties.md, which is the source of its own pictures. The first block of code there is the
  * menu that all examples share; each table is a row of examples and a row of their pictures (a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /*
  * Makes the pictures of properties.md, each from the lines that the page itself shows above it.
  *

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Feeds every file in and below folders to a fuzz target, for builds without libFuzzer.
 // usage: replay FOLDER...
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "html/html_tokenizer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "html/server_blocks.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "importers/import_menu.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "importers/orlet_reader.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "importers/quillmenu_reader.h"
 
 #include <string_view>

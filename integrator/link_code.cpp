@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/link_code.h"
 
 #include "script/submenu_list.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes the header by which a program knows the run-time files it was built with:
 //
 //     zev_describe_built_files HEADER FILE...

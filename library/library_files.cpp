@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "library/library_files.h"
 
 #include "library/own_files.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "library/program_folder.h"
 
 #include <vector>
@@ -72,13 +73,17 @@ FileOutcome updateUserFolder(FileSystem& files, const std::string& installed,
     return updateFolder(files, manual, joinPath(userFolder, kManualFolder));
 }
 
+/// Where an installation has the files of a program in its "bin".
+std::string sharedFolderOf(const std::string& executable) {
+    return joinPath(folderOf(folderOf(executable)), "share/zevmenu-creator");
+}
+
 }  // namespace
 
 FileResult<std::string> findInstalledFolder(const FileSystem& files,
                                             const std::string& executable) {
-    const std::string ownFolder = folderOf(executable);
-    const std::string sharedFolder = joinPath(folderOf(ownFolder), "share/zevmenu-creator");
-    for (const std::string& folder : {ownFolder, sharedFolder})
+    const std::string sharedFolder = sharedFolderOf(executable);
+    for (const std::string& folder : {folderOf(executable), sharedFolder})
         if (files.FileExists(joinPath(folder, kLibraryFiles.front())))
             return folder;
     return FileError{FileError::Code::NotFound, joinPath(sharedFolder, kLibraryFiles.front()),
@@ -88,7 +93,12 @@ FileResult<std::string> findInstalledFolder(const FileSystem& files,
 FileResult<std::string> findProgramFolder(FileSystem& files, const std::string& executable,
                                           const std::string& userFolder) {
     FileResult<std::string> installed = findInstalledFolder(files, executable);
-    if (!installed.isOk() || files.isWritableFolder(installed.value()))
+    if (!installed.isOk())
+        return installed;
+    // Of an installation's folder it does not matter who may write it: root would, and what is
+    // left there no package takes away again.
+    if (installed.value() != sharedFolderOf(executable) &&
+        files.isWritableFolder(installed.value()))
         return installed;
     if (const FileOutcome error = updateUserFolder(files, installed.value(), userFolder))
         return *error;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -14,9 +15,10 @@ namespace zev {
 FileResult<std::string> findInstalledFolder(const FileSystem& files, const std::string& executable);
 
 /// The program's own folder, which holds the run-time files and the manual and takes the preview's
-/// files of a menu never saved. It is the installed folder when that is writable. Else, as in a
-/// system-wide installation, it is `userFolder`, made when missing, filled from the installed
-/// folder, with every file brought up to date that differs from the installed one.
+/// files of a menu never saved. It is the executable's own when that holds the run-time files and
+/// is writable. Else, and always of an installation in "../share", which is never written, it is
+/// `userFolder`, made when missing, filled from the installed folder, with every file brought up to
+/// date that differs from the installed one.
 FileResult<std::string> findProgramFolder(FileSystem& files, const std::string& executable,
                                           const std::string& userFolder);
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "messages/definition_messages.h"
 
 #include "model/menu_content.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "messages/difference_messages.h"
 
 namespace zev {

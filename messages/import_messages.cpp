@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "messages/import_messages.h"
 
 namespace zev {

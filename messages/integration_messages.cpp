@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "messages/integration_messages.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "messages/library_messages.h"
 
 namespace zev {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "messages/problem_messages.h"
 
 #include "checks/item_names.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/menu_content.h"
 
 #include "model/menu_properties.h"

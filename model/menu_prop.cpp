@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/menu_prop.h"
 
 #include "model/menu_properties.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/menu_tree.h"
 
 #include <cassert>

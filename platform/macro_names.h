@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // One system's own headers define names of our operations and classes as macros. A file that has

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/definition_lines.h"
 
 #include <utility>

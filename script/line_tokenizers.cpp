@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/line_tokenizers.h"
 
 #include <cstddef>

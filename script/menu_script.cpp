@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/menu_script.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/submenu_list.h"
 
 #include "script/submenu_walk.h"

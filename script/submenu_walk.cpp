@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/submenu_walk.h"
 
 namespace zev {

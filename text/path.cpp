@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "text/path.h"
 
 #include "text/ascii.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The same menu as each library wants it: what stands in the page, and the files that the page loads.
 // Every library is set up as its documentation says, with the choices that take its delays and
 // animations away, and with hovering where it has that.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The script that stands first in every page of the benchmarks; what it says of a contender follows it
 // (lateScript, opener, submenu). Times are milliseconds since the navigation began.
 var bench = { start: performance.now() };

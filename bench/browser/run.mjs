@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Measures the run-time library beside other menu libraries in the browser that ENGINE names (chromium,
 // firefox or webkit), and prints a table: node run.mjs [ROUNDS]. What is measured, and how, is told in
 // ../README.md.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How large the files are that a visitor's browser loads: compressed by gzip, in bytes.
 import { readFileSync } from 'node:fs';
 import { gzipSync } from 'node:zlib';

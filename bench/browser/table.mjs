@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Prints what was measured: one line a figure, with all contenders, the ratio that counts, and the aim.
 import { engine } from '../../tests/runtime/browser/support.mjs';
 

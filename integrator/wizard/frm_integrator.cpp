@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_integrator.h"
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the wizard's frames look like. What its controls do is in frm_integrator.cpp.
 
 #include "integrator/wizard/frm_integrator.h"
@@ -86,14 +87,17 @@ QPushButton* frmIntegrator::makeButton(const QString& name, const QString& capti
 }
 
 void frmIntegrator::makeWelcome() {
+    const VendorAddresses& vendor = m_services.vendor;
+    const QString place = vendor.isEmpty() ? tr("Help > Support & Upgrades tells how")
+                                           : QString::fromStdString(vendor.mail);
     QVBoxLayout* layout = addFrame(0, QString());
     layout->addWidget(makeText(
         "lblWelcome1",
         tr("The Menu Integrator integrates ZEVMenu to existing web pages and should be launched "
            "only after you have configured and saved the menu file to the appropriate web folder. "
            "There is no need to re-run the wizard after each modification unless changes have been "
-           "made to the paths of the files, \n\nPlease tell us about problems: "
-           "support@zevmenu.example."),
+           "made to the paths of the files, \n\nPlease tell us about problems: %1.")
+            .arg(place),
         this));
     layout->addStretch();
     layout->addWidget(

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "text/vendor_addresses.h"
+
 namespace zev {
 
 class CommonDialogs;
@@ -17,6 +19,7 @@ struct IntegratorServices {
     std::string memoryFolder = {};
     /// The same for what it takes to undo runs.
     std::string recordFolder = {};
+    VendorAddresses vendor = vendorAddresses();
 };
 
 }  // namespace zev

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/posix/posix_write_target.h"
 
 #include <linux/magic.h>

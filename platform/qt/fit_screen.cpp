@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/qt/fit_screen.h"
 
 #include <QScreen>

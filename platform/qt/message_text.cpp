@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/qt/message_text.h"
 
 #include <QGridLayout>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/qt/page_watch.h"
 
 #include <QPointer>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/qt/parent_window.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/qt/qt_common_dialogs.h"
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/qt/web_engine_view.h"
 
 #include <QAuthenticator>

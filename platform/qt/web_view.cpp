@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/qt/web_view.h"
 
 #include <QPluginLoader>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // join_scripts OUT SOURCE...: makes the file that pages load of its sources, in one function, so
 // that they share their names and the page sees none.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "runtime/join/strip_script.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /*
  * zevmenu_ns4.js: the menu for browsers that cannot run zevmenu_dom.js.
  *

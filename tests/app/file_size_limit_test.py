@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """The editor outlives a file that would grow beyond the user's limit for files.
 
 usage: file_size_limit_test.py EDITOR

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Takes a picture of each tab of the editor's window and of each property dialog, to be looked at
 // by a person:
 //

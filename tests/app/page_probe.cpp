@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "page_probe.h"
 
 #include <QLibrary>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QEventLoop>
 #include <QTimer>
 #include <QVariant>

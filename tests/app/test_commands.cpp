@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table of commands: which can be used, and what the manual says of their keys.
 
 #include <QAction>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What New, Open, Save, Save As, Exit and the preview do when the disk works; what they do when it
 // does not is in test_file_failures.cpp.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the file commands leave behind when the disk fails: the document, its marks and the files of
 // the person are the old ones or the new ones, and the person is told.
 

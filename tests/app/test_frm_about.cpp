@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -14,7 +15,7 @@ class test_frm_about : public QObject {
     Q_OBJECT
 
   private slots:
-    void init();
+    void init() { show(vendorAddresses("zevmenu.example")); }
     void showsNameAndVersion();
     void showsTheProgramsIcon();
     void linksOpenByMouse_data() { addLinks(); }
@@ -23,11 +24,14 @@ class test_frm_about : public QObject {
     void linksOpenByKeyboard();
     void linksAreReadable_data();
     void linksAreReadable();
+    void linksLeadToTheManualWhereThereIsNoSite_data() { addLinks(); }
+    void linksLeadToTheManualWhereThereIsNoSite();
     void everythingIsReachedByTab();
     void closes_data();
     void closes();
 
   private:
+    void show(const VendorAddresses& vendor);
     static void addLinks();
     QLabel& label(const char* name) { return *m_about->findChild<QLabel*>(name); }
 
@@ -35,10 +39,10 @@ class test_frm_about : public QObject {
     std::unique_ptr<frmAbout> m_about;
 };
 
-void test_frm_about::init() {
+void test_frm_about::show(const VendorAddresses& vendor) {
     m_opened.clear();
     m_about = std::make_unique<frmAbout>(
-        [this](const std::string& address) { m_opened.push_back(address); });
+        vendor, [this](const std::string& address) { m_opened.push_back(address); });
     m_about->show();
     m_about->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_about.get()));
@@ -109,6 +113,17 @@ void test_frm_about::linksAreReadable() {
         QVERIFY2(ratio >= 4.5, qPrintable(QString("%1: %2").arg(name).arg(ratio)));
     }
     QApplication::setPalette(before);
+}
+
+void test_frm_about::linksLeadToTheManualWhereThereIsNoSite() {
+    QFETCH(QString, name);
+    show({});
+    QPushButton& link = *m_about->findChild<QPushButton*>(name);
+    QCOMPARE(link.text(), QString("see the manual"));
+    QTest::mouseClick(&link, Qt::LeftButton);
+    QCOMPARE(m_opened, std::vector<std::string>{""});
+    // The manual's window could not be used behind it.
+    QVERIFY(!m_about->isVisible());
 }
 
 void test_frm_about::everythingIsReachedByTab() {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window: what it is made of, its start and its toolbar.
 
 #include <QGroupBox>

@@ -1,8 +1,10 @@
+// SPDX-License-Identifier: MIT
 // The main window: what the commands of its menus do.
 
 #include <QApplication>
 #include <QComboBox>
 #include <QMenu>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <stdexcept>
 
@@ -462,6 +464,20 @@ class test_frm_main_commands : public QObject {
         desk.shell.expectShellExecute("/usr/bin/browser", "https://zevmenu.example/support");
         desk.choose("mnuHelpSupport");
         desk.shell.verify();
+    }
+
+    void supportOpensTheManualWhereTheProgramIsOfNoSite() {
+        WindowDesk desk{VendorAddresses{}};
+        desk.choose("mnuHelpSupport");
+        QCOMPARE(desk.help.recorded(), std::vector<std::string>{"/program/help/support.html"});
+    }
+
+    void aboutOpensTheManualWhereTheProgramIsOfNoSite() {
+        WindowDesk desk{VendorAddresses{}};
+        whenShown<frmAbout>(
+            [](frmAbout& about) { about.findChild<QPushButton*>("cmdEMail")->click(); });
+        desk.choose("mnuHelpAbout");
+        QCOMPARE(desk.help.recorded(), std::vector<std::string>{"/program/help/support.html"});
     }
 
     void aboutShowsTheAboutBox() {

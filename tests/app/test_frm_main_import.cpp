@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // File > Import in the window, from the menu to what the person sees.
 
 #include <QMenu>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the commands of File > Import do and ask. What a line of a file means is tested with the
 // importers.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The panel that edits the current item, in the real window.
 
 #include <QClipboard>

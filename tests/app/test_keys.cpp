@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keys in the main window: which reach the commands, which the text fields, and what becomes of the
 // text that is being typed when a command is given.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What OK and Cancel in the property dialogs mean for the document and for what the main window
 // shows.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The property dialogs as the main window opens and fills them: from its keys, menus and toolbar,
 // over its document. What the dialogs do by themselves is tested in tests/dialogs.
 

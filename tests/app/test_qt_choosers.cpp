@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The real colour and font dialogs of Qt, answered with real keys.
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The real file dialogs of Qt, answered with real keys.
 
 #include <QAbstractButton>

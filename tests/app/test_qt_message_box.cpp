@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The real message boxes of Qt, answered with real keys, and the size of windows.
 
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Programs of a made-up desktop, really started.
 
 #include <signal.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Many commands in a row, always the same ones, against the same commands on a plain list. Between
 // them the person types, edits labels, looks at the other tabs, and saves and opens the menu.
 

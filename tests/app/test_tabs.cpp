@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The three tabs: what switching to one does, and that the one shown follows the menu.
 
 #include <QAction>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tree editing commands as the person uses them: through menu entries, keys and the tree.
 
 #include <QTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the person does to the tree with mouse and keys: choosing items, and editing labels in
 // place.
 

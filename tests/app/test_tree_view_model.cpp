@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The adapter between the menu tree and Qt's views, and the view that shows it.
 
 #include <QAbstractItemModelTester>

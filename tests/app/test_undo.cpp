@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <QPushButton>
 #include <random>
 #include <vector>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preview's browser and the help window with the real browser engine.
 
 #include <unistd.h>

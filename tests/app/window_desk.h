@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QAbstractButton>
@@ -21,7 +22,8 @@ namespace zev {
 /// The real window over a disk in memory, with the run-time files in "/program", an empty folder
 /// "/site", and services that answer from a script. Opens with a new document, shown and active.
 struct WindowDesk {
-    WindowDesk() {
+    explicit WindowDesk(const VendorAddresses& addresses = vendorAddresses("zevmenu.example"))
+        : vendor(addresses) {
         for (const char* name :
              {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"})
             disk.addFile(std::string("/program/") + name, name);
@@ -164,7 +166,8 @@ struct WindowDesk {
     FakeShell shell{failQtTest};
     FakeHelpViewer help;
     FakeBrowserView browser;
-    EditorServices services{disk, messages, dialogs, shell, help, browser};
+    VendorAddresses vendor;
+    EditorServices services{disk, messages, dialogs, shell, help, browser, {}, {}, vendor};
     frmMain window{services, "/program", new QWidget};
 
   private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/line_changes.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -78,6 +79,24 @@ TEST(CommandLineTest, WrongUseHasStatusTwoAndWritesNothing) {
         EXPECT_NE(result.problems, "") << testing::PrintToString(arguments);
     }
     EXPECT_EQ(namesIn(folder.path()), Arguments{"in.js"});
+}
+
+TEST(CommandLineTest, HelpOfACommandIsWhatItsOptionPrints) {
+    const TempFolder folder;
+    const auto run = [&folder](const Arguments& words) { return runZevmenu(words, folder.path()); };
+    for (const char* const command : {"format", "integrate", "help"})
+        EXPECT_EQ(run({"help", command}).output, run({command, "--help"}).output);
+    const ProgramResult all = run({"help"});
+    EXPECT_EQ(all.status, 0);
+    EXPECT_EQ(all.output, run({"--help"}).output);
+    EXPECT_NE(all.output.find("Subcommands:"), std::string::npos);
+    const Arguments wrongUses[] = {{"help", "unknown"}, {"help", "format", "import"}};
+    for (const Arguments& wrong : wrongUses) {
+        const ProgramResult result = run(wrong);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.output, "");
+        EXPECT_NE(result.problems, "");
+    }
 }
 
 TEST(CommandLineTest, HelpAndVersionAreEverywhereAndGoToStandardOutput) {

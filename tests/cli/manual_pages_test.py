@@ -1,7 +1,10 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Checks that every command has a manual page that names exactly the options of its --help.
 
-usage: manual_pages_test.py PROGRAM FOLDER
+The editor's page names those of the editor's --help.
+
+usage: manual_pages_test.py PROGRAM FOLDER [EDITOR]
 """
 
 import re
@@ -68,12 +71,32 @@ def check(program, folder, names):
     return problems
 
 
+def editor_options(editor):
+    """As `options_in`, of the form "  -h, --help   text" and "  --screenshot <picture>   text"."""
+    text = subprocess.run([editor, "--help"], check=True, capture_output=True, text=True).stdout
+    listed = text.split("Options:\n")[1].split("\n\n")[0]
+    return {(option, argument.upper())
+            for spellings, argument in re.findall(r"^  (-[\w-]+(?:, -[\w-]+)*)(?: <(\S+)>)?(?=  )", listed,
+                                                  re.MULTILINE)
+            for option in spellings.split(", ")}
+
+
+def check_editor(editor, folder):
+    page = (folder / "zevmenu-creator.1").read_text("utf-8")
+    if options_on(page) == editor_options(editor):
+        return []
+    return [f"zevmenu-creator.1: has the options {sorted(options_on(page))}, "
+            f"--help has {sorted(editor_options(editor))}"]
+
+
 def main():
     program, folder = sys.argv[1], Path(sys.argv[2])
     commands = commands_in(help_of(program))
     problems = check(program, folder, [])
     for command in commands:
         problems += check(program, folder, [command])
+    if len(sys.argv) > 3:
+        problems += check_editor(sys.argv[3], folder)
     expected = {"zevmenu.1"} | {f"zevmenu-{command}.1" for command in commands}
     for page in folder.glob("zevmenu*.1"):
         # The editor's page is no command's.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Holds `zevmenu format` to memory and time in proportion to its input.
 
     memory_test.py ZEVMENU MEGABYTES

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -73,12 +74,27 @@ TEST_F(PublishTest, AFoldersNameMayHoldABackslash) {
     EXPECT_EQ(contentOf(folder / "odd\\site/menu.js"), kSmallDefinition);
 }
 
-TEST_F(PublishTest, NeedsAFolderThatIsThere) {
+TEST_F(PublishTest, MakesTheFolderWhenTheOneAboveIsThere) {
+    for (const char* const name : {"new", "site/js/", "./dot"}) {
+        const ProgramResult result = run({"publish", "menu.js", name});
+        EXPECT_EQ(result.status, 0) << name << result.problems;
+        EXPECT_EQ(contentOf(folder / name + "/menu.js"), kSmallDefinition) << name;
+    }
+    EXPECT_EQ(namesIn(folder / "site"), Names{"js"});
+}
+
+TEST_F(PublishTest, MakesNoFolderForADefinitionThatCannotBeRead) {
+    EXPECT_EQ(run({"publish", "missing.js", "new"}).status, 3);
+    EXPECT_EQ(namesIn(folder.path()), (Names{"menu.js", "site"}));
+}
+
+TEST_F(PublishTest, NeedsTheFolderAboveItsOwn) {
     struct Case {
         const char* folder;
         const char* problem;
     };
-    const Case cases[] = {{"nowhere", "zevmenu: nowhere: is not a folder\n"},
+    const Case cases[] = {{"nowhere/site", "zevmenu: nowhere: is not a folder\n"},
+                          {"menu.js/site", "zevmenu: menu.js: is not a folder\n"},
                           {"menu.js", "zevmenu: menu.js: is not a folder\n"}};
     for (const Case& c : cases) {
         const ProgramResult result = run({"publish", "menu.js", c.folder});

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The row for a colour: text box, swatch, and the button that asks the colour dialog.
 
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Advanced Menu Properties: what is filled in, what OK and Cancel do with it, the shadow and
 // copying.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Advanced Menu Properties: what becomes of what is typed and pasted.
 
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Advanced Menu Properties: its controls, their names and order, and its size.
 
 #include <QGroupBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Default Menu Properties: what is filled in, and what OK and Cancel do with it.
 
 #include "default_prop_desk.h"

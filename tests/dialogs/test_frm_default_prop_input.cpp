@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Default Menu Properties: what becomes of what is typed, pasted and picked.
 
 #include "default_prop_desk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Default Menu Properties: its controls, their names and order, its size and its previews.
 
 #include "default_prop_desk.h"

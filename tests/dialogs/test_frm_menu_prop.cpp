@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Menu Properties: which menu is filled in, what OK and Cancel do with it, copying and the advanced
 // properties.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Menu Properties: what becomes of what is typed and picked.
 
 #include "menu_prop_desk.h"

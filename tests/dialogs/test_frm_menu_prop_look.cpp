@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Menu Properties: its controls, their names and order, and its size.
 
 #include "menu_prop_desk.h"

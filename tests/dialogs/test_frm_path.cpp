@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Select Path through its real widgets, over real folders and a disk in memory for the library.
 
 #include <QAbstractButton>

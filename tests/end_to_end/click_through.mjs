@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A visitor of the saved menu: opens the folder's page in chromium and clicks through the menu.
 //
 //     node click_through.mjs FOLDER

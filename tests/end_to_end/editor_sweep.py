@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Breaks every file operation of the editor's saving commands once.
 
 usage: editor_sweep.py SAVE_DRIVER

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Functions that the tests put into the preview page. They name an item by its accessible name, and
 // give what a visitor sees as text.
 items = () => [...document.querySelectorAll('[data-zev]')]

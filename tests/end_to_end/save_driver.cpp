@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs one saving command of the editor, without its window, on the real disk:
 //
 //     save_driver save|saveas|preview FOLDER

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The editor's main job from beginning to end, as a person does it: with keys and mouse, on a
 // display, with the real disk, browser engine and message boxes. Only the file dialogs are answered
 // from a script.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Menus of earlier products, from their files to the menu on the page: imported in the editor's
 // window, shown by the real browser engine, saved on the real disk, opened again.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A menu comes onto the pages of a site, as a person does it: made and saved in the editor, put
 // into the pages by the Menu Integrator, its code pasted by hand. Then a visitor looks at the
 // pages. Only the file dialogs are answered from a script.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every property of a menu, from the dialogs to the menu on the page: typed and chosen in the real
 // dialogs, saved on the real disk, shown by the real browser engine, opened again.
 

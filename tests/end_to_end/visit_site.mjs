@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A visitor of the site that test_integrated_site.cpp makes: opens its integrated pages in chromium, opens
 // submenus and follows links.
 //

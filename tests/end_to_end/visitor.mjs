@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A visitor with a browser: what the scripts here share that look at saved files.
 import assert from 'node:assert/strict';
 import { mkdtempSync, rmSync } from 'node:fs';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Goes through the Menu Integrator, without a display, over the real disk:
 //
 //     wizard_driver integrate|report FOLDER

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Breaks every file operation of the Menu Integrator on the site's folder once.
 
 usage: wizard_sweep.py WIZARD_DRIVER

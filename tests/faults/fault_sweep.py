@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Breaks every file operation of a saving command once and checks what is left on the disk.
 
 usage: fault_sweep.py zevmenu PROGRAM

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Proves that the fault sweep passes a careful writer and catches careless ones.
 
 usage: fault_sweep_test.py PROGRAM

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Saves on a small disk that is really full and checks what is left on it.
 
 usage: full_disk.py PROGRAM

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "html/caption_text.h"
 
 #include <gtest/gtest.h>

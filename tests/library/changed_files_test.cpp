@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "library/changed_files.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "library/program_folder.h"
 
 #include <gtest/gtest.h>
@@ -34,12 +35,15 @@ TEST(ProgramFolderTest, IsTheExecutablesFolderWhenThatHoldsTheRunTimeFilesAndIsW
     EXPECT_FALSE(files.isFolder(kUserFolder));
 }
 
-TEST(ProgramFolderTest, IsTheShareFolderBesideTheExecutablesWhenThatIsWritable) {
+TEST(ProgramFolderTest, OfAnInstallationIsTheUsersAlsoWhereTheUserMayWriteIt) {
     FakeFileSystem files;
-    files.addFile("/opt/zev/share/zevmenu-creator/zevmenu_loader.js", "");
+    files.addFile("/opt/zev/share/zevmenu-creator/zevmenu_loader.js", "loader");
+    const std::size_t fileCount = files.allFiles().size();
     const auto folder = findProgramFolder(files, "/opt/zev/bin/zevmenu", kUserFolder);
     ASSERT_TRUE(folder.isOk());
-    EXPECT_EQ(folder.value(), "/opt/zev/share/zevmenu-creator");
+    EXPECT_EQ(folder.value(), kUserFolder);
+    EXPECT_EQ(files.allFiles().at(kUserFolder + "/zevmenu_loader.js"), "loader");
+    EXPECT_EQ(files.allFiles().size(), fileCount + 1);
 }
 
 TEST(ProgramFolderTest, OfASystemWideInstallationIsTheUsersAndFilledFromIt) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/document_history.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/input_rules.h"
 
 #include <gtest/gtest.h>

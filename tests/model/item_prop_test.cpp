@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "model/item_prop.h"
 
 #include <gtest/gtest.h>

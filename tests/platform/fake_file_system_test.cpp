@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/fake/fake_file_system.h"
 
 #include <gtest/gtest.h>

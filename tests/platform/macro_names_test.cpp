@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // As after another system's headers.
 #define CopyFile CopyFileW
 #define DeleteFile DeleteFileW

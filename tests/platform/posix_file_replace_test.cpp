@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/posix/posix_file_replace.h"
 
 #include <fcntl.h>

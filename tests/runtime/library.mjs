@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the files are that pages load: LIBRARY names the folder of a build, else it is the development build's.
 import { pathToFileURL } from 'node:url';
 

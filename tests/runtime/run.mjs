@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs the tests of one folder: node run.mjs unit|browser. ENGINE names the browser: chromium (if it names
 // none), firefox or webkit. Fails, and says why, when something that the tests need is missing.
 import { spawnSync } from 'node:child_process';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Takes the registry's addresses and the makers' funding links out of package-lock.json, so that it
 // serves behind any mirror. Run it after every change of dependencies: node strip_lock.mjs [FILE]
 import { readFileSync, writeFileSync } from 'node:fs';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the build takes out of a script, and what it leaves.
 
 #include <gtest/gtest.h>

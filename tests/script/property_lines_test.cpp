@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/property_lines.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/relative_url.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opens hostile menus in the real window, with the real disk and browser engine. Every way has a
 // server of its own that must hear nothing, so that a leak has a name.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Checks that source folders include only what they may.
 
 usage: include_arrows.py ROOT

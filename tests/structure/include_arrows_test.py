@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Proves on a made-up tree that wrong includes are caught and right ones are not."""
 
 import subprocess

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Checks that every link of the manual leads somewhere, and that each of its pages can be reached.
 
 usage: manual_links_test.py HELP_FOLDER

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Checks the handwriting of the C++ sources.
 
 usage: style_check.py format ROOT
@@ -23,7 +24,7 @@ from pathlib import Path
 
 PRODUCT = ["text", "model", "script", "importers", "html", "library", "integrator", "checks",
            "messages", "platform", "recovery", "dialogs", "app", "cli"]
-OTHERS = ["bench", "fuzz", "tests"]
+OTHERS = ["bench", "fuzz", "packaging", "tests"]
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"', re.M)
 
 

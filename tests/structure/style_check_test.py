@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Proves on made-up trees that wrong names and wrong formats are caught and right ones are not.
 
 usage: style_check_test.py ROOT

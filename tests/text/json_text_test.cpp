@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "text/json_text.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Page: elements, styles, events ----
 
 function around(node, property) {

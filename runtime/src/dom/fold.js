@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- The button that stands for the top menu in a narrow window ----
 
 function adoptFold() {

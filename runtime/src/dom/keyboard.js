@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Keyboard ----
 
 function focused() {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Mouse ----
 
 // That it comes holds a box that appears under a resting mouse, and opens nothing.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- What is added, and taken away again ----
 
 function listen(target, isOn, listeners, capture) {

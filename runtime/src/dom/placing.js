@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Showing and placing ----
 
 function levelOf(link) {

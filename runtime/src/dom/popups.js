@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Links of pop-ups ----
 
 const handlers = ['onmouseover', 'onclick', 'onfocus'];

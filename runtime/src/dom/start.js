@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Submenus, pop-ups, placement and keyboard of a menu that zevmenu_loader.js drew.
 
 const shared = window.ZEVMenu?.shared;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- State: what opens, stays and closes; no element is called ----
 
 // 0 for the top menu and what is closed, 1 for the first open level.

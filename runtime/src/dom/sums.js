@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Sums: rectangles in, coordinates out; no page is needed ----
 
 const opposite = { right: 'left', left: 'right', top: 'bottom', bottom: 'top' };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Definition ----
 
 // The menu that opens from an item's link, or null.
@@ -58,6 +59,8 @@ ZEVMenu.prototype.AddRollover = function (url, out, over, target) {
 };
 
 var noMenu = { AddItem: warnOfItem, AddRollover: warnOfItem };
+
+ZEVMenu.version = '1.0.0';
 function warnOfItem() {
     warn('an item stands before any menu');
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- A menu's box and its items ----
 
 // Read in another document: as HTML in an XML page too, and before anything is fetched.

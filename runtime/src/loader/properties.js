@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ---- Checks: the value to use, or null ----
 
 function asText(value) {

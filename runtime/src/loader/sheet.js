@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 var styleText = [
     // Whether the menu is visible is the page's matter, so the host has to have that of the page's
     // style; without a box of its own it can have the rest too. Inline boxes do not take part in

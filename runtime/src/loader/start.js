@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Takes a menu definition and draws its top menu. Keeps to JavaScript 1.2 (no try, no ===), because
 // every browser ever made may meet it.
 if (typeof window.ZEVMenu == 'function') return;

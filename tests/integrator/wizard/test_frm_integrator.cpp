@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The wizard's window and its steps.
 
 #include <QAccessible>
@@ -82,6 +83,14 @@ class test_frm_integrator : public QObject {
                                  "been made to the paths of the files, \n\n"),
                  qPrintable(desk.label("lblWelcome1")));
         QVERIFY(desk.label("lblWelcome1").contains("support@zevmenu.example"));
+    }
+
+    void theWelcomeNamesTheHelpEntryWhereTheProgramIsOfNoSite() {
+        WizardDesk desk{VendorAddresses{}};
+        QVERIFY2(desk.label("lblWelcome1")
+                     .endsWith("\n\nPlease tell us about problems: Help > Support & Upgrades tells "
+                               "how."),
+                 qPrintable(desk.label("lblWelcome1")));
     }
 
     void theKindsOfMenuAndTheTooltips() {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the wizard is told in its first three steps.
 
 #include <QApplication>

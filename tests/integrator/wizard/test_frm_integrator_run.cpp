@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The wizard's work: the run over the pages, its report, and the code to paste.
 
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QApplication>
@@ -58,7 +59,8 @@ class OddDisabledFields {
 
 /// The wizard over the pages "/site/a.htm" and "/site/b.htm" and the library in "/site/js".
 struct WizardDesk {
-    WizardDesk() {
+    explicit WizardDesk(const VendorAddresses& addresses = vendorAddresses("zevmenu.example"))
+        : vendor(addresses) {
         disk.addFile("/site/a.htm", kPage);
         disk.addFile("/site/b.htm", kPage);
         for (const char* name : {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"})
@@ -166,7 +168,8 @@ struct WizardDesk {
     WatchedDisk disk;
     FakeMessageBox messages{failWizardTest};
     FakeCommonDialogs dialogs{failWizardTest};
-    frmIntegrator wizard{{disk, messages, dialogs, "", "/me/runs"}, {"/"}, nullptr};
+    VendorAddresses vendor;
+    frmIntegrator wizard{{disk, messages, dialogs, "", "/me/runs", vendor}, {"/"}, nullptr};
 };
 
 }  // namespace zev

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What axe-core, a checker of accessibility, says of the menu: nothing, whatever is open.
 import axe from 'axe-core';
 import assert from 'node:assert/strict';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu for visitors with special wishes, on paper and on a phone.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The page's style and the menu's: neither changes the other, whatever the page's own style sheet does. Compared
 // are all computed styles of every element of the menu, and of the page.
 import assert from 'node:assert/strict';

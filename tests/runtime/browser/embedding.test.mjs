@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu in a page without inline scripts: the loader names the definition, an element the place.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

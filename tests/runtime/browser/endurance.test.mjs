@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A menu opened and closed 10,000 times: nothing is left of it. So many openings with real input would take an
 // hour; the events are made in the page, by the same targets and in the same order (growth.test.mjs has 300
 // openings by real keys). What a page holds is counted by support_counts.mjs.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The button that stands for the top menu in a narrow window.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

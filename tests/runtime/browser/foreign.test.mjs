@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pages whose scripts and markup change what the browser gives to all scripts.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Clicks in a frame of the menu's page, around the frame that holds the menu, and beside it.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What use leaves behind. Chromium itself counts the nodes and listeners that are alive; the other engines do
 // not tell, there the page counts its elements, and what it was asked to listen to.
 import assert from 'node:assert/strict';

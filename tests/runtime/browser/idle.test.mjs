@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the menu does while nobody uses it. Work is counted: elements made, callbacks asked for.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu under a real keyboard. The ids are those of the table in runtime/README.md.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a visitor can do before the second file of the library has arrived.
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What tells a visitor which items open something, which are dead, which box is which, and where he is.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Mistakes in definitions and pages, and sizes beyond reason: one warning each, never an exception.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Submenus, rollovers and pop-ups under a real mouse.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Menus where there is little room: a submenu never lies over its opener, and a list opens in itself.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

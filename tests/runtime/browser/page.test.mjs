@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The library as part of a page: what it adds, what it bears, and where its files lie.
 import assert from 'node:assert/strict';
 import { copyFileSync, mkdirSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';

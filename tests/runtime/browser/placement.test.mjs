@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where submenus stand in pages that scroll in boxes, are zoomed, or are as narrow as a phone.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu in a page with a strict Content-Security-Policy or Trusted Types, and with the doctype of XHTML.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

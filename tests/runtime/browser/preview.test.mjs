@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preview page's list of pop-up links.
 import assert from 'node:assert/strict';
 import { copyFileSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every property of a definition has its visible effect.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

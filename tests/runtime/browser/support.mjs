@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the browser tests share: one browser, a web server on this machine that serves the library
 // and the pages of a test, and questions about what a visitor sees.
 import { readFile } from 'node:fs/promises';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a page holds, counted by the page itself, in functions put in place of the browser's own before the library
 // comes.
 import { engine, script } from './support.mjs';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Starts the browser that ENGINE names: chromium (if nothing is named), firefox or webkit. Whatever a
 // browser writes goes into a folder of its own, which close() removes.
 import { once } from 'node:events';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small WebDriver client for WebKit: the part of a puppeteer page that the tests use, under the same
 // names, as HTTP requests to WebKitWebDriver. Only url() differs: it gives a promise.
 

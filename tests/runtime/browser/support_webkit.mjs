@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Starts WebKit: a display of its own, the driver on a free port, and the browser that the driver starts.
 import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';

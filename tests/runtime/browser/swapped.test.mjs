@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pages that draw their parts anew by script: the bar under the mouse, or the whole body with another menu.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

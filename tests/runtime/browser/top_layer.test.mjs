@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu in dialogs and popovers, which browsers draw above everything else.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu under a finger, and under clicks that no pointer made.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

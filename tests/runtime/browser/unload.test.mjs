@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A menu taken away from the page again, at every moment of its use: nothing that it added is left.
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu in parts of a page that are hidden for a time: drawers, tabs, pages that wait for their fonts, paper.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';

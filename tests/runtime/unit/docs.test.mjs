@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The page for web authors tells of every property, with pictures made from the lines it shows.
 import { parse } from 'acorn';
 import assert from 'node:assert/strict';

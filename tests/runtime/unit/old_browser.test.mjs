@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The two files that browsers without a DOM read: their language, and what they write there.
 import { parse } from 'acorn';
 import assert from 'node:assert/strict';

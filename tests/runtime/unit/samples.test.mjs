@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sample definitions are what the editor writes, so that opening and saving changes nothing.
 import assert from 'node:assert/strict';
 import { existsSync, readFileSync, readdirSync } from 'node:fs';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a visitor's browser loads: the sources, small. The loader alone delays the first paint.
 import { parse, tokenizer } from 'acorn';
 import assert from 'node:assert/strict';

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sums of zevmenu_dom.js, run in node without a page.
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
