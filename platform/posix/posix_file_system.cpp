@@ -50,7 +50,7 @@ FileOutcome openForReading(const std::string& path, PosixDescriptor& file) {
 
 /// Makes the folder and what is missing above it. Only the user can look into it, also where it was
 /// there before.
-FileOutcome makePrivateFolder(const std::string& path) {
+FileOutcome ensurePrivateFolder(const std::string& path) {
     const std::string above = std::filesystem::path(path).parent_path().string();
     std::error_code error;
     std::filesystem::create_directories(above, error);
@@ -180,7 +180,7 @@ FileOutcome PosixFileSystem::backUpFile(const std::string& path, const std::stri
 
 FileResult<std::unique_ptr<GrowingFile>> PosixFileSystem::makePrivateFile(const std::string& path) {
     const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    if (const FileOutcome error = makePrivateFolder(folder.string()))
+    if (const FileOutcome error = ensurePrivateFolder(folder.string()))
         return *error;
     PosixDescriptor file;
     int error = openDescriptor(path, O_WRONLY | O_CREAT | O_EXCL | O_APPEND, 0600, file);
