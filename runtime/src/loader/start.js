@@ -28,7 +28,7 @@ function emptyState() {
         // actingLink       the pop-up link that a key or tap is to open
         // over             { box, link } under the mouse
         // opening          timer of what the mouse is on
-        // lastPoint        { x, y } of the mouse
+        // last             { x, y } of the mouse
         // crossing         { from, timer } of a mouse on its way to a submenu
     };
 }
