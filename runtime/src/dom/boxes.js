@@ -42,7 +42,8 @@ function isList(box) {
 // What kind of box it is; it loses the place that it had.
 function shape(box, className, role = 'menu') {
     box.className = className;
-    Object.assign(box.style, { pointerEvents: '', width: '', maxWidth: '', maxHeight: '', overflowY: '', left: '', top: '' });
+    Object.assign(box.style,
+        { pointerEvents: '', width: '', maxWidth: '', maxHeight: '', overflowY: '', left: '', top: '' });
     const isRow = !isList(box);
     mark(box, { role, 'aria-orientation': isRow == (role == 'menubar') ? null : isRow ? 'horizontal' : 'vertical' });
 }

@@ -17,7 +17,7 @@ function emptyState() {
         // drawing          timer of draw
         // fold             media query: the top menu is a button
         // foldLink         of that button
-        // isAsked          by a click that came too early
+        // isAsked          that button was clicked too early
         // bar              the page's element around the top menu
         // barBox           the top menu
         // layer            the page's element around the submenus
