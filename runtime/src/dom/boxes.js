@@ -27,7 +27,7 @@ function isRtlAt(node) {
 }
 
 function isOpen(link) {
-    return link.getAttribute('aria-expanded') == 'true';
+    return link.matches('[aria-expanded=true]');
 }
 
 // An attribute of null is taken away.
@@ -40,8 +40,11 @@ function isList(box) {
     return box.matches('.list');
 }
 
+// What kind of box it is; it loses the place that it had.
 function shape(box, className, role = 'menu') {
     box.className = className;
+    Object.assign(box.style,
+        { pointerEvents: '', width: '', maxWidth: '', maxHeight: '', overflowY: '', left: '', top: '' });
     const isRow = !isList(box);
     mark(box, { role, 'aria-orientation': isRow == (role == 'menubar') ? null : isRow ? 'horizontal' : 'vertical' });
 }

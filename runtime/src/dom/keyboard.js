@@ -34,11 +34,11 @@ function open(link, event) {
 }
 
 function moveTo(target) {
-    const depth = depthAt(target), child = levels[depth], hadOpen = levels.length;
+    const depth = depthAt(target), child = levels[depth], wasOpen = levels.length;
     // An accordion stays open below the item.
     if (!child || !isInside(child)) close(depth);
     target.focus();
-    if (!depth && hadOpen && (!child || !isInside(child))) openSubmenu(target);
+    if (!depth && wasOpen && (!child || !isInside(child))) openSubmenu(target);
 }
 
 function nextLink(link, reading) {
@@ -59,8 +59,8 @@ function onArrow(link, direction) {
 
 function goBeyond(link, reading) {
     const first = depthAt(link) && levels[0].opener;
-    const isGridEnd = boxAt(link).matches('.grid') && !isBeside(reading);
-    const next = first?.zevItem && !isGridEnd && nextLink(first, reading);
+    const isEdge = boxAt(link).matches('.grid') && !isBeside(reading);
+    const next = first?.zevItem && !isEdge && nextLink(first, reading);
     if (next) moveTo(next);
 }
 

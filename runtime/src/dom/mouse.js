@@ -26,7 +26,7 @@ function pressOn(link) {
 }
 
 function hasAddress(link) {
-    return !['', '#', null].includes(link.getAttribute('href'));
+    return /[^#]/.test(link.getAttribute('href') || '');
 }
 
 function onClick(event) {

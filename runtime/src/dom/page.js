@@ -8,9 +8,8 @@ function listen(target, isOn, listeners, capture) {
 
 // The documents of a page and its frames, as far as they are the site's own.
 function documentsIn(page) {
-    if (!page) return [];
-    const frames = [...page.querySelectorAll('iframe,frame')];
-    return [page, ...frames.flatMap(frame => documentsIn(frame.contentDocument))];
+    return page ? [page, ...[...page.querySelectorAll('iframe,frame')]
+        .flatMap(frame => documentsIn(frame.contentDocument))] : [];
 }
 
 function closeAll() {
@@ -49,6 +48,7 @@ shared.adoptBar = function () {
     attend(state.bar, true);
     const { bar, barBox } = state, label = setting(barBox.zevMenu, 'label');
     mark(barBox, { 'aria-label': label });
+    mark(barBox.parentNode, { dir: isRtlAt(bar) ? 'rtl' : null });
     promote(barBox, 'menubar');
     if (!bar.closest('nav,[role=navigation]')) mark(bar, { role: 'navigation', 'aria-label': label });
     adoptFold();

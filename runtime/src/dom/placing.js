@@ -16,9 +16,6 @@ function rectOf(node) {
     return new DOMRect(x * zoom, y * zoom, width * zoom, height * zoom);
 }
 
-// What takes the place of a box in the layer away again.
-const unplaced = { width: '', maxWidth: '', maxHeight: '', overflowY: '', left: '', top: '' };
-
 // Into the layer, or into the line of an item. What is moved would lose the focus.
 function move(box, home, next) {
     if (box.parentNode == home) return;
@@ -38,7 +35,7 @@ function lay({ box, isFolded }, frame) {
     shape(box, isFolded ? 'list flat' : box.zevShape);
     move(box, homeOf(state.layer), null);
     box.hidden = false;
-    Object.assign(box.style, unplaced, { maxWidth, width: isFolded ? maxWidth : '' });
+    Object.assign(box.style, { maxWidth, width: isFolded ? maxWidth : '' });
 }
 
 // Where the level is to stand. One that is inside its parent keeps the size it had outside.
@@ -79,17 +76,16 @@ function placeLevel(level) {
 function placeInside({ box, opener }) {
     shape(box, 'list flat inside');
     box.hidden = false;
-    Object.assign(box.style, unplaced);
     move(box, opener.parentNode, opener.nextSibling);
 }
 
-// After an accordion has grown or shrunk: the box around it, and of that the part where `shown` is.
-function settle(shown) {
-    const holder = levels.filter(level => !isInside(level)).pop();
+// After an accordion has grown or shrunk: the box around it, and of that the part where `level` is.
+function settle(level) {
+    const holder = levels.filter(other => !isInside(other)).pop();
     if (!holder) return;
     placeLevel(holder);
     // Of what is longer than the box around it the start.
-    if (shown) [shown.box, shown.opener].forEach(part => part.scrollIntoView({ block: 'nearest' }));
+    if (level) [level.box, level.opener].forEach(part => part.scrollIntoView({ block: 'nearest' }));
 }
 
 function fade({ menu, box }, isOn) {
@@ -137,7 +133,6 @@ function show(level) {
     follow(level);
     placeLevel(level);
     if (isInside(level)) settle(level);
-    box.style.pointerEvents = '';
     tell(level, true, level.side);
     if (levels.length == 1) watch(true);
     fade(level, true);
@@ -156,7 +151,6 @@ function hide(level) {
         // In its place on the page, which shows it when the button does not.
         box.zevFading?.cancel();
         shape(box, box.zevShape, 'menubar');
-        Object.assign(box.style, unplaced);
         box.hidden = state.fold.matches;
         homeOf(state.bar).append(box);
     } else {

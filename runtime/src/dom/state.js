@@ -52,8 +52,8 @@ shared.closePopup = function (of) {
 };
 
 function pointAt(box, link, point) {
-    const { over: was, lastPoint: before, crossing } = state;
-    state.lastPoint = point;
+    const { over: was, last: before, crossing } = state;
+    state.last = point;
     if (!box || (was?.box == box && was.link == link && !crossing)) return;
     state.over = { box, link };
     // On its way to a submenu the mouse may cross other items.
@@ -87,7 +87,7 @@ function uncross() {
 }
 
 function pointAway() {
-    state.lastPoint = state.over = null;
+    state.last = state.over = null;
     uncross();
     keep(0);
 }

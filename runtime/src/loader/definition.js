@@ -19,7 +19,7 @@ function ZEVMenu(name) {
     var id = this.zevId = asText(name) || '';
     this.zevItems = [];
     this.zevCount = 0;          // of all items; a mistaken one keeps its number
-    this.zevFile = script && /^[^:]+:\/\//.test(script.src) ? script.src : '';
+    this.zevFolder = script && /^[^:]+:\/\//.test(script.src) ? folderOf(script.src) : '';
     if (id == '0') takeOver(this);
     if (!/^(0|[1-9]\d*(i[1-9]\d*)*)$/.test(id)) {
         warn('"' + id + '" is not a menu id');
@@ -65,11 +65,11 @@ function warnOfItem() {
     warn('an item stands before any menu');
 }
 
-// URL() throws at some hosts, which follow two slashes.
+// URL() throws at some hosts, which follow two slashes, and takes long.
 function resolve(menu, url) {
     url = url.replace(/^[\x00- ]+|[\x00-\x1f]/g, '');
-    return !menu.zevFile || url == '' || /^([#?]|[\\\/][\\\/]|[a-z][a-z0-9+.\-]*:)/i.test(url) ? url
-        : new URL(url, menu.zevFile).href;
+    return !menu.zevFolder || /^([#?]|[\\\/]{2}|[a-z][\w+.\-]*:|$)/i.test(url) ? url
+        : /^\w/.test(url) ? menu.zevFolder + url : new URL(url, menu.zevFolder).href;
 }
 
 // "pages/our_team.html" is "our team".

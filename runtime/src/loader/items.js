@@ -118,7 +118,7 @@ function buildBox(menu) {
 function addFold(home, menu) {
     var width = setting(menu, 'fold'), label = setting(menu, 'label'), looks = Object.create(menu), box;
     if (!width) return;
-    // Its HTML.
+    // The label is text, a caption is HTML.
     looks.zevItems = [{ caption: new Option(label).innerHTML, id: '0' }];
     box = home.appendChild(buildBox(looks));
     box.className = 'fold';

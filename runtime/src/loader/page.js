@@ -5,8 +5,8 @@ function drawTop() {
     var menu = state.menus['0'];
     if (!state.bar || !state.bar.isConnected || state.barBox || !menu || !menu.zevItems.length) return;
     var home = shared.homeOf(state.bar);
-    // For its marks; all else goes by the style itself.
-    if (getComputedStyle(home).direction == 'rtl') home.dir = 'rtl';
+    // For its marks, and without asking for a style yet; the second file does.
+    if (document.dir == 'rtl') home.dir = 'rtl';
     addFold(home, menu);
     state.barBox = home.appendChild(buildBox(menu));
     state.barBox.hidden = state.fold && state.fold.matches;
@@ -103,10 +103,14 @@ window.ZEVMenu = ZEVMenu;
 window.zev_state = window.zev_state || {};
 window.zevmenu = noMenu;
 
+function folderOf(url) {
+    return url.replace(/[^\/]*([?#].*)?$/, '');
+}
+
 var own = currentScript();
 var definition = own && own.getAttribute('data-definition');
 var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
-if (prefix == '' && own) prefix = own.src.replace(/[^\/]*([?#].*)?$/, '');
+if (prefix == '' && own) prefix = folderOf(own.src);
 
 // What the page trusts this file with holds for those that it asks for.
 function load(url) {

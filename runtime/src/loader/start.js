@@ -18,7 +18,7 @@ function emptyState() {
         // drawing          timer of draw
         // fold             media query: the top menu is a button
         // foldLink         of that button
-        // isAsked          by a click that came too early
+        // isAsked          that button was clicked too early
         // bar              the page's element around the top menu
         // barBox           the top menu
         // layer            the page's element around the submenus
@@ -29,7 +29,7 @@ function emptyState() {
         // actingLink       the pop-up link that a key or tap is to open
         // over             { box, link } under the mouse
         // opening          timer of what the mouse is on
-        // lastPoint        { x, y } of the mouse
+        // last             { x, y } of the mouse
         // crossing         { from, timer } of a mouse on its way to a submenu
     };
 }

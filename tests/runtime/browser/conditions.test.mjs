@@ -2,7 +2,7 @@
 // The menu for visitors with special wishes, on paper and on a phone.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, engine, hover, nested, printedColours, shown, startLab, style, waitShown }
+import { boxRect, enforceMedia, engine, hover, nested, printedColours, rect, shown, startLab, style, waitShown }
     from './support.mjs';
 
 let lab, page;
@@ -58,15 +58,26 @@ test('the rules for paper, put in force on the screen, show the top menu only', 
     await lab.show();
     await hover(page, 'Products', 'Boats');
     assert.equal(await shown(page, 'Home', 'Boats'), 'Home Boats');
-    await page.evaluate(() => document.querySelectorAll('[data-zev]').forEach(({ shadowRoot }) => {
-        for (const { media } of shadowRoot.adoptedStyleSheets.flatMap(sheet => [...sheet.cssRules])) {
-            if (media?.mediaText == 'print') media.mediaText = 'screen';
-        }
-    }));
+    await enforceMedia(page, 'print');
     assert.equal(await shown(page, 'Home', 'Boats'), 'Home');
 });
 
 const skip = engine == 'webkit' && 'WebKit on Linux forces no colours';
+
+// What a visitor tells things by where colours are forced: an edge of the box, the mark, the ring around the focus,
+// each as [what it is, colour of it, colour it stands on].
+function edges(page) {
+    return page.evaluate(names => {
+        const roots = [...document.querySelectorAll('[data-zev]')].map(host => host.shadowRoot);
+        const find = name => roots.map(root => root.querySelector(`a[aria-label="${name}"]`)).find(Boolean);
+        const canvas = getComputedStyle(document.documentElement).backgroundColor;
+        const [opener, inside] = names.map(find), box = getComputedStyle(inside.closest('ul'));
+        const mark = getComputedStyle(opener, '::before'), ring = getComputedStyle(inside);
+        return [['edge', box.outlineStyle, box.outlineColor, canvas],
+                ['mark', mark.borderTopStyle, mark.borderTopColor, getComputedStyle(opener).backgroundColor],
+                ['ring', ring.outlineStyle, ring.outlineColor, ring.backgroundColor]];
+    }, ['Products', 'Boats']);
+}
 
 test('with forced colours every item can still be told from its background', { skip }, () =>
     inLab({ forcedColours: true }, async (lab, page) => {
@@ -77,3 +88,34 @@ test('with forced colours every item can still be told from its background', { s
             assert.notEqual(await style(page, name, 'color'), await style(page, name, 'backgroundColor'), name);
         }
     }));
+
+test('with forced colours boxes have an edge, and marks and the focus can be seen', { skip }, () =>
+    inLab({ forcedColours: true }, async (lab, page) => {
+        await lab.show({ definition: "zev_state.menuborder = 'none';" + nested });
+        for (const key of ['Tab', 'ArrowRight', 'ArrowDown']) await page.keyboard.press(key);
+        await waitShown(page, 'Boats');
+        for (const [what, line, colour, ground] of await edges(page)) {
+            assert.equal(line, 'solid', what);
+            assert.notEqual(colour, ground, what);
+            assert.doesNotMatch(colour, /^rgba\(.*, 0\)$/, what);
+        }
+    }));
+
+test('rows of text are at least 44 px high for a finger', { skip: engine == 'webkit' &&
+    'WebKit on Linux has no coarse pointer; see the next test' }, () =>
+    inLab({ coarsePointer: true }, async (lab, page) => {
+        await lab.show({ width: 360, height: 568, hasTouch: true });
+        assert.equal(await page.evaluate(() => matchMedia('(pointer:coarse)').matches), true);
+        assert.ok((await rect(page, 'Home')).height >= 44);
+    }));
+
+test('the rule for a finger, put in force, makes rows of text 44 px high, and not those of pictures', async () => {
+    await lab.show({ definition: nested + "zevmenu.AddRollover('picture.html', 'picture.svg', '', '');" });
+    assert.ok((await rect(page, 'Home')).height < 44);
+    await enforceMedia(page, '(pointer:coarse)');
+    assert.ok((await rect(page, 'Home')).height >= 44);
+    await hover(page, 'Contact');
+    await waitShown(page, 'Map');
+    assert.ok((await rect(page, 'Map')).height >= 44);
+    assert.ok((await rect(page, 'picture')).height < 44);
+});

@@ -2,7 +2,7 @@
 // The button that stands for the top menu in a narrow window.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, engine, focus, hover, isNamed, isShown, item, nested, pause,
+import { boxRect, enforceMedia, engine, focus, hover, isNamed, isShown, item, nested, pause,
     printedColours, rect, shown, startLab, until, waitAt, waitGone, waitShown } from './support.mjs';
 
 let lab, page;
@@ -188,8 +188,9 @@ test('an open menu is closed when the window gets wide, and is a bar again', asy
     assert.equal(await isShown(page, 'Boats'), false);
 });
 
-test('printed, it is a list, whether open or closed', { skip: engine != 'chromium' &&
-    'only Chromium prints for a test' }, async () => {
+const cannotPrint = engine == 'webkit' && 'its driver cannot print; see the next test';
+
+test('printed, it is a list, whether open or closed', { skip: cannotPrint }, async () => {
     await lab.show({ ...narrow, definition: folding.replace("zevmenu = new ZEVMenu('0');",
         "zevmenu = new ZEVMenu('0'); zevmenu.nbgcolor = '#123456';") });
     assert.ok((await printedColours(page)).has('18 52 86'));
@@ -197,4 +198,13 @@ test('printed, it is a list, whether open or closed', { skip: engine != 'chromiu
     await waitShown(page, 'Home');
     assert.ok((await printedColours(page)).has('18 52 86'));
     assert.equal(await shown(page, label, 'Boats'), label);
+});
+
+test('the rules for paper, put in force on the screen, show a list without the button', async () => {
+    await lab.show(narrow);
+    await enforceMedia(page, 'print');
+    assert.equal(await shown(page, label, 'Boats', ...all), all.join(' '));
+    const rows = [];
+    for (const name of all) rows.push((await rect(page, name)).top);
+    assert.equal(new Set(rows).size, 3);
 });

@@ -95,6 +95,8 @@ const keyRows = [
     ['K12', 'a letter that no name begins with does nothing', nested, 'x', 'Home', ''],
     ['K13', 'Space opens a submenu', nested, 'ArrowRight Space', 'Boats', 'Boats'],
     ['K13', 'Enter opens the submenu of an item without a link', grid, 'ArrowDown Enter', 'A', 'A'],
+    ['K13', 'Enter opens the submenu of an item whose link leads nowhere', nested.replace("'products.html'", "'#'"),
+        'ArrowRight Enter', 'Boats', 'Boats'],
     ['K15', 'Escape goes back to the parent item', nested,
         'ArrowRight ArrowDown ArrowRight Escape', 'Boats', 'Boats'],
     ['K15', 'Escape goes back to the top menu', nested, 'ArrowRight ArrowDown Escape', 'Products', ''],
@@ -202,6 +204,22 @@ for (const [what, before, keys] of openers) {
         });
     }
 }
+
+test('K18: Arrow Up on the link of a pop-up opens it, to its last item', async () => {
+    await lab.show(popup);
+    await press('Tab', 'ArrowUp');
+    assert.equal(await focus(page), 'Oars');
+});
+
+test('K19: Tab on the link of an open pop-up closes it, and goes on', async () => {
+    await lab.show(popup);
+    await page.hover('#link');
+    await waitShown(page, 'Boats');
+    await page.focus('#link');
+    await press('Tab');
+    assert.equal(await focus(page), 'after');
+    assert.equal(await shown(page, ...everything), '');
+});
 
 test('K18: Enter follows the link of a pop-up that has an address, Space and Arrow Down open it', async () => {
     await lab.show({ ...popup, before: popup.before.replace('href=""', 'href="away.html"') });

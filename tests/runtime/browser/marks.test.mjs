@@ -2,7 +2,7 @@
 // What tells a visitor which items open something, which are dead, which box is which, and where he is.
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, engine, focus, hover, isNamed, isShown, item, nested, pause, rect, shown, source, startLab, style,
+import { boxRect, focus, hover, isNamed, isShown, item, nested, pause, rect, shown, source, startLab, style,
     until, waitShown } from './support.mjs';
 
 let lab, page;
@@ -326,11 +326,4 @@ test('the text is in the middle of its row', async () => {
         return [text.top - row.top, row.bottom - text.bottom];
     });
     assert.ok(Math.abs(above - below) <= 1.5, `${above} ${below}`);
-});
-
-test('rows of text are at least 44 px high for a finger', { skip: engine != 'chromium' &&
-    'only Chromium lets a test have a coarse pointer' }, async () => {
-    await lab.show({ width: 360, height: 568, hasTouch: true });
-    assert.equal(await page.evaluate(() => matchMedia('(pointer:coarse)').matches), true);
-    assert.ok((await rect(page, 'Home')).height >= 44);
 });

@@ -190,6 +190,16 @@ test('a press inside a submenu closes nothing', async () => {
     await page.mouse.up();
 });
 
+test('a click on an item whose link leads nowhere keeps its submenu open, and the page where it is', async () => {
+    await lab.show({ definition: nested.replace("'products.html'", "'#'") });
+    await hover(page, 'Products');
+    await waitShown(page, 'Boats');
+    await (await item(page, 'Products')).click();
+    await pause(100);
+    assert.equal(await isShown(page, 'Boats'), true);
+    assert.equal(await page.url(), lab.origin + '/site/page.html');
+});
+
 test('a click follows the link of an item, with or without a submenu', async () => {
     for (const [path, url] of [[['Products'], 'products.html'], [['Products', 'Oars'], 'oars.html']]) {
         await lab.show();

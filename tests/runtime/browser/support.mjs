@@ -308,6 +308,18 @@ export async function isNamed(page, selector, name) {
         .includes(true);
 }
 
+/*
+ * Puts those rules of the library's style sheets in force that are for another medium: `media` as the sheet
+ * says it, without spaces. For what an engine's driver cannot change.
+ */
+export function enforceMedia(page, media) {
+    return page.evaluate(wanted => document.querySelectorAll('[data-zev]').forEach(({ shadowRoot }) => {
+        for (const { media } of shadowRoot.adoptedStyleSheets.flatMap(sheet => [...sheet.cssRules])) {
+            if (media?.mediaText.replace(/ /g, '') == wanted) media.mediaText = 'all';
+        }
+    }), media);
+}
+
 // The fill colours on the printed page, each as "r g b" with r, g and b from 0 to 255.
 export async function printedColours(page) {
     const bytes = Buffer.from(await page.pdf({ printBackground: true }));

@@ -21,13 +21,14 @@ const launchers = {
         args: [...chromiumArguments, ...reducedMotion ? ['--force-prefers-reduced-motion'] : [],
                ...forcedColours ? ['--force-high-contrast'] : []],
     }),
-    firefox: (profile, { reducedMotion, forcedColours }) => puppeteer.launch({
+    firefox: (profile, { reducedMotion, forcedColours, coarsePointer }) => puppeteer.launch({
         browser: 'firefox', executablePath: process.env.FIREFOX || '/usr/bin/firefox-esr', headless: true,
         userDataDir: profile, timeout, extraPrefsFirefox: {
             // As for visitors: the driver would let pages from the disk read each other.
             'security.fileuri.strict_origin_policy': true,
             'ui.prefersReducedMotion': reducedMotion ? 1 : 0,
             'browser.display.document_color_use': forcedColours ? 2 : 1,
+            ...coarsePointer && { 'ui.primaryPointerCapabilities': 1, 'ui.allPointerCapabilities': 1 },
             // On a busy machine a tap can take long, and is a tap all the same.
             'apz.max_tap_time': timeout, 'ui.click_hold_context_menus.delay': timeout,
         },
@@ -37,7 +38,8 @@ const launchers = {
 
 /*
  * Options: reducedMotion, for a visitor who wants less motion; forcedColours (not in webkit), for one who
- * has chosen few colours for all pages; awaitsLoad, false where a test asks a page that has not loaded yet.
+ * has chosen few colours for all pages; coarsePointer (in firefox; chromium goes by hasTouch), for one who has
+ * nothing finer than a finger; awaitsLoad, false where a test asks a page that has not loaded yet.
  * Gives { browser, close }.
  */
 export async function startBrowser(options = {}) {
