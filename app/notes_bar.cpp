@@ -126,8 +126,10 @@ void NotesBar::fillList(const NoteList& list) {
 
 /// The buttons of the list's current note. Those of a detail are its note's.
 void NotesBar::showActions() {
-    for (QPushButton* button : std::exchange(m_buttons, {}))
+    for (QPushButton* button : std::exchange(m_buttons, {})) {
+        button->hide();
         button->deleteLater();  // it may be the one that was pressed
+    }
     int row = m_list->currentRow();
     if (row < 0 || row >= static_cast<int>(m_shown.size()))
         return;
