@@ -36,6 +36,8 @@ NotesBar::NotesBar(EditorNotes& notes, QWidget* parent)
       m_actionRow(new QHBoxLayout) {
     setObjectName("Notes");
     setAccessibleName(tr("Notes"));
+    // What room there is belongs to the tree.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     m_line->keepOneLine();
     m_list->setObjectName("NotesList");
     m_list->setAccessibleName(tr("List of notes"));

@@ -32,18 +32,19 @@ NoteList EditorNotes::notes(std::size_t most) const {
     const auto add = [&](const NoteList& list) {
         all.count += list.count;
         for (const Note& note : list.notes)
-            if (all.notes.size() < kMaxNoteRows)
+            if (all.notes.size() < most)
                 all.notes.push_back(note);
     };
     for (std::size_t index = 0; index < m_lists.size(); ++index) {
         const auto kind = static_cast<NoteKind>(index);
         if (!isShown(kind))
             continue;
-        add(m_lists[index]);
+        // First of its kind: it is done with one click, beside the line.
         if (kind == NoteKind::Opened)
             add(leftDefaultsNotes(m_leftDefaults, m_document.DefaultProp(),
                                   [this](MenuProp kept) { keepDefaults(std::move(kept)); }));
-        else if (kind == NoteKind::Value)
+        add(m_lists[index]);
+        if (kind == NoteKind::Value)
             add(m_problems.valueNotes(most));
         else if (kind == NoteKind::Unkept)
             add(unkeptNotes(m_problems.unkeptValues()));

@@ -27,7 +27,7 @@ class EditorNotes : public QObject, private FileListener, private DocumentObserv
                 RunStep runStep);
     ~EditorNotes() override;
 
-    /// How many notes there are; the first `most` of them or a few more, in the order of the kinds.
+    /// How many notes there are, and the first `most` rows of them in the order of the kinds.
     NoteList notes(std::size_t most) const;
 
     /// Tools > Check Menu: looks for the files that links and images lead to.

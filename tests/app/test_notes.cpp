@@ -176,7 +176,8 @@ class test_notes : public QObject {
             kMenu, replaced(replaced(menuBytes({"Tea"}), "closedelay = 500", "closedelay = 1200"),
                             "menuoffset = 1", "menuoffset = 3"));
         open(desk, kMenu);
-        clickNote(desk, "did not come back");
+        QCOMPARE(notesLine(desk),
+                 "2 notes: Close Delay 1200 and Offset 3 of the file did not come back");
         pressNote(desk, "Keep Close Delay 1200 and Offset 3");
         QCOMPARE(desk.document().DefaultProp().CloseDelay, std::string("1200"));
         QCOMPARE(desk.document().DefaultProp().MenuOffset, std::string("3"));
