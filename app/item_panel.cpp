@@ -167,8 +167,12 @@ void ItemPanel::ShowItem(const MenuNode* node) {
         (item.IsRollover ? optRollover : optNormal)->setChecked(true);
         setRolloverMode(item.IsRollover);
     }
+    const bool isShownAlready = std::exchange(m_shown, node) == node;
     for (const Field& field : m_fields)
-        field.edit->showValue(item.*field.member);
+        if (isShownAlready)
+            field.edit->showAgain(item.*field.member);
+        else
+            field.edit->showValue(item.*field.member);
     m_isShowing = false;
 }
 

@@ -116,6 +116,7 @@ class ItemPanel : public QWidget {
     EditorServices m_services;
     /// `ShowItem` is at work. A box that it disables is left, and cleaned, which is no change.
     bool m_isShowing = false;
+    const MenuNode* m_shown = nullptr;  ///< whose item it is
 
     QRadioButton* optRollover = nullptr;
     QRadioButton* optNormal = nullptr;

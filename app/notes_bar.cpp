@@ -36,6 +36,8 @@ NotesBar::NotesBar(EditorNotes& notes, QWidget* parent)
       m_actionRow(new QHBoxLayout) {
     setObjectName("Notes");
     setAccessibleName(tr("Notes"));
+    // What room there is belongs to the tree.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     m_line->keepOneLine();
     m_list->setObjectName("NotesList");
     m_list->setAccessibleName(tr("List of notes"));
@@ -126,8 +128,10 @@ void NotesBar::fillList(const NoteList& list) {
 
 /// The buttons of the list's current note. Those of a detail are its note's.
 void NotesBar::showActions() {
-    for (QPushButton* button : std::exchange(m_buttons, {}))
+    for (QPushButton* button : std::exchange(m_buttons, {})) {
+        button->hide();
         button->deleteLater();  // it may be the one that was pressed
+    }
     int row = m_list->currentRow();
     if (row < 0 || row >= static_cast<int>(m_shown.size()))
         return;

@@ -44,8 +44,10 @@ void StripLine::keepOneLine() {
 }
 
 void StripLine::say(const QString& text, std::vector<Action> actions) {
-    for (QPushButton* button : std::exchange(m_buttons, {}))
+    for (QPushButton* button : std::exchange(m_buttons, {})) {
+        button->hide();
         button->deleteLater();  // it may be the one that was pressed
+    }
     m_label->setText(text);
     m_label->setToolTip(m_label->wordWrap() ? QString() : text.toHtmlEscaped());
     for (Action& action : actions) {

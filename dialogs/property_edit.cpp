@@ -66,6 +66,17 @@ void PropertyEdit::showValue(const std::string& value) {
     m_isBroughtBack = false;
 }
 
+void PropertyEdit::showAgain(const std::string& value) {
+    if (m_refusedText.isEmpty() || text() != m_checkedText ||
+        m_checkedText != QString::fromStdString(value)) {
+        showValue(value);
+        return;
+    }
+    setCursorPosition(0);
+    m_shownText = text();
+    m_shownValue = value;
+}
+
 std::string PropertyEdit::value() const {
     return text() == m_shownText ? m_shownValue : text().toStdString();
 }

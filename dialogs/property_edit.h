@@ -42,6 +42,9 @@ class PropertyEdit : public QLineEdit {
 
     /// Shows a stored value (UTF-8); `edited` is not emitted.
     void showValue(const std::string& value);
+    /// The same for the value of what is shown already: the text that the check made it of can
+    /// still be had back.
+    void showAgain(const std::string& value);
     /// The text (UTF-8). While the box still shows what `showValue` put there, this is that very
     /// value, so that no text a box cannot hold (a line break) is damaged by being looked at.
     std::string value() const;

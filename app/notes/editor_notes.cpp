@@ -32,16 +32,19 @@ NoteList EditorNotes::notes(std::size_t most) const {
     const auto add = [&](const NoteList& list) {
         all.count += list.count;
         for (const Note& note : list.notes)
-            if (all.notes.size() < kMaxNoteRows)
+            if (all.notes.size() < most)
                 all.notes.push_back(note);
     };
     for (std::size_t index = 0; index < m_lists.size(); ++index) {
-        add(m_lists[index]);
         const auto kind = static_cast<NoteKind>(index);
+        if (!isShown(kind))
+            continue;
+        // First of its kind: it is done with one click, beside the line.
         if (kind == NoteKind::Opened)
             add(leftDefaultsNotes(m_leftDefaults, m_document.DefaultProp(),
                                   [this](MenuProp kept) { keepDefaults(std::move(kept)); }));
-        else if (kind == NoteKind::Value)
+        add(m_lists[index]);
+        if (kind == NoteKind::Value)
             add(m_problems.valueNotes(most));
         else if (kind == NoteKind::Unkept)
             add(unkeptNotes(m_problems.unkeptValues()));
@@ -49,6 +52,12 @@ NoteList EditorNotes::notes(std::size_t most) const {
             add(m_problems.linkNotes(most));
     }
     return all;
+}
+
+/// Undo may lead to a document that is as empty as this one, and has another file.
+bool EditorNotes::isShown(NoteKind kind) const {
+    return (kind != NoteKind::Opened && kind != NoteKind::ChangedOnDisk) ||
+           m_document.SaveFile() == m_file;
 }
 
 void EditorNotes::checkMenu() {
@@ -69,6 +78,7 @@ void EditorNotes::keepDefaults(MenuProp kept) const {
 }
 
 void EditorNotes::opened(const OpenedFile& file) {
+    m_file = file.path;
     m_leftDefaults = leftDefaults(file.bytes);
     set(NoteKind::Opened, openedNotes(file, m_document.content()));
     lookAtLinks();
@@ -100,6 +110,7 @@ void EditorNotes::changedOnDisk(const std::string& kept) {
     // What was kept of it stays at hand until it is decided on.
     if (kept.empty() && !m_keptVersion.empty())
         return;
+    m_file = m_document.SaveFile();
     m_keptVersion = kept;
     set(NoteKind::ChangedOnDisk,
         changedFileNotes(m_document.SaveFile(), kept,
@@ -112,7 +123,8 @@ void EditorNotes::changedOnDisk(const std::string& kept) {
                               m_keptVersion.clear();
                               m_fileCommands.keepMine();
                           },
-                          [this] { showDifferences(); }}));
+                          // With what is typed.
+                          [this] { m_runStep("", [this] { showDifferences(); }); }}));
 }
 
 void EditorNotes::sameOnDisk() {

@@ -27,7 +27,7 @@ class EditorNotes : public QObject, private FileListener, private DocumentObserv
                 RunStep runStep);
     ~EditorNotes() override;
 
-    /// How many notes there are; the first `most` of them or a few more, in the order of the kinds.
+    /// How many notes there are, and the first `most` rows of them in the order of the kinds.
     NoteList notes(std::size_t most) const;
 
     /// Tools > Check Menu: looks for the files that links and images lead to.
@@ -49,6 +49,7 @@ class EditorNotes : public QObject, private FileListener, private DocumentObserv
     void previewed() override;
 
     void contentReplaced() override;
+    void fileChanged() override { emit changed(); }
     void inserted() override { touched(); }
     void removed() override { touched(); }
     void itemChanged(const MenuNode& node) override;
@@ -63,6 +64,7 @@ class EditorNotes : public QObject, private FileListener, private DocumentObserv
     void keepDefaults(MenuProp kept) const;
     void scriptFailed(const ScriptError& error);
     void setField(const std::string& step, const NotePlace& place, const std::string& value);
+    bool isShown(NoteKind kind) const;
     NoteList& listOf(NoteKind kind) { return m_lists[static_cast<std::size_t>(kind)]; }
 
     MenuDocument& m_document;
@@ -72,6 +74,7 @@ class EditorNotes : public QObject, private FileListener, private DocumentObserv
     MenuProblemNotes m_problems;
     /// Of those kinds that say what was so when something happened.
     std::array<NoteList, kNoteKindCount> m_lists;
+    std::string m_file;  ///< that the notes about a file are about
     LeftDefaults m_leftDefaults;
     std::string m_keptVersion;  ///< as in `FileListener::changedOnDisk`
 };

@@ -27,6 +27,9 @@ using Owner = NotePlace::Owner;
 constexpr std::size_t kMaxComparedBytes = std::size_t{64} << 20;
 constexpr std::ptrdiff_t kMaxComparedLines = 1'000'000;
 
+/// More would leave no room for other notes.
+constexpr std::size_t kMaxDetails = 200;
+
 /// A line of a file, or a value, as far as it is shown.
 std::string quoted(std::string_view text) {
     constexpr std::size_t kMaxShownBytes = 200;
@@ -42,9 +45,21 @@ std::string counted(std::size_t count, const std::string& one, const std::string
     return count == 1 ? "1 " + one : std::to_string(count) + ' ' + several;
 }
 
-void addDetail(NoteList& list, std::string text) {
-    if (list.notes.size() < kMaxNoteRows)
-        addNote(list, {.kind = list.notes.front().kind, .text = std::move(text), .isDetail = true});
+/// `texts` are the first of `count` details.
+void addDetails(NoteList& list, NoteKind kind, std::vector<std::string> texts, std::size_t count) {
+    if (count > texts.size())
+        texts.push_back("and " + std::to_string(count - texts.size()) + " more");
+    for (std::string& text : texts)
+        addNote(list, {.kind = kind, .text = std::move(text), .isDetail = true});
+}
+
+/// The first of these in words.
+template <typename Things, typename ToText>
+std::vector<std::string> firstTexts(const Things& things, const ToText& toText) {
+    std::vector<std::string> texts;
+    for (std::size_t index = 0; index < std::min(things.size(), kMaxDetails); ++index)
+        texts.push_back(toText(things[index]));
+    return texts;
 }
 
 void append(NoteList& list, NoteList&& more) {
@@ -58,11 +73,11 @@ NoteList warningNotes(NoteKind kind, const std::string& text,
                       const std::vector<LineWarning>& warnings, std::size_t count) {
     NoteList list;
     addNote(list, {.kind = kind, .text = text});
-    for (const LineWarning& warning : warnings)
-        addDetail(list, "line " + std::to_string(warning.line) + ": " +
-                            std::string(reasonText(warning.reason)));
-    if (count > warnings.size())
-        addDetail(list, "and " + std::to_string(count - warnings.size()) + " more");
+    const auto toText = [](const LineWarning& warning) {
+        return "line " + std::to_string(warning.line) + ": " +
+               std::string(reasonText(warning.reason));
+    };
+    addDetails(list, kind, firstTexts(warnings, toText), count);
     return list;
 }
 
@@ -97,8 +112,7 @@ NoteList changedLineNotes(const std::string& bytes, std::string newBytes) {
         addNote(list, {.kind = NoteKind::Opened,
                        .text = "Saving will change the encoding: the file is Windows-1252, and "
                                "becomes UTF-8"});
-    for (const LineChange& change : changes)
-        addDetail(list, changeText(change));
+    addDetails(list, NoteKind::Opened, firstTexts(changes, changeText), changes.size());
     return list;
 }
 
@@ -164,8 +178,8 @@ NoteList importedNotes(const ImportedFile& file, const MenuContent& content) {
     const std::vector<LineWarning>& warnings = file.result.warnings;
     if (!warnings.empty())
         append(list, warningNotes(NoteKind::Imported,
-                                  counted(warnings.size(), "line was", "lines were") +
-                                      " not imported as it stands",
+                                  counted(warnings.size(), "line was not imported as it stands",
+                                          "lines were not imported as they stand"),
                                   warnings, warnings.size()));
     return list;
 }
@@ -191,13 +205,12 @@ NoteList differenceNotes(const MenuContent& mine, const std::string& otherBytes)
     loadUnkeptDefaults(otherBytes, other.DefaultProp);
     const std::vector<MenuDifference> differences = compareMenus(mine, other);
     NoteList list;
-    const auto add = [&list](std::string text) {
-        addNote(list, {.kind = NoteKind::ChangedOnDisk, .text = std::move(text), .isDetail = true});
-    };
     if (differences.empty())
-        add("its version has the same menu");
-    for (const MenuDifference& difference : differences)
-        add("its version: " + differenceText(difference));
+        addDetails(list, NoteKind::ChangedOnDisk, {"its version has the same menu"}, 1);
+    const auto toText = [](const MenuDifference& difference) {
+        return "its version: " + differenceText(difference);
+    };
+    addDetails(list, NoteKind::ChangedOnDisk, firstTexts(differences, toText), differences.size());
     return list;
 }
 

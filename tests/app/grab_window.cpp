@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Takes a picture of each tab of the editor's window and of each property dialog, to be looked at
-// by a person:
+// Takes a picture of each tab of the editor's window, of the opened list of notes and of each
+// property dialog, to be looked at by a person:
 //
 //     grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT]
 //
@@ -74,6 +74,13 @@ int main(int argc, char** argv) {
         QTest::qWait(tabs->tabText(tab) == "Preview" ? 4000 : 300);
         grab(window, tabs->tabText(tab).toLower(), arguments.at(2), isDark);
     }
+
+    tabs->setCurrentIndex(0);
+    for (auto* button : window.findChild<QWidget*>("Notes")->findChildren<QAbstractButton*>())
+        if (button->isVisible() && button->text() == "Show Notes")
+            button->click();
+    QTest::qWait(300);
+    grab(window, "notes", arguments.at(2), isDark);
 
     const auto grabDialog = [&](QDialog& dialog) {
         dialog.move(0, 0);

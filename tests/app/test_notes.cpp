@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QMenu>
 
 #include "notes_hands.h"
 #include "tests/support/document_steps.h"
@@ -19,7 +20,7 @@ std::string menuBytes(const std::vector<std::string>& captions) {
         ItemProp item;
         item.MenuProperty = newItemMenuProp();
         item.Caption = caption;
-        content.tree.append(nullptr, "KeyLoad " + caption, caption, std::move(item));
+        content.tree.append(nullptr, std::to_string(content.tree.size()), "", std::move(item));
     }
     return definitionFileBytes(GenerateScript(content));
 }
@@ -67,9 +68,8 @@ class test_notes : public QObject {
 
     void theLineOpensToTheListAndCloses() {
         WindowDesk desk;
-        desk.add("Tea");
-        desk.add("Tea");
-        desk.add("Tea");
+        for (int count = 0; count < 3; ++count)
+            desk.click(desk.add("Tea"));
         QCOMPARE(notesLine(desk),
                  "2 notes: Tea: caption: an item before it in the menu has the same: \"Tea\"");
         QCOMPARE(noteButtons(desk), "Show Notes");
@@ -176,7 +176,8 @@ class test_notes : public QObject {
             kMenu, replaced(replaced(menuBytes({"Tea"}), "closedelay = 500", "closedelay = 1200"),
                             "menuoffset = 1", "menuoffset = 3"));
         open(desk, kMenu);
-        clickNote(desk, "did not come back");
+        QCOMPARE(notesLine(desk),
+                 "2 notes: Close Delay 1200 and Offset 3 of the file did not come back");
         pressNote(desk, "Keep Close Delay 1200 and Offset 3");
         QCOMPARE(desk.document().DefaultProp().CloseDelay, std::string("1200"));
         QCOMPARE(desk.document().DefaultProp().MenuOffset, std::string("3"));
@@ -246,12 +247,13 @@ class test_notes : public QObject {
         desk.click(top);
         clickNote(desk, "the menu of Tea: itemborder: no border");
         bool wasFocused = false;
+        auto* menuForm = desk.window.findChild<frmMenuProp*>();
         whenShown<frmAdvProp>([&](frmAdvProp& form) {
             QTRY_VERIFY(fieldOf(form, "txtItemBorder").hasFocus());
             wasFocused = true;
             typeInto(form, "txtItemBorder", "");
             press(form, "cmdOK");
-            whenShown<frmMenuProp>([](frmMenuProp& menu) { press(menu, "cmdOK"); });
+            QTimer::singleShot(0, menuForm, [menuForm] { press(*menuForm, "cmdOK"); });
         });
         pressNote(desk, "Go to Field");
         QVERIFY(wasFocused);
@@ -413,7 +415,7 @@ class test_notes : public QObject {
 
     void theLinesThatAnImportRefusedAreListed() {
         WindowDesk desk;
-        desk.disk.addFile("/site/bar.txt", "::Deep\n:Home\n");
+        desk.disk.addFile("/site/bar.txt", "::Deep\n");
         desk.dialogs.expectOpenFile("/site/bar.txt");
         desk.messages.expect("Finished importing /site/bar.txt. 1 warnings encountered.");
         desk.choose("mnuFileImportOrletBar");
@@ -525,17 +527,25 @@ class test_notes : public QObject {
 
     void theListShowsAThousandRowsAndSaysHowManyMore() {
         WindowDesk desk;
-        desk.disk.addFile(
-            kMenu, menuBytes({}) + "zevmenu = new ZEVMenu('0');\r\n" + [] {
-                std::string items;
-                for (int item = 0; item < 1500; ++item)
-                    items += "zevmenu.AddItem('', '', '');\r\n";
-                return items;
-            }());
+        desk.disk.addFile(kMenu, menuBytes(std::vector<std::string>(1500)));
         open(desk, kMenu);
         const QStringList rows = noteRows(desk);
         QCOMPARE(rows.size(), 1001);
-        QCOMPARE(rows.last(), "and 501 more");
+        QCOMPARE(rows.last(), "and 500 more");
+    }
+
+    void theLinesOfOneNoteLeaveRoomForTheOthers() {
+        WindowDesk desk;
+        std::string bytes;
+        for (int line = 0; line < 3000; ++line)
+            bytes += "// " + std::to_string(line) + "\n";
+        desk.disk.addFile(kMenu, bytes + menuBytes({"Tea", ""}));
+        open(desk, kMenu);
+        const QStringList rows = noteRows(desk);
+        QCOMPARE(rows[1], "Saving will change 3000 lines");
+        QCOMPARE(rows.filter("goes").size(), 200);
+        QCOMPARE(rows.filter("2800 more").size(), 1);
+        QCOMPARE(rows.last(), "?: caption: is empty");
     }
 
     /// The time limit, of a machine that is busy and a build that is slow, is far below what

@@ -290,7 +290,6 @@ TEST_F(FindBrokenLinks, OfAMenuThatNobodyAskedAboutStayNearItsFolder) {
               "/srv/site/sub/page.html\n");
     EXPECT_EQ(watched.read,
               "/srv/site/page.html\n"
-              "/srv/site/sub/../page.html\n"
               "/srv/site/sub/page.html\n");
 }
 
