@@ -81,8 +81,9 @@ double medianAddMs(int itemCount) {
 }
 
 struct KeepingMs {
-    double median;
-    double longest;
+    double whole;   ///< of the whole menu, as when it is opened
+    double median;  ///< of what a command changed
+    double most;    ///< 99 of 100 commands take no longer
 };
 
 /// Milliseconds that keeping a command on the disk takes.
@@ -94,13 +95,15 @@ KeepingMs keepingMs(int itemCount) {
     document.open(menuOf(itemCount));
     const auto history = std::make_unique<zev::DocumentHistory>(document);
     zev::DocumentKeeper keeper(document, *history, store, [] { return 0; });
+    QElapsedTimer timer;
+    timer.start();
     bool isKept = !keeper.keep();
+    const double whole = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     std::vector<double> milliseconds;
     for (int round = 0; round < kKeptCommands; ++round) {
         history->begin();
         zev::addMenuItem(document);
         history->end("Add Menu Item");
-        QElapsedTimer timer;
         timer.start();
         isKept = !keeper.keep() && isKept;
         milliseconds.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
@@ -108,7 +111,8 @@ KeepingMs keepingMs(int itemCount) {
     if (!isKept)
         qFatal("nothing is kept");
     std::sort(milliseconds.begin(), milliseconds.end());
-    return {milliseconds[milliseconds.size() / 2], milliseconds.back()};
+    return {whole, milliseconds[milliseconds.size() / 2],
+            milliseconds[milliseconds.size() * 99 / 100]};
 }
 
 }  // namespace
@@ -122,7 +126,8 @@ int main(int argc, char** argv) {
     std::printf("Add Menu Item among 20,000: %.2f ms, among 20: %.2f ms, ratio %.2f\n", large,
                 small, large / small);
     const KeepingMs keeping = keepingMs(20000);
-    std::printf("Kept on the disk among 20,000: %.3f ms, at most %.3f ms of %d commands\n",
-                keeping.median, keeping.longest, kKeptCommands);
+    std::printf(
+        "Kept on the disk among 20,000: %.3f ms a command, 99 of 100 within %.3f ms; all %.1f ms\n",
+        keeping.median, keeping.most, keeping.whole);
     return 0;
 }

@@ -13,8 +13,7 @@ namespace zev {
 namespace {
 
 /// First lines of the run-time files; those of the scripts are written by the build.
-constexpr std::string_view kMarks[] = {"(function(){//ZEVMenu",
-                                       "<!DOCTYPE html><!-- ZEVMenu -->"};
+constexpr std::string_view kMarks[] = {"(function(){//ZEVMenu", "<!DOCTYPE html><!-- ZEVMenu -->"};
 
 /// Given out before they had their mark.
 constexpr BuiltFile kUnmarkedFiles[] = {

@@ -2,8 +2,9 @@
 // Takes a picture of each tab of the editor's window, of the opened list of notes and of each
 // property dialog, to be looked at by a person:
 //
-//     grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT]
+//     grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT] [--unsaved FOLDER]
 //
+// "--unsaved": where an editor has left unsaved menus, for the line that offers them.
 // QT_SCALE_FACTOR=2 gives the pictures of a 200 % display; a virtual display (Xvfb) does. The
 // definition's folder receives the preview's files.
 
@@ -46,7 +47,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3)
-        qFatal("grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT]");
+        qFatal(
+            "grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT] [--unsaved FOLDER]");
     const bool isDark = arguments.contains("--dark");
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(isDark ? darkPalette() : lightPalette());
@@ -68,6 +70,10 @@ int main(int argc, char** argv) {
     window.show();
     window.openDefinition(QFileInfo(arguments.at(1)).absoluteFilePath().toStdString());
 
+    const qsizetype unsaved = arguments.indexOf("--unsaved");
+    if (unsaved > 0)
+        window.keepUnsavedMenus(arguments.at(unsaved + 1).toStdString());
+
     auto* tabs = window.findChild<QTabWidget*>("MenuTab");
     for (int tab = 0; tab < tabs->count(); ++tab) {
         tabs->setCurrentIndex(tab);
@@ -88,6 +94,15 @@ int main(int argc, char** argv) {
         grab(dialog, dialog.objectName(), arguments.at(2), isDark);
     };
     tabs->setCurrentIndex(0);
+    for (auto* button : window.findChild<QWidget*>("Recovery")->findChildren<QAbstractButton*>()) {
+        if (button->text() != "Show Changes")
+            continue;
+        whenShown<QDialog>([&](QDialog& changes) {
+            grabDialog(changes);
+            changes.reject();
+        });
+        button->click();
+    }
     whenShown<QDialog>([&](QDialog& defaults) {
         grabDialog(defaults);
         defaults.reject();

@@ -66,6 +66,7 @@ class test_frm_main : public QObject {
                  "    mnuFileImportOrletMenu|OrletMenu|\n"
                  "    mnuFileImportOrletButton|OrletButton|\n"
                  "  mnuFileExit|E&xit|\n"
+                 "  mnuFileRestore|&Restore Unsaved Menu\n"
                  "mnuEdit|&Edit\n"
                  "  mnuEditDefault|&Default Menu Properties|F8\n"
                  "  mnuEditMenuProperties|M&enu Properties|F2\n"

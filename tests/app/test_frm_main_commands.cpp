@@ -78,6 +78,10 @@ class test_frm_main_commands : public QObject {
         desk.add("a");
         desk.saveAs("/site/menu.js");
         const std::string saved = desk.disk.allFiles().at("/site/menu.js");
+        for (const char* const name :
+             {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "orlet_temp.html"})
+            desk.disk.addFile(std::string("/site/") + name,
+                              "(function(){//ZEVMenu\nof an earlier version");
         desk.type("txtURL", "it's");
         desk.disk.setWritable("/site", false);
         desk.messages.expect(

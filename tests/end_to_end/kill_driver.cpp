@@ -113,7 +113,7 @@ class Editor {
             case 7:
                 return press(Qt::Key_Y);
             case 8:
-                return press(Qt::Key_S);
+                return below(4) == 0 ? press(Qt::Key_S) : type("txtTarget");
             case 9:
                 return press(below(2) == 0 ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier);
             case 10:
