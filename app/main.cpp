@@ -47,8 +47,7 @@ void describeArguments(QCommandLineParser& parser) {
 
 /// The folder that holds the run-time files. Without them the editor still runs, and each save says
 /// which file is missing.
-std::string programFolder(FileSystem& files, MessageBox& messages,
-                          const std::string& userFolder) {
+std::string programFolder(FileSystem& files, MessageBox& messages, const std::string& userFolder) {
     const std::string executable = QCoreApplication::applicationFilePath().toStdString();
     const FileResult<std::string> folder = findProgramFolder(files, executable, userFolder);
     if (folder.isOk())
@@ -67,8 +66,7 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     auto* browser = new QtBrowserView;
     const std::string userFolder =
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
-    const EditorServices services{fileSystem, messages, dialogs, shell,
-                                  help,       *browser, userFolder};
+    const EditorServices services{fileSystem, messages, dialogs, shell, help, *browser, userFolder};
 
     frmMain window(services, programFolder(fileSystem, messages, userFolder), browser);
     // Ends the program also while the manual's window is open.

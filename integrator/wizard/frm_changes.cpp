@@ -1,8 +1,8 @@
 #include "integrator/wizard/frm_changes.h"
 
 #include <QCheckBox>
-#include <QHeaderView>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -63,8 +63,8 @@ void frmChanges::showPages(const ChangesToShow& changes) {
     table->horizontalHeader()->setResizeContentsPrecision(0);
     table->resizeColumnsToContents();
     for (const int column : {PageChangesModel::Page, PageChangesModel::Scripts})
-        table->setColumnWidth(column, std::min(table->columnWidth(column),
-                                               30 * fontMetrics().averageCharWidth()));
+        table->setColumnWidth(
+            column, std::min(table->columnWidth(column), 30 * fontMetrics().averageCharWidth()));
     table->horizontalHeader()->setStretchLastSection(true);
     if (table->model()->rowCount() > 0)
         table->setCurrentIndex(table->model()->index(0, 0));
@@ -94,10 +94,10 @@ void frmChanges::showScripts(const ChangesToShow& changes, const WizardAnswers& 
     const std::vector<std::string>& kept = answers.keptScripts;
     for (const auto& [name, pageCount] : scriptsThatGo(changes.survey)) {
         const QString text = QString::fromStdString(name);
-        auto* item = new QListWidgetItem(
-            pageCount == 1 ? tr("%1 (1 page)").arg(text)
-                           : tr("%1 (%2 pages)").arg(text).arg(pageCount),
-            m_scripts);
+        auto* item =
+            new QListWidgetItem(pageCount == 1 ? tr("%1 (1 page)").arg(text)
+                                               : tr("%1 (%2 pages)").arg(text).arg(pageCount),
+                                m_scripts);
         item->setData(kNameRole, text);
         const bool isKept = std::find(kept.begin(), kept.end(), name) != kept.end();
         item->setCheckState(isKept ? Qt::Checked : Qt::Unchecked);
@@ -119,9 +119,10 @@ void frmChanges::showSkipping(const ChangesToShow& changes, const WizardAnswers&
     const auto count =
         std::count_if(changes.survey.begin(), changes.survey.end(),
                       [](const SurveyedPage& page) { return !page.canBeIntegrated(); });
-    m_chkSkip = addCheckBox(
-        "chkSkipPages", count == 1 ? tr("&Skip the page that cannot be integrated")
-                                   : tr("&Skip these %1 pages that cannot be integrated").arg(count));
+    m_chkSkip =
+        addCheckBox("chkSkipPages",
+                    count == 1 ? tr("&Skip the page that cannot be integrated")
+                               : tr("&Skip these %1 pages that cannot be integrated").arg(count));
     m_chkSkip->setChecked(count > 0 && (!changes.wasSeen || answers.skipsFailing));
     m_chkSkip->setVisible(count > 0);
 }

@@ -210,9 +210,8 @@ bool frmPlace::lookForPlaces() {
     std::vector<std::string> places;
     std::map<std::string, std::size_t> countOfPlace;
     const bool isWhole = forEachPage(tr("Looking for places"), [&](const std::string& name) {
-        const FileResult<std::string> page =
-            m_files.readFile(pagePath(m_flow.pages().folder, name),
-                             std::numeric_limits<std::uint64_t>::max());
+        const FileResult<std::string> page = m_files.readFile(
+            pagePath(m_flow.pages().folder, name), std::numeric_limits<std::uint64_t>::max());
         if (!page.isOk())
             return;
         for (const std::string& place : possiblePlaces(page.value()))
@@ -253,8 +252,9 @@ void frmPlace::lookWhereItFits() {
     m_btnPlace->setEnabled(false);
     const std::optional<MenuPlacing> placing = entered();
     if (!placing) {
-        m_lblFits->setText(tr("Please enter a tag's name, #id, .class, or a tag's name with one "
-                              "of them."));
+        m_lblFits->setText(
+            tr("Please enter a tag's name, #id, .class, or a tag's name with one "
+               "of them."));
         return;
     }
     QStringList fitting;

@@ -21,7 +21,9 @@ namespace zev {
 /// The real window over a disk in memory, with the run-time files in "/program", an empty folder
 /// "/site", and services that answer from a script. Opens with a new document, shown and active.
 struct WindowDesk {
-    WindowDesk() {
+    /// `userFolder`: for what the program remembers; empty: it remembers nothing.
+    explicit WindowDesk(const std::string& userFolder = {})
+        : services{disk, messages, dialogs, shell, help, browser, userFolder} {
         for (const char* name :
              {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"})
             disk.addFile(std::string("/program/") + name, name);
@@ -164,7 +166,7 @@ struct WindowDesk {
     FakeShell shell{failQtTest};
     FakeHelpViewer help;
     FakeBrowserView browser;
-    EditorServices services{disk, messages, dialogs, shell, help, browser};
+    EditorServices services;
     frmMain window{services, "/program", new QWidget};
 
   private:

@@ -342,7 +342,7 @@ TEST(PageIntegratorTest, ScriptsThatAreDroppedAreNamedInABlockOfTheirOwn) {
 }
 
 TEST(PageIntegratorTest, ScriptsCanBeKeptByTheirNames) {
-    Desk desk({{"lib/", false, {"a.js"}}, false, false});
+    Desk desk({{"lib/", false, {}, {}, {"a.js"}}, false, false});
     desk.addPage("a.htm", "<script src=a.js></script><script src=b.js></script>.");
     desk.integrate({"a.htm"});
     EXPECT_EQ(desk.files.allFiles().at("/web/a.htm"), "<script src=a.js></script></script>.");

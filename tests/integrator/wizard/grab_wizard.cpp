@@ -1,10 +1,10 @@
-// Takes a picture of each step of the Menu Integrator and of each window that it opens, to be looked
-// at by a person and for the manual:
+// Takes a picture of each step of the Menu Integrator and of each window that it opens, to be
+// looked at by a person and for the manual:
 //
 //     grab_wizard FOLDER [--dark] [--size WIDTHxHEIGHT]
 //
-// QT_SCALE_FACTOR=2 gives the pictures of a 200 % display; QT_QPA_PLATFORM=offscreen does. The pages
-// are those of a small site, which is made for this.
+// QT_SCALE_FACTOR=2 gives the pictures of a 200 % display; QT_QPA_PLATFORM=offscreen does. The
+// pages are those of a small site, which is made for this.
 
 #include <QApplication>
 #include <QComboBox>
@@ -48,10 +48,10 @@ void makeSite(const QString& site) {
     QDir(site).mkpath("tours");
     for (const char* name : {"index.html", "about.html", "tours/boats.html", "tours/walks.html"})
         write(site + '/' + name, QByteArray(kPageStart) + name + kPageEnd);
-    write(site + "/tours/map.html", "<html><head><title>Map</title></head><frameset cols=\"1,2\">"
-                                    "<frame src=\"a.html\"></frameset></html>\n");
-    for (const char* name :
-         {"menu.js", "zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"})
+    write(site + "/tours/map.html",
+          "<html><head><title>Map</title></head><frameset cols=\"1,2\">"
+          "<frame src=\"a.html\"></frameset></html>\n");
+    for (const char* name : {"menu.js", "zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"})
         write(site + "/menu/" + name, "\n");
 }
 
@@ -84,9 +84,7 @@ struct Camera {
 
 void walk(frmIntegrator& wizard, const Camera& camera, const QString& site,
           FakeCommonDialogs& dialogs) {
-    const auto press = [&](const char* name) {
-        wizard.findChild<QPushButton*>(name)->click();
-    };
+    const auto press = [&](const char* name) { wizard.findChild<QPushButton*>(name)->click(); };
     const auto waitForWindow = [] {
         while (QApplication::activeModalWidget() != nullptr)
             QTest::qWait(20);
