@@ -130,8 +130,8 @@ void walk(frmIntegrator& wizard, const Camera& camera, const QString& site,
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 2)
-        qFatal("grab_wizard FOLDER [--dark] [--size WIDTHxHEIGHT]");
+    if (arguments.size() < 3)
+        qFatal("grab_wizard FOLDER SITE [--dark] [--size WIDTHxHEIGHT]");
     Camera camera{arguments.at(1), arguments.contains("--dark"), {}};
     const qsizetype size = arguments.indexOf("--size");
     if (size > 0) {
@@ -142,7 +142,9 @@ int main(int argc, char** argv) {
     QApplication::setPalette(camera.isDark ? darkPalette() : lightPalette());
 
     const QTemporaryDir home;
-    const QString site = home.filePath("site");
+    const QString site = QDir(arguments.at(2)).absolutePath();
+    if (QDir(site).exists())
+        qFatal("The site's folder is there already.");
     makeSite(site);
     PosixFileSystem files;
     FakeMessageBox messages;
