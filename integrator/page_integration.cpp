@@ -168,8 +168,11 @@ std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) 
                          {FileError::Code::Other, path,
                           placeReason(*status.placeProblem, *m_options.rewrite.menu)}};
     const bool hasPlaces = m_options.isRemoval || status.hasAllPlaces();
-    const bool isLeft = m_options.isDryRun || (m_options.skipsFailing && !hasPlaces) ||
-                        (m_options.isRemoval && edits.empty());
+    const bool isToStay = m_options.isRemoval && edits.empty();
+    const bool isLeft = m_options.isDryRun || isToStay || (m_options.skipsFailing && !hasPlaces);
+    // What a killed run has left goes with the next one, also when there is nothing to write.
+    if (isToStay && !m_options.isDryRun && m_files.FileExists(temporaryPath(path)))
+        m_files.DeleteFile(temporaryPath(path));
     if (!isLeft) {
         if (std::optional<PageError> error = replacePage(path, page.take(), edits))
             return error;

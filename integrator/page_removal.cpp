@@ -149,10 +149,11 @@ class PageRemover {
         const MarkedPart& menu = m_menus[m_nextMenu];
         const std::string_view content =
             m_page.substr(menu.contentBegin, menu.contentEnd - menu.contentBegin);
-        if (std::string_view element = insteadNote(content); !element.empty()) {
-            element.remove_prefix(kInsteadOpen.size());
-            element.remove_suffix(kCommentEnd.size());
-            note(Kind::ElementReplaced, begin, element);
+        if (const std::string_view comment = insteadNote(content); !comment.empty()) {
+            std::string selector(comment.substr(kInsteadOpen.size()));
+            selector.resize(selector.size() - kCommentEnd.size());
+            std::erase(selector, ' ');  // they keep its dashes apart
+            note(Kind::ElementReplaced, begin, selector);
         }
         if (const std::string_view foreign = foreignPart(content); !foreign.empty())
             note(Kind::LeftOutOfMenu, begin, foreign);

@@ -16,10 +16,16 @@ namespace zev {
 
 namespace {
 
+/// Tells what the menu stands instead of.
 std::string insteadComment(const MenuPlace& place) {
-    const std::string selector = place.text.substr(place.text.find(':') + 1);
-    // Two dashes would be an error in the comment of an XML page.
-    return std::string(kInsteadOpen) + replaceAll(selector, "--", "- -") + std::string(kCommentEnd);
+    std::string comment(kInsteadOpen);
+    for (const char character : place.text.substr(place.text.find(':') + 1)) {
+        // Two dashes would be an error in the comment of an XML page.
+        if (character == '-' && comment.back() == '-')
+            comment += ' ';
+        comment += character;
+    }
+    return comment.append(kCommentEnd);
 }
 
 /// Puts new code between the marks that are there.

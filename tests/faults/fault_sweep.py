@@ -454,6 +454,18 @@ def page_scenarios(program, work):
     (template / "site/page.htm.bak").write_bytes(b"older backup")
     yield "integrate", template, command, "site/page.htm"
 
+    place = [*command, "--place", "before:p", "--no-backup"]
+    template = new_template(work, "placed")
+    (template / "site/page.htm").write_bytes(page)
+    yield "integrate --place", template, place, "site/page.htm"
+
+    template = new_template(work, "removed")
+    (template / "site/page.htm").write_bytes(page)
+    subprocess.run([part.replace("{folder}", str(template)) for part in place],
+                   check=True, capture_output=True)
+    yield ("integrate --remove", template,
+           [program, "integrate", "--remove", "{folder}/site/page.htm"], "site/page.htm")
+
     template = new_template(work, "page-hard-link")
     (template / "site/page.htm").write_bytes(page)
     os.link(template / "site/page.htm", template / "site/other.htm")

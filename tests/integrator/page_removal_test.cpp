@@ -64,15 +64,16 @@ TEST(PageRemovalTest, AMarkedLinkKeepsWhatItHoldsByNow) {
 
 TEST(PageRemovalTest, WhatDoesNotComeBackIsTold) {
     const std::string page =
-        "<head>\n<script>own()</script>\n</head><body onload=init()>\n<nav>n</nav></body>.";
-    RewriteOptions options = {"lib/", false, PlacedMenu{*parsePlace("instead:nav"), "x"}};
+        "<head>\n<script>own()</script>\n</head><body onload=init()>\n<nav "
+        "class=a--b>n</nav></body>.";
+    RewriteOptions options = {"lib/", false, PlacedMenu{*parsePlace("instead:nav.a--b"), "x"}};
     const std::string integrated = rewritten(page, options).page;
     const PageRemoval removal = removeIntegration(integrated);
     EXPECT_EQ(withEdits(integrated, removal.edits),
               "<head>\n</script>\n</head><body onload=\"init()\">\n</body>.");
     EXPECT_EQ(removal.notes, (Notes{{Kind::ScriptDropped, 2, ""},
                                     {Kind::QuotesStay, 3, "onload"},
-                                    {Kind::ElementReplaced, 4, "nav"},
+                                    {Kind::ElementReplaced, 4, "nav.a--b"},
                                     {Kind::LeftOutOfMenu, 4, "x"}}));
 }
 
@@ -114,6 +115,11 @@ TEST(PageRemovalTest, WhatAnEditorHasSpelledAnewIsFound) {
                       "<SCRIPT src='lib/zevmenu_loader.js' language=JavaScript1.2></SCRIPT>"
                       "</HEAD><script language=\"JavaScript1.2\">\nZEVCreateMenu()\n</script>."),
               "<HEAD>\n</HEAD>.");
+}
+
+TEST(PageRemovalTest, APageWithoutAMenuHasNothingToTell) {
+    EXPECT_EQ(removeIntegration("<body onload=a()></script><script>b()</script></body>").notes,
+              Notes());
 }
 
 TEST(PageRemovalTest, OtherScriptsStay) {

@@ -88,8 +88,8 @@ TEST(PlacementTest, ScriptsInAReplacedElementGoWithIt) {
 
 TEST(PlacementTest, TheNoteOfAReplacedElementIsAComment) {
     EXPECT_EQ(placed("<p class='a--b--'></p>.", "instead:.a--b"), "<p class='a--b--'></p>.");
-    EXPECT_EQ(placed("<p class='a--b'></p>.", "instead:.a--b"),
-              kOpen + "<!-- zevmenu instead:.a- -b -->" + kCode + kClose + ".");
+    EXPECT_EQ(placed("<p class='a---b-'></p>.", "instead:.a---b-"),
+              kOpen + "<!-- zevmenu instead:.a- - -b- -->" + kCode + kClose + ".");
 }
 
 TEST(PlacementTest, APlainRunKeepsAPlacedMenuByteForByte) {

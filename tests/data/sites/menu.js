@@ -1,0 +1,10 @@
+﻿zev_state.menuoffset = 1;
+zevmenu = new ZEVMenu('0');
+zevmenu.columns = 10;
+zevmenu.position = 'bottom';
+zevmenu.AddItem('Home', 'index.html', '');
+zevmenu.AddItem('Products', '', '');
+zevmenu.AddItem('Café', 'https://example.org/café?a=1&b=2', '_top');
+zevmenu = new ZEVMenu('2');
+zevmenu.AddItem('<b>Boats</b>', '../boats.html#all', '');
+zevmenu.AddItem('Ask', 'javascript:ask()', '');
