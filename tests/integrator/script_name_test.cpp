@@ -34,12 +34,13 @@ TEST(ScriptNameTest, IsTheAddressOrTheFirstLineThatSaysSomething) {
 }
 
 TEST(ScriptNameTest, IsCutBetweenCharacters) {
-    std::string script;
-    for (int i = 0; i < 600; ++i)
-        script += "\xC3\xBC";
-    std::string name = scriptName("", script);
-    EXPECT_EQ(name.size(), 59u * 2 + 3);
-    EXPECT_EQ(name.substr(0, 118), script.substr(0, 118));
+    for (const std::string begin : {"", "\xC3\xBC", "x"}) {
+        std::string script = begin;
+        for (int i = 0; i < 600; ++i)
+            script += "\xC3\xBC";
+        const std::size_t size = begin == "x" ? 59 * 2 - 1 : 59 * 2;
+        EXPECT_EQ(scriptName("", script), script.substr(0, size) + "\xE2\x80\xA6") << begin;
+    }
 }
 
 }  // namespace
