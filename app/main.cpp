@@ -49,8 +49,7 @@ void describeArguments(QCommandLineParser& parser) {
 
 /// The folder that holds the run-time files. Without them the editor still runs, and each save says
 /// which file is missing.
-std::string programFolder(FileSystem& files, MessageBox& messages,
-                          const std::string& userFolder) {
+std::string programFolder(FileSystem& files, MessageBox& messages, const std::string& userFolder) {
     const std::string executable = QCoreApplication::applicationFilePath().toStdString();
     const FileResult<std::string> folder = findProgramFolder(files, executable, userFolder);
     if (folder.isOk())

@@ -16,7 +16,7 @@ struct PlaceArguments {
 /// Values are stored in `place` and `options`, which live as long as the command.
 void addPlaceOptions(CLI::App& command, PlaceArguments& place, IntegrateOptions& options);
 
-/// Once the arguments are taken apart.
+/// Once the arguments are taken apart. Throws CLI::ParseError when they do not go together.
 void takePlaceArguments(const PlaceArguments& place, IntegrateOptions& options);
 
 }  // namespace zev

@@ -13,8 +13,8 @@ constexpr std::string_view kLineEnds = "\r\n";
 constexpr std::string_view kEllipsis = "...";
 
 std::size_t lineStart(std::string_view page, std::size_t offset) {
-    const std::size_t end = offset == 0 ? std::string_view::npos
-                                        : page.find_last_of(kLineEnds, offset - 1);
+    const std::size_t end =
+        offset == 0 ? std::string_view::npos : page.find_last_of(kLineEnds, offset - 1);
     return end == std::string_view::npos ? 0 : end + 1;
 }
 

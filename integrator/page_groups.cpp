@@ -53,9 +53,8 @@ std::vector<ChosenFiles> pagesByFolder(const ChosenFiles& pages) {
     const char separator = Path(pages.folder).separator();
     for (const std::string& name : pages.names) {
         const std::size_t end = name.rfind(separator);
-        const std::string folder = end == std::string::npos
-                                       ? pages.folder
-                                       : pagePath(pages.folder, name.substr(0, end));
+        const std::string folder =
+            end == std::string::npos ? pages.folder : pagePath(pages.folder, name.substr(0, end));
         if (groups.empty() || groups.back().folder != folder)
             groups.push_back({folder, {}});
         groups.back().names.push_back(end == std::string::npos ? name : name.substr(end + 1));

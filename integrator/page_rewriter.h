@@ -34,12 +34,12 @@ struct IntegrationStatus {
 struct RewriteOptions {
     std::string libraryURL;          ///< in front of "zevmenu_loader.js", as it is
     bool keepsOtherScripts = false;  ///< false: scripts that do not name JavaScript are dropped
-    /// Names, as `scriptName` gives them, of scripts that stay all the same.
-    std::vector<std::string> keptScripts = {};
     std::optional<PlacedMenu> menu = {};  ///< put into the page, too; nothing: left to be pasted
     /// Takes the place of the definition's address in code that this program wrote and somebody
     /// pasted; empty: that stays.
     std::string newDefinitionURL = {};
+    /// Names, as `scriptName` gives them, of scripts that stay all the same.
+    std::vector<std::string> keptScripts = {};
 };
 
 /// What puts the menu's code into a page and takes that of an earlier run out: in the order of the

@@ -33,8 +33,7 @@ class SiteRun {
   public:
     SiteRun(FileSystem& files, const SiteRunOptions& options) : m_files(files), m_options(options) {
         if (!options.recordFolder.empty())
-            m_record =
-                std::make_unique<RunRecord>(files, options.recordFolder, options.startedAt);
+            m_record = std::make_unique<RunRecord>(files, options.recordFolder, options.startedAt);
     }
 
     SiteRunResult run(const ChosenFiles& pages, const ShouldGoOn& shouldGoOn) {
@@ -57,8 +56,8 @@ class SiteRun {
   private:
     /// False when stopped.
     bool integrate(const ChosenFiles& group, std::size_t count, const ShouldGoOn& shouldGoOn) {
-        const IntegrationURLs urls = CalculateURL(group.folder, m_options.answers.definition,
-                                                  m_options.answers.library);
+        const IntegrationURLs urls =
+            CalculateURL(group.folder, m_options.answers.definition, m_options.answers.library);
         PageIntegrator integrator(m_files, integrationOptions(m_options, urls, m_record.get()));
         bool isStopped = false;
         for (const std::string& name : group.names) {
@@ -84,8 +83,8 @@ class SiteRun {
         for (const DefinitionReference& reference : findReferences(page.value(), definitionURL)) {
             if (reference.url == definitionURL)
                 continue;
-            auto& found = reference.isWritten ? m_result.movedReferences
-                                              : m_result.foreignReferences;
+            auto& found =
+                reference.isWritten ? m_result.movedReferences : m_result.foreignReferences;
             found.push_back({path, reference.url});
         }
     }

@@ -38,12 +38,12 @@ struct EarlierReference {
 };
 
 struct SiteRunResult {
-    std::string report;         ///< lines that end in CR LF, the summary the last ones
+    std::string report;  ///< lines that end in CR LF, the summary the last ones
     RunSummary summary;
     IntegrationStatus lastPage;
-    std::string name;           ///< by which the run can be undone; empty: it changed nothing, or
-                                ///< nothing is recorded
-    FileOutcome recordError;    ///< why not all of it can be undone
+    std::string name;         ///< by which the run can be undone; empty: it changed nothing, or
+                              ///< nothing is recorded
+    FileOutcome recordError;  ///< why not all of it can be undone
     std::vector<EarlierReference> movedReferences;    ///< that this program can replace
     std::vector<EarlierReference> foreignReferences;  ///< written by hand, to another address
 };

@@ -128,7 +128,7 @@ std::string WizardFlow::libraryBeside(const std::string& definition) const {
     return m_files.FileExists(pagePath(folder, "zevmenu_loader.js")) ? folder : std::string();
 }
 
-void WizardFlow::surveyPages(const ShouldGoOn& shouldGoOn) {
+void WizardFlow::countScripts(const ShouldGoOn& shouldGoOn) {
     const std::size_t count = InputFiles.names.size();
     while (m_survey.size() < count && shouldGoOn(m_survey.size(), count))
         m_survey.push_back(
@@ -179,6 +179,7 @@ void WizardFlow::IntegratePages(const WizardAnswers& answers, const Progress& pr
     m_code = codeFor(answers);
     m_linkCode = answers.isPopup ? popupLinkCode(answers.submenuId, answers.placement) : "";
     m_runs.clear();
+    m_isUndone = false;
     run({answers}, progress);
     m_report = m_result.report;
 }
@@ -214,24 +215,27 @@ void WizardFlow::run(const SiteRunOptions& wanted, const Progress& progress) {
 }
 
 std::vector<UndoneRun> WizardFlow::undoRuns(const Progress& progress) {
+    m_isCancelled = false;
     std::vector<UndoneRun> undone;
     while (!m_runs.empty()) {
         const FileResult<UndoneRun> run =
             undoRun(m_files, m_recordFolder, m_runs.back(),
                     [&](std::size_t doneCount, std::size_t totalCount) {
                         progress(doneCount, totalCount);
-                        return true;
+                        return !m_isCancelled;
                     });
         undone.push_back(run.isOk() ? run.value() : UndoneRun{{}, {}, {run.error()}});
         if (!undone.back().isWhole())
             break;
         m_runs.pop_back();
     }
+    m_isUndone = m_runs.empty();
+    if (m_isUndone)
+        m_result = {};
     return undone;
 }
 
-FileResult<Placement> WizardFlow::placementIn(const std::string& name,
-                                              const WizardAnswers& answers,
+FileResult<Placement> WizardFlow::placementIn(const std::string& name, const WizardAnswers& answers,
                                               const MenuPlacing& placing) const {
     const std::string path = pagePath(InputFiles.folder, name);
     const FileResult<std::string> page =

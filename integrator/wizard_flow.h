@@ -111,6 +111,8 @@ class WizardFlow {
     const FileOutcome& recordError() const { return m_result.recordError; }
     /// Whether runs of this wizard can be undone.
     bool canUndo() const { return !m_runs.empty(); }
+    /// Whether the last run was undone, with what followed it.
+    bool isUndone() const { return m_isUndone; }
     /// What the last run leaves to be pasted.
     const std::string& code() const { return m_code; }
     /// The same for hyperlinks; empty for a menu in place.
@@ -128,9 +130,9 @@ class WizardFlow {
     bool setPages(const std::vector<std::string>& paths);
     /// Where the definition's folder holds the library too: that folder. Empty elsewhere.
     std::string libraryBeside(const std::string& definition) const;
-    /// Looks at the chosen pages, from where it was stopped on. One that cannot be read loses no
-    /// scripts; the report will say so.
-    void surveyPages(const ShouldGoOn& shouldGoOn);
+    /// Looks at the chosen pages, from where it was stopped on: what scripts they would lose, and
+    /// what else there is to know. One that cannot be read has none; the report will say so.
+    void countScripts(const ShouldGoOn& shouldGoOn);
     /// The person has seen what the chosen pages would lose.
     void markReviewed() { m_isReviewed = true; }
     bool isReviewed() const { return m_isReviewed; }
@@ -147,7 +149,8 @@ class WizardFlow {
                    const Progress& progress);
     /// The same to correct references to the definition's earlier place.
     void replaceReferences(const WizardAnswers& answers, const Progress& progress);
-    /// Gives the pages back as they were before the wizard's runs over them.
+    /// Gives the pages back as they were before the last run over them and what followed it. When a
+    /// page is left alone, earlier runs are not undone.
     std::vector<UndoneRun> undoRuns(const Progress& progress);
     /// Where the edits would be made in one of the chosen pages.
     FileResult<Placement> placementIn(const std::string& name, const WizardAnswers& answers,
@@ -177,6 +180,7 @@ class WizardFlow {
     bool m_isCancelled = false;
     SiteRunResult m_result;           // of the last run
     std::vector<std::string> m_runs;  // that can be undone, the oldest first
+    bool m_isUndone = false;
     std::string m_report;
     std::string m_code;
     std::string m_linkCode;

@@ -131,9 +131,8 @@ FileOutcome WizardMemory::remember(const std::string& definition, const WizardEn
     if (FileOutcome error = m_files.makeFolder(m_folder))
         return error;
     std::vector<Slot> all = listed();
-    const auto known = std::find_if(all.begin(), all.end(), [&](const Slot& slot) {
-        return slot.definition == definition;
-    });
+    const auto known = std::find_if(
+        all.begin(), all.end(), [&](const Slot& slot) { return slot.definition == definition; });
     Slot slot{"entries" + std::to_string(all.size() + 1), definition};
     if (known != all.end()) {
         slot.name = known->name;

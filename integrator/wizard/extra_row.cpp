@@ -31,8 +31,7 @@ bool ExtraRow::focusNext(QWidget& window) {
         for (auto* button : row->findChildren<QPushButton*>())
             if (button->isVisible() && button->isEnabled())
                 buttons.append(button);
-    const qsizetype next =
-        buttons.indexOf(qobject_cast<QPushButton*>(window.focusWidget())) + 1;
+    const qsizetype next = buttons.indexOf(qobject_cast<QPushButton*>(window.focusWidget())) + 1;
     if (next == buttons.size())
         return false;
     buttons[next]->setFocus(Qt::ShortcutFocusReason);

@@ -8,8 +8,8 @@ class QPushButton;
 
 namespace zev {
 
-/// A row of buttons for what can be done beside a wizard's steps. The Tab key goes through the steps
-/// alone, as people know them by heart; F6 goes to these buttons, and each has an access key.
+/// A row of buttons for what can be done beside a wizard's steps. The Tab key goes through the
+/// steps alone, as people know them by heart; F6 goes to these buttons, and each has an access key.
 class ExtraRow : public QWidget {
     Q_OBJECT
   public:

@@ -44,7 +44,10 @@ frmAddFolder::frmAddFolder(const IntegratorServices& services, const std::string
     browse->setAccessibleName(tr("Browse for a folder"));
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &frmAddFolder::chooseFolder);
-    form->addRow(QString(), browse);
+    auto* row = new QHBoxLayout;
+    row->addWidget(browse);
+    row->addStretch();
+    form->addRow(QString(), row);
     m_txtPatterns = addField(*form, "txtPatterns", tr("&Pages:"), "*.htm; *.html");
     m_txtPatterns->setToolTip(tr("Patterns of the pages' names, separated by semicolons"));
     m_txtExcluded = addField(*form, "txtExcluded", tr("&Leave out:"), QString());

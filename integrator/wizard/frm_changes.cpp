@@ -1,8 +1,8 @@
 #include "integrator/wizard/frm_changes.h"
 
 #include <QCheckBox>
-#include <QHeaderView>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -19,9 +19,10 @@ namespace {
 
 /// Of an entry of the list of scripts: the name, whole.
 constexpr int kNameRole = Qt::UserRole;
-/// Scripts, and characters of a page's line, that are seen at once.
+/// Scripts, and characters of the window and of a column at most, that are seen at once.
 constexpr int kScriptLines = 4;
-constexpr int kTableWidth = 84;
+constexpr int kWindowWidth = 100;
+constexpr int kColumnWidth = 26;
 
 }  // namespace
 
@@ -35,6 +36,7 @@ frmChanges::frmChanges(const ChangesToShow& changes, const WizardAnswers& answer
     showScripts(changes, answers);
     showSkipping(changes, answers);
     addClosingButtons();
+    resize(kWindowWidth * fontMetrics().averageCharWidth(), sizeHint().height());
 }
 
 void frmChanges::showNotes(const QStringList& notes) {
@@ -58,13 +60,12 @@ void frmChanges::showPages(const ChangesToShow& changes) {
     table->setWordWrap(false);
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    table->setMinimumWidth(kTableWidth * fontMetrics().averageCharWidth());
     // Measures what is seen, not all of thousands of rows.
     table->horizontalHeader()->setResizeContentsPrecision(0);
     table->resizeColumnsToContents();
-    for (const int column : {PageChangesModel::Page, PageChangesModel::Scripts})
-        table->setColumnWidth(column, std::min(table->columnWidth(column),
-                                               30 * fontMetrics().averageCharWidth()));
+    const int limit = kColumnWidth * fontMetrics().averageCharWidth();
+    for (int column = 0; column < PageChangesModel::kColumnCount; ++column)
+        table->setColumnWidth(column, std::min(table->columnWidth(column), limit));
     table->horizontalHeader()->setStretchLastSection(true);
     if (table->model()->rowCount() > 0)
         table->setCurrentIndex(table->model()->index(0, 0));
@@ -94,10 +95,10 @@ void frmChanges::showScripts(const ChangesToShow& changes, const WizardAnswers& 
     const std::vector<std::string>& kept = answers.keptScripts;
     for (const auto& [name, pageCount] : scriptsThatGo(changes.survey)) {
         const QString text = QString::fromStdString(name);
-        auto* item = new QListWidgetItem(
-            pageCount == 1 ? tr("%1 (1 page)").arg(text)
-                           : tr("%1 (%2 pages)").arg(text).arg(pageCount),
-            m_scripts);
+        auto* item =
+            new QListWidgetItem(pageCount == 1 ? tr("%1 (1 page)").arg(text)
+                                               : tr("%1 (%2 pages)").arg(text).arg(pageCount),
+                                m_scripts);
         item->setData(kNameRole, text);
         const bool isKept = std::find(kept.begin(), kept.end(), name) != kept.end();
         item->setCheckState(isKept ? Qt::Checked : Qt::Unchecked);
@@ -119,9 +120,10 @@ void frmChanges::showSkipping(const ChangesToShow& changes, const WizardAnswers&
     const auto count =
         std::count_if(changes.survey.begin(), changes.survey.end(),
                       [](const SurveyedPage& page) { return !page.canBeIntegrated(); });
-    m_chkSkip = addCheckBox(
-        "chkSkipPages", count == 1 ? tr("&Skip the page that cannot be integrated")
-                                   : tr("&Skip these %1 pages that cannot be integrated").arg(count));
+    m_chkSkip =
+        addCheckBox("chkSkipPages",
+                    count == 1 ? tr("&Skip the page that cannot be integrated")
+                               : tr("&Skip these %1 pages that cannot be integrated").arg(count));
     m_chkSkip->setChecked(count > 0 && (!changes.wasSeen || answers.skipsFailing));
     m_chkSkip->setVisible(count > 0);
 }

@@ -32,7 +32,6 @@ namespace {
 
 constexpr const char* kDefinitionFilter = "JavaScript files (*.js)|*.js|All Files (*.*)|*.*";
 
-
 QString hintText(const PathHint& hint) {
     const QString url = QString::fromStdString(hint.url);
     switch (hint.kind) {

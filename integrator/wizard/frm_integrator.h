@@ -70,7 +70,7 @@ class frmIntegrator : public QDialog {
     void addFolder();
     void changePageList();
     void placeMenu();
-    void replaceReferences();
+    void showReferences();
     void undoRun();
     void btnPath_Click();
     void btnMenuDef_Click();
@@ -91,6 +91,7 @@ class frmIntegrator : public QDialog {
 
     WizardAnswers answers() const;
     void showPages();
+    void useNewPages();
     void addPages(const std::vector<std::string>& paths);
     void showEntries(const WizardEntries& entries);
     void rememberEntries();
@@ -103,7 +104,6 @@ class frmIntegrator : public QDialog {
     void integrate();
     void ShowResultMessage();
     void showSummary();
-    void showLines(QStringList lines);
     void runFurther(const QString& what,
                     const std::function<void(const WizardFlow::Progress&)>& work);
     void showReport();
@@ -150,6 +150,7 @@ class frmIntegrator : public QDialog {
     QLabel* lblLinkCode = nullptr;
     QPlainTextEdit* txtLinkCode = nullptr;
     QPushButton* m_btnCopyLinkCode = nullptr;
+    QPushButton* m_btnChanges = nullptr;
     QPushButton* m_btnPlace = nullptr;
     QPushButton* m_btnReferences = nullptr;
     QPushButton* m_btnUndoRun = nullptr;

@@ -154,14 +154,17 @@ void frmIntegrator::makePagesFrame() {
     layout->addWidget(m_lblScripts);
     layout->addStretch();
     auto* row = new ExtraRow(this);
-    row->add("btnAddFolder", tr("A&dd Folder\u2026"), tr("Add a folder of pages"),
-             [this] { addFolder(); });
+    row->add(
+        "btnAddFolder", tr("A&dd Folder\u2026"), tr("Add a folder of pages"),
+        [this] { addFolder(); });
     row->add("btnPageList", tr("&List of Pages\u2026"), tr("List of pages"),
              [this] { changePageList(); });
-    row->add("btnChanges", tr("&What Will Change\u2026"), tr("What will change"), [this] {
-        surveyPages();
-        showChanges(nullptr);
-    });
+    m_btnChanges =
+        row->add("btnChanges", tr("&What Will Change\u2026"), tr("What will change"), [this] {
+            surveyPages();
+            showChanges(nullptr);
+        });
+    m_btnChanges->setEnabled(false);
     layout->addWidget(row);
 }
 
@@ -310,12 +313,12 @@ void frmIntegrator::makeCodeFrame() {
     addCode(txtLinkCode, m_btnCopyLinkCode);
     layout->addStretch();
     auto* row = new ExtraRow(this);
-    m_btnPlace = row->add("btnPlace", tr("Place &It For Me\u2026"), tr("Place the menu"),
-                          [this] { placeMenu(); });
-    m_btnUndoRun = row->add("btnUndoRun", tr("&Undo This Run"), tr("Undo this run"),
-                            [this] { undoRun(); });
-    m_btnReferences = row->add("btnReferences", tr("Replace Ea&rlier References"),
-                               tr("Replace earlier references"), [this] { replaceReferences(); });
+    m_btnPlace = row->add(
+        "btnPlace", tr("Place &It For Me\u2026"), tr("Place the menu"), [this] { placeMenu(); });
+    m_btnUndoRun = row->add(
+        "btnUndoRun", tr("&Undo This Run"), tr("Undo this run"), [this] { undoRun(); });
+    m_btnReferences = row->add("btnReferences", tr("Earlie&r References\u2026"),
+                               tr("Earlier references"), [this] { showReferences(); });
     layout->addWidget(row);
 }
 

@@ -7,11 +7,12 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QRadioButton>
 
 #include "dialogs/property_edit.h"
-#include "integrator/wizard/frm_integrator.h"
 #include "integrator/wizard/frm_changes.h"
+#include "integrator/wizard/frm_integrator.h"
 #include "integrator/wizard/frm_page_list.h"
 #include "integrator/wizard/page_sources.h"
 #include "platform/common_dialogs.h"
@@ -29,8 +30,7 @@ constexpr int kMomentMs = 500;
 void frmIntegrator::BtnInputFile_Click() {
     if (!m_flow.choosePages(m_services.dialogs.openFiles(pageRequest(m_flow.pagesFolder()))))
         return;
-    showPages();
-    surveyPages();
+    useNewPages();
 }
 
 void frmIntegrator::showPages() {
@@ -40,14 +40,21 @@ void frmIntegrator::showPages() {
     comboFiles->clear();
     comboFiles->addItems(names);
     txtPathname->setText(QString::fromStdString(m_flow.pages().folder));
+    m_btnChanges->setEnabled(!names.isEmpty());
     showHints();
+}
+
+void frmIntegrator::useNewPages() {
+    // What was answered for other pages was about those.
+    m_skipsFailing = false;
+    showPages();
+    surveyPages();
 }
 
 void frmIntegrator::addPages(const std::vector<std::string>& paths) {
     if (!m_flow.addPages(paths))
         return;
-    showPages();
-    surveyPages();
+    useNewPages();
 }
 
 void frmIntegrator::addFolder() {
@@ -58,8 +65,7 @@ void frmIntegrator::changePageList() {
     frmPageList list(m_services, m_flow.pages(), this);
     if (list.exec() != QDialog::Accepted || !m_flow.setPages(list.paths()))
         return;
-    showPages();
-    surveyPages();
+    useNewPages();
 }
 
 void frmIntegrator::dragEnterEvent(QDragEnterEvent* event) {
@@ -80,7 +86,7 @@ void frmIntegrator::surveyPages() {
     progress.setWindowTitle(windowTitle());
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(kMomentMs);
-    m_flow.surveyPages([&](std::size_t doneCount, std::size_t) {
+    m_flow.countScripts([&](std::size_t doneCount, std::size_t) {
         progress.setValue(static_cast<int>(doneCount));
         return !progress.wasCanceled();
     });
@@ -99,11 +105,10 @@ QStringList frmIntegrator::missingPaths() const {
     const auto [isLibraryMissing, isDefinitionMissing] = m_flow.missingPaths(given);
     QStringList notes;
     if (isLibraryMissing)
-        notes.append(
-            tr("The library is not in %1.").arg(QString::fromStdString(given.library)));
+        notes.append(tr("The library is not in %1.").arg(QString::fromStdString(given.library)));
     if (isDefinitionMissing)
-        notes.append(tr("There is no menu definition %1.")
-                         .arg(QString::fromStdString(given.definition)));
+        notes.append(
+            tr("There is no menu definition %1.").arg(QString::fromStdString(given.definition)));
     return notes;
 }
 
@@ -172,8 +177,9 @@ void frmIntegrator::showEntries(const WizardEntries& entries) {
         return;
     showPages();
     // Reading a long list of pages takes its time; nobody has asked for it yet.
-    m_lblScripts->setText(tr("These are the pages of the last time. Their scripts have not been "
-                             "counted yet."));
+    m_lblScripts->setText(
+        tr("These are the pages of the last time. Their scripts have not been "
+           "counted yet."));
 }
 
 void frmIntegrator::rememberEntries() {

@@ -7,7 +7,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <initializer_list>
-#include <set>
 
 #include "integrator/wizard/frm_integrator.h"
 #include "integrator/wizard/frm_place.h"
@@ -23,9 +22,8 @@ constexpr const char* kReportFilter = "Text Files (*.txt;*.log)|*.txt;*.log|All 
 
 /// A window that stands still for less than this needs no explanation.
 constexpr int kMomentMs = 500;
-/// Pages that are named in a line, and lines that are shown, on the last frame.
+/// Pages that are named in a line of the last frame.
 constexpr std::size_t kNamedPages = 3;
-constexpr qsizetype kSummaryLines = 6;
 
 QString shortList(const std::vector<std::string>& pages) {
     QStringList names;
@@ -37,13 +35,6 @@ QString shortList(const std::vector<std::string>& pages) {
         names.append(QString::fromStdString(page));
     }
     return names.join(", ");
-}
-
-std::set<std::string> pagesOf(const std::vector<EarlierReference>& references) {
-    std::set<std::string> pages;
-    for (const EarlierReference& reference : references)
-        pages.insert(reference.page);
-    return pages;
 }
 
 }  // namespace
@@ -75,13 +66,17 @@ void frmIntegrator::showReport() {
 }
 
 void frmIntegrator::ShowResultMessage() {
-    lblMsg->setText(
-        m_flow.hasSucceeded()
-            ? tr("Menu integration successful. Copy and paste the following code on the web page "
-                 "to complete the integration. Switch to HTML mode before pasting if you are using "
-                 "a WYSIWYG editor, e.g. FrontPage")
-            : tr("Menu integration failure. Verify that your input file is a valid HTML file "
-                 "containing <head></head> and <body></body> tags"));
+    if (m_flow.isUndone()) {
+        lblMsg->setText(tr("The run was undone. The pages are as they were before it."));
+    } else {
+        lblMsg->setText(
+            m_flow.hasSucceeded()
+                ? tr("Menu integration successful. Copy and paste the following code on the web "
+                     "page to complete the integration. Switch to HTML mode before pasting if you "
+                     "are using a WYSIWYG editor, e.g. FrontPage")
+                : tr("Menu integration failure. Verify that your input file is a valid HTML file "
+                     "containing <head></head> and <body></body> tags"));
+    }
     showSummary();
     // Pages that are done need the code, whatever became of the others.
     const bool hasCode = m_flow.summary().doneCount > 0;
@@ -92,10 +87,9 @@ void frmIntegrator::ShowResultMessage() {
     for (QWidget* widget :
          std::initializer_list<QWidget*>{lblLinkCode, txtLinkCode, m_btnCopyLinkCode})
         widget->setVisible(hasCode && !m_flow.linkCode().empty());
-    m_btnPlace->setEnabled(hasCode);
 }
 
-/// What became of all pages of the run, failures first.
+/// What became of all pages of the run, failures first, and what can be done now.
 void frmIntegrator::showSummary() {
     const RunSummary& summary = m_flow.summary();
     QStringList lines;
@@ -106,30 +100,20 @@ void frmIntegrator::showSummary() {
     if (!lines.isEmpty())
         lines.append(tr("%1 done").arg(summary.doneCount));
     if (const FileOutcome& error = m_flow.recordError())
-        lines.append(tr("This run cannot be undone: %1: %2")
-                         .arg(QString::fromStdString(error->path),
-                              QString::fromStdString(error->reason)));
-    if (const auto& moved = m_flow.movedReferences(); !moved.empty())
-        lines.append(tr("%1 refer to the menu at its earlier place (%2).")
-                         .arg(pagesOf(moved).size())
-                         .arg(QString::fromStdString(moved.front().url)));
-    for (const EarlierReference& reference : m_flow.foreignReferences())
-        lines.append(tr("Not written by this program, and left: %1 in %2")
-                         .arg(QString::fromStdString(reference.url),
-                              QString::fromStdString(reference.page)));
-    showLines(lines);
-    m_btnReferences->setVisible(!m_flow.movedReferences().empty());
-    m_btnUndoRun->setVisible(m_flow.canUndo());
-}
-
-void frmIntegrator::showLines(QStringList lines) {
-    if (lines.size() > kSummaryLines) {
-        const qsizetype more = lines.size() - kSummaryLines;
-        lines = lines.mid(0, kSummaryLines);
-        lines.append(tr("%1 more; the report and the page list tell all").arg(more));
-    }
+        lines.append(
+            tr("This run cannot be undone: %1: %2")
+                .arg(QString::fromStdString(error->path), QString::fromStdString(error->reason)));
+    const auto& moved = m_flow.movedReferences();
+    const auto& foreign = m_flow.foreignReferences();
+    if (!moved.empty())
+        lines.append(tr("References to the menu's earlier place: %1").arg(moved.size()));
+    if (!foreign.empty())
+        lines.append(tr("References to another menu, written by hand: %1").arg(foreign.size()));
     m_lblSummary->setText(lines.join(u'\n'));
     m_lblSummary->setVisible(!lines.isEmpty());
+    m_btnPlace->setEnabled(summary.doneCount > 0);
+    m_btnUndoRun->setVisible(m_flow.canUndo());
+    m_btnReferences->setVisible(!moved.empty() || !foreign.empty());
 }
 
 /// Runs further work over the pages, with a window that shows itself when it takes more than a
@@ -163,7 +147,20 @@ void frmIntegrator::placeMenu() {
                         : tr("The menu stands in %1 pages.").arg(m_flow.summary().doneCount));
 }
 
-void frmIntegrator::replaceReferences() {
+void frmIntegrator::showReferences() {
+    const bool canReplace = !m_flow.movedReferences().empty();
+    MessageRequest request;
+    request.text =
+        canReplace ? "Some references lead to the menu's earlier place. Replace them?"
+                   : "Some references lead to another menu. They were written by hand and stay.";
+    if (canReplace)
+        request.buttons = MessageRequest::Buttons::YesNo;
+    for (const EarlierReference& reference : m_flow.movedReferences())
+        request.details += reference.page + ": " + reference.url + "\n";
+    for (const EarlierReference& reference : m_flow.foreignReferences())
+        request.details += reference.page + ": " + reference.url + " (written by hand, stays)\n";
+    if (m_services.messages.show(request) != MessageBox::Answer::Yes)
+        return;
     runFurther(tr("Replacing earlier references"), [&](const WizardFlow::Progress& progress) {
         m_flow.replaceReferences(answers(), progress);
     });
@@ -172,16 +169,10 @@ void frmIntegrator::replaceReferences() {
 
 void frmIntegrator::undoRun() {
     std::vector<UndoneRun> undone;
-    runFurther(tr("Undoing the run"), [&](const WizardFlow::Progress& progress) {
-        undone = m_flow.undoRuns(progress);
-    });
+    runFurther(tr("Undoing the run"),
+               [&](const WizardFlow::Progress& progress) { undone = m_flow.undoRuns(progress); });
     showUndone(m_services.messages, undone);
-    if (m_flow.canUndo())
-        return;
-    lblMsg->setText(tr("The run was undone. The pages have no code that needs the lines below."));
-    m_lblSummary->hide();
-    for (QWidget* widget : {m_btnUndoRun, m_btnPlace, m_btnReferences})
-        widget->setEnabled(false);
+    ShowResultMessage();
 }
 
 void frmIntegrator::btnSaveReport_Click() {

@@ -48,8 +48,8 @@ void frmPageList::arrange() {
                            kListLines * fontMetrics().height() / 2);
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmPageList::followSelection);
-    const auto* remove = new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr,
-                                       Qt::WidgetShortcut);
+    const auto* remove =
+        new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr, Qt::WidgetShortcut);
     connect(remove, &QShortcut::activated, this, &frmPageList::removeSelected);
 
     m_lblFolder = new QLabel(this);

@@ -14,8 +14,8 @@ class QStringListModel;
 
 namespace zev {
 
-/// The list of the chosen pages, to which single ones are added and from which they are taken. Pages
-/// can be dropped on it.
+/// The list of the chosen pages, to which single ones are added and from which they are taken.
+/// Pages can be dropped on it.
 class frmPageList : public QDialog {
     Q_OBJECT
   public:

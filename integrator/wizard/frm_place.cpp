@@ -28,9 +28,9 @@ namespace {
 
 /// A window that stands still for less than this needs no explanation.
 constexpr int kMomentMs = 500;
-/// Bytes of a long line, and characters of a table, that are shown.
+/// Bytes of a long line, and characters of the window, that are shown.
 constexpr std::size_t kShownBytes = 400;
-constexpr int kTableWidth = 84;
+constexpr int kWindowWidth = 100;
 constexpr int kPageLines = 4;
 constexpr const char* kMarker = "marker";
 /// Of an entry of the list of pages: the page's name, where the menu fits.
@@ -79,6 +79,7 @@ void frmPlace::arrange() {
     layout->addWidget(makeQuestions());
     layout->addWidget(makePreview(), 1);
     addClosingButtons();
+    resize(kWindowWidth * fontMetrics().averageCharWidth(), sizeHint().height());
 }
 
 QWidget* frmPlace::makeQuestions() {
@@ -155,7 +156,6 @@ QWidget* frmPlace::makePreview() {
     m_changes->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     m_changes->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     m_changes->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
-    m_changes->setMinimumWidth(kTableWidth * fontMetrics().averageCharWidth());
     auto* changesLabel = new QLabel(tr("&Changes of the page:"), preview);
     changesLabel->setObjectName("lblChanges");
     changesLabel->setBuddy(m_changes);
@@ -210,9 +210,8 @@ bool frmPlace::lookForPlaces() {
     std::vector<std::string> places;
     std::map<std::string, std::size_t> countOfPlace;
     const bool isWhole = forEachPage(tr("Looking for places"), [&](const std::string& name) {
-        const FileResult<std::string> page =
-            m_files.readFile(pagePath(m_flow.pages().folder, name),
-                             std::numeric_limits<std::uint64_t>::max());
+        const FileResult<std::string> page = m_files.readFile(
+            pagePath(m_flow.pages().folder, name), std::numeric_limits<std::uint64_t>::max());
         if (!page.isOk())
             return;
         for (const std::string& place : possiblePlaces(page.value()))
@@ -253,8 +252,9 @@ void frmPlace::lookWhereItFits() {
     m_btnPlace->setEnabled(false);
     const std::optional<MenuPlacing> placing = entered();
     if (!placing) {
-        m_lblFits->setText(tr("Please enter a tag's name, #id, .class, or a tag's name with one "
-                              "of them."));
+        m_lblFits->setText(
+            tr("Please enter a tag's name, #id, .class, or a tag's name with one "
+               "of them."));
         return;
     }
     QStringList fitting;

@@ -45,7 +45,10 @@ QString runText(const FileSystem& files, const std::string& folder, const std::s
     const QString pagesFolder = QString::fromStdString(pages.folder);
     return pages.names.size() == 1
                ? frmUndo::tr("%1: %2").arg(date, QString::fromStdString(paths.front()))
-               : frmUndo::tr("%1: %2 pages in %3").arg(date).arg(pages.names.size()).arg(pagesFolder);
+               : frmUndo::tr("%1: %2 pages in %3")
+                     .arg(date)
+                     .arg(pages.names.size())
+                     .arg(pagesFolder);
 }
 
 }  // namespace

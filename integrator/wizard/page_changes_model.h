@@ -16,8 +16,8 @@ class PageChangesModel : public QAbstractTableModel {
     enum Column { Page, FoundBefore, Scripts, ToKnow, kColumnCount };
 
     /// `survey` may tell of less than all pages; its rows are those of the first of `names`.
-    PageChangesModel(const std::vector<std::string>& names,
-                     const std::vector<SurveyedPage>& survey, QObject* parent);
+    PageChangesModel(const std::vector<std::string>& names, const std::vector<SurveyedPage>& survey,
+                     QObject* parent);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -24,8 +24,7 @@ std::vector<std::string> pagesOfFolder(const IntegratorServices& services,
 
 /// The pages that a list or site map names, which the person chooses. Relative paths in a list
 /// count from its own folder. The person is told when there are none.
-std::vector<std::string> pagesOfList(const IntegratorServices& services,
-                                     const std::string& folder);
+std::vector<std::string> pagesOfList(const IntegratorServices& services, const std::string& folder);
 
 /// Whether all that is dragged along are files and folders.
 bool isOnlyFiles(const QMimeData& data);

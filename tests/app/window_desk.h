@@ -22,8 +22,10 @@ namespace zev {
 /// The real window over a disk in memory, with the run-time files in "/program", an empty folder
 /// "/site", and services that answer from a script. Opens with a new document, shown and active.
 struct WindowDesk {
-    explicit WindowDesk(const VendorAddresses& addresses = vendorAddresses("zevmenu.example"))
-        : vendor(addresses) {
+    /// `userFolder`: for what the program remembers; empty: it remembers nothing.
+    explicit WindowDesk(const std::string& userFolder = {},
+                        const VendorAddresses& vendor = vendorAddresses("zevmenu.example"))
+        : services{disk, messages, dialogs, shell, help, browser, userFolder, {}, vendor} {
         for (const char* name :
              {"zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js", "zevmenu.html"})
             disk.addFile(std::string("/program/") + name, name);
@@ -166,8 +168,7 @@ struct WindowDesk {
     FakeShell shell{failQtTest};
     FakeHelpViewer help;
     FakeBrowserView browser;
-    VendorAddresses vendor;
-    EditorServices services{disk, messages, dialogs, shell, help, browser, {}, {}, vendor};
+    EditorServices services;
     frmMain window{services, "/program", new QWidget};
 
   private:

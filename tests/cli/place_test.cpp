@@ -249,12 +249,18 @@ TEST(RemoveTest, DryRunTellsTheSameAndChangesNothing) {
     EXPECT_EQ(contentOf(folder / "a.htm"), kPage);
 }
 
-TEST(RemoveTest, NeedsPagesOnlyAndNoPlace) {
+TEST(RemoveTest, NeedsPagesOnlyAndNothingElseGoesWithIt) {
     const TempFolder folder;
+    makeFile(folder / "a.htm", kPage);
     EXPECT_EQ(runZevmenu({"integrate", "--remove"}, folder.path()).status, 2);
-    EXPECT_EQ(
-        runZevmenu({"integrate", "--remove", "--place", "marker", "a.htm"}, folder.path()).status,
-        2);
+    for (const Arguments& more :
+         {Arguments{"--place", "marker"}, Arguments{"--definition", "m.js"},
+          Arguments{"--library", "l"}, Arguments{"--keep-scripts"},
+          Arguments{"--popup", "A (1)", "--mouse"}, Arguments{"--replace-references"}}) {
+        Arguments arguments{"integrate", "--remove", "a.htm"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        EXPECT_EQ(runZevmenu(arguments, folder.path()).status, 2) << more[0];
+    }
     for (const Arguments& arguments :
          {Arguments{"integrate", "a.htm"}, Arguments{"integrate", "--library", "l", "a.htm"},
           Arguments{"integrate", "--definition", "m", "a.htm"}}) {

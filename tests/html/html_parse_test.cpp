@@ -264,5 +264,26 @@ TEST(HtmlAttributeTest, OfAScriptTheStartTagCounts) {
     EXPECT_EQ(loaded.page.Attribute("src"), "");
 }
 
+TEST(HtmlParseTest, KnowsWhetherATagHasAnAttribute) {
+    HtmlParse parser;
+    parser.Load("<a HREF name='' data-x=1>href<!-- href --></a>");
+    for (const char* const name : {"href", "Name", "data-x"})
+        EXPECT_TRUE(parser.hasAttribute(name)) << name;
+    for (const char* const name : {"a", "data", "x", "", "1"})
+        EXPECT_FALSE(parser.hasAttribute(name)) << name;
+    for (; !parser.IsLast();) {
+        parser.Next();
+        EXPECT_FALSE(parser.hasAttribute("href")) << parser.Source();
+    }
+}
+
+TEST(HtmlParseTest, KnowsTheElementsThatHoldTextOnly) {
+    for (const char* const name : {"script", "STYLE", "title", "textarea", "xmp", "iframe",
+                                   "noembed", "noframes", "plaintext"})
+        EXPECT_TRUE(hasRawContent(name)) << name;
+    for (const char* const name : {"", "p", "scripts", "/script", "noscript", "pre"})
+        EXPECT_FALSE(hasRawContent(name)) << name;
+}
+
 }  // namespace
 }  // namespace zev

@@ -47,8 +47,7 @@ TEST(ChangedLines, OfALongLineThePartAroundTheChangeIsShown) {
     const std::string page = std::string(500, 'a') + "XX" + std::string(500, 'b');
     EXPECT_EQ(changedLines(page, {{500, 2, "new"}}, 10),
               (Changes{{1, "...aaaaaXXbbbbb...", "...aaaaanewbbbbb..."}}));
-    EXPECT_EQ(changedLines(page, {{0, 1, "new"}}, 10),
-              (Changes{{1, "aaaaaa...", "newaaaaa..."}}));
+    EXPECT_EQ(changedLines(page, {{0, 1, "new"}}, 10), (Changes{{1, "aaaaaa...", "newaaaaa..."}}));
 }
 
 TEST(ChangedLines, WithoutEditsNothingChanges) {

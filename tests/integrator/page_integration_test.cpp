@@ -343,7 +343,7 @@ TEST(PageIntegratorTest, ScriptsThatAreDroppedAreNamedInABlockOfTheirOwn) {
 }
 
 TEST(PageIntegratorTest, ScriptsCanBeKeptByTheirNames) {
-    Desk desk({{"lib/", false, {"a.js"}}, false, false});
+    Desk desk({{"lib/", false, {}, {}, {"a.js"}}, false, false});
     desk.addPage("a.htm", "<script src=a.js></script><script src=b.js></script>.");
     desk.integrate({"a.htm"});
     EXPECT_EQ(desk.files.allFiles().at("/web/a.htm"), "<script src=a.js></script></script>.");
@@ -478,6 +478,37 @@ TEST(PageIntegratorTest, AnErrorSaysWhatFailedOnWhichFileAndWhy) {
     ASSERT_TRUE(error.has_value());
     EXPECT_EQ(error->code, PageError::Code::IsTemporaryFile);
     EXPECT_EQ(error->file.path, "/web/~qxtmp.htm");
+}
+
+TEST(PageIntegratorTest, RemovalWritesOnlyWhereThereIsSomethingToTakeOut) {
+    Desk desk({{}, true, false, true});
+    desk.addPage("a.htm");
+    desk.addPage("b.htm", rewritten(kPage).page);
+    desk.addPage("~qxtmp.htm", "left by a killed run");
+    desk.integrate({"a.htm"});
+    EXPECT_EQ(desk.files.allFiles(),
+              (Disk{{"/web/a.htm", kPage}, {"/web/b.htm", rewritten(kPage).page}}));
+    EXPECT_EQ(desk.integrator.report(),
+              "Processing /web/a.htm\r\nNo menu integration found\r\n\r\n");
+    desk.integrate({"b.htm"});
+    EXPECT_EQ(desk.files.allFiles(), (Disk{{"/web/a.htm", kPage},
+                                           {"/web/b.htm", kPage},
+                                           {"/web/b.htm.bak", rewritten(kPage).page}}));
+    EXPECT_FALSE(desk.integrator.hasFailed());
+}
+
+TEST(PageIntegratorTest, WithoutThePlaceNothingIsWritten) {
+    IntegrationOptions options = kWithBackups;
+    options.rewrite.menu = PlacedMenu{*parsePlace("marker"), "code"};
+    Desk desk(options);
+    desk.addPage("a.htm");
+    desk.integrate({"a.htm"});
+    EXPECT_EQ(desk.files.allFiles(), (Disk{{"/web/a.htm", kPage}}));
+    EXPECT_EQ(desk.integrator.report(),
+              "Processing /web/a.htm\r\nERROR: /web/a.htm not saved: There is no place "
+              "\"marker\"\r\n\r\n");
+    EXPECT_TRUE(desk.integrator.hasFailed());
+    EXPECT_FALSE(desk.integrator.status().bSuccess);
 }
 
 TEST(CountDroppedScriptsTest, CountsInAFileOrTellsWhyNot) {

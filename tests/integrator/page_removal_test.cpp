@@ -117,6 +117,11 @@ TEST(PageRemovalTest, WhatAnEditorHasSpelledAnewIsFound) {
               "<HEAD>\n</HEAD>.");
 }
 
+TEST(PageRemovalTest, APageWithoutAMenuHasNothingToTell) {
+    EXPECT_EQ(removeIntegration("<body onload=a()></script><script>b()</script></body>").notes,
+              Notes());
+}
+
 TEST(PageRemovalTest, OtherScriptsStay) {
     const std::string page =
         kCreation +

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/hostile_pages.h"
 #include "tests/support/placement_properties.h"
 
 namespace zev::test {
@@ -86,6 +87,23 @@ TEST(RandomPagesTest, WhatEarlierRunsLeftDoesNotHarm) {
     fragments.insert(fragments.end(), kOwnFragments.begin(), kOwnFragments.end());
     expectNoProblems(fragments, 7);
 }
+
+class HostilePageTest : public testing::TestWithParam<HostilePage> {};
+
+/// Whoever takes more than linear time here is stopped by ctest's time limit.
+TEST_P(HostilePageTest, IsLookedThroughInLinearTime) {
+    const std::string page = hostilePage(GetParam(), 400'000) + "<nav></nav>words";
+    const Placement placement =
+        placeMenu(page, {*parsePlace("after:nav"), "code", LinkedText{"words", "2", {}}});
+    EXPECT_TRUE(placement.problem || placement.edits.size() == 2);
+    EXPECT_TRUE(removeIntegration(page).edits.empty());
+    EXPECT_LE(possiblePlaces(page).size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, HostilePageTest, testing::ValuesIn(kHostilePages),
+                         [](const testing::TestParamInfo<HostilePage>& hostile) {
+                             return hostile.param.name;
+                         });
 
 TEST(RandomPagesTest, MostOfThemHaveAPlace) {
     std::mt19937 random(20261122);

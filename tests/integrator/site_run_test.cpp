@@ -19,7 +19,8 @@ struct Site {
         options.answers.definition = "/site/js/menu.js";
     }
     SiteRunResult run() {
-        return runOverSite(files, pages, options, [](std::size_t, std::size_t) { return true; });
+        return runOverSite(
+            files, pages, options, [](std::size_t, std::size_t) { return true; });
     }
     bool holds(const std::string& page, const std::string& text) {
         return files.allFiles().at(page).find(text) != std::string::npos;
@@ -43,12 +44,11 @@ TEST(SiteRun, EachFolderSeesTheLibraryFromItself) {
 
 TEST(SiteRun, StoppingCountsThePagesOfAllFolders) {
     Site site;
-    const SiteRunResult result =
-        runOverSite(site.files, site.pages, site.options,
-                    [](std::size_t doneCount, std::size_t count) {
-                        EXPECT_EQ(count, 3u);
-                        return doneCount < 1;
-                    });
+    const SiteRunResult result = runOverSite(site.files, site.pages, site.options,
+                                             [](std::size_t doneCount, std::size_t count) {
+                                                 EXPECT_EQ(count, 3u);
+                                                 return doneCount < 1;
+                                             });
     EXPECT_TRUE(site.holds("/site/a.htm", "zevmenu_loader.js"));
     EXPECT_EQ(site.files.allFiles().at("/site/sub/b.htm"), kPage);
     EXPECT_NE(result.report.find("Cancelled: 2 of 3 pages not processed\r\n"), std::string::npos)

@@ -10,8 +10,9 @@ namespace {
 WizardEntries someEntries() {
     WizardEntries entries;
     entries.pages = {"/site", {"a.htm", "x/new\nline.htm", "\xC3\x84 'b' \"c\".htm"}};
-    entries.answers = {false, true, "/site/js", "/site/menu.js", true, "1i2", {false, "10", "-20"},
-                       {"a.js", "count();"}, true};
+    entries.answers = {false, true,  "/site/js",           "/site/menu.js",
+                       true,  "1i2", {false, "10", "-20"}, {"a.js", "count();"},
+                       true};
     return entries;
 }
 
@@ -96,10 +97,10 @@ TEST(WizardMemory, AFileThatIsNotItsOwnIsNotTaken) {
             for (const auto& [other, otherBytes] : files.allFiles())
                 damaged.addFile(other, other == path ? otherBytes.substr(0, size) : otherBytes);
             const auto recalled = WizardMemory(damaged, "/me").recall("/m.js");
+            if (!recalled)
+                continue;
             // Cut among the names of the pages, it has fewer of them.
-            if (recalled) {
-                EXPECT_EQ(recalled->answers, someEntries().answers) << path << ' ' << size;
-            }
+            EXPECT_EQ(recalled->answers, someEntries().answers) << path << ' ' << size;
         }
     }
     files.addFile("/me/entries1", std::string("something else\0/m.js\0", 21));

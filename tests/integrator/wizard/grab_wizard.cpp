@@ -1,10 +1,10 @@
-// Takes a picture of each step of the Menu Integrator and of each window that it opens, to be looked
-// at by a person and for the manual:
+// Takes a picture of each step of the Menu Integrator and of each window that it opens, to be
+// looked at by a person and for the manual:
 //
 //     grab_wizard FOLDER [--dark] [--size WIDTHxHEIGHT]
 //
-// QT_SCALE_FACTOR=2 gives the pictures of a 200 % display; QT_QPA_PLATFORM=offscreen does. The pages
-// are those of a small site, which is made for this.
+// QT_SCALE_FACTOR=2 gives the pictures of a 200 % display; QT_QPA_PLATFORM=offscreen does. The
+// pages are those of a small site, which is made for this.
 
 #include <QApplication>
 #include <QComboBox>
@@ -48,10 +48,10 @@ void makeSite(const QString& site) {
     QDir(site).mkpath("tours");
     for (const char* name : {"index.html", "about.html", "tours/boats.html", "tours/walks.html"})
         write(site + '/' + name, QByteArray(kPageStart) + name + kPageEnd);
-    write(site + "/tours/map.html", "<html><head><title>Map</title></head><frameset cols=\"1,2\">"
-                                    "<frame src=\"a.html\"></frameset></html>\n");
-    for (const char* name :
-         {"menu.js", "zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"})
+    write(site + "/tours/map.html",
+          "<html><head><title>Map</title></head><frameset cols=\"1,2\">"
+          "<frame src=\"a.html\"></frameset></html>\n");
+    for (const char* name : {"menu.js", "zevmenu_loader.js", "zevmenu_ns4.js", "zevmenu_dom.js"})
         write(site + "/menu/" + name, "\n");
 }
 
@@ -84,9 +84,7 @@ struct Camera {
 
 void walk(frmIntegrator& wizard, const Camera& camera, const QString& site,
           FakeCommonDialogs& dialogs) {
-    const auto press = [&](const char* name) {
-        wizard.findChild<QPushButton*>(name)->click();
-    };
+    const auto press = [&](const char* name) { wizard.findChild<QPushButton*>(name)->click(); };
     const auto waitForWindow = [] {
         while (QApplication::activeModalWidget() != nullptr)
             QTest::qWait(20);
@@ -132,8 +130,8 @@ void walk(frmIntegrator& wizard, const Camera& camera, const QString& site,
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 2)
-        qFatal("grab_wizard FOLDER [--dark] [--size WIDTHxHEIGHT]");
+    if (arguments.size() < 3)
+        qFatal("grab_wizard FOLDER SITE [--dark] [--size WIDTHxHEIGHT]");
     Camera camera{arguments.at(1), arguments.contains("--dark"), {}};
     const qsizetype size = arguments.indexOf("--size");
     if (size > 0) {
@@ -144,7 +142,9 @@ int main(int argc, char** argv) {
     QApplication::setPalette(camera.isDark ? darkPalette() : lightPalette());
 
     const QTemporaryDir home;
-    const QString site = home.filePath("site");
+    const QString site = QDir(arguments.at(2)).absolutePath();
+    if (QDir(site).exists())
+        qFatal("The site's folder is there already.");
     makeSite(site);
     PosixFileSystem files;
     FakeMessageBox messages;

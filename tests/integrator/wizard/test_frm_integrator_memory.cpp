@@ -189,8 +189,6 @@ class test_frm_integrator_memory : public QObject {
         // The list of definitions, and the one with the pages; no page.
         QCOMPARE(readCount, 2);
         qInfo("opened in %lld ms", static_cast<long long>(timer.elapsed()));
-        // A hang; what is felt is less, and measured on a machine of its own.
-        QVERIFY(timer.elapsed() < 5000);
     }
 
     void unsavedChangesAreTold() {

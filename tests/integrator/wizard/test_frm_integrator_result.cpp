@@ -70,8 +70,14 @@ class test_frm_integrator_result : public QObject {
             desk.click("btnUndoRun");
         QTRY_COMPARE(desk.page("a.htm"), std::string(kPage));
         QTRY_COMPARE(desk.page("b.htm"), std::string(kPage));
-        QTRY_VERIFY(!desk.button("btnUndoRun").isEnabled());
-        QVERIFY(desk.label("lblMsg").contains("undone"));
+        QTRY_VERIFY(!desk.isShown("btnUndoRun"));
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY(desk.label("lblMsg").startsWith("The run was undone."));
+            QVERIFY(!desk.isShown("txtCode"));
+            QVERIFY(!desk.button("btnPlace").isEnabled());
+            desk.click("btnBack");
+            desk.next();
+        }
     }
 
     void pagesThatWereChangedSinceAreRefusedAndListed() {
@@ -89,7 +95,7 @@ class test_frm_integrator_result : public QObject {
         desk.click("btnUndoRun");
         QCOMPARE(desk.page("a.htm"), std::string("mine now"));
         QCOMPARE(desk.page("b.htm"), std::string(kPage));
-        QVERIFY(desk.button("btnUndoRun").isEnabled());
+        QVERIFY(desk.isShown("btnUndoRun"));
     }
 
     void aNewRunIsTheOneThatIsUndone() {
@@ -127,13 +133,47 @@ class test_frm_integrator_result : public QObject {
         desk.disk.addFile("/site/a.htm", page);
         desk.click("btnBack");
         desk.next(2);
-        QVERIFY2(desk.label("lblSummary").contains("old/menu_def.js"),
-                 qPrintable(desk.label("lblSummary")));
+        QCOMPARE(desk.label("lblSummary"), QString("References to the menu's earlier place: 1"));
         QVERIFY(desk.isShown("btnReferences"));
+        const auto isList = [](const MessageRequest& request) {
+            return request.details == "/site/a.htm: old/menu_def.js\n";
+        };
+        desk.messages.expect("the references", isList, MessageBox::Answer::No);
+        desk.click("btnReferences");
+        QVERIFY(desk.page().find("old/menu_def.js") != std::string::npos);
+        desk.messages.expect("the references", isList, MessageBox::Answer::Yes);
         desk.click("btnReferences");
         QVERIFY(desk.page().find("old/menu_def.js") == std::string::npos);
         QVERIFY(desk.page().find("src=\"menu_def.js\"") != std::string::npos);
         QVERIFY(!desk.isShown("btnReferences"));
+    }
+
+    void referencesThatWereWrittenByHandAreListedAndLeft() {
+        WizardDesk desk;
+        desk.goToMenuFrame();
+        desk.next();
+        std::string page = desk.page();
+        page.insert(page.find("text"),
+                    "<script src='mine/menu_def.js' defer></script>"
+                    "<script language=JavaScript>ZEVDisplayMenu();</script>");
+        desk.disk.addFile("/site/a.htm", page);
+        desk.click("btnBack");
+        desk.click("btnBack");
+        desk.click("btnBack");
+        desk.click("chkKeepScripts");
+        desk.next(4);
+        QCOMPARE(desk.label("lblSummary"),
+                 QString("References to another menu, written by hand: 1"));
+        desk.messages.expect(
+            "the reference",
+            [](const MessageRequest& request) {
+                return request.details ==
+                           "/site/a.htm: mine/menu_def.js (written by hand, stays)\n" &&
+                       request.buttons == MessageRequest::Buttons::Ok;
+            },
+            MessageBox::Answer::Ok);
+        desk.click("btnReferences");
+        QVERIFY(desk.page().find("mine/menu_def.js") != std::string::npos);
     }
 
     void withoutEarlierReferencesNothingIsOffered() {

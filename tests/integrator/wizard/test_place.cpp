@@ -18,6 +18,9 @@ constexpr const char* kWithHeader =
 
 /// The window, opened by its key from the last frame of a run over these pages.
 void inPlace(WizardDesk& desk, const std::function<void(frmPlace&)>& work) {
+    // A window that was open before has just gone.
+    desk.wizard.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&desk.wizard));
     bool isDone = false;
     whenShown<frmPlace>([&](frmPlace& window) {
         work(window);
