@@ -46,9 +46,6 @@ std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& opt
 /// The page with such edits done.
 std::string withEdits(std::string_view page, const std::vector<PageEdit>& edits);
 
-/// The edits that make the page again of what these edits, as `pageEdits` gives them, make of it.
-std::vector<PageEdit> reverseEdits(std::string_view page, const std::vector<PageEdit>& edits);
-
 /// The page with its edits done, and the status of `pageEdits`.
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status);
