@@ -121,7 +121,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     // An installation keeps the program's modules there, a build beside the program.
     QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
-                                     "/../lib/zevmenu-creator");
+                                     "/../lib/zevmenu-creator/modules");
     QApplication::setStyle(new PlainButtonStyle);
     QApplication::setWindowIcon(programIcon());
     return runEditor(application, parser);

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <CLI/CLI.hpp>
+
 #include "cli/command_files.h"
 #include "platform/file_system.h"
-
-namespace CLI {
-class App;
-}
 
 namespace zev {
 

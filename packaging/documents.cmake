@@ -1,5 +1,8 @@
 # Licence, changes and licences of others, of each component, where Debian's packages have them.
 
+# Not one of Debian's own revisions, which begin with 1.
+set(debian_revision 0zev1)
+
 # zev_install_documents(<component> <package>)
 function(zev_install_documents component package)
     set(folder share/doc/${package})

@@ -4,7 +4,8 @@ set(id example.zevmenu.Creator)
 set(drawing ${PROJECT_SOURCE_DIR}/app/resources/icons/zevmenu_creator.svg)
 
 zev_install_program(editor bin zevmenu-creator)
-zev_install_program(editor lib/zevmenu-creator zevmenu_webview)
+# Not in the folder above: CPack would have packages tell the system's linker of it.
+zev_install_program(editor lib/zevmenu-creator/modules zevmenu_webview)
 
 file(GLOB manual RELATIVE ${PROJECT_SOURCE_DIR}/help
     ${PROJECT_SOURCE_DIR}/help/*.css ${PROJECT_SOURCE_DIR}/help/*.html

@@ -18,7 +18,7 @@ set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/same_times.cmake)
 set(CPACK_SOURCE_DATE ${source_date})
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${debian_revision})
 set(CPACK_DEBIAN_PACKAGE_SECTION web)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
@@ -28,25 +28,27 @@ if(ZEV_VENDOR_SITE)
     set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://${ZEV_VENDOR_SITE}/)
 endif()
 
+# The first line of each description is its summary; that of the project is that of neither.
+set(CPACK_DEFAULT_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_DEBIAN_COMMAND_PACKAGE_NAME zevmenu)
 set(CPACK_COMPONENT_COMMAND_DESCRIPTION
 "menus of web sites on the command line, and their script library
- Checks, compares, converts and publishes the menu definitions of the editor
- in zevmenu-creator, and puts menus onto web pages, without a display.
- .
- Holds the script library that draws a menu in the visitors' browsers, and
- sample menus.")
+Checks, compares, converts and publishes the menu definitions of the editor
+in zevmenu-creator, and puts menus onto web pages, without a display.
+
+Holds the script library that draws a menu in the visitors' browsers, and
+sample menus.")
 
 set(CPACK_DEBIAN_EDITOR_PACKAGE_NAME zevmenu-creator)
 set(CPACK_DEBIAN_EDITOR_PACKAGE_DEPENDS
-    "zevmenu (= ${PROJECT_VERSION}-1), qt6-qpa-plugins, xdg-utils")
+    "zevmenu (= ${PROJECT_VERSION}-${debian_revision}), libqt6svg6, qt6-qpa-plugins, xdg-utils")
 set(CPACK_DEBIAN_EDITOR_PACKAGE_RECOMMENDS "fonts-dejavu-core, hicolor-icon-theme, qt6-wayland")
 set(CPACK_COMPONENT_EDITOR_DESCRIPTION
 "editor for cascading menus on web sites
- A menu is built as a tree of items, looked at in the preview, and saved as one
- JavaScript file that every page of the site loads. A small script library,
- copied beside it, draws the menu in the visitors' browsers.
- .
- A wizard puts menus onto pages that are there, with a backup of each.")
+A menu is built as a tree of items, looked at in the preview, and saved as one
+JavaScript file that every page of the site loads. A small script library,
+copied beside it, draws the menu in the visitors' browsers.
+
+A wizard puts menus onto pages that are there, with a backup of each.")
 
 include(CPack)

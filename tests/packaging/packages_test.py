@@ -23,6 +23,7 @@ ROOT = next_argument()
 PACKAGES = ROOT / "build/package"
 VERSION = version_of(ROOT)
 NAME = f"zevmenu-creator-{VERSION}"
+REVISION = "0zev1"
 
 
 def the_only(pattern):
@@ -72,9 +73,9 @@ class Packages(unittest.TestCase):
     def test_they_name_version_architecture_and_each_other(self):
         architecture = run("dpkg", "--print-architecture").stdout.strip()
         for package in (self.command, self.editor):
-            self.assertEqual(field(package, "Version"), f"{VERSION}-1")
+            self.assertEqual(field(package, "Version"), f"{VERSION}-{REVISION}")
             self.assertEqual(field(package, "Architecture"), architecture)
-        self.assertIn(f"zevmenu (= {VERSION}-1)", field(self.editor, "Depends"))
+        self.assertIn(f"zevmenu (= {VERSION}-{REVISION})", field(self.editor, "Depends"))
 
     def test_the_command_line_needs_no_display(self):
         names = set(re.findall(r"[a-z][a-z0-9+.-]+(?=[ ,]|$)", field(self.command, "Depends")))
