@@ -11,19 +11,19 @@ function onFocusIn(event) {
     linksOf(state.barBox).forEach(other => { other.tabIndex = other == link ? 0 : -1; });
 }
 
-function enter(box, isAtEnd) {
+function enter(box, isEnd) {
     const links = linksOf(box);
-    if (links.length) moveTo(links[isAtEnd ? links.length - 1 : 0]);
+    if (links.length) moveTo(links[isEnd ? links.length - 1 : 0]);
 }
 
-function enterFrom(link, isAtEnd) {
+function enterFrom(link, isEnd) {
     const level = levels[depthAt(link)];
-    if (level?.opener == link) enter(level.box, isAtEnd);
+    if (level?.opener == link) enter(level.box, isEnd);
 }
 
-function openAndEnter(link, isAtEnd) {
+function openAndEnter(link, isEnd) {
     openSubmenu(link);
-    enterFrom(link, isAtEnd);
+    enterFrom(link, isEnd);
 }
 
 // Of an item or of the link of a pop-up, and says whether it is open.

@@ -2,9 +2,9 @@
 // ---- Showing and placing ----
 
 function levelOf(link) {
-    const menu = submenuOf(link), isFolded = link == state.foldLink;
+    const menu = submenuOf(link), isFold = link == state.foldLink;
     if (!menu) return null;
-    return { menu, box: boxFor(menu, link), opener: link, isFolded,
+    return { menu, box: boxFor(menu, link), opener: link, isFold,
              wish: realSide(shared.wishOf(menu), isRtlAt(link)), offset: setting(null, 'menuoffset') };
 }
 
@@ -30,12 +30,12 @@ function pixels(length, origin) {
 }
 
 // Shows the box in its own size in the layer, to be measured.
-function lay({ box, isFolded }, frame) {
+function lay({ box, isFold }, frame) {
     const maxWidth = pixels(frame.width, rectOf(homeOf(state.layer)));
-    shape(box, isFolded ? 'list flat' : box.zevShape);
+    shape(box, isFold ? 'list flat' : box.zevShape);
     move(box, homeOf(state.layer), null);
     box.hidden = false;
-    Object.assign(box.style, { maxWidth, width: isFolded ? maxWidth : '' });
+    Object.assign(box.style, { maxWidth, width: isFold ? maxWidth : '' });
 }
 
 // Where the level is to stand. One that is inside its parent keeps the size it had outside.
@@ -84,8 +84,10 @@ function settle(level) {
     const holder = levels.filter(other => !isInside(other)).pop();
     if (!holder) return;
     placeLevel(holder);
+    if (!level) return;
     // Of what is longer than the box around it the start.
-    if (level) [level.box, level.opener].forEach(part => part.scrollIntoView({ block: 'nearest' }));
+    const frame = rectOf(holder.box), over = rectOf(level.box).bottom - frame.bottom;
+    holder.box.scrollTop += Math.min(Math.max(0, over), rectOf(level.opener).top - frame.top);
 }
 
 function fade({ menu, box }, isOn) {
@@ -147,7 +149,7 @@ function hide(level) {
     if (isInside(level)) {
         box.remove();
         settle();
-    } else if (level.isFolded) {
+    } else if (level.isFold) {
         // In its place on the page, which shows it when the button does not.
         box.zevFading?.cancel();
         shape(box, box.zevShape, 'menubar');

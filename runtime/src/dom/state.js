@@ -27,7 +27,7 @@ function isInside(level) {
 
 // What the fold button opened is an accordion too.
 function isFlat(level) {
-    return isInside(level) || level.isFolded;
+    return isInside(level) || level.isFold;
 }
 
 // An accordion and what holds one: the mouse's coming and going changes nothing there.

@@ -54,9 +54,9 @@ function place(anchor, size, wish, offset, frame, isRtl, kind) {
              width: isWide ? rooms[side] : frame.width, height: limit, side };
 }
 
-// In a zoomed page `ruler` pixels of the layer are as wide as `origin`.
-function unzoomed(length, origin, ruler) {
-    return length * ruler / ((origin.right - origin.left) || ruler);
+// In a zoomed page `width` pixels of the layer are as wide as `origin`.
+function unzoomed(length, origin, width) {
+    return length * width / ((origin.right - origin.left) || width);
 }
 
 // Towards the near edge of the box, a little widened, from a little before where the pointer was.

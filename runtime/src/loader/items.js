@@ -34,9 +34,9 @@ shared.nameOf = function (menu, item) {
 };
 
 function addPicture(link, className, item, url) {
-    var picture = append(link, 'img', className);
-    picture.alt = item.name;
-    picture.src = url;
+    var image = append(link, 'img', className);
+    image.alt = item.name;
+    image.src = url;
 }
 
 function addItemTo(box, menu, item, settings) {
@@ -78,10 +78,10 @@ shared.addMark = function (link, menu) {
 
 // No part of a name.
 function addSpan(parent, className, menu, html) {
-    var ornament = append(parent, 'span', className);
-    ornament.setAttribute('aria-hidden', 'true');
-    ornament.append(parse(menu, html));
-    return ornament;
+    var span = append(parent, 'span', className);
+    span.setAttribute('aria-hidden', 'true');
+    span.append(parse(menu, html));
+    return span;
 }
 
 function styleBox(box, menu, settings) {
