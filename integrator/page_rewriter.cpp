@@ -41,12 +41,14 @@ bool isOldScript(const HtmlParse& parser) {
 
 /// Whether an earlier run wrote the script, and nobody anything into it.
 bool isOwnScript(const HtmlParse& parser) {
+    if (loadsLibrary(parser))
+        return true;
     std::string_view script = parser.Text();
     while (!script.empty() && isHtmlSpace(script.front()))
         script.remove_prefix(1);
     while (!script.empty() && (isHtmlSpace(script.back()) || script.back() == ';'))
         script.remove_suffix(1);
-    return loadsLibrary(parser) || script == "ZEVCreateMenu()" ||
+    return script == "ZEVCreateMenu()" ||
            (script.starts_with("var zev_path") && !contains(script, ";"));
 }
 
@@ -151,15 +153,15 @@ class PageRewriter {
     }
 
     void handleScript() {
-        const bool isForeign = !m_options.keepsOtherScripts && !namesJavaScript(m_parser);
-        const bool isPrevious = loadsLibrary(m_parser);
-        if ((!isForeign && !isPrevious && !isOldScript(m_parser)) || staysByName())
-            return;
-        if (isForeign) {
+        if (!m_options.keepsOtherScripts && !namesJavaScript(m_parser)) {
             // Without its start tag a script's end tag means nothing to a browser; it stays.
-            replaceToken({});
+            if (!staysByName())
+                replaceToken({});
             return;
         }
+        const bool isPrevious = loadsLibrary(m_parser);
+        if ((!isPrevious && !isOldScript(m_parser)) || staysByName())
+            return;
         if (isPrevious)
             m_status.bPrevious = true;
         replaceToken({});
@@ -215,20 +217,6 @@ std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& opt
     if (!options.newDefinitionURL.empty())
         addReferenceEdits(page, options.newDefinitionURL, placed);
     return PageRewriter(page, options, status, std::move(placed)).edits();
-}
-
-std::vector<PageEdit> reverseEdits(std::string_view page, const std::vector<PageEdit>& edits) {
-    std::vector<PageEdit> reversed;
-    reversed.reserve(edits.size());
-    std::size_t insertedBytes = 0;
-    std::size_t removedBytes = 0;
-    for (const PageEdit& edit : edits) {
-        reversed.push_back({edit.offset + insertedBytes - removedBytes, edit.text.size(),
-                            std::string(page.substr(edit.offset, edit.length))});
-        insertedBytes += edit.text.size();
-        removedBytes += edit.length;
-    }
-    return reversed;
 }
 
 std::string rewritePage(std::string_view page, const RewriteOptions& options,

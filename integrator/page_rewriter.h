@@ -46,9 +46,6 @@ struct RewriteOptions {
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status);
 
-/// The edits that make the page again of what these edits, as `pageEdits` gives them, make of it.
-std::vector<PageEdit> reverseEdits(std::string_view page, const std::vector<PageEdit>& edits);
-
 /// The page with its edits done, and the status of `pageEdits`.
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
                         IntegrationStatus& status);

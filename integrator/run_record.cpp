@@ -58,9 +58,11 @@ bool isNewer(const std::string& left, const std::string& right) {
     return order != 0 ? order > 0 : numberIn(left) > numberIn(right);
 }
 
-void addNumber(std::string& line, std::uint64_t number) {
-    line += ' ';
-    line += std::to_string(number);
+void addNumber(std::string& entry, std::uint64_t number) {
+    std::array<char, 20> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+    entry += ' ';
+    entry.append(digits.data(), end);
 }
 
 void addText(std::string& entry, std::string_view text) {
@@ -70,25 +72,27 @@ void addText(std::string& entry, std::string_view text) {
     entry += '\n';
 }
 
-std::string entryOf(const RecordedPage& page) {
-    std::string entry(kPageWord);
-    addNumber(entry, page.mode);
-    for (const PageMark& mark : {page.before, page.after}) {
-        addNumber(entry, mark.size);
-        addNumber(entry, mark.hash);
-    }
-    addNumber(entry, page.edits.size());
-    addText(entry, page.path);
-    for (const PageEdit& edit : page.edits) {
-        entry += kEditWord;
-        addNumber(entry, edit.offset);
-        addNumber(entry, edit.length);
-        addText(entry, edit.text);
-    }
-    return entry;
+void addMark(std::string& entry, const PageMark& mark) {
+    addNumber(entry, mark.size);
+    addNumber(entry, mark.hash);
 }
 
-/// Reads what `entryOf` writes. Every function gives false where the text is not that.
+/// Writes the edits the other way round: what they make of the page gives way to what was there.
+void addReverseEdits(std::string& entry, std::string_view page,
+                     const std::vector<PageEdit>& edits) {
+    std::size_t insertedBytes = 0;
+    std::size_t removedBytes = 0;
+    for (const PageEdit& edit : edits) {
+        entry += kEditWord;
+        addNumber(entry, edit.offset + insertedBytes - removedBytes);
+        addNumber(entry, edit.text.size());
+        addText(entry, page.substr(edit.offset, edit.length));
+        insertedBytes += edit.text.size();
+        removedBytes += edit.length;
+    }
+}
+
+/// Reads what `RunRecord::append` writes. Every function gives false where the text is not that.
 class EntryReader {
   public:
     explicit EntryReader(std::string_view text) : m_rest(text) {}
@@ -174,9 +178,16 @@ void RunRecord::append(const std::string& path, std::string_view page, std::stri
         m_error = begin();
     if (!m_error)
         m_error = flushAtNewFolder(path);
-    if (!m_error)
-        m_error = m_file->append(entryOf({path, mode.value(), PageMark::of(page),
-                                          PageMark::of(result), reverseEdits(page, edits)}));
+    if (m_error)
+        return;
+    m_entry = kPageWord;
+    addNumber(m_entry, mode.value());
+    addMark(m_entry, PageMark::of(page));
+    addMark(m_entry, PageMark::of(result));
+    addNumber(m_entry, edits.size());
+    addText(m_entry, path);
+    addReverseEdits(m_entry, page, edits);
+    m_error = m_file->append(m_entry);
 }
 
 FileOutcome RunRecord::begin() {

@@ -66,6 +66,7 @@ class RunRecord {
     std::string m_name;
     FileOutcome m_error;
     std::string m_pagesFolder;
+    std::string m_entry;  // kept, so that its memory need not be found anew for each page
 };
 
 /// Names of the runs that can be undone, the newest first. A folder that is not there has none.

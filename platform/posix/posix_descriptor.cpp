@@ -58,10 +58,15 @@ int writeAll(int descriptor, std::string_view bytes) {
 }
 
 int readAll(int descriptor, std::uint64_t maxBytes, std::string& bytes) {
-    constexpr std::size_t kChunkBytes = 64 * 1024;
     struct stat status {};
     if (::fstat(descriptor, &status) != 0)
         return errno;
+    return readOpened(descriptor, status, maxBytes, bytes);
+}
+
+int readOpened(int descriptor, const struct stat& status, std::uint64_t maxBytes,
+               std::string& bytes) {
+    constexpr std::size_t kChunkBytes = 64 * 1024;
     std::uint64_t expectedBytes = 0;
     if (S_ISREG(status.st_mode) && status.st_size > 0)
         expectedBytes = static_cast<std::uint64_t>(status.st_size);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -35,6 +37,9 @@ int writeAll(int descriptor, std::string_view bytes);
 /// Appends to `bytes` until the end of the file. EFBIG when there are more than `maxBytes`, also
 /// for files that do not know their size, such as pipes.
 int readAll(int descriptor, std::uint64_t maxBytes, std::string& bytes);
+/// The same where the descriptor's fstat() is known.
+int readOpened(int descriptor, const struct stat& status, std::uint64_t maxBytes,
+               std::string& bytes);
 /// fsync(). What cannot be flushed, such as a folder on some network drives, is no error.
 int flushToDisk(int descriptor);
 

@@ -29,9 +29,8 @@ bool isSame(const std::string& left, const std::string& right, mode_t kind) {
 /// What the program copies are scripts and web pages.
 constexpr std::uint64_t kMaxCopyBytes = std::uint64_t{1} << 30;
 
-/// Opens a file but no pipe, socket or device, and waits for nobody.
-FileOutcome openForReading(const std::string& path, PosixDescriptor& file) {
-    struct stat status {};
+/// Opens a file but no pipe, socket or device, and waits for nobody. `status` is its fstat().
+FileOutcome openForReading(const std::string& path, PosixDescriptor& file, struct stat& status) {
     // Asked first, for to open a device may do something; and asked again of what was opened, for
     // another file may have taken the name.
     if (::stat(path.c_str(), &status) != 0)
@@ -112,10 +111,11 @@ bool PosixFileSystem::isWritableFolder(const std::string& path) const {
 FileResult<std::string> PosixFileSystem::readFile(const std::string& path,
                                                   std::uint64_t maxBytes) const {
     PosixDescriptor file;
-    if (const FileOutcome error = openForReading(path, file))
+    struct stat status {};
+    if (const FileOutcome error = openForReading(path, file, status))
         return *error;
     std::string bytes;
-    if (const int error = readAll(file.get(), maxBytes, bytes))
+    if (const int error = readOpened(file.get(), status, maxBytes, bytes))
         return fileErrorOf(error, path);
     return bytes;
 }

@@ -192,6 +192,7 @@ const std::vector<std::string>& FolderLeftovers::namesIn(const std::string& fold
     if (m_folder == folder)
         return m_names;
     m_folder = folder;
+    m_isWritable = ::faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) == 0;
     m_names.clear();
     std::error_code error;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
@@ -212,7 +213,7 @@ std::vector<std::string> clearLeftovers(const WriteTarget& target, FolderLeftove
         pathsOf(target.folder, names, prefixBeside(target, SideFile::Kind::OldContent));
     // The folder for temporary files, which may be large, holds something of the target's only when
     // nothing could be put beside it.
-    if (::faccessat(AT_FDCWD, target.folder.c_str(), W_OK, AT_EACCESS) != 0) {
+    if (!beside.isWritable()) {
         const std::string folder = temporaryFolder();
         FolderLeftovers leftovers;
         for (std::string& path :

@@ -59,9 +59,12 @@ class FolderLeftovers {
   public:
     /// File names, valid until the next call. None in a folder that cannot be listed.
     const std::vector<std::string>& namesIn(const std::string& folder);
+    /// Whether files could be made in the folder of the last call of `namesIn` then.
+    bool isWritable() const { return m_isWritable; }
 
   private:
     std::optional<std::string> m_folder;
+    bool m_isWritable = false;
     std::vector<std::string> m_names;
 };
 

@@ -44,16 +44,6 @@ struct Desk {
     FileOutcome error;
 };
 
-TEST(ReverseEditsTest, MakeThePageAgain) {
-    for (const std::string& page : {kPage, std::string("<head></head>"), std::string()}) {
-        IntegrationStatus status;
-        const std::vector<PageEdit> edits = pageEdits(page, {"lib/", false}, status);
-        const std::string result = withEdits(page, edits);
-        EXPECT_EQ(withEdits(result, reverseEdits(page, edits)), page);
-        EXPECT_EQ(reverseEdits(result, reverseEdits(page, edits)), edits);
-    }
-}
-
 TEST(RunRecordTest, IsAFileForTheUserAloneWithWhatEachPageLost) {
     Desk desk;
     desk.addPage("a.htm");
