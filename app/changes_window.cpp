@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/changes_window.h"
 
 #include <QDialogButtonBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/known_files.h"
 
 #include "text/hash.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/notes_bar.h"
 
 #include <QHBoxLayout>

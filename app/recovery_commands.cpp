@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/recovery_commands.h"
 
 #include <QDateTime>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/integrate_place.h"
 
 #include "integrator/menu_place.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/integrate_site.h"
 
 #include "cli/command_arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/changed_lines.h"
 
 #include <algorithm>

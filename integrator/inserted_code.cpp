@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/inserted_code.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/menu_place.h"
 
 #include <algorithm>

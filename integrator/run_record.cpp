@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/run_record.h"
 
 #include <algorithm>

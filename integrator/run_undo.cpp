@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/run_undo.h"
 
 #include <algorithm>

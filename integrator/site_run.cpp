@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/site_run.h"
 
 #include <limits>

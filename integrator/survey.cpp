@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/survey.h"
 
 #include <set>

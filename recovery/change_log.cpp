@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recovery/change_log.h"
 
 #include "recovery/menu_record.h"

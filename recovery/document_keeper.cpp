@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recovery/document_keeper.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recovery/journal.h"
 
 #include "recovery/change_log.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recovery/menu_record.h"
 
 #include <algorithm>

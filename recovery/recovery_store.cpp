@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recovery/recovery_store.h"
 
 #include <algorithm>

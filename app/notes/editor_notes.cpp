@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/notes/editor_notes.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/notes/file_notes.h"
 
 #include <algorithm>

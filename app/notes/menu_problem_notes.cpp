@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/notes/menu_problem_notes.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/extra_row.h"
 
 #include <QHBoxLayout>

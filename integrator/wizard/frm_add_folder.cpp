@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_add_folder.h"
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_changes.h"
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The wizard's first step: the pages, and what is entered of them again the next time.
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The wizard's run and what follows it: the report, the last frame, and what it offers.
 
 #include <QCoreApplication>

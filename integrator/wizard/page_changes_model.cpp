@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/page_changes_model.h"
 
 #include <algorithm>

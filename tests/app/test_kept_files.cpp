@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files that are no menu, or more than a menu, opened and saved over by mistake: on the real disk,
 // in the real window. Whatever they were, they are found whole beside the menu.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The notes above the tree: when each comes, what its buttons do, and when it goes.
 
 #include <QComboBox>

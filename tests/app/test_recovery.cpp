@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Unsaved menus by the real widgets: what a program that has ended leaves to the next one.
 
 #include <QListWidget>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/caption_index.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/menu_links.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "checks/unkept_values.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The editor for kill_test.py, which ends it in the middle of its work:
 //
 //     kill_driver edit FOLDER COMMANDS    works on FOLDER/site/menu.js by keys, always the same,

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Kills the editor at random moments: no file is damaged and no finished command lost.
 
 usage: kill_test.py KILL_DRIVER RUN_TIME_FOLDER ROUNDS [SEED]

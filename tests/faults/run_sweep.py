@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Breaks and kills a run over a folder of pages, and the undoing of one, and undoes it then.
 
 usage: run_sweep.py PROGRAM

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/page_findings.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/page_references.h"
 
 #include <gtest/gtest.h>

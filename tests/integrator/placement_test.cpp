@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/placement.h"
 
 #include <gtest/gtest.h>

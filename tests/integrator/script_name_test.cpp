@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "integrator/script_name.h"
 
 #include <gtest/gtest.h>

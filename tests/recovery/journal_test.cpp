@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "recovery/journal.h"
 
 #include <gtest/gtest.h>

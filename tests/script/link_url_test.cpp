@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "script/link_url.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Takes a picture of each step of the Menu Integrator and of each window that it opens, to be
 // looked at by a person and for the manual:
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What will change is shown before it does.
 
 #include <QCheckBox>

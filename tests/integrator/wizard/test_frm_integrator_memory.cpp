@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the wizard opens with after it was closed.
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The wizard's last frame: what it says of the whole run, and taking the run back.
 
 #include "wizard_desk.h"

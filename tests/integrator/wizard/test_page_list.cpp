@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Choosing pages beside the file dialog: the list of pages, and what is dropped.
 
 #include <QDropEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Placing the menu in the pages from the wizard's last frame.
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The window that undoes earlier runs.
 
 #include <QListWidget>

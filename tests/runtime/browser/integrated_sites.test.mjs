@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pages of sites of different make with the menu in them, as the integrator's own tests expect them byte for
 // byte: the menu stands where it was placed, its submenus open, the site's own script has run.
 import assert from 'node:assert/strict';
