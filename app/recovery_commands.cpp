@@ -10,6 +10,7 @@
 #include "app/changes_window.h"
 #include "app/strip_line.h"
 #include "script/script_reader.h"
+#include "script/script_writer.h"
 #include "text/path.h"
 
 namespace zev {
@@ -124,12 +125,15 @@ void RecoveryCommands::showChanges(const UnsavedMenu& unsaved) {
         offer();
         return;
     }
+    // As a save would leave it: of what it does not write nobody need be told.
+    MenuContent after;
+    ReadScript(definitionFileBytes(GenerateScript(menu->content)), after);
     MenuContent saved;
     FileResult<std::string> bytes =
         m_host.files.readFile(unsaved.SaveFile, kMaxDefinitionFileBytes);
     if (bytes.isOk())
         ReadScript(bytes.take(), saved);
-    ChangesWindow(saved, menu->content, contentText(unsaved), &m_host.window).exec();
+    ChangesWindow(saved, after, contentText(unsaved), &m_host.window).exec();
 }
 
 void RecoveryCommands::discard(const UnsavedMenu& unsaved) {

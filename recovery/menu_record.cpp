@@ -17,7 +17,10 @@ namespace {
 constexpr std::string_view kFontSet = "FontSet";
 constexpr std::string_view kOn = "on";
 
-enum ItemFlag : unsigned { kRollover = 1, kExpanded = 2, kSameProperties = 4 };
+// Bits of the numbers that stand for yes and no.
+constexpr unsigned kRollover = 1;
+constexpr unsigned kExpanded = 2;
+constexpr unsigned kSameProperties = 4;
 
 std::string valueOf(const MenuProp& set, const TextMember& text) {
     return set.*text.member;
