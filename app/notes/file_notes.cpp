@@ -140,8 +140,12 @@ LeftDefaults leftDefaults(const std::string& bytes) {
     const MenuProp factory = MenuContent().DefaultProp;
     MenuProp read = factory;
     loadUnkeptDefaults(bytes, read);
-    return {read.CloseDelay == factory.CloseDelay ? "" : read.CloseDelay,
-            read.MenuOffset == factory.MenuOffset ? "" : read.MenuOffset};
+    const auto left = [](const std::string& value, const std::string& factoryValue) {
+        // A button has no room for more, nor has a number any need of it.
+        constexpr std::size_t kMaxDigits = 12;
+        return value == factoryValue || value.size() > kMaxDigits ? "" : value;
+    };
+    return {left(read.CloseDelay, factory.CloseDelay), left(read.MenuOffset, factory.MenuOffset)};
 }
 
 NoteList leftDefaultsNotes(const LeftDefaults& left, const MenuProp& defaults,

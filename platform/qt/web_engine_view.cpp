@@ -148,6 +148,7 @@ bool WebEnginePage::javaScriptPrompt(const QUrl&, const QString& text, const QSt
 void WebEnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level,
                                              const QString& message, int line,
                                              const QString& source) {
+    QWebEnginePage::javaScriptConsoleMessage(level, message, line, source);
     static const QString kUncaught = "Uncaught ";
     if (level == ErrorMessageLevel && message.startsWith(kUncaught) &&
         m_walls.isScript(QUrl(source)))

@@ -81,6 +81,7 @@ class test_frm_main : public QObject {
                  "  mnuEditRedo|&Redo|Ctrl+Shift+Z\n"
                  "mnuTools|&Tools\n"
                  "  mnuToolsIntegrate|&Menu Integrator|\n"
+                 "  mnuToolsCheck|&Check Menu|\n"
                  "  mnuToolsUndoIntegration|&Undo Integration\u2026|\n"
                  "mnuHelp|&Help\n"
                  "  mnuHelpContents|&Contents|F1\n"

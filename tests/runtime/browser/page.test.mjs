@@ -377,6 +377,7 @@ test('the preview page tells an error of the script and its line', async () => {
         /^The menu's script has an error in line 2: SyntaxError/);
     assert.match(await brokenPreview(menu + "zevmenu.AddItem('A', '', '');\r\nzevmenu.columns = many;\r\n"),
         /^The menu's script has an error in line 3: ReferenceError/);
+    assert.equal(page.errors.splice(0).length, 2);
 });
 
 test('the preview page is not wider than a phone', async () => {
