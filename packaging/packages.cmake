@@ -28,8 +28,9 @@ if(ZEV_VENDOR_SITE)
     set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://${ZEV_VENDOR_SITE}/)
 endif()
 
-# The first line of each description is its summary; that of the project is that of neither.
-set(CPACK_DEFAULT_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+# The first line of each description is its summary; that of the project is that of neither. This is
+# what CPack has where there is none.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${CMAKE_PROJECT_NAME} built using CMake")
 set(CPACK_DEBIAN_COMMAND_PACKAGE_NAME zevmenu)
 set(CPACK_COMPONENT_COMMAND_DESCRIPTION
 "menus of web sites on the command line, and their script library

@@ -77,6 +77,12 @@ class Packages(unittest.TestCase):
             self.assertEqual(field(package, "Architecture"), architecture)
         self.assertIn(f"zevmenu (= {VERSION}-{REVISION})", field(self.editor, "Depends"))
 
+    def test_each_says_what_it_is(self):
+        summaries = [field(package, "Description").splitlines()[0]
+                     for package in (self.command, self.editor)]
+        self.assertEqual(summaries, ["menus of web sites on the command line, and their script library",
+                                     "editor for cascading menus on web sites"])
+
     def test_the_command_line_needs_no_display(self):
         names = set(re.findall(r"[a-z][a-z0-9+.-]+(?=[ ,]|$)", field(self.command, "Depends")))
         self.assertEqual(names, {"libc6", "libgcc-s1", "libstdc++6"})
