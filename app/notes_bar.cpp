@@ -39,7 +39,6 @@ NotesBar::NotesBar(EditorNotes& notes, QWidget* parent)
     setAccessibleName(tr("Notes"));
     // What room there is belongs to the tree.
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    m_line->keepOneLine();
     m_list->setObjectName("NotesList");
     m_list->setAccessibleName(tr("List of notes"));
     m_list->setWordWrap(true);

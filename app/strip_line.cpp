@@ -9,16 +9,13 @@
 
 namespace zev {
 
+/// One line, cut where the room ends.
 class StripLabel : public QLabel {
   public:
     using QLabel::QLabel;
 
   protected:
-    void paintEvent(QPaintEvent* event) override {
-        if (wordWrap()) {
-            QLabel::paintEvent(event);
-            return;
-        }
+    void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
         painter.setPen(palette().color(foregroundRole()));
         painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft,
@@ -33,14 +30,9 @@ StripLine::StripLine(const QString& name, const QString& group, QWidget* parent)
     m_label->setTextFormat(Qt::PlainText);
     // A long caption is no reason for a wide window.
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_label->setWordWrap(true);
     m_layout->setContentsMargins(4, 0, 0, 0);
     m_layout->addWidget(m_label, 1);
     hide();
-}
-
-void StripLine::keepOneLine() {
-    m_label->setWordWrap(false);
 }
 
 void StripLine::say(const QString& text, std::vector<Action> actions) {
@@ -49,7 +41,7 @@ void StripLine::say(const QString& text, std::vector<Action> actions) {
         button->deleteLater();  // it may be the one that was pressed
     }
     m_label->setText(text);
-    m_label->setToolTip(m_label->wordWrap() ? QString() : text.toHtmlEscaped());
+    m_label->setToolTip(text.toHtmlEscaped());
     for (Action& action : actions) {
         auto* button = new QPushButton(action.text, this);
         button->setFocusPolicy(Qt::TabFocus);

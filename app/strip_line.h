@@ -26,10 +26,8 @@ class StripLine : public QWidget {
     /// `group` is what assistive technology calls the line.
     StripLine(const QString& name, const QString& group, QWidget* parent);
 
-    /// A text that is too long for one line is cut there, and whole in the tooltip. Otherwise it
-    /// goes on below.
-    void keepOneLine();
-    /// An empty text hides the line.
+    /// A text that is too long for the line is cut there, and whole in the tooltip. An empty one
+    /// hides the line.
     void say(const QString& text, std::vector<Action> actions = {});
     QString text() const;
 
