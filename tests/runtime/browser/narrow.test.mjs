@@ -119,7 +119,7 @@ for (const width of [320, 360, 400]) {
 }
 
 test('where two boxes stand side by side the third opens inside the second, not back over the first', async () => {
-    const names = depth => ['A', 'B', 'C'].map(letter => `${letter}${depth} of a menu`);
+    const names = depth => ['A', 'B', 'C'].map(letter => `${letter}${depth} of a menu that is wide`);
     const definition = [0, 1, 2].map(depth => list(depth ? Array(depth).fill(2).join('i') : '0', names(depth))).join('\n');
     await show({ width: 900, definition });
     const width = Math.ceil((await boxRect(page, names(0)[1])).width * 2.5);

@@ -34,8 +34,8 @@ export class WebDriverBrowser {
     }
 }
 
-// How long the driver may take for a command. When the browser hangs, the driver never answers.
-const commandMs = 30000;
+// How long the driver may take for a command on a busy machine. When the browser hangs, the driver never answers.
+export const commandMs = 120000;
 
 async function request(method, url, body) {
     const command = `${method} ${new URL(url).pathname} ${JSON.stringify(body || {})}`;

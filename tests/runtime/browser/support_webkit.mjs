@@ -6,7 +6,7 @@ import { mkdirSync, writeFileSync } from 'node:fs';
 import { createServer } from 'node:net';
 import { join } from 'node:path';
 import { promisify } from 'node:util';
-import { WebDriverBrowser } from './support_webdriver.mjs';
+import { WebDriverBrowser, commandMs } from './support_webdriver.mjs';
 
 const program = process.env.WEBKIT || '/usr/lib/x86_64-linux-gnu/webkit2gtk-4.1/MiniBrowser';
 // Full screen means without a toolbar, which the window could not be narrower than.
@@ -26,7 +26,7 @@ export async function startWebKit(folder, { reducedMotion = false, awaitsLoad = 
         const env = environment(folder, String(number).trim(), reducedMotion);
         const address = await startDriver(env, processes);
         const browser = await WebDriverBrowser.start(
-            address, { 'webkitgtk:browserOptions': { binary: program, args },
+            address, { 'webkitgtk:browserOptions': { binary: program, args }, timeouts: { script: commandMs },
                        pageLoadStrategy: awaitsLoad ? 'normal' : 'none' });
         await giveFocus(env);
         return {
