@@ -152,6 +152,7 @@ QWidget* frmPlace::makePreview() {
     m_changes->setHorizontalHeaderLabels({tr("Line"), tr("Now"), tr("Then")});
     m_changes->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_changes->setTabKeyNavigation(false);
+    m_changes->setTextElideMode(Qt::ElideNone);
     m_changes->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_changes->verticalHeader()->hide();
     m_changes->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
@@ -300,9 +301,13 @@ void frmPlace::showChanges(const std::string& name) {
          changedLines(page.value(), placement.value().edits, kShownBytes)) {
         const int row = m_changes->rowCount();
         m_changes->insertRow(row);
-        m_changes->setItem(row, 0, new QTableWidgetItem(QString::number(change.line)));
-        m_changes->setItem(row, 1, new QTableWidgetItem(shown(change.before)));
-        m_changes->setItem(row, 2, new QTableWidgetItem(shown(change.after)));
+        int column = 0;
+        for (const QString& text :
+             {QString::number(change.line), shown(change.before), shown(change.after)}) {
+            auto* item = new QTableWidgetItem(text);
+            item->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
+            m_changes->setItem(row, column++, item);
+        }
     }
     m_changes->resizeRowsToContents();
 }
