@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <limits>
@@ -43,6 +44,20 @@ QString shown(const std::string& bytes) {
                ? QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()))
                : text;
 }
+
+/// A line of code can be broken behind each of its tags and statements: the program's own have no
+/// blank for longer than a column is wide.
+class CodeDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QString displayText(const QVariant& value, const QLocale& locale) const override {
+        constexpr QChar kZeroWidthSpace(0x200B);
+        QString text = QStyledItemDelegate::displayText(value, locale);
+        for (const QChar end : {QChar(u'>'), QChar(u';')})
+            text.replace(end, QString(end) + kZeroWidthSpace);
+        return text;
+    }
+};
 
 QString problemText(PlaceProblem problem) {
     switch (problem) {
@@ -152,6 +167,7 @@ QWidget* frmPlace::makePreview() {
     m_changes->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_changes->setTabKeyNavigation(false);
     m_changes->setTextElideMode(Qt::ElideNone);
+    m_changes->setItemDelegate(new CodeDelegate(m_changes));
     m_changes->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_changes->verticalHeader()->hide();
     m_changes->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);

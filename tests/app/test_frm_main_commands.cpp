@@ -428,6 +428,7 @@ class test_frm_main_commands : public QObject {
 
     void earlierRunsAreOfferedToBeUndone() {
         WindowDesk desk("/me");
+        desk.disk.addFile("/site/a.htm", "old");
         RunRecord(desk.disk, "/me/runs", 0).append("/site/a.htm", "old", "new", {{0, 3, "new"}});
         desk.disk.addFile("/site/a.htm", "new");
         whenShown<frmUndo>([&](frmUndo& window) {
