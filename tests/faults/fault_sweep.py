@@ -353,11 +353,15 @@ class PageSweep(Sweep):
             super().check_next_run(fault)
 
     def is_put_right(self, after):
-        # A run that was killed late leaves the new page, which the next one backs up.
+        # A run that was killed late leaves the new page, which the next one backs up; it keeps the
+        # backup of the old one under another name then.
         entries = dict(after.entries)
         backup = self.backup()
         if backup and after.bytes_of(backup) == self.new.bytes_of(self.definition):
             entries[backup] = self.new.entries[backup]
+            original = entries.pop(backup + ".original", None)
+            if original != self.old.entries[self.definition]:
+                return False
         return entries == self.new.entries
 
 
