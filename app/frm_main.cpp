@@ -34,7 +34,7 @@
 #include "dialogs/property_edit.h"
 #include "html/caption_text.h"
 #include "integrator/wizard/frm_integrator.h"
-#include "integrator/wizard/frm_undo.h"
+#include "integrator/wizard/undo_window.h"
 #include "library/changed_files.h"
 #include "messages/library_messages.h"
 #include "script/script_writer.h"
@@ -360,7 +360,7 @@ void frmMain::mnuToolsIntegrate_Click() {
 }
 
 void frmMain::undoIntegration() {
-    frmUndo window(m_services.files, m_services.messages, inUserFolder("runs"), this);
+    UndoWindow window(m_services.files, m_services.messages, inUserFolder("runs"), this);
     window.exec();
 }
 

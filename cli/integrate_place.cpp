@@ -42,9 +42,9 @@ void addPlaceOptions(CLI::App& command, PlaceArguments& place, IntegrateOptions&
 
 void takePlaceArguments(const PlaceArguments& place, IntegrateOptions& options) {
     options.place = parsePlace(place.where);
-    if (place.isRemoval && (!options.definition.empty() || !options.library.empty() ||
-                            options.popup || options.keepsOtherScripts ||
-                            options.replacesReferences))
+    if (place.isRemoval &&
+        (!options.definition.empty() || !options.library.empty() || options.popup ||
+         options.keepsOtherScripts || options.replacesReferences))
         throw CLI::ValidationError("--remove", kRemovalOptions);
 }
 

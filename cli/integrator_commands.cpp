@@ -109,8 +109,7 @@ ExitStatus writeReport(FileSystem& files, const std::string& path, const RunRepo
             printProblem(page + ": failed; see the report");
     if (path.empty()) {
         output = withUnixLineEnds(text) + code;
-    } else if (const FileOutcome error =
-                   files.writeFile(path, text + "\r\n", Links::Followed)) {
+    } else if (const FileOutcome error = files.writeFile(path, text + "\r\n", Links::Followed)) {
         printProblem(*error);
         return ExitStatus::FileProblem;
     }

@@ -51,10 +51,10 @@ struct IntegrationOptions {
     RewriteOptions rewrite;
     bool hasBackups = true;     ///< each page is copied to its name with ".bak" first
     bool isDryRun = false;      ///< nothing is written; the report is that of a real run
+    bool isRemoval = false;     ///< what an earlier run put in is taken out instead
     bool skipsFailing = false;  ///< a page that lacks a place for the menu's code stays as it is
     /// Gets what it takes to undo the run; not owned, null for none. It outlives the integrator.
     RunRecord* record = nullptr;
-    bool isRemoval = false;  ///< what an earlier run put in is taken out instead
 };
 
 /// What became of a run's pages.

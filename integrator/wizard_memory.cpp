@@ -66,7 +66,8 @@ std::string bytesOf(const std::string& definition, const WizardEntries& entries)
     return bytes;
 }
 
-WizardEntries entriesFrom(const std::vector<std::string>& fields) {
+/// Nothing when some are missing.
+std::optional<WizardEntries> entriesFrom(const std::vector<std::string>& fields) {
     WizardEntries entries;
     WizardAnswers& answers = entries.answers;
     answers.hasBackups = fields[2] == "1";
@@ -81,7 +82,8 @@ WizardEntries entriesFrom(const std::vector<std::string>& fields) {
     std::size_t keptCount = 0;
     std::from_chars(fields[13].data(), fields[13].data() + fields[13].size(), keptCount);
     const auto kept = fields.begin() + kEntryFields;
-    keptCount = std::min(keptCount, fields.size() - kEntryFields);
+    if (keptCount > fields.size() - kEntryFields)
+        return {};
     const auto pages = kept + static_cast<std::ptrdiff_t>(keptCount);
     answers.keptScripts.assign(kept, pages);
     entries.pages.names.assign(pages, fields.end());
@@ -97,13 +99,11 @@ std::string WizardMemory::pathOf(const std::string& name) const {
     return Path::onThisSystem(m_folder).child(name);
 }
 
-std::vector<WizardMemory::Slot> WizardMemory::listed() const {
-    if (m_folder.empty())
-        return {};
+FileResult<std::vector<WizardMemory::Slot>> WizardMemory::listed() const {
     const FileResult<std::string> file = m_files.readFile(pathOf(kListName), kMaxBytes);
-    if (!file.isOk())
-        return {};
-    const std::vector<std::string> fields = fieldsOf(file.value());
+    if (!file.isOk() && file.error().code != FileError::Code::NotFound)
+        return file.error();
+    const std::vector<std::string> fields = fieldsOf(file.isOk() ? file.value() : "");
     std::vector<Slot> list;
     for (std::size_t i = 0; i + 1 < fields.size() && list.size() < kMaxDefinitions; i += 2)
         list.push_back({fields[i], fields[i + 1]});
@@ -111,7 +111,12 @@ std::vector<WizardMemory::Slot> WizardMemory::listed() const {
 }
 
 std::optional<WizardEntries> WizardMemory::recall(const std::string& definition) const {
-    for (const Slot& slot : listed()) {
+    if (m_folder.empty())
+        return {};
+    const FileResult<std::vector<Slot>> all = listed();
+    if (!all.isOk())
+        return {};
+    for (const Slot& slot : all.value()) {
         if (slot.definition != definition)
             continue;
         const FileResult<std::string> file = m_files.readFile(pathOf(slot.name), kMaxBytes);
@@ -131,7 +136,11 @@ FileOutcome WizardMemory::remember(const std::string& definition, const WizardEn
         return {};
     if (FileOutcome error = m_files.makeFolder(m_folder))
         return error;
-    std::vector<Slot> all = listed();
+    // Without the list, another definition's file would be written over.
+    FileResult<std::vector<Slot>> list = listed();
+    if (!list.isOk())
+        return list.error();
+    std::vector<Slot> all = list.take();
     const auto known = std::find_if(
         all.begin(), all.end(), [&](const Slot& slot) { return slot.definition == definition; });
     Slot slot{"entries" + std::to_string(all.size() + 1), definition};
@@ -146,12 +155,12 @@ FileOutcome WizardMemory::remember(const std::string& definition, const WizardEn
     if (FileOutcome error =
             m_files.writeFile(pathOf(slot.name), bytesOf(definition, entries), Links::Replaced))
         return error;
-    std::string list;
+    std::string bytes;
     for (const Slot& each : all) {
-        addField(list, each.name);
-        addField(list, each.definition);
+        addField(bytes, each.name);
+        addField(bytes, each.definition);
     }
-    return m_files.writeFile(pathOf(kListName), list, Links::Replaced);
+    return m_files.writeFile(pathOf(kListName), bytes, Links::Replaced);
 }
 
 }  // namespace zev

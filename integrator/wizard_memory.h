@@ -39,7 +39,7 @@ class WizardMemory {
         std::string name;  ///< of the file
         std::string definition;
     };
-    std::vector<Slot> listed() const;
+    FileResult<std::vector<Slot>> listed() const;
     std::string pathOf(const std::string& name) const;
 
     FileSystem& m_files;

@@ -12,9 +12,9 @@
 #include <QRadioButton>
 
 #include "dialogs/property_edit.h"
-#include "integrator/wizard/frm_changes.h"
+#include "integrator/wizard/changes_window.h"
 #include "integrator/wizard/frm_integrator.h"
-#include "integrator/wizard/frm_page_list.h"
+#include "integrator/wizard/page_list_window.h"
 #include "integrator/wizard/page_sources.h"
 #include "platform/common_dialogs.h"
 #include "text/path.h"
@@ -63,7 +63,7 @@ void frmIntegrator::addFolder() {
 }
 
 void frmIntegrator::changePageList() {
-    frmPageList list(m_services, m_flow.pages(), this);
+    PageListWindow list(m_services, m_flow.pages(), this);
     if (list.exec() != QDialog::Accepted || !m_flow.setPages(list.paths()))
         return;
     useNewPages();
@@ -119,7 +119,7 @@ void frmIntegrator::showChanges(void (frmIntegrator::*next)()) {
     QStringList notes = missingPaths();
     if (!m_lblUnsaved->isHidden())
         notes.prepend(m_lblUnsaved->text());
-    auto* changes = new frmChanges(
+    auto* changes = new ChangesWindow(
         {m_flow.pages().names, m_flow.survey(), notes, m_flow.isReviewed()}, answers(), this);
     changes->setAttribute(Qt::WA_DeleteOnClose);
     connect(changes, &QDialog::accepted, this, [this, changes, next] {

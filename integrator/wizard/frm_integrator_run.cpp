@@ -10,7 +10,7 @@
 #include <initializer_list>
 
 #include "integrator/wizard/frm_integrator.h"
-#include "integrator/wizard/frm_place.h"
+#include "integrator/wizard/place_window.h"
 #include "integrator/wizard/undone_message.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
@@ -136,7 +136,7 @@ void frmIntegrator::runFurther(const QString& what,
 
 void frmIntegrator::placeMenu() {
     const WizardAnswers given = answers();
-    frmPlace window(m_flow, m_services.files, given, m_linkList, this);
+    PlaceWindow window(m_flow, m_services.files, given, m_linkList, this);
     if (!window.lookForPlaces() || window.exec() != QDialog::Accepted)
         return;
     runFurther(tr("Placing the menu"), [&](const WizardFlow::Progress& progress) {

@@ -59,7 +59,7 @@ int PageChangesModel::rowCount(const QModelIndex& parent) const {
 }
 
 int PageChangesModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : kColumnCount;
+    return parent.isValid() ? 0 : ColumnCount;
 }
 
 QVariant PageChangesModel::data(const QModelIndex& index, int role) const {

@@ -14,7 +14,7 @@ namespace zev {
 class PageChangesModel : public QAbstractTableModel {
     Q_OBJECT
   public:
-    enum Column { Page, FoundBefore, Scripts, ToKnow, kColumnCount };
+    enum Column { Page, FoundBefore, Scripts, ToKnow, ColumnCount };
 
     /// `survey` may tell of less than all pages; its rows are those of the first of `names`.
     PageChangesModel(const std::vector<std::string>& names, const std::vector<SurveyedPage>& survey,

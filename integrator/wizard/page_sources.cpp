@@ -8,7 +8,7 @@
 #include <algorithm>
 
 #include "integrator/page_list.h"
-#include "integrator/wizard/frm_add_folder.h"
+#include "integrator/wizard/add_folder_window.h"
 #include "platform/message_box.h"
 
 namespace zev {
@@ -35,7 +35,7 @@ FileDialogRequest pageRequest(const std::string& folder) {
 
 std::vector<std::string> pagesOfFolder(const IntegratorServices& services,
                                        const std::string& folder, QWidget* parent) {
-    frmAddFolder window(services, folder, parent);
+    AddFolderWindow window(services, folder, parent);
     window.exec();
     return window.paths();
 }

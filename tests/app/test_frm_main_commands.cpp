@@ -12,7 +12,7 @@
 #include "app/frm_about.h"
 #include "integrator/run_record.h"
 #include "integrator/wizard/frm_integrator.h"
-#include "integrator/wizard/frm_undo.h"
+#include "integrator/wizard/undo_window.h"
 #include "script/script_writer.h"
 #include "when_shown.h"
 #include "window_desk.h"
@@ -433,9 +433,10 @@ class test_frm_main_commands : public QObject {
 
     void earlierRunsAreOfferedToBeUndone() {
         WindowDesk desk("/me");
+        desk.disk.addFile("/site/a.htm", "old");
         RunRecord(desk.disk, "/me/runs", 0).append("/site/a.htm", "old", "new", {{0, 3, "new"}});
         desk.disk.addFile("/site/a.htm", "new");
-        whenShown<frmUndo>([&](frmUndo& window) {
+        whenShown<UndoWindow>([&](UndoWindow& window) {
             desk.messages.expect("1 page is as before the run.");
             window.findChild<QPushButton*>("btnUndo")->click();
             window.reject();

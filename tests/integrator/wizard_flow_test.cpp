@@ -341,13 +341,14 @@ TEST(WizardFlowTest, TheReportIsSavedWithOneMoreLineBreakOrTheErrorGiven) {
     EXPECT_EQ(error->code, FileError::Code::NoPermission);
 }
 
-TEST(WizardFlowTest, SuccessIsThatOfTheLastPageProcessed) {
+TEST(WizardFlowTest, SuccessIsThatOfTheWholeRun) {
     struct Case {
         std::vector<std::string> names;
         bool isSuccess;
     };
-    for (const Case& c : {Case{{"a.htm", "bad.htm"}, false}, Case{{"bad.htm", "a.htm"}, true},
-                          Case{{"a.htm", "gone.htm"}, true}, Case{{"gone.htm"}, false}}) {
+    for (const Case& c : {Case{{"a.htm", "bad.htm"}, false}, Case{{"bad.htm", "a.htm"}, false},
+                          Case{{"a.htm", "gone.htm"}, false}, Case{{"gone.htm"}, false},
+                          Case{{"a.htm", "b.htm"}, true}}) {
         Flow desk;
         desk.files.addFile("/site/bad.htm", "no page at all");
         desk.goToMenuStep(c.names);

@@ -18,12 +18,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "integrator/wizard/frm_add_folder.h"
-#include "integrator/wizard/frm_changes.h"
+#include "integrator/wizard/add_folder_window.h"
+#include "integrator/wizard/changes_window.h"
 #include "integrator/wizard/frm_integrator.h"
-#include "integrator/wizard/frm_page_list.h"
-#include "integrator/wizard/frm_place.h"
-#include "integrator/wizard/frm_undo.h"
+#include "integrator/wizard/page_list_window.h"
+#include "integrator/wizard/place_window.h"
+#include "integrator/wizard/undo_window.h"
 #include "platform/fake/fake_services.h"
 #include "platform/posix/posix_file_system.h"
 #include "tests/app/theme_palettes.h"
@@ -94,17 +94,17 @@ void walk(frmIntegrator& wizard, const Camera& camera, const QString& site,
     press("btnNext");
     dialogs.expectOpenFiles({site.toStdString(), {"index.html", "about.html"}});
     press("BtnInputFile");
-    whenShown<frmAddFolder>([&](frmAddFolder& window) {
+    whenShown<AddFolderWindow>([&](AddFolderWindow& window) {
         window.findChild<QLineEdit*>("txtFolder")->setText(site);
-        camera.take(window, "frmAddFolder");
+        camera.take(window, "AddFolderWindow");
         window.accept();
     });
     press("btnAddFolder");
     camera.take(wizard, "step1");
-    camera.takeNext<frmPageList>();
+    camera.takeNext<PageListWindow>();
     press("btnPageList");
-    whenShown<frmChanges>([&](frmChanges& window) {
-        camera.take(window, "frmChanges");
+    whenShown<ChangesWindow>([&](ChangesWindow& window) {
+        camera.take(window, "ChangesWindow");
         window.accept();
     });
     press("btnNext");
@@ -116,10 +116,10 @@ void walk(frmIntegrator& wizard, const Camera& camera, const QString& site,
     camera.take(wizard, "step4");
     press("btnNext");
     camera.take(wizard, "step5");
-    whenShown<frmPlace>([&](frmPlace& window) {
+    whenShown<PlaceWindow>([&](PlaceWindow& window) {
         auto* place = window.findChild<QComboBox*>("cboPlace");
         place->setCurrentIndex(place->findData("after:"));
-        camera.take(window, "frmPlace");
+        camera.take(window, "PlaceWindow");
         window.findChild<QPushButton*>("btnPlace")->click();
     });
     press("btnPlace");
@@ -158,8 +158,8 @@ int main(int argc, char** argv) {
     if (!QTest::qWaitForWindowActive(&wizard))
         return 1;
     walk(wizard, camera, site, dialogs);
-    frmUndo undo(files, messages, runs, nullptr);
+    UndoWindow undo(files, messages, runs, nullptr);
     undo.show();
-    camera.take(undo, "frmUndo");
+    camera.take(undo, "UndoWindow");
     return 0;
 }

@@ -7,7 +7,7 @@
 #include <QTableView>
 #include <QTimer>
 
-#include "integrator/wizard/frm_changes.h"
+#include "integrator/wizard/changes_window.h"
 #include "integrator/wizard/page_changes_model.h"
 #include "wizard_desk.h"
 
@@ -20,19 +20,19 @@ constexpr const char* kForeign =
     "<body><script>own();</script>text</body></html>";
 
 /// The window that is open over the wizard; null when there is none.
-frmChanges* openChanges(WizardDesk& desk) {
-    for (auto* changes : desk.wizard.findChildren<frmChanges*>())
+ChangesWindow* openChanges(WizardDesk& desk) {
+    for (auto* changes : desk.wizard.findChildren<ChangesWindow*>())
         if (changes->isVisible())
             return changes;
     return nullptr;
 }
 
 template <typename Widget>
-Widget& named(frmChanges& changes, const char* name) {
+Widget& named(ChangesWindow& changes, const char* name) {
     return *changes.findChild<Widget*>(name);
 }
 
-QStringList scripts(frmChanges& changes) {
+QStringList scripts(ChangesWindow& changes) {
     const auto& list = named<QListWidget>(changes, "listScripts");
     QStringList names;
     for (int row = 0; row < list.count(); ++row)
@@ -40,7 +40,7 @@ QStringList scripts(frmChanges& changes) {
     return names;
 }
 
-QStringList row(frmChanges& changes, int number) {
+QStringList row(ChangesWindow& changes, int number) {
     const QAbstractItemModel& model = *named<QTableView>(changes, "tablePages").model();
     QStringList cells;
     for (int column = 0; column < model.columnCount(); ++column)
@@ -48,17 +48,17 @@ QStringList row(frmChanges& changes, int number) {
     return cells;
 }
 
-void press(frmChanges& changes, const char* name) {
+void press(ChangesWindow& changes, const char* name) {
     QTest::mouseClick(changes.findChild<QPushButton*>(name), Qt::LeftButton);
 }
 
 /// From step 1 with the page "f.htm", which has two scripts of its own, to the open window.
-frmChanges& nextShowsChanges(WizardDesk& desk) {
+ChangesWindow& nextShowsChanges(WizardDesk& desk) {
     desk.disk.addFile("/site/f.htm", kForeign);
     desk.next();
     desk.choosePages({"f.htm", "a.htm"});
     desk.next();
-    frmChanges* changes = openChanges(desk);
+    ChangesWindow* changes = openChanges(desk);
     if (changes == nullptr)
         qFatal("the window is not open");
     return *changes;
@@ -72,7 +72,7 @@ class test_changes : public QObject {
   private slots:
     void nextShowsWhatWouldGoBeforeItGoesOn() {
         WizardDesk desk;
-        frmChanges& changes = nextShowsChanges(desk);
+        ChangesWindow& changes = nextShowsChanges(desk);
         QVERIFY(changes.isModal());
         QCOMPARE(desk.shownFrames(), QList<int>{1});
         QCOMPARE(row(changes, 0), (QStringList{"f.htm", "", "js/analytics.js; own();", ""}));
@@ -106,7 +106,7 @@ class test_changes : public QObject {
 
     void singleScriptsAreKept() {
         WizardDesk desk;
-        frmChanges& changes = nextShowsChanges(desk);
+        ChangesWindow& changes = nextShowsChanges(desk);
         QTest::keyClick(&named<QCheckBox>(changes, "chkKeepAll"), Qt::Key_Space);
         auto& list = named<QListWidget>(changes, "listScripts");
         QVERIFY(list.isEnabled());
@@ -125,7 +125,7 @@ class test_changes : public QObject {
 
     void whatWasAnsweredIsShownAgain() {
         WizardDesk desk;
-        frmChanges& changes = nextShowsChanges(desk);
+        ChangesWindow& changes = nextShowsChanges(desk);
         named<QCheckBox>(changes, "chkKeepAll").setChecked(false);
         press(changes, "btnOK");
         QCOMPARE(desk.shownFrames(), QList<int>{2});
@@ -191,7 +191,7 @@ class test_changes : public QObject {
         desk.next();
         desk.choosePages({"a.htm", "frames.htm"});
         desk.next();
-        frmChanges& changes = *openChanges(desk);
+        ChangesWindow& changes = *openChanges(desk);
         QCOMPARE(row(changes, 0), (QStringList{"frames.htm", "", "own();",
                                                "a page of frames; no <body>; no </body>"}));
         auto& skip = named<QCheckBox>(changes, "chkSkipPages");
@@ -274,7 +274,7 @@ class test_changes : public QObject {
         desk.choosePages({"a.htm"});
         QTest::keyClick(&desk.wizard, Qt::Key_W, Qt::AltModifier);
         QTRY_VERIFY(openChanges(desk) != nullptr);
-        frmChanges& changes = *openChanges(desk);
+        ChangesWindow& changes = *openChanges(desk);
         QVERIFY(!named<QTableView>(changes, "tablePages").accessibleName().isEmpty());
         QTest::keyClick(&changes, Qt::Key_Return);
         QTRY_VERIFY(openChanges(desk) == nullptr);
@@ -293,7 +293,7 @@ class test_changes : public QObject {
         }
         QElapsedTimer timer;
         timer.start();
-        frmChanges changes({names, survey, {}, false}, {}, nullptr);
+        ChangesWindow changes({names, survey, {}, false}, {}, nullptr);
         changes.show();
         QVERIFY(QTest::qWaitForWindowExposed(&changes));
         qInfo("shown in %lld ms", static_cast<long long>(timer.elapsed()));

@@ -9,7 +9,7 @@
 #include <QTimer>
 
 #include "dialogs/frm_path.h"
-#include "integrator/wizard/frm_changes.h"
+#include "integrator/wizard/changes_window.h"
 #include "tests/dialogs/roll_wheel.h"
 #include "wizard_desk.h"
 
@@ -216,7 +216,7 @@ class test_frm_integrator_fields : public QObject {
         desk.next();
         if (!isTicked) {
             // What would go is shown first.
-            auto& changes = desk.named<frmChanges>("frmChanges");
+            auto& changes = desk.named<ChangesWindow>("ChangesWindow");
             changes.findChild<QCheckBox*>("chkKeepAll")->setChecked(false);
             changes.accept();
         }

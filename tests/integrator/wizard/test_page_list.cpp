@@ -6,8 +6,8 @@
 #include <QMimeData>
 #include <QUrl>
 
-#include "integrator/wizard/frm_add_folder.h"
-#include "integrator/wizard/frm_page_list.h"
+#include "integrator/wizard/add_folder_window.h"
+#include "integrator/wizard/page_list_window.h"
 #include "tests/app/when_shown.h"
 #include "wizard_desk.h"
 
@@ -49,9 +49,9 @@ QStringList items(const QComboBox& list) {
 }
 
 /// The window with the list, opened by its key from step 1 with these pages; `work` is done there.
-void inPageList(WizardDesk& desk, const std::function<void(frmPageList&)>& work) {
+void inPageList(WizardDesk& desk, const std::function<void(PageListWindow&)>& work) {
     bool isDone = false;
-    whenShown<frmPageList>([&](frmPageList& list) {
+    whenShown<PageListWindow>([&](PageListWindow& list) {
         work(list);
         list.close();
         isDone = true;
@@ -61,9 +61,9 @@ void inPageList(WizardDesk& desk, const std::function<void(frmPageList&)>& work)
 }
 
 /// The window that asks for a folder, opened by its key from step 1.
-void inAddFolder(WizardDesk& desk, const std::function<void(frmAddFolder&)>& work) {
+void inAddFolder(WizardDesk& desk, const std::function<void(AddFolderWindow&)>& work) {
     bool isDone = false;
-    whenShown<frmAddFolder>([&](frmAddFolder& window) {
+    whenShown<AddFolderWindow>([&](AddFolderWindow& window) {
         work(window);
         window.close();
         isDone = true;
@@ -92,7 +92,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.next();
         desk.choosePages({"a.htm", "b.htm", "c.htm", "d.htm"});
-        inPageList(desk, [&](frmPageList& window) {
+        inPageList(desk, [&](PageListWindow& window) {
             QCOMPARE(listed(window), (QStringList{"a.htm", "b.htm", "c.htm", "d.htm"}));
             auto& list = *window.findChild<QListView*>("listPages");
             QVERIFY(!window.findChild<QPushButton*>("btnRemovePages")->isEnabled());
@@ -113,7 +113,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.next();
         desk.choosePages({"a.htm"}, "/site/x");
-        inPageList(desk, [&](frmPageList& window) {
+        inPageList(desk, [&](PageListWindow& window) {
             desk.dialogs.expectOpenFiles({"/site/y", {"a.htm", "b.htm"}});
             press(window, "btnAddPages");
             QCOMPARE(desk.dialogs.recorded().back().request.folder, std::string("/site/x"));
@@ -133,7 +133,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.next();
         desk.choosePages({"a.htm", "b.htm"});
-        inPageList(desk, [&](frmPageList& window) {
+        inPageList(desk, [&](PageListWindow& window) {
             window.findChild<QListView*>("listPages")->selectAll();
             press(window, "btnRemovePages");
             QCOMPARE(listed(window), QStringList());
@@ -146,7 +146,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.next();
         desk.choosePages({"a.htm"});
-        inPageList(desk, [&](frmPageList& window) {
+        inPageList(desk, [&](PageListWindow& window) {
             window.findChild<QListView*>("listPages")->selectAll();
             press(window, "btnRemovePages");
             press(window, "btnOK");
@@ -180,7 +180,7 @@ class test_page_list : public QObject {
     void filesAreDroppedOnTheList() {
         WizardDesk desk;
         desk.next();
-        inPageList(desk, [&](frmPageList& window) {
+        inPageList(desk, [&](PageListWindow& window) {
             QVERIFY(drop(window, {"/site/b.htm", "/site/a.htm"}));
             QCOMPARE(listed(window), (QStringList{"b.htm", "a.htm"}));
             press(window, "btnOK");
@@ -193,7 +193,7 @@ class test_page_list : public QObject {
         for (const char* page : {"/site/x/c.html", "/site/x/old/d.htm", "/site/x/e.txt"})
             desk.disk.addFile(page, kPage);
         desk.next();
-        inAddFolder(desk, [&](frmAddFolder& window) {
+        inAddFolder(desk, [&](AddFolderWindow& window) {
             enter(window, "txtFolder", "/site");
             enter(window, "txtExcluded", "x/old/* ; nothing");
             press(window, "btnOK");
@@ -206,7 +206,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.wizard.setDefinition("/site/js/menu.js");
         desk.next();
-        inAddFolder(desk, [&](frmAddFolder& window) {
+        inAddFolder(desk, [&](AddFolderWindow& window) {
             QCOMPARE(window.findChild<QLineEdit*>("txtFolder")->text(), QString("/site/js"));
             desk.dialogs.expectOpenFolder("/site");
             press(window, "btnBrowseFolder");
@@ -223,7 +223,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.disk.addFile("/site/x/c.htm", kPage);
         desk.next();
-        inAddFolder(desk, [&](frmAddFolder& window) {
+        inAddFolder(desk, [&](AddFolderWindow& window) {
             enter(window, "txtFolder", "/site");
             QTest::keyClick(window.findChild<QWidget*>("chkSubfolders"), Qt::Key_Space);
             press(window, "btnOK");
@@ -235,7 +235,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.disk.addFile("/site/c.php", kPage);
         desk.next();
-        inAddFolder(desk, [&](frmAddFolder& window) {
+        inAddFolder(desk, [&](AddFolderWindow& window) {
             enter(window, "txtFolder", "/site");
             enter(window, "txtPatterns", "*.php;b.*");
             press(window, "btnOK");
@@ -246,7 +246,7 @@ class test_page_list : public QObject {
     void aFolderWithoutPagesKeepsTheWindowOpen() {
         WizardDesk desk;
         desk.next();
-        inAddFolder(desk, [&](frmAddFolder& window) {
+        inAddFolder(desk, [&](AddFolderWindow& window) {
             desk.messages.expect("Please enter a folder");
             press(window, "btnOK");
             enter(window, "txtFolder", "/nowhere");
@@ -275,7 +275,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.disk.addFile("/site/list", text.toStdString());
         desk.next();
-        inPageList(desk, [&](frmPageList& window) {
+        inPageList(desk, [&](PageListWindow& window) {
             desk.dialogs.expectOpenFile("/site/list");
             press(window, "btnAddList");
             QCOMPARE(listed(window), (QStringList{"a.htm", "b.htm"}));
@@ -288,7 +288,7 @@ class test_page_list : public QObject {
         WizardDesk desk;
         desk.disk.addFile("/site/empty", "\n");
         desk.next();
-        inPageList(desk, [&](frmPageList& window) {
+        inPageList(desk, [&](PageListWindow& window) {
             desk.dialogs.expectOpenFile("/site/empty");
             desk.messages.expect("No pages found in /site/empty");
             press(window, "btnAddList");
@@ -344,7 +344,7 @@ class test_page_list : public QObject {
     void everyControlOfTheListHasANameAndAKey() {
         WizardDesk desk;
         desk.next();
-        inPageList(desk, [](frmPageList& window) {
+        inPageList(desk, [](PageListWindow& window) {
             QStringList keys;
             for (const QPushButton* button : window.findChildren<QPushButton*>()) {
                 QVERIFY(!button->accessibleName().isEmpty());

@@ -5,7 +5,7 @@
 #include <QListWidget>
 #include <QTableWidget>
 
-#include "integrator/wizard/frm_place.h"
+#include "integrator/wizard/place_window.h"
 #include "tests/app/when_shown.h"
 #include "wizard_desk.h"
 
@@ -18,12 +18,12 @@ constexpr const char* kWithHeader =
     "</body></html>";
 
 /// The window, opened by its key from the last frame of a run over these pages.
-void inPlace(WizardDesk& desk, const std::function<void(frmPlace&)>& work) {
+void inPlace(WizardDesk& desk, const std::function<void(PlaceWindow&)>& work) {
     // A window that was open before has just gone.
     desk.wizard.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&desk.wizard));
     bool isDone = false;
-    whenShown<frmPlace>([&](frmPlace& window) {
+    whenShown<PlaceWindow>([&](PlaceWindow& window) {
         work(window);
         window.close();
         isDone = true;
@@ -33,17 +33,17 @@ void inPlace(WizardDesk& desk, const std::function<void(frmPlace&)>& work) {
 }
 
 template <typename Widget>
-Widget& named(frmPlace& window, const char* name) {
+Widget& named(PlaceWindow& window, const char* name) {
     return *window.findChild<Widget*>(name);
 }
 
-void choosePlace(frmPlace& window, const char* place) {
+void choosePlace(PlaceWindow& window, const char* place) {
     auto& list = named<QComboBox>(window, "cboPlace");
     list.setCurrentIndex(list.findData(QString(place)));
     QVERIFY(list.currentIndex() >= 0);
 }
 
-QStringList pages(frmPlace& window) {
+QStringList pages(PlaceWindow& window) {
     const auto& list = named<QListWidget>(window, "listPages");
     QStringList names;
     for (int row = 0; row < list.count(); ++row)
@@ -51,7 +51,7 @@ QStringList pages(frmPlace& window) {
     return names;
 }
 
-void press(frmPlace& window, const char* name) {
+void press(PlaceWindow& window, const char* name) {
     QTest::mouseClick(window.findChild<QPushButton*>(name), Qt::LeftButton);
 }
 
@@ -69,7 +69,7 @@ class test_place : public QObject {
         WizardDesk desk;
         desk.goToMenuFrame({"a.htm", "b.htm"});
         desk.next(2);
-        inPlace(desk, [&](frmPlace& window) {
+        inPlace(desk, [&](PlaceWindow& window) {
             QCOMPARE(named<QLabel>(window, "lblFits").text(),
                      QString("It fits in 2 of 2 pages; the others stay as they are."));
             press(window, "btnPlace");
@@ -92,7 +92,7 @@ class test_place : public QObject {
         desk.disk.addFile("/site/h.htm", kWithHeader);
         desk.goToMenuFrame({"a.htm", "h.htm"});
         desk.next(2);
-        inPlace(desk, [&](frmPlace& window) {
+        inPlace(desk, [&](PlaceWindow& window) {
             auto& elements = named<QComboBox>(window, "cboElement");
             QVERIFY(!elements.isEnabled());
             choosePlace(window, "after:");
@@ -116,7 +116,7 @@ class test_place : public QObject {
         desk.goToMenuFrame({"h.htm"});
         desk.next(2);
         const std::string before = desk.page("h.htm");
-        inPlace(desk, [&](frmPlace& window) {
+        inPlace(desk, [&](PlaceWindow& window) {
             choosePlace(window, "instead:");
             auto& elements = named<QComboBox>(window, "cboElement");
             elements.setCurrentIndex(elements.findText("#top"));
@@ -135,7 +135,7 @@ class test_place : public QObject {
         desk.disk.addFile("/site/h.htm", kWithHeader);
         desk.goToMenuFrame({"h.htm"});
         desk.next(2);
-        inPlace(desk, [&](frmPlace& window) {
+        inPlace(desk, [&](PlaceWindow& window) {
             choosePlace(window, "before:");
             QLineEdit& element = *named<QComboBox>(window, "cboElement").lineEdit();
             element.setFocus();
@@ -159,14 +159,14 @@ class test_place : public QObject {
                           "<html><head></head><body><!-- zevmenu -->text</body></html>");
         desk.goToMenuFrame({"a.htm"});
         desk.next(2);
-        inPlace(desk, [](frmPlace& window) {
+        inPlace(desk, [](PlaceWindow& window) {
             QCOMPARE(named<QComboBox>(window, "cboPlace").findData("marker"), -1);
         });
         for (int step = 5; step > 1; --step)
             desk.click("btnBack");
         desk.choosePages({"m.htm"});
         desk.next(4);
-        inPlace(desk, [](frmPlace& window) {
+        inPlace(desk, [](PlaceWindow& window) {
             choosePlace(window, "marker");
             press(window, "btnPlace");
         });
@@ -178,7 +178,7 @@ class test_place : public QObject {
         desk.wizard.setLinkList([](const std::string& url) { return "<ul>" + url + "</ul>"; });
         desk.goToMenuFrame({"a.htm"});
         desk.next(2);
-        inPlace(desk, [](frmPlace& window) {
+        inPlace(desk, [](PlaceWindow& window) {
             auto& links = named<QCheckBox>(window, "chkLinks");
             QVERIFY(links.isVisible());
             QVERIFY(!links.isChecked());
@@ -194,7 +194,7 @@ class test_place : public QObject {
         desk.goToMenuFrame({"h.htm"});
         desk.choosePopup();
         desk.next(2);
-        inPlace(desk, [](frmPlace& window) {
+        inPlace(desk, [](PlaceWindow& window) {
             auto& words = named<QLineEdit>(window, "txtLinkText");
             QVERIFY(words.isVisible());
             words.setFocus();
@@ -212,7 +212,7 @@ class test_place : public QObject {
         desk.goToMenuFrame({"a.htm"});
         desk.next(2);
         for (int i = 0; i < 2; ++i)
-            inPlace(desk, [](frmPlace& window) { press(window, "btnPlace"); });
+            inPlace(desk, [](PlaceWindow& window) { press(window, "btnPlace"); });
         QTRY_COMPARE(QString::fromStdString(desk.page()).count("<!-- zevmenu menu -->"), 1);
     }
 
@@ -227,7 +227,7 @@ class test_place : public QObject {
         WizardDesk desk;
         desk.goToMenuFrame();
         desk.next(2);
-        inPlace(desk, [](frmPlace& window) {
+        inPlace(desk, [](PlaceWindow& window) {
             QStringList keys;
             for (const QWidget* widget : window.findChildren<QWidget*>()) {
                 const auto* label = qobject_cast<const QLabel*>(widget);

@@ -4,7 +4,7 @@
 #include <QListWidget>
 
 #include "integrator/run_record.h"
-#include "integrator/wizard/frm_undo.h"
+#include "integrator/wizard/undo_window.h"
 #include "wizard_desk.h"
 
 using namespace zev;
@@ -22,7 +22,7 @@ void runOver(WizardDesk& desk, const std::vector<std::string>& names,
         desk.click("btnBack");
 }
 
-QStringList listed(frmUndo& window) {
+QStringList listed(UndoWindow& window) {
     const auto* list = window.findChild<QListWidget*>("listRuns");
     QStringList runs;
     for (int row = 0; row < list->count(); ++row)
@@ -40,7 +40,7 @@ class test_undo_window : public QObject {
         WizardDesk desk;
         runOver(desk, {"a.htm"});
         runOver(desk, {"a.htm", "b.htm"}, "lib/");
-        frmUndo window(desk.disk, desk.messages, "/me/runs", nullptr);
+        UndoWindow window(desk.disk, desk.messages, "/me/runs", nullptr);
         const QStringList runs = listed(window);
         QCOMPARE(runs.size(), 2);
         QVERIFY2(runs[0].endsWith(": 2 pages in /site"), qPrintable(runs[0]));
@@ -53,7 +53,7 @@ class test_undo_window : public QObject {
         WizardDesk desk;
         runOver(desk, {"a.htm"});
         runOver(desk, {"b.htm"});
-        frmUndo window(desk.disk, desk.messages, "/me/runs", nullptr);
+        UndoWindow window(desk.disk, desk.messages, "/me/runs", nullptr);
         window.show();
         auto* list = window.findChild<QListWidget*>("listRuns");
         list->setFocus();
@@ -69,7 +69,7 @@ class test_undo_window : public QObject {
         WizardDesk desk;
         runOver(desk, {"a.htm"});
         desk.disk.addFile("/site/a.htm", "mine now");
-        frmUndo window(desk.disk, desk.messages, "/me/runs", nullptr);
+        UndoWindow window(desk.disk, desk.messages, "/me/runs", nullptr);
         window.show();
         desk.messages.expect(
             "a list with the page",
@@ -87,14 +87,14 @@ class test_undo_window : public QObject {
         for (int i = 0; i < 12; ++i)
             runOver(desk, {"a.htm"}, QString("js%1/").arg(i));
         QCOMPARE(listRuns(desk.disk, "/me/runs").size(), 12u);
-        frmUndo window(desk.disk, desk.messages, "/me/runs", nullptr);
+        UndoWindow window(desk.disk, desk.messages, "/me/runs", nullptr);
         QCOMPARE(listed(window).size(), 10);
     }
 
     void withoutRunsThereIsNothingToUndo() {
         WizardDesk desk;
         for (const char* folder : {"/me/runs", ""}) {
-            frmUndo window(desk.disk, desk.messages, folder, nullptr);
+            UndoWindow window(desk.disk, desk.messages, folder, nullptr);
             QCOMPARE(listed(window), QStringList{"There is no run that can be undone."});
             QVERIFY(!window.findChild<QPushButton*>("btnUndo")->isEnabled());
         }

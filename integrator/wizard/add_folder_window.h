@@ -15,11 +15,11 @@ class QLineEdit;
 namespace zev {
 
 /// Asks for a folder and which of its files are pages, and finds them.
-class frmAddFolder : public QDialog {
+class AddFolderWindow : public QDialog {
     Q_OBJECT
   public:
     /// `folder`: where to begin; may be empty.
-    frmAddFolder(const IntegratorServices& services, const std::string& folder, QWidget* parent);
+    AddFolderWindow(const IntegratorServices& services, const std::string& folder, QWidget* parent);
 
     /// After OK: full paths, at least one.
     const std::vector<std::string>& paths() const { return m_paths; }

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+<<<<<<< HEAD:integrator/wizard/frm_add_folder.cpp
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_add_folder.h"
+=======
+#include "integrator/wizard/add_folder_window.h"
+>>>>>>> w_W:integrator/wizard/add_folder_window.cpp
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -33,10 +38,10 @@ std::vector<std::string> patternsIn(const QString& text) {
 
 }  // namespace
 
-frmAddFolder::frmAddFolder(const IntegratorServices& services, const std::string& folder,
-                           QWidget* parent)
+AddFolderWindow::AddFolderWindow(const IntegratorServices& services, const std::string& folder,
+                                 QWidget* parent)
     : QDialog(parent), m_services(services) {
-    setObjectName("frmAddFolder");
+    setObjectName("AddFolderWindow");
     setWindowTitle(tr("Add Folder"));
     auto* form = new QFormLayout;
     m_txtFolder = addField(*form, "txtFolder", tr("&Folder:"), QString::fromStdString(folder));
@@ -44,7 +49,7 @@ frmAddFolder::frmAddFolder(const IntegratorServices& services, const std::string
     QPushButton* browse = makeDialogButton("btnBrowseFolder", tr("B&rowse"), this);
     browse->setAccessibleName(tr("Browse for a folder"));
     browse->setAutoDefault(false);
-    connect(browse, &QPushButton::clicked, this, &frmAddFolder::chooseFolder);
+    connect(browse, &QPushButton::clicked, this, &AddFolderWindow::chooseFolder);
     auto* row = new QHBoxLayout;
     row->addWidget(browse);
     row->addStretch();
@@ -62,7 +67,7 @@ frmAddFolder::frmAddFolder(const IntegratorServices& services, const std::string
 
     QPushButton* ok = makeDialogButton("btnOK", tr("&OK"), this);
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, &frmAddFolder::accept);
+    connect(ok, &QPushButton::clicked, this, &AddFolderWindow::accept);
     QPushButton* cancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     auto* closing = new QHBoxLayout;
@@ -75,8 +80,8 @@ frmAddFolder::frmAddFolder(const IntegratorServices& services, const std::string
     layout->addLayout(closing);
 }
 
-QLineEdit* frmAddFolder::addField(QFormLayout& form, const QString& name, const QString& caption,
-                                  const QString& text) {
+QLineEdit* AddFolderWindow::addField(QFormLayout& form, const QString& name, const QString& caption,
+                                     const QString& text) {
     auto* field = new QLineEdit(text, this);
     field->setObjectName(name);
     field->setAccessibleName(QString(caption).remove(u'&').remove(u':'));
@@ -85,7 +90,7 @@ QLineEdit* frmAddFolder::addField(QFormLayout& form, const QString& name, const 
     return field;
 }
 
-void frmAddFolder::chooseFolder() {
+void AddFolderWindow::chooseFolder() {
     FileDialogRequest request;
     request.title = "Add Folder";
     request.folder = m_txtFolder->text().toStdString();
@@ -94,14 +99,14 @@ void frmAddFolder::chooseFolder() {
         m_txtFolder->setText(QString::fromStdString(folder));
 }
 
-PagePatterns frmAddFolder::patterns() const {
+PagePatterns AddFolderWindow::patterns() const {
     PagePatterns patterns{patternsIn(m_txtPatterns->text()), patternsIn(m_txtExcluded->text())};
     if (!m_chkSubfolders->isChecked())
         patterns.excluded.push_back("*/*");
     return patterns;
 }
 
-void frmAddFolder::accept() {
+void AddFolderWindow::accept() {
     const std::string folder = m_txtFolder->text().toStdString();
     if (!m_services.files.isFolder(folder)) {
         m_services.messages.notice(folder.empty() ? "Please enter a folder"

@@ -23,13 +23,13 @@ namespace zev {
 class WizardFlow;
 
 /// Puts the menu into the pages: asks where, tells where that fits, and shows what would change.
-class frmPlace : public QDialog {
+class PlaceWindow : public QDialog {
     Q_OBJECT
   public:
     /// `linkList` gives the list of the menu's links for a definition's address; null: there is no
     /// menu to take them from. `flow` is not owned and outlives the window.
-    frmPlace(const WizardFlow& flow, const FileSystem& files, const WizardAnswers& answers,
-             std::function<std::string(const std::string&)> linkList, QWidget* parent);
+    PlaceWindow(const WizardFlow& flow, const FileSystem& files, const WizardAnswers& answers,
+                std::function<std::string(const std::string&)> linkList, QWidget* parent);
 
     /// Looks through the pages for places; to be called before the window is shown. False when the
     /// person stopped it.

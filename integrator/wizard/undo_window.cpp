@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+<<<<<<< HEAD:integrator/wizard/frm_undo.cpp
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_undo.h"
+=======
+#include "integrator/wizard/undo_window.h"
+>>>>>>> w_W:integrator/wizard/undo_window.cpp
 
 #include <QDateTime>
 #include <QHBoxLayout>
@@ -38,15 +43,15 @@ QString runText(const FileSystem& files, const std::string& folder, const std::s
     const QString date = runDate(QString::fromStdString(name));
     const FileResult<std::vector<RecordedPage>> run = readRun(files, folder, name);
     if (!run.isOk())
-        return frmUndo::tr("%1: cannot be read").arg(date);
+        return UndoWindow::tr("%1: cannot be read").arg(date);
     std::vector<std::string> paths;
     for (const RecordedPage& page : run.value())
         paths.push_back(page.path);
     const ChosenFiles pages = chosenPages(paths);
     const QString pagesFolder = QString::fromStdString(pages.folder);
     return pages.names.size() == 1
-               ? frmUndo::tr("%1: %2").arg(date, QString::fromStdString(paths.front()))
-               : frmUndo::tr("%1: %2 pages in %3")
+               ? UndoWindow::tr("%1: %2").arg(date, QString::fromStdString(paths.front()))
+               : UndoWindow::tr("%1: %2 pages in %3")
                      .arg(date)
                      .arg(pages.names.size())
                      .arg(pagesFolder);
@@ -54,16 +59,16 @@ QString runText(const FileSystem& files, const std::string& folder, const std::s
 
 }  // namespace
 
-frmUndo::frmUndo(FileSystem& files, MessageBox& messages, const std::string& recordFolder,
-                 QWidget* parent)
+UndoWindow::UndoWindow(FileSystem& files, MessageBox& messages, const std::string& recordFolder,
+                       QWidget* parent)
     : QDialog(parent), m_files(files), m_messages(messages), m_recordFolder(recordFolder) {
-    setObjectName("frmUndo");
+    setObjectName("UndoWindow");
     setWindowTitle(tr("Undo Integration"));
     arrange();
     showRuns();
 }
 
-void frmUndo::arrange() {
+void UndoWindow::arrange() {
     m_runs = new QListWidget(this);
     m_runs->setObjectName("listRuns");
     m_runs->setAccessibleName(tr("Last runs"));
@@ -79,7 +84,7 @@ void frmUndo::arrange() {
     m_btnUndo = makeDialogButton("btnUndo", tr("&Undo"), this);
     m_btnUndo->setAccessibleName(tr("Undo the run"));
     m_btnUndo->setDefault(true);
-    connect(m_btnUndo, &QPushButton::clicked, this, &frmUndo::undoSelected);
+    connect(m_btnUndo, &QPushButton::clicked, this, &UndoWindow::undoSelected);
     QPushButton* close = makeDialogButton("btnClose", tr("&Close"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     auto* closing = new QHBoxLayout;
@@ -93,7 +98,7 @@ void frmUndo::arrange() {
     layout->addLayout(closing);
 }
 
-void frmUndo::showRuns() {
+void UndoWindow::showRuns() {
     m_runs->clear();
     for (const std::string& name : listRuns(m_files, m_recordFolder)) {
         if (m_runs->count() == kMaxRuns)
@@ -108,7 +113,7 @@ void frmUndo::showRuns() {
         m_runs->addItem(tr("There is no run that can be undone."));
 }
 
-void frmUndo::undoSelected() {
+void UndoWindow::undoSelected() {
     if (m_runs->currentItem() == nullptr)
         return;
     const std::string name = m_runs->currentItem()->data(kNameRole).toString().toStdString();

@@ -17,10 +17,10 @@ namespace zev {
 
 /// The list of the chosen pages, to which single ones are added and from which they are taken.
 /// Pages can be dropped on it.
-class frmPageList : public QDialog {
+class PageListWindow : public QDialog {
     Q_OBJECT
   public:
-    frmPageList(const IntegratorServices& services, const ChosenFiles& pages, QWidget* parent);
+    PageListWindow(const IntegratorServices& services, const ChosenFiles& pages, QWidget* parent);
 
     /// Full paths of the pages that are listed.
     const std::vector<std::string>& paths() const { return m_paths; }

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+<<<<<<< HEAD:integrator/wizard/frm_changes.cpp
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_changes.h"
+=======
+#include "integrator/wizard/changes_window.h"
+>>>>>>> w_W:integrator/wizard/changes_window.cpp
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -27,9 +32,10 @@ constexpr int kColumnWidth = 26;
 
 }  // namespace
 
-frmChanges::frmChanges(const ChangesToShow& changes, const WizardAnswers& answers, QWidget* parent)
+ChangesWindow::ChangesWindow(const ChangesToShow& changes, const WizardAnswers& answers,
+                             QWidget* parent)
     : QDialog(parent) {
-    setObjectName("frmChanges");
+    setObjectName("ChangesWindow");
     setWindowTitle(tr("What Will Change"));
     new QVBoxLayout(this);
     showNotes(changes.notes);
@@ -40,7 +46,7 @@ frmChanges::frmChanges(const ChangesToShow& changes, const WizardAnswers& answer
     resize(kWindowWidth * fontMetrics().averageCharWidth(), sizeHint().height());
 }
 
-void frmChanges::showNotes(const QStringList& notes) {
+void ChangesWindow::showNotes(const QStringList& notes) {
     auto* label = new QLabel(notes.join(u'\n'), this);
     label->setObjectName("lblNotes");
     label->setTextFormat(Qt::PlainText);
@@ -49,7 +55,7 @@ void frmChanges::showNotes(const QStringList& notes) {
     layout()->addWidget(label);
 }
 
-void frmChanges::showPages(const ChangesToShow& changes) {
+void ChangesWindow::showPages(const ChangesToShow& changes) {
     auto* label = new QLabel(tr("&Pages"), this);
     label->setObjectName("lblPages");
     auto* table = new QTableView(this);
@@ -65,7 +71,7 @@ void frmChanges::showPages(const ChangesToShow& changes) {
     table->horizontalHeader()->setResizeContentsPrecision(0);
     table->resizeColumnsToContents();
     const int limit = kColumnWidth * fontMetrics().averageCharWidth();
-    for (int column = 0; column < PageChangesModel::kColumnCount; ++column)
+    for (int column = 0; column < PageChangesModel::ColumnCount; ++column)
         table->setColumnWidth(column, std::min(table->columnWidth(column), limit));
     table->horizontalHeader()->setStretchLastSection(true);
     if (table->model()->rowCount() > 0)
@@ -75,7 +81,7 @@ void frmChanges::showPages(const ChangesToShow& changes) {
     static_cast<QVBoxLayout*>(layout())->addWidget(table, 1);
 }
 
-QCheckBox* frmChanges::addCheckBox(const QString& name, const QString& caption) {
+QCheckBox* ChangesWindow::addCheckBox(const QString& name, const QString& caption) {
     auto* box = new QCheckBox(caption, this);
     box->setObjectName(name);
     box->setAccessibleName(QString(caption).remove(u'&'));
@@ -83,7 +89,7 @@ QCheckBox* frmChanges::addCheckBox(const QString& name, const QString& caption) 
     return box;
 }
 
-void frmChanges::showScripts(const ChangesToShow& changes, const WizardAnswers& answers) {
+void ChangesWindow::showScripts(const ChangesToShow& changes, const WizardAnswers& answers) {
     m_chkKeepAll = addCheckBox("chkKeepAll", tr("&Keep all scripts"));
     auto* label = new QLabel(tr("Scripts that would go; &tick those that stay:"), this);
     label->setObjectName("lblScripts");
@@ -117,7 +123,7 @@ void frmChanges::showScripts(const ChangesToShow& changes, const WizardAnswers& 
     m_scripts->setVisible(m_scripts->count() > 0);
 }
 
-void frmChanges::showSkipping(const ChangesToShow& changes, const WizardAnswers& answers) {
+void ChangesWindow::showSkipping(const ChangesToShow& changes, const WizardAnswers& answers) {
     const auto count =
         std::count_if(changes.survey.begin(), changes.survey.end(),
                       [](const SurveyedPage& page) { return !page.canBeIntegrated(); });
@@ -129,7 +135,7 @@ void frmChanges::showSkipping(const ChangesToShow& changes, const WizardAnswers&
     m_chkSkip->setVisible(count > 0);
 }
 
-void frmChanges::addClosingButtons() {
+void ChangesWindow::addClosingButtons() {
     QPushButton* ok = makeDialogButton("btnOK", tr("&OK"), this);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
@@ -142,11 +148,11 @@ void frmChanges::addClosingButtons() {
     static_cast<QVBoxLayout*>(layout())->addLayout(closing);
 }
 
-bool frmChanges::keepsAll() const {
+bool ChangesWindow::keepsAll() const {
     return m_chkKeepAll->isChecked();
 }
 
-std::vector<std::string> frmChanges::keptScripts() const {
+std::vector<std::string> ChangesWindow::keptScripts() const {
     std::vector<std::string> names;
     for (int row = 0; row < m_scripts->count(); ++row)
         if (m_scripts->item(row)->checkState() == Qt::Checked)
@@ -154,7 +160,7 @@ std::vector<std::string> frmChanges::keptScripts() const {
     return names;
 }
 
-bool frmChanges::skipsFailing() const {
+bool ChangesWindow::skipsFailing() const {
     return m_chkSkip->isChecked();
 }
 

@@ -13,15 +13,15 @@ class FileSystem;
 class MessageBox;
 
 /// The last runs of the Menu Integrator, with their dates and pages, to be undone.
-class frmUndo : public QDialog {
+class UndoWindow : public QDialog {
     Q_OBJECT
   public:
     static constexpr int kMaxRuns = 10;
 
     /// `recordFolder` holds what it takes to undo runs. The references are not owned and outlive
     /// the window.
-    frmUndo(FileSystem& files, MessageBox& messages, const std::string& recordFolder,
-            QWidget* parent);
+    UndoWindow(FileSystem& files, MessageBox& messages, const std::string& recordFolder,
+               QWidget* parent);
 
   private:
     void arrange();

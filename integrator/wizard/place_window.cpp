@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+<<<<<<< HEAD:integrator/wizard/frm_place.cpp
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_place.h"
+=======
+#include "integrator/wizard/place_window.h"
+>>>>>>> w_W:integrator/wizard/place_window.cpp
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -12,6 +17,7 @@
 #include <QListWidget>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <limits>
@@ -45,37 +51,52 @@ QString shown(const std::string& bytes) {
                : text;
 }
 
+/// A line of code can be broken behind each of its tags and statements: the program's own have no
+/// blank for longer than a column is wide.
+class CodeDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QString displayText(const QVariant& value, const QLocale& locale) const override {
+        constexpr QChar kZeroWidthSpace(0x200B);
+        QString text = QStyledItemDelegate::displayText(value, locale);
+        for (const QChar end : {QChar(u'>'), QChar(u';')})
+            text.replace(end, QString(end) + kZeroWidthSpace);
+        return text;
+    }
+};
+
 QString problemText(PlaceProblem problem) {
     switch (problem) {
         case PlaceProblem::NotFound:
-            return frmPlace::tr("there is no such place");
+            return PlaceWindow::tr("there is no such place");
         case PlaceProblem::NoEndTag:
-            return frmPlace::tr("where the element ends cannot be told");
+            return PlaceWindow::tr("where the element ends cannot be told");
         case PlaceProblem::NoMarkup:
-            return frmPlace::tr("the element cannot hold a menu");
+            return PlaceWindow::tr("the element cannot hold a menu");
         case PlaceProblem::HoldsThePage:
-            return frmPlace::tr("the element holds the page's head or body");
+            return PlaceWindow::tr("the element holds the page's head or body");
         case PlaceProblem::TextNotFound:
-            return frmPlace::tr("the words for the link are not found");
+            return PlaceWindow::tr("the words for the link are not found");
     }
     return {};
 }
 
 }  // namespace
 
-frmPlace::frmPlace(const WizardFlow& flow, const FileSystem& files, const WizardAnswers& answers,
-                   std::function<std::string(const std::string&)> linkList, QWidget* parent)
+PlaceWindow::PlaceWindow(const WizardFlow& flow, const FileSystem& files,
+                         const WizardAnswers& answers,
+                         std::function<std::string(const std::string&)> linkList, QWidget* parent)
     : QDialog(parent),
       m_flow(flow),
       m_files(files),
       m_answers(answers),
       m_linkList(std::move(linkList)) {
-    setObjectName("frmPlace");
+    setObjectName("PlaceWindow");
     setWindowTitle(tr("Place the Menu"));
     arrange();
 }
 
-void frmPlace::arrange() {
+void PlaceWindow::arrange() {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeQuestions());
     layout->addWidget(makePreview(), 1);
@@ -83,7 +104,7 @@ void frmPlace::arrange() {
     resize(kWindowWidth * fontMetrics().averageCharWidth(), sizeHint().height());
 }
 
-QWidget* frmPlace::makeQuestions() {
+QWidget* PlaceWindow::makeQuestions() {
     auto* questions = new QWidget(this);
     auto* form = new QFormLayout(questions);
     form->setContentsMargins(0, 0, 0, 0);
@@ -122,16 +143,16 @@ QWidget* frmPlace::makeQuestions() {
     m_chkLinks->setAccessibleName(tr("Links for visitors without script"));
     m_chkLinks->setVisible(m_linkList != nullptr && !m_answers.isPopup);
     form->addRow(QString(), m_chkLinks);
-    connect(m_cboPlace, &QComboBox::currentIndexChanged, this, &frmPlace::followPlace);
-    connect(m_cboElement, &QComboBox::currentIndexChanged, this, &frmPlace::followPlace);
+    connect(m_cboPlace, &QComboBox::currentIndexChanged, this, &PlaceWindow::followPlace);
+    connect(m_cboElement, &QComboBox::currentIndexChanged, this, &PlaceWindow::followPlace);
     // Each letter would have all pages read again.
     for (const QLineEdit* field : {m_cboElement->lineEdit(), m_txtLinkText})
-        connect(field, &QLineEdit::editingFinished, this, &frmPlace::followPlace);
-    connect(m_chkLinks, &QCheckBox::toggled, this, &frmPlace::followPage);
+        connect(field, &QLineEdit::editingFinished, this, &PlaceWindow::followPlace);
+    connect(m_chkLinks, &QCheckBox::toggled, this, &PlaceWindow::followPage);
     return questions;
 }
 
-QWidget* frmPlace::makePreview() {
+QWidget* PlaceWindow::makePreview() {
     auto* preview = new QWidget(this);
     auto* layout = new QVBoxLayout(preview);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -153,6 +174,7 @@ QWidget* frmPlace::makePreview() {
     m_changes->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_changes->setTabKeyNavigation(false);
     m_changes->setTextElideMode(Qt::ElideNone);
+    m_changes->setItemDelegate(new CodeDelegate(m_changes));
     m_changes->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_changes->verticalHeader()->hide();
     m_changes->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
@@ -166,11 +188,11 @@ QWidget* frmPlace::makePreview() {
     layout->addWidget(m_pages);
     layout->addWidget(changesLabel);
     layout->addWidget(m_changes, 1);
-    connect(m_pages, &QListWidget::currentRowChanged, this, &frmPlace::followPage);
+    connect(m_pages, &QListWidget::currentRowChanged, this, &PlaceWindow::followPage);
     return preview;
 }
 
-void frmPlace::addClosingButtons() {
+void PlaceWindow::addClosingButtons() {
     m_btnPlace = makeDialogButton("btnPlace", tr("&Place"), this);
     m_btnPlace->setAccessibleName(tr("Place the menu in the pages"));
     m_btnPlace->setDefault(true);
@@ -191,8 +213,8 @@ void frmPlace::addClosingButtons() {
 }
 
 /// Shows how far the work is when it takes more than a moment. False when the person stopped it.
-bool frmPlace::forEachPage(const QString& what,
-                           const std::function<void(const std::string&)>& work) {
+bool PlaceWindow::forEachPage(const QString& what,
+                              const std::function<void(const std::string&)>& work) {
     const std::vector<std::string>& names = m_flow.pages().names;
     QProgressDialog progress(what, tr("&Stop"), 0, static_cast<int>(names.size()), this);
     progress.setObjectName("frmProgress");
@@ -208,7 +230,7 @@ bool frmPlace::forEachPage(const QString& what,
     return true;
 }
 
-bool frmPlace::lookForPlaces() {
+bool PlaceWindow::lookForPlaces() {
     std::vector<std::string> places;
     std::map<std::string, std::size_t> countOfPlace;
     const bool isWhole = forEachPage(tr("Looking for places"), [&](const std::string& name) {
@@ -230,7 +252,7 @@ bool frmPlace::lookForPlaces() {
 }
 
 /// Nothing when the element is not entered as it has to be.
-std::optional<MenuPlacing> frmPlace::entered() const {
+std::optional<MenuPlacing> PlaceWindow::entered() const {
     std::string where = m_cboPlace->currentData().toString().toStdString();
     if (where.ends_with(':'))
         where += m_cboElement->currentText().trimmed().toStdString();
@@ -243,13 +265,13 @@ std::optional<MenuPlacing> frmPlace::entered() const {
     return placing;
 }
 
-void frmPlace::followPlace() {
+void PlaceWindow::followPlace() {
     m_cboElement->setEnabled(m_cboPlace->currentData().toString().endsWith(u':'));
     lookWhereItFits();
     followPage();
 }
 
-void frmPlace::lookWhereItFits() {
+void PlaceWindow::lookWhereItFits() {
     m_pages->clear();
     m_btnPlace->setEnabled(false);
     const std::optional<MenuPlacing> placing = entered();
@@ -281,14 +303,14 @@ void frmPlace::lookWhereItFits() {
     m_pages->setCurrentRow(fitting.isEmpty() ? 0 : static_cast<int>(others.size()));
 }
 
-void frmPlace::followPage() {
+void PlaceWindow::followPage() {
     m_changes->setRowCount(0);
     const QListWidgetItem* item = m_pages->currentItem();
     if (item != nullptr && item->data(kNameRole).isValid())
         showChanges(item->data(kNameRole).toString().toStdString());
 }
 
-void frmPlace::showChanges(const std::string& name) {
+void PlaceWindow::showChanges(const std::string& name) {
     const std::optional<MenuPlacing> placing = entered();
     const FileResult<std::string> page = m_files.readFile(
         pagePath(m_flow.pages().folder, name), std::numeric_limits<std::uint64_t>::max());

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+<<<<<<< HEAD:integrator/wizard/frm_page_list.cpp
+// SPDX-License-Identifier: MIT
 #include "integrator/wizard/frm_page_list.h"
+=======
+#include "integrator/wizard/page_list_window.h"
+>>>>>>> w_W:integrator/wizard/page_list_window.cpp
 
 #include <QDropEvent>
 #include <QHBoxLayout>
@@ -26,17 +31,17 @@ constexpr int kListLines = 14;
 
 }  // namespace
 
-frmPageList::frmPageList(const IntegratorServices& services, const ChosenFiles& pages,
-                         QWidget* parent)
+PageListWindow::PageListWindow(const IntegratorServices& services, const ChosenFiles& pages,
+                               QWidget* parent)
     : QDialog(parent), m_services(services), m_paths(pagePaths(pages)) {
-    setObjectName("frmPageList");
+    setObjectName("PageListWindow");
     setWindowTitle(tr("List of Pages"));
     setAcceptDrops(true);
     arrange();
     showPaths();
 }
 
-void frmPageList::arrange() {
+void PageListWindow::arrange() {
     m_names = new QStringListModel(this);
     m_list = new QListView(this);
     m_list->setObjectName("listPages");
@@ -48,10 +53,10 @@ void frmPageList::arrange() {
     m_list->setMinimumSize(kNameWidth * fontMetrics().averageCharWidth(),
                            kListLines * fontMetrics().height() / 2);
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &frmPageList::followSelection);
+            &PageListWindow::followSelection);
     const auto* remove =
         new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(remove, &QShortcut::activated, this, &frmPageList::removeSelected);
+    connect(remove, &QShortcut::activated, this, &PageListWindow::removeSelected);
 
     m_lblFolder = new QLabel(this);
     m_lblFolder->setObjectName("lblFolder");
@@ -59,18 +64,18 @@ void frmPageList::arrange() {
     m_lblFolder->setWordWrap(true);
     auto* buttons = new QVBoxLayout;
     const auto addButton = [&](const QString& name, const QString& caption,
-                               void (frmPageList::*click)()) {
+                               void (PageListWindow::*click)()) {
         QPushButton* button = makeDialogButton(name, caption, this);
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, click);
         buttons->addWidget(button);
         return button;
     };
-    addButton("btnAddPages", tr("&Add Pages\u2026"), &frmPageList::addPages);
-    addButton("btnAddFolder", tr("Add &Folder\u2026"), &frmPageList::addFolder);
-    addButton("btnAddList", tr("From a &List\u2026"), &frmPageList::addList)
+    addButton("btnAddPages", tr("&Add Pages\u2026"), &PageListWindow::addPages);
+    addButton("btnAddFolder", tr("Add &Folder\u2026"), &PageListWindow::addFolder);
+    addButton("btnAddList", tr("From a &List\u2026"), &PageListWindow::addList)
         ->setToolTip(tr("A text file with a path a line, or a sitemap.xml"));
-    m_btnRemove = addButton("btnRemovePages", tr("&Remove"), &frmPageList::removeSelected);
+    m_btnRemove = addButton("btnRemovePages", tr("&Remove"), &PageListWindow::removeSelected);
     buttons->addStretch();
     auto* middle = new QHBoxLayout;
     middle->addWidget(m_list, 1);
@@ -92,7 +97,7 @@ void frmPageList::arrange() {
     followSelection();
 }
 
-void frmPageList::showPaths() {
+void PageListWindow::showPaths() {
     const ChosenFiles pages = chosenPages(m_paths);
     m_folder = pages.folder;
     QStringList names;
@@ -108,29 +113,29 @@ void frmPageList::showPaths() {
         m_lblFolder->setText(tr("%1 pages in %2").arg(names.size()).arg(folder));
 }
 
-void frmPageList::followSelection() {
+void PageListWindow::followSelection() {
     m_btnRemove->setEnabled(m_list->selectionModel()->hasSelection());
 }
 
-void frmPageList::addPages() {
+void PageListWindow::addPages() {
     add(pagePaths(m_services.dialogs.openFiles(pageRequest(m_folder))));
 }
 
-void frmPageList::addFolder() {
+void PageListWindow::addFolder() {
     add(pagesOfFolder(m_services, m_folder, this));
 }
 
-void frmPageList::addList() {
+void PageListWindow::addList() {
     add(pagesOfList(m_services, m_folder));
 }
 
-void frmPageList::add(const std::vector<std::string>& paths) {
+void PageListWindow::add(const std::vector<std::string>& paths) {
     m_paths.insert(m_paths.end(), paths.begin(), paths.end());
     m_paths = pagePaths(chosenPages(m_paths));
     showPaths();
 }
 
-void frmPageList::removeSelected() {
+void PageListWindow::removeSelected() {
     std::vector<bool> isSelected(m_paths.size());
     for (const QItemSelectionRange& range : m_list->selectionModel()->selection())
         std::fill(isSelected.begin() + range.top(), isSelected.begin() + range.bottom() + 1, true);
@@ -142,12 +147,12 @@ void frmPageList::removeSelected() {
     showPaths();
 }
 
-void frmPageList::dragEnterEvent(QDragEnterEvent* event) {
+void PageListWindow::dragEnterEvent(QDragEnterEvent* event) {
     if (isOnlyFiles(*event->mimeData()))
         event->acceptProposedAction();
 }
 
-void frmPageList::dropEvent(QDropEvent* event) {
+void PageListWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     add(droppedPages(m_services, *event->mimeData()));
 }

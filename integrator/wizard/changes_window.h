@@ -23,10 +23,10 @@ struct ChangesToShow {
 };
 
 /// Shows what the chosen pages would lose before they do, and asks what is to stay.
-class frmChanges : public QDialog {
+class ChangesWindow : public QDialog {
     Q_OBJECT
   public:
-    frmChanges(const ChangesToShow& changes, const WizardAnswers& answers, QWidget* parent);
+    ChangesWindow(const ChangesToShow& changes, const WizardAnswers& answers, QWidget* parent);
 
     bool keepsAll() const;
     /// Names of the scripts that stay when not all do.
