@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: MIT
-<<<<<<< HEAD:integrator/wizard/frm_add_folder.cpp
-// SPDX-License-Identifier: MIT
-#include "integrator/wizard/frm_add_folder.h"
-=======
 #include "integrator/wizard/add_folder_window.h"
->>>>>>> w_W:integrator/wizard/add_folder_window.cpp
 
 #include <QCheckBox>
 #include <QFormLayout>

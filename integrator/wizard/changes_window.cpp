@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: MIT
-<<<<<<< HEAD:integrator/wizard/frm_changes.cpp
-// SPDX-License-Identifier: MIT
-#include "integrator/wizard/frm_changes.h"
-=======
 #include "integrator/wizard/changes_window.h"
->>>>>>> w_W:integrator/wizard/changes_window.cpp
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: MIT
-<<<<<<< HEAD:integrator/wizard/frm_page_list.cpp
-// SPDX-License-Identifier: MIT
-#include "integrator/wizard/frm_page_list.h"
-=======
 #include "integrator/wizard/page_list_window.h"
->>>>>>> w_W:integrator/wizard/page_list_window.cpp
 
 #include <QDropEvent>
 #include <QHBoxLayout>

@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: MIT
-<<<<<<< HEAD:integrator/wizard/frm_place.cpp
-// SPDX-License-Identifier: MIT
-#include "integrator/wizard/frm_place.h"
-=======
 #include "integrator/wizard/place_window.h"
->>>>>>> w_W:integrator/wizard/place_window.cpp
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,10 +1,5 @@
 // SPDX-License-Identifier: MIT
-<<<<<<< HEAD:integrator/wizard/frm_undo.cpp
-// SPDX-License-Identifier: MIT
-#include "integrator/wizard/frm_undo.h"
-=======
 #include "integrator/wizard/undo_window.h"
->>>>>>> w_W:integrator/wizard/undo_window.cpp
 
 #include <QDateTime>
 #include <QHBoxLayout>
