@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/browser_view.h"
@@ -24,8 +25,8 @@ struct EditorServices {
     BrowserView& browser;
     /// Folder of the user's for what the program remembers; empty: it remembers nothing.
     std::string userFolder = {};
-    /// The desktop's list of recent documents, a file of its own kind; empty: none is kept.
-    std::string recentDocuments{};
+    /// Tells the desktop of a document (a full path) that was opened or saved; may be empty.
+    std::function<void(const std::string& document)> noteRecentDocument = {};
     VendorAddresses vendor = vendorAddresses();
 };
 

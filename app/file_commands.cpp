@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "app/recent_documents.h"
 #include "library/library_files.h"
 #include "library/own_files.h"
 #include "messages/definition_messages.h"
@@ -133,7 +132,8 @@ void FileCommands::openDefinition(const std::string& path) {
         opened.overfullFile = path;
     m_document.open(std::move(opened), path, SplitPath(path).folder);
     m_listener->opened({path, bytes, result});
-    noteRecentDocument(m_services.files, m_services.recentDocuments, path);
+    if (m_services.noteRecentDocument)
+        m_services.noteRecentDocument(path);
     if (result.errorCount > 0) {
         m_services.messages.notice(std::to_string(result.errorCount) +
                                    " errors encountered during parsing");
@@ -236,7 +236,8 @@ bool FileCommands::SaveDefinition(const std::string& path) {
         addLine(notice.text, "Could not save " + target + ": " + failure->reason);
     } else if (!path.empty()) {
         seeSaved(path, bytes, kept.value());
-        noteRecentDocument(m_services.files, m_services.recentDocuments, path);
+        if (m_services.noteRecentDocument)
+            m_services.noteRecentDocument(path);
     }
     if (!notice.text.empty())
         m_services.messages.show(notice);

@@ -10,6 +10,7 @@
 #include "app/frm_main.h"
 #include "app/icons.h"
 #include "app/preview_picture.h"
+#include "app/recent_documents.h"
 #include "library/program_folder.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/qt/fit_screen.h"
@@ -78,7 +79,9 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     EditorServices services{fileSystem, messages, dialogs, shell, help, *browser, userFolder};
     // Whoever asks for a picture works with a script, not on the document.
     if (picture.isEmpty())
-        services.recentDocuments = dataFile("recently-used.xbel");
+        services.noteRecentDocument = [&fileSystem](const std::string& document) {
+            noteRecentDocument(fileSystem, dataFile("recently-used.xbel"), document);
+        };
 
     frmMain window(services, programFolder(fileSystem, messages, userFolder), browser);
     // Ends the program also while the manual's window is open.

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/changes_window.h"
 #include "app/strip_line.h"
+#include "app/unsaved_changes_window.h"
 #include "script/script_reader.h"
 #include "script/script_writer.h"
 #include "text/path.h"
@@ -133,7 +133,7 @@ void RecoveryCommands::showChanges(const UnsavedMenu& unsaved) {
         m_host.files.readFile(unsaved.SaveFile, kMaxDefinitionFileBytes);
     if (bytes.isOk())
         ReadScript(bytes.take(), saved);
-    ChangesWindow(saved, after, contentText(unsaved), &m_host.window).exec();
+    UnsavedChangesWindow(saved, after, contentText(unsaved), &m_host.window).exec();
 }
 
 void RecoveryCommands::discard(const UnsavedMenu& unsaved) {

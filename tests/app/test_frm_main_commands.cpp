@@ -473,13 +473,13 @@ class test_frm_main_commands : public QObject {
     }
 
     void supportOpensTheManualWhereTheProgramIsOfNoSite() {
-        WindowDesk desk{VendorAddresses{}};
+        WindowDesk desk("", VendorAddresses{});
         desk.choose("mnuHelpSupport");
         QCOMPARE(desk.help.recorded(), std::vector<std::string>{"/program/help/support.html"});
     }
 
     void aboutOpensTheManualWhereTheProgramIsOfNoSite() {
-        WindowDesk desk{VendorAddresses{}};
+        WindowDesk desk("", VendorAddresses{});
         whenShown<frmAbout>(
             [](frmAbout& about) { about.findChild<QPushButton*>("cmdEMail")->click(); });
         desk.choose("mnuHelpAbout");

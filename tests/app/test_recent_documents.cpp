@@ -125,7 +125,9 @@ void test_recent_documents::theFileIsTheUsersAlone() {
 
 void test_recent_documents::openAndSaveNoteTheDocument() {
     Desk desk;
-    desk.services.recentDocuments = "/list";
+    desk.services.noteRecentDocument = [&desk](const std::string& document) {
+        noteRecentDocument(desk.files, "/list", document);
+    };
     FileCommands commands(desk.document, desk.view, desk.services);
     desk.disk.addFile("/site/old.js", "zev_state.columns = 1;\r\n");
     commands.openDefinition("/site/old.js");
@@ -139,7 +141,9 @@ void test_recent_documents::openAndSaveNoteTheDocument() {
 
 void test_recent_documents::thePreviewIsNoDocument() {
     Desk desk;
-    desk.services.recentDocuments = "/list";
+    desk.services.noteRecentDocument = [&desk](const std::string& document) {
+        noteRecentDocument(desk.files, "/list", document);
+    };
     FileCommands commands(desk.document, desk.view, desk.services);
     commands.showPreview();
     QVERIFY(!desk.isOnDisk("/list"));

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <memory>
 
-#include "app/changes_window.h"
+#include "app/unsaved_changes_window.h"
 #include "app/recovery_commands.h"
 #include "app/strip_line.h"
 #include "when_shown.h"
@@ -225,7 +225,7 @@ void test_recovery::theChangesAreShownAgainstTheFile() {
     QTest::keyClick(&first.field("txtURL"), Qt::Key_Tab);
     Program next(diskAfterCrash(first));
     QStringList lines;
-    whenShown<ChangesWindow>([&](ChangesWindow& changes) {
+    whenShown<UnsavedChangesWindow>([&](UnsavedChangesWindow& changes) {
         const auto* list = changes.findChild<QListWidget*>();
         for (int row = 0; row < list->count(); ++row)
             lines << list->item(row)->text();

@@ -44,11 +44,6 @@ std::string summaryOf(int doneCount, const Arguments& failedPages = {}) {
            " failed\n\n";
 }
 
-/// Without the line that names the run.
-std::string withoutRun(const std::string& problems) {
-    return std::regex_replace(problems, std::regex("zevmenu: run [-0-9T:]+\n"), "");
-}
-
 std::string codeFor(const std::string& folder, const std::string& url) {
     return "Code for the pages in " + folder + "\n\n<script language=\"JavaScript1.2\" src=\"" +
            url +

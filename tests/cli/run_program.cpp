@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <regex>
 
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_files.h"
@@ -83,6 +84,10 @@ UserData::UserData() {
 
 UserData::~UserData() {
     s_userData = nullptr;
+}
+
+std::string withoutRun(const std::string& problems) {
+    return std::regex_replace(problems, std::regex("zevmenu: run [-0-9T:]+\n"), "");
 }
 
 ProgramResult runZevmenu(const std::vector<std::string>& arguments, const std::string& folder,

@@ -31,6 +31,9 @@ class UserData {
     TempFolder m_folder;
 };
 
+/// Such problems without the line that names a run over pages.
+std::string withoutRun(const std::string& problems);
+
 /// Runs `zevmenu` with these arguments in `folder` and waits for it.
 ProgramResult runZevmenu(const std::vector<std::string>& arguments, const std::string& folder,
                          const std::string& input = {}, OutputTo outputTo = OutputTo::Collected);

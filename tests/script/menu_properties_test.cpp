@@ -164,7 +164,7 @@ TEST(MenuProperties, AreThoseOfTheirPageAndOfTheLibraryEachOnce) {
     std::sort(names.begin(), names.end());
     EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
     EXPECT_EQ(namesIn("docs/properties.md", "### `", "`"), names);
-    EXPECT_EQ(namesIn("runtime/src/loader/properties.js", "    ", ": [as"), names);
+    EXPECT_EQ(namesIn("runtime/src/loader/properties.js", "    ", ": ["), names);
 }
 
 }  // namespace

@@ -8,12 +8,12 @@
 namespace zev {
 
 /// Tells what one menu has that another has not, a line each.
-class ChangesWindow : public QDialog {
+class UnsavedChangesWindow : public QDialog {
     Q_OBJECT
   public:
     /// `what` is changed: "menu.js, 12 changes".
-    ChangesWindow(const MenuContent& before, const MenuContent& after, const QString& what,
-                  QWidget* parent);
+    UnsavedChangesWindow(const MenuContent& before, const MenuContent& after, const QString& what,
+                         QWidget* parent);
 };
 
 }  // namespace zev

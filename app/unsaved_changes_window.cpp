@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/changes_window.h"
+#include "app/unsaved_changes_window.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -29,16 +29,16 @@ QStringList linesOf(const std::vector<MenuDifference>& differences) {
         lines << QString::fromStdString(line);
     }
     if (differences.size() > listed)
-        lines << ChangesWindow::tr("and %1 more").arg(differences.size() - listed);
+        lines << UnsavedChangesWindow::tr("and %1 more").arg(differences.size() - listed);
     return lines;
 }
 
 }  // namespace
 
-ChangesWindow::ChangesWindow(const MenuContent& before, const MenuContent& after,
-                             const QString& what, QWidget* parent)
+UnsavedChangesWindow::UnsavedChangesWindow(const MenuContent& before, const MenuContent& after,
+                                           const QString& what, QWidget* parent)
     : QDialog(parent) {
-    setObjectName("ChangesWindow");
+    setObjectName("UnsavedChangesWindow");
     setWindowTitle(tr("Changes"));
     auto* label = new QLabel(what, this);
     label->setTextFormat(Qt::PlainText);
