@@ -331,13 +331,13 @@ class test_notes : public QObject {
                                        "?: caption: the image has no alt text: \"cup.gif\""}));
     }
 
-    void checkMenuStandsLastInItsMenu() {
+    void checkMenuStandsBehindWhatStoodInItsMenu() {
         WindowDesk desk;
         const auto entries = desk.window.findChild<QMenu*>("mnuTools")->actions();
-        QCOMPARE(entries.size(), 3);
+        QVERIFY(entries.size() >= 3);
         QCOMPARE(entries.first()->objectName(), "mnuToolsIntegrate");
         QVERIFY(entries[1]->isSeparator());
-        QCOMPARE(entries.last()->text(), "&Check Menu");
+        QCOMPARE(entries[2]->text(), "&Check Menu");
     }
 
     // After Save As

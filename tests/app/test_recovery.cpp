@@ -6,9 +6,9 @@
 #include <QPushButton>
 #include <memory>
 
-#include "app/unsaved_changes_window.h"
 #include "app/recovery_commands.h"
 #include "app/strip_line.h"
+#include "app/unsaved_changes_window.h"
 #include "when_shown.h"
 #include "window_desk.h"
 

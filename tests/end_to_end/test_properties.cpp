@@ -428,7 +428,7 @@ void test_properties::thePreviewShowsTheDefaultsElsewhere() {
                    "font: italic, 400, 16px, DejaVu Serif\n"
                    "padding: 1px\n"
                    "item border: 0px none rgb(240, 241, 224)\n"
-                   "menu border: 0px none rgb(0, 0, 0)\n"
+                   "menu border: 0px none rgb(240, 241, 224)\n"
                    "image: images/defaults.png\n"
                    "opacity: 1\n"
                    "shadow: rgba(0, 0, 0, 0)\n"

@@ -39,7 +39,7 @@ function ZEVMenu(name) {
 // Of a rollover the caption is the address of its picture, and `over` that of the other.
 function addItem(menu, caption, url, target, isRollover, over) {
     var id = menu.zevId, position = ++menu.zevCount, text = asText(caption);
-    if (text == null || (isRollover && !text)) {
+    if (text == null || isRollover && !text) {
         warn('item ' + position + ' of menu ' + id + ' is mistaken');
     } else {
         menu.zevItems.push({

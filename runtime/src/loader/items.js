@@ -69,11 +69,8 @@ shared.addMark = function (link, menu) {
     var html = setting(state.menus['0'], 'marker'), submenu = shared.submenuOf(link);
     if (!submenu || html == 'none' || link.className || link.zevIsMarked) return;
     link.zevIsMarked = true;
-    if (html) {
-        link.prepend(addSpan(link, 'mark', menu, html));
-    } else {
-        link.setAttribute('data-side', shared.wishOf(submenu));
-    }
+    if (html) link.prepend(addSpan(link, 'mark', menu, html));
+    else link.setAttribute('data-side', shared.wishOf(submenu));
 };
 
 // No part of a name.

@@ -107,10 +107,8 @@ function folderOf(url) {
     return url.replace(/[^\/]*([?#].*)?$/, '');
 }
 
-var own = currentScript();
-var definition = own && own.getAttribute('data-definition');
-var prefix = typeof window.zev_path == 'string' ? window.zev_path : '';
-if (prefix == '' && own) prefix = folderOf(own.src);
+var own = currentScript(), definition = own && own.getAttribute('data-definition');
+var prefix = asText(window.zev_path) || (own ? folderOf(own.src) : '');
 
 // What the page trusts this file with holds for those that it asks for.
 function load(url) {

@@ -59,10 +59,7 @@ var styleText = [
 var sheet;
 function addStyle(root) {
     if (CSSStyleSheet.prototype.replaceSync && document.adoptedStyleSheets) {
-        if (!sheet) {
-            sheet = new CSSStyleSheet();
-            sheet.replaceSync(styleText);
-        }
+        if (!sheet) (sheet = new CSSStyleSheet()).replaceSync(styleText);
         root.adoptedStyleSheets = [sheet];
     } else {
         append(root, 'style').textContent = styleText;
