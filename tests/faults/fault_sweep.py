@@ -472,7 +472,7 @@ def page_scenarios(program, work):
     template = new_template(work, "removed")
     (template / "site/page.htm").write_bytes(page)
     subprocess.run([part.replace("{folder}", str(template)) for part in place],
-                   check=True, capture_output=True)
+                   env=dict(os.environ, XDG_DATA_HOME=str(work)), check=True, capture_output=True)
     yield ("integrate --remove", template,
            [program, "integrate", "--remove", "{folder}/site/page.htm"], "site/page.htm")
 
