@@ -6,7 +6,7 @@ import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { after, afterEach, before, test } from 'node:test';
-import { boxRect, hover, isShown, item, libraryFolder, nested, pageText, rect, script, shown, source,
+import { boxRect, engine, hover, isShown, item, libraryFolder, nested, pageText, rect, script, shown, source,
     startLab, style, until, waitAt, waitReady, waitShown } from './support.mjs';
 
 let lab, page;
@@ -377,7 +377,8 @@ test('the preview page tells an error of the script and its line', async () => {
         /^The menu's script has an error in line 2: SyntaxError/);
     assert.match(await brokenPreview(menu + "zevmenu.AddItem('A', '', '');\r\nzevmenu.columns = many;\r\n"),
         /^The menu's script has an error in line 3: ReferenceError/);
-    assert.equal(page.errors.splice(0).length, 2);
+    // Those two; WebKit's driver does not hear of an error while a page loads.
+    assert.equal(page.errors.splice(0).length, engine == 'webkit' ? 0 : 2);
 });
 
 test('the preview page is not wider than a phone', async () => {
