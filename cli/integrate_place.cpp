@@ -13,8 +13,7 @@ std::string refuseNoPlace(const std::string& where) {
     return parsePlace(where)
                ? ""
                : "must be body-start, body-end, marker, or before, after, start, end or instead "
-                 "with "
-                 "a colon and a tag's name, #ID, .CLASS or a tag's name with one of them";
+                 "with a colon and a tag's name, #ID, .CLASS or a tag's name with one of them";
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/dialog_button.h"
 
+#include <QHBoxLayout>
 #include <QPushButton>
 
 namespace zev {
@@ -11,6 +12,14 @@ QPushButton* makeDialogButton(const QString& name, const QString& caption, QWidg
     button->setAccessibleName(QString(caption).remove(u'&'));
     button->setFocusPolicy(Qt::TabFocus);
     return button;
+}
+
+QHBoxLayout* makeClosingRow(QPushButton* accepting, QPushButton* leaving) {
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(accepting);
+    row->addWidget(leaving);
+    return row;
 }
 
 }  // namespace zev

@@ -3,7 +3,6 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -135,11 +134,7 @@ void frmPath::arrange() {
     layout->addWidget(listDrv);
     layout->addWidget(makeLabel("lblDir", tr("&Directories"), listDir));
     layout->addWidget(listDir, 1);
-    auto* closing = new QHBoxLayout;
-    closing->addStretch();
-    closing->addWidget(btnOK);
-    closing->addWidget(btnCancel);
-    layout->addLayout(closing);
+    layout->addLayout(makeClosingRow(btnOK, btnCancel));
 }
 
 void frmPath::openFolder(const QString& folder) {

@@ -76,6 +76,11 @@ std::string placeReason(PlaceProblem problem, const PlacedMenu& menu) {
 
 }  // namespace
 
+FileOutcome removeTemporaryPage(FileSystem& files, const std::string& pagePath) {
+    const std::string temporary = temporaryPath(pagePath);
+    return files.FileExists(temporary) ? files.DeleteFile(temporary) : FileOutcome{};
+}
+
 IntegrationURLs CalculateURL(std::string_view pagesFolder, std::string_view definition,
                              std::string_view library) {
     IntegrationURLs urls;
@@ -171,8 +176,8 @@ std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) 
     const bool hasPlaces = m_options.isRemoval || status.hasAllPlaces();
     const bool isUntouched = m_options.isRemoval && edits.empty();
     // What a killed run has left goes with the next one, also when there is nothing to write.
-    if (isUntouched && !m_options.isDryRun && m_files.FileExists(temporaryPath(path)))
-        m_files.DeleteFile(temporaryPath(path));
+    if (isUntouched && !m_options.isDryRun)
+        removeTemporaryPage(m_files, path);
     if (!isUntouched && !m_options.isDryRun && (hasPlaces || !m_options.skipsFailing)) {
         if (std::optional<PageError> error = replacePage(path, page.take(), edits))
             return error;

@@ -72,10 +72,13 @@ struct RunSummary {
 /// The name of the temporary file that lies beside a page while it is replaced.
 extern const char* const kTemporaryPageName;
 
+/// Removes the one that a killed run has left beside the page, if there is one.
+FileOutcome removeTemporaryPage(FileSystem& files, const std::string& pagePath);
+
 /// Puts the menu into pages that exist already, or takes it out of them, and writes a report about
-/// it. A page is replaced
-/// whole or not at all, and only after its backup is whole. While one is replaced, the file
-/// "~qxtmp.htm" lies beside it; a file of that name that was there before is lost.
+/// it. A page is replaced whole or not at all, and only after its backup is whole. While one is
+/// replaced, the file "~qxtmp.htm" lies beside it; a file of that name that was there before is
+/// lost.
 ///
 /// A backup of an earlier run that holds the page without the menu is kept as ".bak.original" (then
 /// ".bak.original.2" ...), before one with the menu takes its place.

@@ -71,12 +71,6 @@ std::vector<PageHistory> historiesOf(std::vector<RecordedPage> pages) {
     return histories;
 }
 
-/// What a killed run may have left beside its last page.
-FileOutcome removeTemporaryPage(FileSystem& files, const std::string& path) {
-    const std::string temporary = Path(Path(path).folder()).child(kTemporaryPageName);
-    return files.FileExists(temporary) ? files.DeleteFile(temporary) : FileOutcome{};
-}
-
 FileResult<Outcome> restore(FileSystem& files, const PageHistory& history) {
     const std::string& path = history.path();
     FileResult<std::string> page = files.readFile(path, std::numeric_limits<std::uint64_t>::max());

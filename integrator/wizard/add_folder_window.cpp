@@ -65,14 +65,10 @@ AddFolderWindow::AddFolderWindow(const IntegratorServices& services, const std::
     connect(ok, &QPushButton::clicked, this, &AddFolderWindow::accept);
     QPushButton* cancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* closing = new QHBoxLayout;
-    closing->addStretch();
-    closing->addWidget(ok);
-    closing->addWidget(cancel);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addStretch();
-    layout->addLayout(closing);
+    layout->addLayout(makeClosingRow(ok, cancel));
 }
 
 QLineEdit* AddFolderWindow::addField(QFormLayout& form, const QString& name, const QString& caption,

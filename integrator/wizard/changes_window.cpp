@@ -2,7 +2,6 @@
 #include "integrator/wizard/changes_window.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
@@ -136,11 +135,7 @@ void ChangesWindow::addClosingButtons() {
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     QPushButton* cancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* closing = new QHBoxLayout;
-    closing->addStretch();
-    closing->addWidget(ok);
-    closing->addWidget(cancel);
-    static_cast<QVBoxLayout*>(layout())->addLayout(closing);
+    static_cast<QVBoxLayout*>(layout())->addLayout(makeClosingRow(ok, cancel));
 }
 
 bool ChangesWindow::keepsAll() const {

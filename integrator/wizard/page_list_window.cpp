@@ -81,14 +81,10 @@ void PageListWindow::arrange() {
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     QPushButton* cancel = makeDialogButton("btnCancel", tr("&Cancel"), this);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* closing = new QHBoxLayout;
-    closing->addStretch();
-    closing->addWidget(ok);
-    closing->addWidget(cancel);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_lblFolder);
     layout->addLayout(middle, 1);
-    layout->addLayout(closing);
+    layout->addLayout(makeClosingRow(ok, cancel));
     followSelection();
 }
 

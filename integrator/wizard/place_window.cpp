@@ -5,7 +5,6 @@
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -200,11 +199,7 @@ void PlaceWindow::addClosingButtons() {
     });
     QPushButton* cancel = makeDialogButton("btnCancel", tr("Ca&ncel"), this);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    auto* closing = new QHBoxLayout;
-    closing->addStretch();
-    closing->addWidget(m_btnPlace);
-    closing->addWidget(cancel);
-    static_cast<QVBoxLayout*>(layout())->addLayout(closing);
+    static_cast<QVBoxLayout*>(layout())->addLayout(makeClosingRow(m_btnPlace, cancel));
 }
 
 /// Shows how far the work is when it takes more than a moment. False when the person stopped it.

@@ -2,7 +2,6 @@
 #include "integrator/wizard/undo_window.h"
 
 #include <QDateTime>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
@@ -82,15 +81,11 @@ void UndoWindow::arrange() {
     connect(m_btnUndo, &QPushButton::clicked, this, &UndoWindow::undoSelected);
     QPushButton* close = makeDialogButton("btnClose", tr("&Close"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
-    auto* closing = new QHBoxLayout;
-    closing->addStretch();
-    closing->addWidget(m_btnUndo);
-    closing->addWidget(close);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(m_runs, 1);
     layout->addWidget(what);
-    layout->addLayout(closing);
+    layout->addLayout(makeClosingRow(m_btnUndo, close));
 }
 
 void UndoWindow::showRuns() {
