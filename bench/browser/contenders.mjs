@@ -32,10 +32,12 @@ function nestedLists(items, { list, line, link }, depth = 0) {
     return `<ul${list(depth)}>\n${lines.join('\n')}</ul>`;
 }
 
-// A menu as a definition file. It opens without a delay and an effect, and closes at once when the mouse has left it.
+// A menu as a definition file. It opens without a delay and an effect, and closes at once when the mouse has
+// left it.
 function definition(items) {
-    const lines = ['zev_state.opendelay = 0;', 'zev_state.ffade = 0;', 'zev_state.closedelay = 0;', "zevmenu = new ZEVMenu('0');", 'zevmenu.columns = 20;',
-                   "zevmenu.position = 'bottom';", 'zevmenu.cellpadding = 5;'];
+    const lines = ['zev_state.opendelay = 0;', 'zev_state.ffade = 0;', 'zev_state.closedelay = 0;',
+                   "zevmenu = new ZEVMenu('0');", 'zevmenu.columns = 20;', "zevmenu.position = 'bottom';",
+                   'zevmenu.cellpadding = 5;'];
     const addItems = children => children.forEach(({ caption, url }) =>
         lines.push(`zevmenu.AddItem('${caption}', '${url}', '');`));
     const addSubmenus = children => children.forEach(({ id, children }) => {
@@ -68,23 +70,34 @@ const listStyle = `ul { list-style: none; margin: 0; padding: 0; }
 const listOpener = `document.querySelector('nav > ul > li:nth-child(2) > a')`;
 const listSubmenu = `document.querySelector('nav > ul > li:nth-child(2) > ul')`;
 
+// What the integrator writes into a page.
+const ourPage = {
+    head: `<script>var zev_path = '';</script>${script('zevmenu_loader.js')}`,
+    bodyAttributes: ' onload="ZEVLoadMenu();" onresize="ZEVLoadMenu();"',
+    body: () => `${script('menu.js')}<script>ZEVDisplayMenu();</script>`,
+    end: '<script>ZEVCreateMenu()</script>',
+    lateScript: 'zevmenu_dom.js',
+};
+
+// Asks for the second file, and does nothing else.
+const emptyLoader = `function ZEVDisplayMenu() {}
+ZEVCreateMenu = ZEVLoadMenu = ZEVDisplayMenu;
+document.head.append(Object.assign(document.createElement('script'), { src: 'zevmenu_dom.js' }));
+`;
+
 /*
  * Each contender: `head` and `body` of its page, as a function of the menu's items; `files` beside the
  * page, name -> text; `opener` and `submenu`, JavaScript that gives the second top item's link and its
  * submenu's element (null before there is one); `isClicked` where a click opens. The page calls
  * bench.done() when its last script has run. `lateScript` names one that follows without blocking
- * the page and that submenus need.
+ * the page and that submenus need. One without `submenu` has nothing to open.
  */
 export const contenders = {
     zevmenu: {
-        head: `<script>var zev_path = '';</script>${script('zevmenu_loader.js')}`,
-        bodyAttributes: ' onload="ZEVLoadMenu();" onresize="ZEVLoadMenu();"',
-        body: () => `${script('menu.js')}<script>ZEVDisplayMenu();</script>`,
-        end: '<script>ZEVCreateMenu()</script>',
+        ...ourPage,
         files: items => ({ 'zevmenu_loader.js': read('../../build/release/bin/zevmenu_loader.js'),
                            'zevmenu_dom.js': read('../../build/release/bin/zevmenu_dom.js'),
                            'menu.js': definition(items) }),
-        lateScript: 'zevmenu_dom.js',
         opener: `document.querySelector('[data-zev=bar]').shadowRoot.querySelectorAll('li > a')[1]`,
         submenu: `Array.from(
             document.querySelector('[data-zev=layer]')?.shadowRoot.querySelectorAll('ul') || [])
@@ -141,6 +154,11 @@ export const contenders = {
         files: () => ({ 'menu.css': listStyle + '.menu ul { display: none; }\n' +
             '.menu li:hover > ul, .menu li:focus-within > ul { display: block; }' }),
         opener: listOpener, submenu: listSubmenu,
+    },
+    'empty files': {
+        ...ourPage,
+        files: () => ({ 'zevmenu_loader.js': emptyLoader, 'zevmenu_dom.js': '', 'menu.js': '' }),
+        opener: 'document.body',
     },
 };
 

@@ -138,7 +138,7 @@ async function measureRound(lab, isCounted) {
             if (!isCounted) continue;
             note('drawn', name, size, drawn);
             note('ready', name, size, ready);
-            await measureOpenings(lab.page, name, size);
+            if (contenders[name].submenu) await measureOpenings(lab.page, name, size);
         }
     }
     if (!isCounted) return;

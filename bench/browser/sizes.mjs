@@ -16,7 +16,7 @@ const peers = {
     bootstrap: [['dist/js/bootstrap.bundle.js', 'dist/css/bootstrap.css'],
                 ['dist/js/bootstrap.bundle.min.js', 'dist/css/bootstrap.min.css']],
 };
-const ours = ['zevmenu_loader.js', 'zevmenu_dom.js'].map(name => '../../build/release/bin/' + name);
+const ours = ['loader', 'dom', 'ns4'].map(name => `../../build/release/bin/zevmenu_${name}.js`);
 
 /*
  * Gives name -> { served, minified }, both the sum of the files, each compressed by itself. The library is

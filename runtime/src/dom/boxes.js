@@ -43,8 +43,7 @@ function isList(box) {
 // What kind of box it is; it loses the place that it had.
 function shape(box, className, role = 'menu') {
     box.className = className;
-    Object.assign(box.style,
-        { pointerEvents: '', width: '', maxWidth: '', maxHeight: '', overflowY: '', left: '', top: '' });
+    Object.assign(box.style, { left: '', top: '', maxWidth: '', maxHeight: '', pointerEvents: '' });
     const isRow = !isList(box);
     mark(box, { role, 'aria-orientation': isRow == (role == 'menubar') ? null : isRow ? 'horizontal' : 'vertical' });
 }
@@ -98,10 +97,13 @@ function itemOf(menu) {
 }
 
 function boxOf(menu) {
+    if (!state.layer) {
+        state.layer = shared.createHost('layer');
+        attend(state.layer, true);
+    }
     if (!menu.zevBox) {
         const box = shared.buildBox(menu), item = itemOf(menu);
-        box.hidden = true;
-        mark(box, { 'aria-label': item && shared.nameOf(menu, item) });
+        mark(box, { hidden: true, dir: 'ltr', 'aria-label': item && shared.nameOf(menu, item) });
         promote(box);
     }
     return menu.zevBox;
@@ -123,12 +125,9 @@ function raise(opener) {
 }
 
 function boxFor(menu, opener) {
-    if (!state.layer) {
-        state.layer = shared.createHost('layer');
-        attend(state.layer, true);
-    }
+    const box = boxOf(menu);
     if (!opener || !depthAt(opener)) raise(opener);
-    return boxOf(menu);
+    return box;
 }
 
 function buildAhead(box) {

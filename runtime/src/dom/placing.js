@@ -2,10 +2,9 @@
 // ---- Showing and placing ----
 
 function levelOf(link) {
-    const menu = submenuOf(link), isFold = link == state.foldLink;
-    if (!menu) return null;
-    return { menu, box: boxFor(menu, link), opener: link, isFold,
-             wish: realSide(shared.wishOf(menu), isRtlAt(link)), offset: setting(null, 'menuoffset') };
+    const menu = submenuOf(link);
+    return menu && { menu, box: boxFor(menu, link), opener: link, isFold: link == state.foldLink,
+                     reading: shared.wishOf(menu), offset: setting(null, 'menuoffset') };
 }
 
 // Chromium before 128 and Safari do not tell an element's zoom, and divide its rectangle by it.
@@ -29,27 +28,32 @@ function pixels(length, origin) {
     return unzoomed(length, origin, 100) + 'px';
 }
 
-// Shows the box in its own size in the layer, to be measured.
-function lay({ box, isFold }, frame) {
-    const maxWidth = pixels(frame.width, rectOf(homeOf(state.layer)));
+// Shows the box in its own size in the layer, to be measured: outside the page, which gets no scroll bar by it.
+function lay({ box, isFold }) {
     shape(box, isFold ? 'list flat' : box.zevShape);
     move(box, homeOf(state.layer), null);
     box.hidden = false;
-    Object.assign(box.style, { maxWidth, width: isFold ? maxWidth : '' });
+    Object.assign(box.style, { left: '-1e6px', maxWidth: 'none', top: '-1e6px' });
 }
 
-// Where the level is to stand. One that is inside its parent keeps the size it had outside.
+function measure(box, width) {
+    if (rectOf(box).width > width) box.style.maxWidth = pixels(width, rectOf(homeOf(state.layer)));
+    return rectOf(box);
+}
+
+// Where the level is to stand. One that is inside its parent keeps the size it had outside. The page is asked
+// after all that changes it, so that it is laid out once.
 function spotOf(level) {
-    const { box, opener, point } = level, isRtl = isRtlAt(opener || document.body);
-    const parent = opener?.zevItem && boxAt(opener);
+    const { box, opener, point } = level, parent = opener?.zevItem && boxAt(opener);
+    const isNested = parent?.matches('.flat'), isLaid = !isNested && (!level.size || !isInside(level));
+    if (isLaid) lay(level);
+    const isRtl = isRtlAt(opener || document.body);
     box.dir = isRtl ? 'rtl' : 'ltr';
-    if (parent?.matches('.flat')) return { side: 'inside' };
+    if (level.reading) level.wish = realSide(level.reading, isRtl);
+    if (isNested) return { side: 'inside' };
     const { clientWidth: width, clientHeight: height } = document.scrollingElement || document.documentElement;
     const frame = { width, height }, isFixed = isSteady(levels.indexOf(level) + 1 || levels.length);
-    if (!level.size || level.side != 'inside') {
-        lay(level, frame);
-        level.size = rectOf(box);
-    }
+    if (isLaid) level.size = measure(box, width);
     const kind = isFixed ? 'fixed'
         : parent?.matches('.list') && (opposite[levels[depthOf(parent) - 1]?.side] || 'list');
     // A pop-up stays with the page when that scrolls.
@@ -66,7 +70,7 @@ function placeLevel(level) {
     style.maxWidth = pixels(spot.width, origin);
     if (level.size.height > spot.height) {
         style.maxHeight = pixels(spot.height, origin);
-        style.overflowY = 'auto';
+        box.className += ' long';
     }
     style.left = pixels(spot.left - origin.left, origin);
     style.top = pixels(spot.top - origin.top, origin);
@@ -103,15 +107,16 @@ function fade({ menu, box }, isOn) {
     box.zevFading.onfinish = end;
 }
 
-// Closes a level whose opener goes out of sight; an image's area has no box to be watched.
+// Closes a level whose opener goes out of sight; an image's area never was in it.
 function follow(level) {
     const { opener, box } = level;
-    if (!opener?.getClientRects().length) return;
+    if (!opener) return;
     level.observer = new IntersectionObserver(entries => {
         // -1 if closed, but told in spite of disconnect().
-        const index = levels.indexOf(level);
+        const index = levels.indexOf(level), { isIntersecting } = entries.pop();
         const isHeld = opener.isConnected && (isSteady(index) || box.contains(focused()));
-        if (index >= 0 && !isHeld && !entries.pop().isIntersecting) close(index);
+        if (level.isHere && !isIntersecting && !isHeld && index >= 0) close(index);
+        level.isHere = isIntersecting;
     });
     level.observer.observe(opener);
 }

@@ -103,27 +103,8 @@ window.ZEVMenu = ZEVMenu;
 window.zev_state = window.zev_state || {};
 window.zevmenu = noMenu;
 
-function folderOf(url) {
-    return url.replace(/[^\/]*([?#].*)?$/, '');
-}
-
-var own = currentScript(), definition = own && own.getAttribute('data-definition');
-var prefix = asText(window.zev_path) || (own ? folderOf(own.src) : '');
-
-// What the page trusts this file with holds for those that it asks for.
-function load(url) {
-    var script = document.createElement('script');
-    if (own) script.nonce = own.nonce;
-    script.onerror = function () {
-        warn(url + ' did not load');
-    };
-    script.src = policy.createScriptURL(url);
-    state.scripts.push(script);
-    return (document.head || document.documentElement).appendChild(script);
-}
-
+var definition = own && own.getAttribute('data-definition');
 if (isModern) {
-    load(prefix + 'zevmenu_dom.js');
     document.addEventListener('DOMContentLoaded', onReady);
     if (definition) load(definition).onload = ZEVLoadMenu;
 } else {

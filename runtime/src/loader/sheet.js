@@ -15,7 +15,8 @@ var styleText = [
     'ul.grid{display:inline-grid}',
     'ul[role=menu]{position:absolute;overscroll-behavior:contain;outline-offset:-1px;',
     'outline:1px solid color-mix(in srgb,currentColor 35%,transparent)}',
-    'ul.flat{display:flex}',
+    // What the button opens is as wide as it may be.
+    'ul.flat{display:flex;width:1e4px}',
     'ul.inside{position:static;width:auto;padding-inline-start:1em;background-color:var(--zev-nbg);',
     'box-shadow:none!important}',
     'ul[hidden]{display:none}',
@@ -30,7 +31,8 @@ var styleText = [
     'a:is(:hover,:focus,[aria-expanded=true]){background:var(--zev-hbg);color:var(--zev-hft)}',
     // Around the text, on whatever colours; in a box that scrolls it would be cut off.
     'a:focus-visible{position:relative;z-index:1;outline:2px solid #fff;outline-offset:0;box-shadow:0 0 0 4px #000}',
-    '[style*=overflow]>li>a:focus-visible{outline-offset:-4px;box-shadow:inset 0 0 0 2px #000}',
+    '.long{overflow-y:auto}',
+    '.long>li>a:focus-visible{outline-offset:-4px;box-shadow:inset 0 0 0 2px #000}',
     '.mark,a[data-side]::before{float:right;float:inline-end;margin-inline:.7em .4em}',
     'a[data-side]::before{content:"";box-sizing:border-box;width:.45em;height:.45em;margin-top:.37em;',
     'border:solid;border-width:.13em .13em 0 0;transform:scaleX(var(--zev-x,1)) rotate(var(--zev-turn,45deg))}',

@@ -53,3 +53,24 @@ function warn(text) {
 // For pages that demand Trusted Types. Captions and addresses are the site's own.
 var policy = { createHTML: asText, createScriptURL: asText };
 if (window.trustedTypes) policy = trustedTypes.createPolicy('zevmenu', policy);
+
+function folderOf(url) {
+    return url.replace(/[^\/]*([?#].*)?$/, '');
+}
+
+var own = currentScript(), prefix = asText(window.zev_path) || (own ? folderOf(own.src) : '');
+
+// What the page trusts this file with holds for those that it asks for.
+function load(url) {
+    var script = document.createElement('script');
+    if (own) script.nonce = own.nonce;
+    script.onerror = function () {
+        warn(url + ' did not load');
+    };
+    script.src = policy.createScriptURL(url);
+    state.scripts.push(script);
+    return (document.head || document.documentElement).appendChild(script);
+}
+
+// On its way while this file still runs.
+if (isModern) load(prefix + 'zevmenu_dom.js');

@@ -126,6 +126,24 @@ test('every item of a tall submenu can be seen at 320 px, and the page gets no w
     assert.equal(await page.evaluate(() => document.scrollingElement.scrollWidth), 320);
 });
 
+// A scroll bar that came and went would make the window narrower just then.
+test('a submenu higher than the window makes the page no longer while it is measured', async () => {
+    await lab.show({ definition: tall });
+    await page.evaluate(() => {
+        const measure = Element.prototype.getBoundingClientRect, { scrollingElement } = document;
+        window.heights = [];
+        Element.prototype.getBoundingClientRect = function () {
+            window.heights.push(scrollingElement.scrollHeight - scrollingElement.clientHeight);
+            return measure.call(this);
+        };
+    });
+    await hover(page, 'Top');
+    await waitShown(page, 'Item 1');
+    const heights = await page.evaluate(() => window.heights);
+    assert.ok(heights.length > 0);
+    assert.deepEqual(heights.filter(height => height > 0), []);
+});
+
 test('a submenu closes when the page takes its item away', async () => {
     await lab.show({ definition: tall });
     await hover(page, 'Top');
