@@ -33,7 +33,7 @@ function lay({ box, isFold }) {
     shape(box, isFold ? 'list flat' : box.zevShape);
     move(box, homeOf(state.layer), null);
     box.hidden = false;
-    Object.assign(box.style, { left: '-1e6px', maxWidth: 'none', top: '-1e6px' });
+    Object.assign(box.style, { left: '-1e5px', maxWidth: 'none', top: '-1e5px' });
 }
 
 function measure(box, width) {
@@ -107,16 +107,16 @@ function fade({ menu, box }, isOn) {
     box.zevFading.onfinish = end;
 }
 
-// Closes a level whose opener goes out of sight; an image's area never was in it.
+// Closes a level whose opener goes out of sight; an image's area never has a box to be watched.
 function follow(level) {
     const { opener, box } = level;
     if (!opener) return;
     level.observer = new IntersectionObserver(entries => {
+        level.isOn ||= opener.getClientRects()[0];
         // -1 if closed, but told in spite of disconnect().
-        const index = levels.indexOf(level), { isIntersecting } = entries.pop();
+        const index = levels.indexOf(level);
         const isHeld = opener.isConnected && (isSteady(index) || box.contains(focused()));
-        if (level.isHere && !isIntersecting && !isHeld && index >= 0) close(index);
-        level.isHere = isIntersecting;
+        if (level.isOn && index >= 0 && !isHeld && !entries.pop().isIntersecting) close(index);
     });
     level.observer.observe(opener);
 }

@@ -59,8 +59,6 @@ function addItemTo(box, menu, item, settings) {
         link.setAttribute('aria-label', item.name);
         link.prepend(parse(menu, settings.htmlBefore));
         link.append(parse(menu, settings.htmlAfter));
-        // One text is laid out faster than three.
-        link.normalize();
     }
     link.zevItem = item;
     shared.addMark(link, menu);
