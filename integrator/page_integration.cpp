@@ -281,8 +281,10 @@ void PageIntegrator::reportPlaces() {
                                      : "ERROR: Menu creation code NOT added. </BODY> not found.");
     appendLine(m_status.bSuccess ? "Success: Menu integration successful"
                                  : "ERROR: Menu integration failure");
-    if (m_options.rewrite.menu)
+    if (m_status.isMenuPlaced)
         appendLine("Success: Menu placed");
+    else if (m_options.rewrite.menu)
+        appendLine("Menu not placed: the page has a call of its own");
 }
 
 void PageIntegrator::reportSkippedPage() {

@@ -14,16 +14,26 @@ namespace zev {
 
 namespace {
 
+/// The menu that is put into a page from which the definition has this address.
+PlacedMenu placedMenu(const WizardAnswers& answers, const MenuPlacing& placing,
+                      const std::string& definitionURL) {
+    PlacedMenu menu{placing.place, {}};
+    if (!answers.isPopup)
+        menu.code = placedMenuCode(definitionURL);
+    else
+        menu.code = definitionReference(definitionURL);
+    if (answers.isPopup && placing.linkText.empty())
+        menu.code += popupLinkCode(answers.submenuId, answers.placement);
+    if (answers.isPopup && !placing.linkText.empty())
+        menu.link = LinkedText{placing.linkText, answers.submenuId, answers.placement};
+    if (placing.addition)
+        menu.code += placing.addition(definitionURL);
+    return menu;
+}
+
 IntegrationOptions integrationOptions(const SiteRunOptions& options, const IntegrationURLs& urls,
                                       RunRecord* record) {
-    IntegrationOptions integration;
-    integration.rewrite.libraryURL = urls.library;
-    integration.rewrite.keepsOtherScripts = options.answers.keepsOtherScripts;
-    integration.rewrite.keptScripts = options.answers.keptScripts;
-    if (options.placing)
-        integration.rewrite.menu = placedMenu(options.answers, *options.placing, urls.definition);
-    if (options.replacesReferences)
-        integration.rewrite.newDefinitionURL = urls.definition;
+    IntegrationOptions integration{rewriteOptions(options, urls)};
     integration.hasBackups = options.answers.hasBackups;
     integration.skipsFailing = options.answers.skipsFailing;
     integration.record = record;
@@ -104,20 +114,16 @@ SiteRunResult runOverSite(FileSystem& files, const ChosenFiles& pages,
     return SiteRun(files, options).run(pages, shouldGoOn);
 }
 
-PlacedMenu placedMenu(const WizardAnswers& answers, const MenuPlacing& placing,
-                      const std::string& definitionURL) {
-    PlacedMenu menu{placing.place, {}};
-    if (!answers.isPopup)
-        menu.code = placedMenuCode(definitionURL);
-    else
-        menu.code = definitionReference(definitionURL);
-    if (answers.isPopup && placing.linkText.empty())
-        menu.code += popupLinkCode(answers.submenuId, answers.placement);
-    if (answers.isPopup && !placing.linkText.empty())
-        menu.link = LinkedText{placing.linkText, answers.submenuId, answers.placement};
-    if (placing.addition)
-        menu.code += placing.addition(definitionURL);
-    return menu;
+RewriteOptions rewriteOptions(const SiteRunOptions& options, const IntegrationURLs& urls) {
+    RewriteOptions rewrite;
+    rewrite.libraryURL = urls.library;
+    rewrite.keepsOtherScripts = options.answers.keepsOtherScripts;
+    rewrite.keptScripts = options.answers.keptScripts;
+    if (options.placing)
+        rewrite.menu = placedMenu(options.answers, *options.placing, urls.definition);
+    if (options.replacesReferences)
+        rewrite.newDefinitionURL = urls.definition;
+    return rewrite;
 }
 
 }  // namespace zev

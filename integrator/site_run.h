@@ -54,8 +54,7 @@ struct SiteRunResult {
 SiteRunResult runOverSite(FileSystem& files, const ChosenFiles& pages,
                           const SiteRunOptions& options, const ShouldGoOn& shouldGoOn);
 
-/// The menu that is put into a page from which the definition has this address.
-PlacedMenu placedMenu(const WizardAnswers& answers, const MenuPlacing& placing,
-                      const std::string& definitionURL);
+/// What such a run does to pages from whose folder the URLs are seen.
+RewriteOptions rewriteOptions(const SiteRunOptions& options, const IntegrationURLs& urls);
 
 }  // namespace zev

@@ -244,7 +244,7 @@ FileResult<Placement> WizardFlow::placementIn(const std::string& name, const Wiz
         return page.error();
     const IntegrationURLs urls =
         CalculateURL(SplitPath(path).folder, answers.definition, answers.library);
-    return zev::placeMenu(page.value(), placedMenu(answers, placing, urls.definition));
+    return zev::placementIn(page.value(), rewriteOptions({answers, placing}, urls));
 }
 
 /// Pages of several folders may see the definition at several addresses; the code for each is named

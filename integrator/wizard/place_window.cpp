@@ -22,6 +22,7 @@
 #include "dialogs/single_line.h"
 #include "integrator/changed_lines.h"
 #include "integrator/wizard_flow.h"
+#include "messages/integration_messages.h"
 
 namespace zev {
 
@@ -280,6 +281,9 @@ void PlaceWindow::lookWhereItFits() {
             others.append(tr("%1: cannot be read").arg(page));
         else if (placement.value().problem)
             others.append(tr("%1: %2").arg(page, problemText(*placement.value().problem)));
+        else if (placement.value().hasOwnCall)
+            others.append(tr("%1: %2").arg(
+                page, QString::fromStdString(noteText(placement.value().notes.front()))));
         else
             fitting.append(page);
     });

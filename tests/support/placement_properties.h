@@ -55,7 +55,7 @@ inline std::string problemOfPlacement(const std::string& page, const std::string
     const std::string once = withEdits(page, edits);
     if (withEdits(once, inverseEdits(page, edits)) != page)
         return "the edits cannot be undone";
-    const std::vector<PageEdit> placed = placeMenu(page, menu).edits;
+    const std::vector<PageEdit> placed = placementIn(page, options).edits;
     if (placed.empty() != (edits == pageEdits(page, {"lib/", keepsOtherScripts}, status)))
         return "placing does not do its edit";
     // Behind the last token, which integration leaves alone, it makes that one like the others.
