@@ -58,6 +58,10 @@ ExitStatus undoCommand(FileSystem& files, const std::string& run) {
         return ExitStatus::FileProblem;
     }
     const UndoneRun& result = undone.value();
+    if (result.isGoingOn) {
+        printProblem(*found + ": this run is still going on, or being undone; nothing was changed");
+        return ExitStatus::Counted;
+    }
     for (const std::string& page : result.changedPages)
         printProblem(page + ": changed since the run, so it stays as it is");
     for (const FileError& error : result.errors)

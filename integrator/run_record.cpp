@@ -149,10 +149,6 @@ class EntryReader {
     std::string_view m_rest;
 };
 
-std::string recordPath(const std::string& folder, const std::string& name) {
-    return Path(folder).child(name);
-}
-
 }  // namespace
 
 PageMark PageMark::of(std::string_view page) {
@@ -217,6 +213,10 @@ FileOutcome RunRecord::flushAtNewFolder(const std::string& path) {
     const bool isFirst = m_pagesFolder.empty();
     m_pagesFolder = folder;
     return isFirst ? FileOutcome{} : m_file->flush();
+}
+
+std::string recordPath(const std::string& folder, const std::string& name) {
+    return Path(folder).child(name);
 }
 
 std::vector<std::string> listRuns(const FileSystem& files, const std::string& folder) {
