@@ -9,6 +9,8 @@
 #include "integrator/inserted_code.h"
 #include "integrator/page_references.h"
 #include "integrator/script_name.h"
+#include "integrator/searchable_text.h"
+#include "text/text_encoding.h"
 
 namespace zev {
 
@@ -235,32 +237,49 @@ std::optional<PageNote> findOwnCall(std::string_view page, const RewriteOptions&
     }
 }
 
+Placement placementInText(const SearchableText& text, const RewriteOptions& options) {
+    const PlacedMenu& menu = *options.menu;
+    // Nobody can type words of such a page as it spells them.
+    if (text.isEscaped() && menu.link && !isAscii(menu.link->text))
+        return {PlaceProblem::TextNotFound, {}, {}, false};
+    // Of popup menus a page may have any number.
+    if (contains(menu.code, kDisplayName) && findPlacedMenus(text.bytes()).empty())
+        if (std::optional<PageNote> call = findOwnCall(text.bytes(), options))
+            return {{}, {}, {std::move(*call)}, true};
+    return placeMenu(text.bytes(), menu);
+}
+
 }  // namespace
 
 Placement placementIn(std::string_view page, const RewriteOptions& options) {
-    // Of popup menus a page may have any number.
-    if (contains(options.menu->code, kDisplayName) && findPlacedMenus(page).empty())
-        if (std::optional<PageNote> call = findOwnCall(page, options))
-            return {{}, {}, {std::move(*call)}, true};
-    return placeMenu(page, *options.menu);
+    const SearchableText text(page);
+    Placement placement = placementInText(text, options);
+    text.restore(placement.edits);
+    text.restore(placement.notes);
+    return placement;
 }
 
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status) {
     status = {};
+    const SearchableText text(page);
     std::vector<PageEdit> placed;
     if (options.menu) {
-        Placement placement = placementIn(page, options);
+        Placement placement = placementInText(text, options);
         status.placeProblem = placement.problem;
         status.isMenuPlaced = !placement.problem && !placement.hasOwnCall;
         status.notes = std::move(placement.notes);
+        text.restore(status.notes);
         if (placement.problem)
             return {};
         placed = std::move(placement.edits);
     }
     if (!options.newDefinitionURL.empty())
-        addReferenceEdits(page, options.newDefinitionURL, placed);
-    return PageRewriter(page, options, status, std::move(placed)).edits();
+        addReferenceEdits(text.bytes(), options.newDefinitionURL, placed);
+    std::vector<PageEdit> edits =
+        PageRewriter(text.bytes(), options, status, std::move(placed)).edits();
+    text.restore(edits);
+    return edits;
 }
 
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
@@ -271,8 +290,9 @@ std::string rewritePage(std::string_view page, const RewriteOptions& options,
 bool isIntegrated(std::string_view page) {
     if (!contains(page, kMarkerText) && !contains(page, kLoaderName))
         return false;
+    const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(page);; parser.Next()) {
+    for (parser.Load(text.bytes());; parser.Next()) {
         const std::string_view name = parser.TagName();
         if ((name == "!" && contains(parser.Text(), kMarkerText)) ||
             (name == "script" && loadsLibrary(parser)))
@@ -284,8 +304,9 @@ bool isIntegrated(std::string_view page) {
 
 std::size_t countDroppedScripts(std::string_view page) {
     std::size_t count = 0;
+    const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(page); !parser.IsLast(); parser.Next())
+    for (parser.Load(text.bytes()); !parser.IsLast(); parser.Next())
         if (parser.TagName() == "script" && !namesJavaScript(parser))
             ++count;
     return count;
