@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <ctime>
 #include <limits>
-#include <map>
-#include <set>
 #include <utility>
 
 #include "integrator/page_groups.h"
@@ -202,9 +200,10 @@ void WizardFlow::run(const SiteRunOptions& wanted, const Progress& progress) {
     SiteRunOptions options = wanted;
     options.recordFolder = m_recordFolder;
     options.startedAt = std::time(nullptr);
+    options.looksForReferences = true;
     m_isCancelled = false;
     m_isRunning = true;
-    m_result = runOverSite(m_files, InputFiles, options,
+    m_result = runOverSite(m_files, pagesByFolder(InputFiles), options,
                            [&](std::size_t doneCount, std::size_t totalCount) {
                                progress(doneCount, totalCount);
                                return !m_isCancelled;
@@ -250,10 +249,7 @@ FileResult<Placement> WizardFlow::placementIn(const std::string& name, const Wiz
 /// Pages of several folders may see the definition at several addresses; the code for each is named
 /// then.
 std::string WizardFlow::codeFor(const WizardAnswers& answers) const {
-    std::map<std::string, std::set<std::string>> foldersOfURLs;
-    for (const ChosenFiles& group : pagesByFolder(InputFiles))
-        foldersOfURLs[CalculateURL(group.folder, answers.definition, answers.library).definition]
-            .insert(group.folder);
+    const auto foldersOfURLs = definitionURLs(pagesByFolder(InputFiles), answers);
     std::string text;
     for (const auto& [url, folders] : foldersOfURLs) {
         if (!text.empty())
