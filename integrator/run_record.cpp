@@ -169,8 +169,6 @@ void RunRecord::append(const std::string& path, std::string_view page, std::stri
     if (m_error || page == result)
         return;
     const FileResult<unsigned> mode = m_files.modeOf(path);
-    if (!mode.isOk())
-        return;  // nor can the page be written
     if (!m_file)
         m_error = begin();
     if (!m_error)
@@ -178,7 +176,7 @@ void RunRecord::append(const std::string& path, std::string_view page, std::stri
     if (m_error)
         return;
     m_entry = kPageWord;
-    addNumber(m_entry, mode.value());
+    addNumber(m_entry, mode.isOk() ? mode.value() : 0);
     addMark(m_entry, PageMark::of(page));
     addMark(m_entry, PageMark::of(result));
     addNumber(m_entry, edits.size());

@@ -25,7 +25,7 @@ struct PageMark {
 /// What it takes to undo what a run did to one page.
 struct RecordedPage {
     std::string path;
-    unsigned mode = 0;  ///< permissions before the run
+    unsigned mode = 0;  ///< permissions before the run; 0 where they were not known
     PageMark before;
     PageMark after;
     std::vector<PageEdit> edits;  ///< make the page before of the one after

@@ -87,7 +87,7 @@ FileResult<Outcome> restore(FileSystem& files, const PageHistory& history) {
                             ? removeTemporaryPage(files, path)
                             : files.writeFileThrough(kTemporaryPageName, path, bytes);
     const FileResult<unsigned> mode = files.modeOf(path);
-    if (!error && mode.isOk() && mode.value() != history.mode())
+    if (!error && mode.isOk() && history.mode() != 0 && mode.value() != history.mode())
         error = files.setMode(path, history.mode());
     if (error)
         return *error;

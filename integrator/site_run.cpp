@@ -81,6 +81,8 @@ class SiteRun {
             integrator.IntegratePages({group.folder, {name}});
             m_result.lastPage = integrator.status();
             const std::string path = pagePath(group.folder, name);
+            if (m_result.lastPage.bSuccess)
+                m_result.donePages.push_back(path);
             for (const PageNote& note : m_result.lastPage.notes)
                 m_result.notes.push_back({path, note});
             if (m_options.looksForReferences && m_result.lastPage.bPrevious)

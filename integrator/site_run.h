@@ -55,7 +55,8 @@ struct SiteRunResult {
     std::string report;  ///< lines that end in CR LF, the summary the last ones
     RunSummary summary;
     IntegrationStatus lastPage;
-    std::vector<NotedPage> notes;  ///< in the order of the pages
+    std::vector<std::string> donePages;  ///< full paths
+    std::vector<NotedPage> notes;        ///< in the order of the pages
     std::string name;         ///< by which the run can be undone; empty: it changed nothing, or
                               ///< nothing is recorded
     FileOutcome recordError;  ///< why not all of it can be undone

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <ctime>
 #include <limits>
+#include <unordered_set>
 #include <utility>
 
 #include "integrator/page_groups.h"
@@ -178,32 +179,41 @@ void WizardFlow::IntegratePages(const WizardAnswers& answers, const Progress& pr
     m_linkCode = answers.isPopup ? popupLinkCode(answers.submenuId, answers.placement) : "";
     m_runs.clear();
     m_isUndone = false;
-    run({answers}, progress);
+    run(InputFiles, {answers}, progress);
+    m_integratedPages = {InputFiles.folder, {}};
+    const std::unordered_set<std::string> done(m_result.donePages.begin(),
+                                               m_result.donePages.end());
+    for (const std::string& name : InputFiles.names)
+        if (done.contains(pagePath(InputFiles.folder, name)))
+            m_integratedPages.names.push_back(name);
     m_report = m_result.report;
 }
 
 void WizardFlow::placeMenu(const WizardAnswers& answers, const MenuPlacing& placing,
                            const Progress& progress) {
-    SiteRunOptions options{answers, placing};
-    options.answers.hasBackups = false;
-    run(options, progress);
+    runFurther({answers, placing}, progress);
 }
 
 void WizardFlow::replaceReferences(const WizardAnswers& answers, const Progress& progress) {
     SiteRunOptions options{answers};
-    options.answers.hasBackups = false;
     options.replacesReferences = true;
-    run(options, progress);
+    runFurther(std::move(options), progress);
 }
 
-void WizardFlow::run(const SiteRunOptions& wanted, const Progress& progress) {
+void WizardFlow::runFurther(SiteRunOptions options, const Progress& progress) {
+    options.answers.hasBackups = false;
+    run(m_integratedPages, options, progress);
+}
+
+void WizardFlow::run(const ChosenFiles& pages, const SiteRunOptions& wanted,
+                     const Progress& progress) {
     SiteRunOptions options = wanted;
     options.recordFolder = m_recordFolder;
     options.startedAt = std::time(nullptr);
     options.looksForReferences = true;
     m_isCancelled = false;
     m_isRunning = true;
-    m_result = runOverSite(m_files, pagesByFolder(InputFiles), options,
+    m_result = runOverSite(m_files, pagesByFolder(pages), options,
                            [&](std::size_t doneCount, std::size_t totalCount) {
                                progress(doneCount, totalCount);
                                return !m_isCancelled;

@@ -206,7 +206,7 @@ void PlaceWindow::addClosingButtons() {
 /// Shows how far the work is when it takes more than a moment. False when the person stopped it.
 bool PlaceWindow::forEachPage(const QString& what,
                               const std::function<void(const std::string&)>& work) {
-    const std::vector<std::string>& names = m_flow.pages().names;
+    const std::vector<std::string>& names = m_flow.integratedPages().names;
     QProgressDialog progress(what, tr("&Stop"), 0, static_cast<int>(names.size()), this);
     progress.setObjectName("frmProgress");
     progress.setWindowTitle(windowTitle());
@@ -226,7 +226,7 @@ bool PlaceWindow::lookForPlaces() {
     std::map<std::string, std::size_t> countOfPlace;
     const bool isWhole = forEachPage(tr("Looking for places"), [&](const std::string& name) {
         const FileResult<std::string> page = m_files.readFile(
-            pagePath(m_flow.pages().folder, name), std::numeric_limits<std::uint64_t>::max());
+            pagePath(m_flow.integratedPages().folder, name), std::numeric_limits<std::uint64_t>::max());
         if (!page.isOk())
             return;
         for (const std::string& place : possiblePlaces(page.value()))
@@ -289,7 +289,7 @@ void PlaceWindow::lookWhereItFits() {
     });
     m_lblFits->setText(tr("It fits in %1 of %2 pages; the others stay as they are.")
                            .arg(fitting.size())
-                           .arg(m_flow.pages().names.size()));
+                           .arg(m_flow.integratedPages().names.size()));
     m_pages->addItems(others);
     for (const QString& name : fitting)
         (new QListWidgetItem(name, m_pages))->setData(kNameRole, name);
@@ -307,7 +307,7 @@ void PlaceWindow::followPage() {
 void PlaceWindow::showChanges(const std::string& name) {
     const std::optional<MenuPlacing> placing = entered();
     const FileResult<std::string> page = m_files.readFile(
-        pagePath(m_flow.pages().folder, name), std::numeric_limits<std::uint64_t>::max());
+        pagePath(m_flow.integratedPages().folder, name), std::numeric_limits<std::uint64_t>::max());
     if (!placing || !page.isOk())
         return;
     const FileResult<Placement> placement = m_flow.placementIn(name, m_answers, *placing);
