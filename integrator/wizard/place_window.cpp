@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
@@ -21,6 +20,7 @@
 #include "dialogs/dialog_button.h"
 #include "dialogs/single_line.h"
 #include "integrator/changed_lines.h"
+#include "integrator/wizard/work_progress.h"
 #include "integrator/wizard_flow.h"
 #include "messages/integration_messages.h"
 
@@ -28,8 +28,6 @@ namespace zev {
 
 namespace {
 
-/// A window that stands still for less than this needs no explanation.
-constexpr int kMomentMs = 500;
 /// Bytes of a long line, and characters of the window, that are shown.
 constexpr std::size_t kShownBytes = 400;
 constexpr int kWindowWidth = 100;
@@ -207,14 +205,9 @@ void PlaceWindow::addClosingButtons() {
 bool PlaceWindow::forEachPage(const QString& what,
                               const std::function<void(const std::string&)>& work) {
     const std::vector<std::string>& names = m_flow.integratedPages().names;
-    QProgressDialog progress(what, tr("&Stop"), 0, static_cast<int>(names.size()), this);
-    progress.setObjectName("frmProgress");
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kMomentMs);
+    WorkProgress progress(what, tr("&Stop"), this);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        progress.setValue(static_cast<int>(i));
-        if (progress.wasCanceled())
+        if (!progress.goesOn(i, names.size()))
             return false;
         work(names[i]);
     }
@@ -225,8 +218,9 @@ bool PlaceWindow::lookForPlaces() {
     std::vector<std::string> places;
     std::map<std::string, std::size_t> countOfPlace;
     const bool isWhole = forEachPage(tr("Looking for places"), [&](const std::string& name) {
-        const FileResult<std::string> page = m_files.readFile(
-            pagePath(m_flow.integratedPages().folder, name), std::numeric_limits<std::uint64_t>::max());
+        const FileResult<std::string> page =
+            m_files.readFile(pagePath(m_flow.integratedPages().folder, name),
+                             std::numeric_limits<std::uint64_t>::max());
         if (!page.isOk())
             return;
         for (const std::string& place : possiblePlaces(page.value()))
