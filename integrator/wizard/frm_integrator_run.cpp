@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTextCursor>
 #include <initializer_list>
 
 #include "integrator/wizard/frm_integrator.h"
@@ -60,8 +61,17 @@ void frmIntegrator::setRunning(bool isRunning) {
         button->setEnabled(!isRunning);
 }
 
+/// A report of thousands of pages is shown piece by piece: the window answers in between.
 void frmIntegrator::showReport() {
-    txtReport->setPlainText(QString::fromStdString(m_flow.report()));
+    constexpr qsizetype kPieceLength = 100'000;
+    txtReport->clear();
+    const QString report = QString::fromStdString(m_flow.report()).replace("\r\n", "\n");
+    QTextCursor end(txtReport->document());
+    for (qsizetype at = 0; at < report.size(); at += kPieceLength) {
+        end.insertText(report.mid(at, kPieceLength));
+        QCoreApplication::processEvents();
+    }
+    txtReport->moveCursor(QTextCursor::Start);
 }
 
 void frmIntegrator::ShowResultMessage() {

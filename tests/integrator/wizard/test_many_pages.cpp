@@ -102,12 +102,14 @@ struct Site {
         });
         click("btnAddFolder");
     }
-    /// From the pages to the report, with all scripts that would go gone.
-    void goOn() {
+    /// From the pages to the report, with all scripts that would go gone. `seen` is called when the
+    /// window with the changes is shown.
+    void goOn(const std::function<void()>& seen = [] {}) {
         bool isSeen = false;
-        whenShown<ChangesWindow>([&isSeen](ChangesWindow& window) {
+        whenShown<ChangesWindow>([&](ChangesWindow& window) {
             window.findChild<QCheckBox*>("chkKeepAll")->setChecked(false);
             isSeen = true;
+            seen();
             window.findChild<QPushButton*>("btnOK")->click();
         });
         click("btnNext");
@@ -229,10 +231,12 @@ class test_many_pages : public QObject {
         watch.longestMs();
         site.addFolder();
         print("Add Folder, and counting its scripts");
-        watch.startCounting();
-        site.goOn();
+        site.goOn([&] {
+            print("What Will Change");
+            watch.startCounting();
+        });
         QVERIFY2(watch.turnCount() >= count, qPrintable(QString::number(watch.turnCount())));
-        print("What Will Change, and the run");
+        print("The run and its report");
         site.click("btnNext");
         print("The last frame");
         whenShown<PlaceWindow>([&](PlaceWindow& window) {
