@@ -70,8 +70,9 @@ std::string nameOf(const HtmlParse& parser) {
     return scriptName(parser.Attribute("src"), parser.Text());
 }
 
-bool isDropped(const HtmlParse& parser, const RewriteOptions& options) {
-    if (!isForeign(parser, options) && !isOfEarlierRun(parser))
+/// Whether integration drops a script of which that is known.
+bool isDropped(const HtmlParse& parser, const RewriteOptions& options, bool isForeign) {
+    if (!isForeign && !isOfEarlierRun(parser))
         return false;
     const std::vector<std::string>& kept = options.keptScripts;
     return kept.empty() || isOwnScript(parser) ||
@@ -179,13 +180,14 @@ class PageRewriter {
     }
 
     void handleScript() {
-        if (!isDropped(m_parser, m_options))
+        const bool isForeignScript = isForeign(m_parser, m_options);
+        if (!isDropped(m_parser, m_options, isForeignScript))
             return;
         if (!isOwnScript(m_parser))
             m_status.removedScripts.push_back(nameOf(m_parser));
         replaceToken({});
         // Without its start tag a script's end tag means nothing to a browser; it stays.
-        if (isForeign(m_parser, m_options))
+        if (isForeignScript)
             return;
         if (loadsLibrary(m_parser))
             m_status.bPrevious = true;
@@ -226,7 +228,8 @@ std::optional<PageNote> findOwnCall(std::string_view page, const RewriteOptions&
     bool hasDefinition = false;
     HtmlParse parser;
     for (parser.Load(page);; parser.Next()) {
-        if (parser.TagName() == "script" && !isDropped(parser, options)) {
+        if (parser.TagName() == "script" &&
+            !isDropped(parser, options, isForeign(parser, options))) {
             hasDefinition = hasDefinition || mayDefineMenu(parser);
             if (hasDefinition && contains(parser.Text(), kDisplayName))
                 return PageNote{PageNote::Kind::OwnCall, LineCounter(page).lineAt(parser.offset()),

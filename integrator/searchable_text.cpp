@@ -15,10 +15,12 @@ constexpr char kEscape = '\x1B';
 constexpr char kShiftOut = '\x0E';
 constexpr char kShiftIn = '\x0F';
 
-/// The encoding that the page says it is in, in lower case, where browsers look for it; empty when
-/// it says none.
+/// Where browsers look for the encoding that a page declares.
+constexpr std::size_t kDeclarationBytes = 1024;
+
+/// The encoding that the page says it is in, in lower case; empty when it says none.
 std::string declaredEncoding(std::string_view page) {
-    std::string start(page.substr(0, 1024));
+    std::string start(page.substr(0, kDeclarationBytes));
     std::transform(start.begin(), start.end(), start.begin(), asciiLower);
     constexpr std::string_view kWord = "charset";
     for (std::size_t at = start.find(kWord); at != std::string::npos;
@@ -30,6 +32,16 @@ std::string declaredEncoding(std::string_view page) {
         return start.substr(begin, start.find_first_of(" \t\r\n\f\"';/>", begin) - begin);
     }
     return {};
+}
+
+/// Looks for its rarer letter: every page is asked.
+bool mayDeclareHz(std::string_view page) {
+    page = page.substr(0, kDeclarationBytes);
+    for (const char z : {'z', 'Z'})
+        for (std::size_t at = page.find(z); at != std::string_view::npos; at = page.find(z, at + 1))
+            if (at > 0 && asciiLower(page[at - 1]) == 'h')
+                return true;
+    return false;
 }
 
 /// A byte of a character, with its high bit or without. Others mean the same everywhere.
@@ -111,10 +123,8 @@ SearchableText::SearchableText(std::string_view page)
 }
 
 std::optional<SearchableText::Escapes> SearchableText::escapesOf(std::string_view page) {
-    const bool mayBeHz = page.substr(0, 1024).find("hz") != std::string_view::npos ||
-                         page.substr(0, 1024).find("HZ") != std::string_view::npos;
     const bool hasEscapes = page.find(kEscape) != std::string_view::npos;
-    if ((!mayBeHz && !hasEscapes) || !isAscii(page))
+    if ((!hasEscapes && !mayDeclareHz(page)) || !isAscii(page))
         return {};
     const std::string encoding = declaredEncoding(page);
     if (encoding.starts_with("hz"))
@@ -132,8 +142,9 @@ void SearchableText::flip(std::string& text) const {
 }
 
 void SearchableText::restore(std::vector<PageEdit>& edits) const {
-    for (PageEdit& edit : edits)
-        flip(edit.text);
+    if (m_escapes)
+        for (PageEdit& edit : edits)
+            flip(edit.text);
 }
 
 void SearchableText::restore(std::vector<PageNote>& notes) const {
