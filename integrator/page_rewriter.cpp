@@ -71,8 +71,8 @@ std::string nameOf(const HtmlParse& parser) {
 }
 
 /// Whether integration drops a script of which that is known.
-bool isDropped(const HtmlParse& parser, const RewriteOptions& options, bool isForeign) {
-    if (!isForeign && !isOfEarlierRun(parser))
+bool isDropped(const HtmlParse& parser, const RewriteOptions& options, bool isForeignScript) {
+    if (!isForeignScript && !isOfEarlierRun(parser))
         return false;
     const std::vector<std::string>& kept = options.keptScripts;
     return kept.empty() || isOwnScript(parser) ||

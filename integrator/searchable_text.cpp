@@ -58,7 +58,8 @@ void flipByte(char& byte) {
 /// Steps over text with the escapes of ISO 2022 and knows in what state it is.
 class Iso2022Walk {
   public:
-    explicit Iso2022Walk(std::string& text) : m_text(text) {}
+    Iso2022Walk(std::string& text, bool hasSecondSet)
+        : m_text(text), m_hasSecondSet(hasSecondSet) {}
 
     void flip() {
         for (std::size_t i = 0; i < m_text.size();) {
@@ -79,10 +80,8 @@ class Iso2022Walk {
     //     ESC $ ) C    two bytes a character, after a shift     ESC ( I    one byte a character
     std::size_t afterEscape(std::size_t at) {
         const std::string_view rest = std::string_view(m_text).substr(at + 1, 3);
-        if (rest.starts_with("$)"))
-            m_hasSecondSet = true;
-        else if (rest.starts_with('$'))
-            m_isFirstAscii = false;
+        if (rest.starts_with('$'))
+            m_isFirstAscii = m_isFirstAscii && rest.starts_with("$)");
         else if (rest.starts_with('('))
             m_isFirstAscii = rest.substr(1).starts_with('B') || rest.substr(1).starts_with('J');
         else
@@ -92,8 +91,8 @@ class Iso2022Walk {
     }
 
     std::string& m_text;
+    const bool m_hasSecondSet;
     bool m_isFirstAscii = true;
-    bool m_hasSecondSet = false;
     bool m_isShifted = false;
 };
 
@@ -136,7 +135,8 @@ std::optional<SearchableText::Escapes> SearchableText::escapesOf(std::string_vie
 /// Twice is not at all.
 void SearchableText::flip(std::string& text) const {
     if (m_escapes == Escapes::Iso2022)
-        Iso2022Walk(text).flip();
+        // The page says once for all of its parts that there is a second set.
+        Iso2022Walk(text, m_page.find("\x1B$)") != std::string_view::npos).flip();
     else if (m_escapes == Escapes::Hz)
         flipHz(text);
 }

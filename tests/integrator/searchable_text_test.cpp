@@ -71,8 +71,9 @@ TEST(SearchableTextTest, OtherPagesAreSearchedAsTheyAre) {
 }
 
 TEST(SearchableTextTest, WhatIsCutOutGetsItsOwnBytesBack) {
-    for (const std::string& page : {"<p>" + kJapanese + "</p>", std::string("\x1B(I<R\x1B(B<p>"),
-                                    std::string("charset=hz ~{<R~}")}) {
+    for (const std::string& page :
+         {"<p>" + kJapanese + "</p>", std::string("\x1B(I<R\x1B(B<p>"),
+          std::string("charset=hz ~{<R~}"), std::string("\x1B$)C\x0E<R\x0F<p>")}) {
         const SearchableText text(page);
         std::vector<PageEdit> edits = {{0, 0, std::string(text.bytes()) + "\xC3\xA4"}};
         ASSERT_NE(text.bytes(), page);
@@ -89,6 +90,14 @@ TEST(SearchableTextTest, AWordIsNotFoundInACharacter) {
               std::string::npos);
     options.menu->link->text = "\xE1\xE2";
     EXPECT_EQ(rewritten(page, options).status.placeProblem, PlaceProblem::TextNotFound);
+}
+
+TEST(SearchableTextTest, ATagWithShiftsComesBackWhole) {
+    const std::string title = "<body title='\x0E'>\x0F'";
+    const std::string page = "\x1B$)C<head></head>" + title + "></body>.";
+    const Rewritten result = rewritten(page);
+    EXPECT_NE(result.page.find(title + " onload="), std::string::npos) << result.page;
+    EXPECT_EQ(withEdits(result.page, removeIntegration(result.page).edits), page);
 }
 
 TEST(SearchableTextTest, AnAddressThatWasTypedStaysAsItIs) {
