@@ -7,7 +7,7 @@ namespace zev {
 
 namespace {
 
-constexpr const char* kRemovalOptions = "goes with PAGE, --no-backup, --dry-run and --report only";
+constexpr const char* kRemovalOptions = "goes with pages, --no-backup, --dry-run and --report only";
 
 std::string refuseNoPlace(const std::string& where) {
     return parsePlace(where)

@@ -55,14 +55,13 @@ bool addListedPages(const FileSystem& files, const std::string& path,
 
 void addSiteOptions(CLI::App& command, SiteArguments& site) {
     CLI::Option* const folder =
-        command
-            .add_option("--recursive", site.folder, "Integrate the pages in and below this folder")
+        command.add_option("--recursive", site.folder, "The pages in and below this folder, too")
             ->type_name("FOLDER")
             ->check(refuseEmpty);
     addPatterns(command, "--include", site.included,
                 "There, only these (without it, *.htm and *.html)", folder);
     addPatterns(command, "--exclude", site.excluded, "There, none of these", folder);
-    command.add_option("--files-from", site.list, "Integrate the pages in this list, or site map")
+    command.add_option("--files-from", site.list, "The pages in this list, or site map, too")
         ->type_name("FILE")
         ->check(refuseEmpty);
 }

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/integrator_commands.h"
 
-#include <map>
-#include <set>
-#include <utility>
+#include <ctime>
 
 #include "checks/menu_links.h"
 #include "cli/command_paths.h"
 #include "cli/run_commands.h"
-#include "integrator/page_integration.h"
+#include "integrator/site_run.h"
 #include "messages/integration_messages.h"
 #include "script/relative_url.h"
 #include "text/ascii.h"
@@ -35,87 +33,51 @@ std::optional<std::string> fullPathOrAddress(const std::string& path) {
     return path.find("://") != std::string::npos ? path : fullPath(path);
 }
 
-/// Neighbouring pages of one folder.
-struct PageGroup {
-    ChosenFiles files;
-    IntegrationURLs urls;
-};
-
-/// Nothing, with the problem printed, when a relative path has no current folder to count from.
-std::optional<std::vector<PageGroup>> groupPages(const IntegrateOptions& options) {
-    const std::optional<std::string> definition = fullPathOrAddress(options.definition);
-    const std::optional<std::string> library = fullPathOrAddress(options.library);
-    if (!definition || !library)
-        return {};
-    std::vector<PageGroup> groups;
-    for (const std::string& page : options.pages) {
+/// Pages of one folder each. Nothing, with the problem printed, when a relative path has no current
+/// folder to count from.
+std::optional<std::vector<ChosenFiles>> groupPages(const std::vector<std::string>& pages) {
+    std::vector<ChosenFiles> groups;
+    for (const std::string& page : pages) {
         const std::optional<std::string> path = fullPath(page);
         if (!path)
             return {};
         const PathParts parts = SplitPath(*path);
-        if (groups.empty() || groups.back().files.folder != parts.folder)
-            groups.push_back(
-                {{parts.folder, {}}, CalculateURL(parts.folder, *definition, *library)});
-        groups.back().files.names.push_back(parts.name);
+        if (groups.empty() || groups.back().folder != parts.folder)
+            groups.push_back({parts.folder, {}});
+        groups.back().names.push_back(parts.name);
     }
     return groups;
 }
 
 /// The code, once for each URL that the definition has seen from the pages' folders.
-std::string codeOfAll(const std::vector<PageGroup>& groups, const IntegrateOptions& options) {
-    std::map<std::string, std::set<std::string>> foldersOfURLs;
-    for (const PageGroup& group : groups)
-        foldersOfURLs[group.urls.definition].insert(group.files.folder);
+std::string codeOfAll(const std::vector<ChosenFiles>& pages, const WizardAnswers& answers,
+                      const std::optional<PopupOptions>& popup) {
     std::string text;
-    for (const auto& [url, folders] : foldersOfURLs) {
+    for (const auto& [url, folders] : definitionURLs(pages, answers)) {
         for (const std::string& folder : folders)
             text += "Code for the pages in " + folder + "\n";
-        text += "\n" + codeToPaste(url, options.popup) + "\n";
+        text += "\n" + codeToPaste(url, popup) + "\n";
     }
     return text;
 }
 
-/// What the pages of a run have become.
-struct RunReport {
-    std::string text;
-    RunSummary summary;
-};
-
-/// Integrates pages of one folder or takes the menu out of them, and prints what to know of them.
-void processPages(FileSystem& files, IntegrationOptions integration,
-                  const IntegrateOptions& options, const ChosenFiles& pages, CommandRun& run,
-                  RunReport& report) {
-    integration.hasBackups = options.hasBackups;
-    integration.isDryRun = options.isDryRun;
-    integration.skipsFailing = options.skipsFailing;
-    integration.record = run.record();
-    PageIntegrator integrator(files, integration);
-    for (const std::string& name : pages.names) {
-        integrator.IntegratePages({pages.folder, {name}});
-        for (const PageNote& note : integrator.status().notes)
-            printProblem(pagePath(pages.folder, name) + ": " + noteText(note));
-    }
-    report.text += integrator.report();
-    report.summary.add(integrator.summary());
-}
-
 /// Writes the report where it is wanted, and `code` to standard output.
-ExitStatus writeReport(FileSystem& files, const std::string& path, const RunReport& report,
+ExitStatus writeReport(FileSystem& files, const std::string& path, const SiteRunResult& result,
                        const std::string& code) {
-    const std::string text = report.text + report.summary.text();
     std::string output = code;
     if (!path.empty())
-        for (const std::string& page : report.summary.failedPages)
+        for (const std::string& page : result.summary.failedPages)
             printProblem(page + ": failed; see the report");
     if (path.empty()) {
-        output = withUnixLineEnds(text) + code;
-    } else if (const FileOutcome error = files.writeFile(path, text + "\r\n", Links::Followed)) {
+        output = withUnixLineEnds(result.report) + code;
+    } else if (const FileOutcome error =
+                   files.writeFile(path, result.report + "\r\n", Links::Followed)) {
         printProblem(*error);
         return ExitStatus::FileProblem;
     }
     if (!writeStandardOutput(output))
         return ExitStatus::FileProblem;
-    return report.summary.failedPages.empty() ? ExitStatus::Done : ExitStatus::Counted;
+    return result.summary.failedPages.empty() ? ExitStatus::Done : ExitStatus::Counted;
 }
 
 /// The menu whose links are to stand in the pages; null when none are. Nothing, with the problem
@@ -129,22 +91,35 @@ std::optional<MenuContent*> menuForLinks(const FileSystem& files, const Integrat
     return &content;
 }
 
-/// For the pages of a folder from which the URLs are seen so.
-RewriteOptions rewriteOptions(const IntegrateOptions& options, const IntegrationURLs& urls,
-                              const MenuContent* menu) {
-    RewriteOptions rewrite{urls.library, options.keepsOtherScripts};
-    if (options.replacesReferences)
-        rewrite.newDefinitionURL = urls.definition;
+/// What is done with each page alike.
+SiteRunOptions runOptions(const IntegrateOptions& options) {
+    SiteRunOptions run;
+    run.answers.hasBackups = options.hasBackups;
+    run.isDryRun = options.isDryRun;
+    if (!options.isDryRun)
+        run.recordFolder = runsFolder();
+    run.startedAt = std::time(nullptr);
+    return run;
+}
+
+/// How the menu is put into the pages; nothing where its code is printed. `menu` is null where its
+/// links are not to stand there.
+std::optional<MenuPlacing> placingOf(const IntegrateOptions& options, const MenuContent* menu) {
     if (!options.place)
-        return rewrite;
-    std::string code = options.popup
-                           ? definitionReference(urls.definition) +
-                                 popupLinkCode(options.popup->submenuId, options.popup->placement)
-                           : placedMenuCode(urls.definition);
-    if (menu)
-        code += noScriptLinks(*menu, urls.definition);
-    rewrite.menu = PlacedMenu{*options.place, std::move(code)};
-    return rewrite;
+        return {};
+    MenuPlacing placing{*options.place, {}};
+    if (menu != nullptr)
+        placing.addition = [menu](const std::string& url) { return noScriptLinks(*menu, url); };
+    return placing;
+}
+
+SiteRunResult runAndTell(FileSystem& files, const std::vector<ChosenFiles>& pages,
+                         const SiteRunOptions& options) {
+    SiteRunResult result = runOverSite(files, pages, options, {});
+    for (const NotedPage& noted : result.notes)
+        printProblem(noted.page + ": " + noteText(noted.note));
+    printRun(options, result);
+    return result;
 }
 
 }  // namespace
@@ -157,35 +132,36 @@ ExitStatus linkcodeCommand(const std::string& definitionURL,
 }
 
 ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) {
-    const std::optional<std::vector<PageGroup>> groups = groupPages(options);
+    const std::optional<std::string> definition = fullPathOrAddress(options.definition);
+    const std::optional<std::string> library = fullPathOrAddress(options.library);
+    const std::optional<std::vector<ChosenFiles>> pages = groupPages(options.pages);
     const std::optional<MenuContent*> menu = menuForLinks(files, options);
-    if (!groups || !menu)
+    if (!definition || !library || !pages || !menu)
         return ExitStatus::FileProblem;
-    CommandRun run(files, options.isDryRun);
-    RunReport report;
-    for (const PageGroup& group : *groups) {
-        IntegrationOptions integration{rewriteOptions(options, group.urls, *menu)};
-        processPages(files, integration, options, group.files, run, report);
+    SiteRunOptions run = runOptions(options);
+    run.answers.definition = *definition;
+    run.answers.library = *library;
+    run.answers.keepsOtherScripts = options.keepsOtherScripts;
+    run.answers.skipsFailing = options.skipsFailing;
+    run.answers.isPopup = options.popup.has_value();
+    if (options.popup) {
+        run.answers.submenuId = options.popup->submenuId;
+        run.answers.placement = options.popup->placement;
     }
-    run.printOutcome();
-    return writeReport(files, options.report, report,
-                       options.place ? "" : codeOfAll(*groups, options));
+    run.placing = placingOf(options, *menu);
+    run.replacesReferences = options.replacesReferences;
+    const SiteRunResult result = runAndTell(files, *pages, run);
+    return writeReport(files, options.report, result,
+                       options.place ? "" : codeOfAll(*pages, run.answers, options.popup));
 }
 
 ExitStatus removeCommand(FileSystem& files, const IntegrateOptions& options) {
-    CommandRun run(files, options.isDryRun);
-    RunReport report;
-    for (const std::string& page : options.pages) {
-        const std::optional<std::string> path = fullPath(page);
-        if (!path)
-            return ExitStatus::FileProblem;
-        const PathParts parts = SplitPath(*path);
-        IntegrationOptions integration;
-        integration.isRemoval = true;
-        processPages(files, integration, options, {parts.folder, {parts.name}}, run, report);
-    }
-    run.printOutcome();
-    return writeReport(files, options.report, report, "");
+    const std::optional<std::vector<ChosenFiles>> pages = groupPages(options.pages);
+    if (!pages)
+        return ExitStatus::FileProblem;
+    SiteRunOptions run = runOptions(options);
+    run.isRemoval = true;
+    return writeReport(files, options.report, runAndTell(files, *pages, run), "");
 }
 
 }  // namespace zev

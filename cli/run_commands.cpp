@@ -2,23 +2,17 @@
 #include "cli/run_commands.h"
 
 #include <algorithm>
-#include <ctime>
 #include <set>
 #include <vector>
 
 #include "cli/command_arguments.h"
+#include "integrator/run_record.h"
 #include "integrator/run_undo.h"
 #include "platform/posix/user_data_folder.h"
 
 namespace zev {
 
 namespace {
-
-/// Empty when the user has no place for it.
-std::string runsFolder() {
-    const std::string folder = userDataFolder();
-    return folder.empty() ? folder : folder + "/runs";
-}
 
 std::string pageCountText(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " page" : " pages");
@@ -58,6 +52,10 @@ ExitStatus undoCommand(FileSystem& files, const std::string& run) {
         return ExitStatus::FileProblem;
     }
     const UndoneRun& result = undone.value();
+    if (result.isGoingOn) {
+        printProblem(*found + ": this run is still going on, or being undone; nothing was changed");
+        return ExitStatus::Counted;
+    }
     for (const std::string& page : result.changedPages)
         printProblem(page + ": changed since the run, so it stays as it is");
     for (const FileError& error : result.errors)
@@ -75,24 +73,23 @@ ExitStatus undoCommand(FileSystem& files, const std::string& run) {
 
 }  // namespace
 
-CommandRun::CommandRun(FileSystem& files, bool isDryRun) : m_isDryRun(isDryRun) {
-    const std::string folder = runsFolder();
-    if (!isDryRun && !folder.empty())
-        m_record.emplace(files, folder, std::time(nullptr));
+std::string runsFolder() {
+    const std::string folder = userDataFolder();
+    return folder.empty() ? folder : folder + "/runs";
 }
 
-void CommandRun::printOutcome() const {
-    if (!m_record) {
-        if (!m_isDryRun)
+void printRun(const SiteRunOptions& options, const SiteRunResult& result) {
+    if (options.recordFolder.empty()) {
+        if (!options.isDryRun)
             printProblem("neither XDG_DATA_HOME nor HOME is set; this run cannot be undone");
         return;
     }
-    if (!m_record->name().empty())
-        printProblem("run " + m_record->name());
-    if (const FileOutcome& error = m_record->error())
+    if (!result.name.empty())
+        printProblem("run " + result.name);
+    if (const FileOutcome& error = result.recordError)
         printProblem(error->path + ": " + error->reason +
-                     (m_record->name().empty() ? "; this run cannot be undone"
-                                               : "; not all of this run can be undone"));
+                     (result.name.empty() ? "; this run cannot be undone"
+                                          : "; not all of this run can be undone"));
 }
 
 void addRunOptions(CLI::App& command, RunArguments& runs) {

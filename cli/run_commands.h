@@ -2,32 +2,21 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
-#include <optional>
 #include <string>
 
 #include "cli/command_files.h"
-#include "integrator/run_record.h"
+#include "integrator/site_run.h"
 #include "platform/file_system.h"
 
 namespace zev {
 
 // Runs over pages are written down, and undone.
 
-/// The record of the run that this process is, and what there is to say of it.
-class CommandRun {
-  public:
-    /// `files` is not owned and must outlive this object. A dry run makes no record.
-    CommandRun(FileSystem& files, bool isDryRun);
+/// Where the records of runs are; empty when the user has no place for them.
+std::string runsFolder();
 
-    /// Null for none.
-    RunRecord* record() { return m_record ? &*m_record : nullptr; }
-    /// Prints the run's name, and why it cannot be undone, on standard error.
-    void printOutcome() const;
-
-  private:
-    std::optional<RunRecord> m_record;
-    bool m_isDryRun;
-};
+/// Prints a run's name, and why it cannot be undone, on standard error.
+void printRun(const SiteRunOptions& options, const SiteRunResult& result);
 
 /// What to do with runs instead of a run.
 struct RunArguments {

@@ -9,6 +9,7 @@
 #include "html/html_parse.h"
 #include "html/html_tokenizer.h"
 #include "integrator/inserted_code.h"
+#include "integrator/searchable_text.h"
 #include "text/ascii.h"
 
 namespace zev {
@@ -239,12 +240,13 @@ FoundPlace findPlace(std::string_view page, const MenuPlace& place) {
 std::vector<std::string> possiblePlaces(std::string_view page) {
     std::vector<std::string> places;
     std::set<std::string> seen;
-    const auto add = [&places, &seen](const std::string& text) {
-        if (parseSelector(text) && seen.insert(text).second)
-            places.push_back(text);
+    const auto add = [&places, &seen](const std::string& selector) {
+        if (parseSelector(selector) && seen.insert(selector).second)
+            places.push_back(selector);
     };
     bool hasMarker = false;
-    PageWalk walk(page);
+    const SearchableText text(page);
+    PageWalk walk(text.bytes());
     do {
         if (!walk.isShown())
             continue;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "html/html_parse.h"
+#include "integrator/searchable_text.h"
 #include "text/ascii.h"
 
 namespace zev {
@@ -56,8 +57,9 @@ PageFindings inspectPage(std::string_view page, const RewriteOptions& options) {
     findings.hasBody = status.bBodyDone;
     findings.hasBodyEnd = status.bEndBodyDone;
     findings.isUtf16 = page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF");
+    const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(page);; parser.Next()) {
+    for (parser.Load(text.bytes());; parser.Next()) {
         if (parser.IsTag())
             inspectTag(parser, findings);
         if (parser.IsLast())

@@ -7,6 +7,7 @@
 
 #include "integrator/page_removal.h"
 #include "integrator/run_record.h"
+#include "platform/kept_copy.h"
 #include "script/relative_url.h"
 #include "text/ascii.h"
 #include "text/path.h"
@@ -230,14 +231,9 @@ FileOutcome PageIntegrator::keepOriginal(const std::string& path, const std::str
         return old.error();
     if (isIntegrated(old.value()))
         return {};
-    std::string kept = backup + ".original";
-    for (int number = 2; m_files.entryAt(kept) != DiskEntry::Nothing; ++number) {
-        const FileResult<std::string> before = readPage(m_files, kept);
-        if (before.isOk() && before.value() == old.value())
-            return {};
-        kept = backup + ".original." + std::to_string(number);
-    }
-    return m_files.backUpFile(path, kept, old.value());
+    const FileResult<std::string> kept =
+        keepBytes(m_files, path, backup + ".original", old.value());
+    return kept.isOk() ? FileOutcome{} : kept.error();
 }
 
 void PageIntegrator::reportError(const std::string& path, const PageError& error) {
@@ -281,8 +277,10 @@ void PageIntegrator::reportPlaces() {
                                      : "ERROR: Menu creation code NOT added. </BODY> not found.");
     appendLine(m_status.bSuccess ? "Success: Menu integration successful"
                                  : "ERROR: Menu integration failure");
-    if (m_options.rewrite.menu)
+    if (m_status.isMenuPlaced)
         appendLine("Success: Menu placed");
+    else if (m_options.rewrite.menu)
+        appendLine("Menu not placed: the page has a call of its own");
 }
 
 void PageIntegrator::reportSkippedPage() {

@@ -22,17 +22,19 @@ bool matchesAny(std::string_view path, const std::vector<std::string>& patterns)
         [&](const std::string& pattern) { return matchesPattern(path, pattern); });
 }
 
+using GoesOn = std::function<bool(std::size_t foundCount)>;
+
 class PageFinder {
   public:
-    PageFinder(const FileSystem& files, PagePatterns patterns)
-        : m_files(files), m_patterns(std::move(patterns)) {
+    PageFinder(const FileSystem& files, PagePatterns patterns, const GoesOn& goesOn)
+        : m_files(files), m_patterns(std::move(patterns)), m_goesOn(goesOn) {
         if (m_patterns.included.empty())
             m_patterns.included = {"*.htm", "*.html"};
     }
 
     FoundPages findIn(const std::string& folder) {
         std::vector<Folder> waiting{{folder, ""}};
-        while (!waiting.empty()) {
+        while (!waiting.empty() && !m_found.isStopped) {
             const Folder next = std::move(waiting.back());
             waiting.pop_back();
             std::vector<Folder> inside = lookInto(next);
@@ -57,6 +59,8 @@ class PageFinder {
             return inside;
         }
         for (const std::string& name : names.value()) {
+            if (m_found.isStopped = isStopped(); m_found.isStopped)
+                break;
             std::string path = Path(folder.path).child(name);
             const std::string fromStart = folder.prefix + name;
             if (m_files.entryAt(path) == DiskEntry::Link ||
@@ -70,8 +74,16 @@ class PageFinder {
         return inside;
     }
 
+    /// Looking at one entry is quicker than asking.
+    bool isStopped() {
+        constexpr std::size_t kEntries = 64;
+        return ++m_entryCount % kEntries == 0 && m_goesOn && !m_goesOn(m_found.paths.size());
+    }
+
     const FileSystem& m_files;
     PagePatterns m_patterns;
+    const GoesOn& m_goesOn;
+    std::size_t m_entryCount = 0;
     FoundPages m_found;
 };
 
@@ -111,8 +123,9 @@ std::string withoutReferences(std::string text) {
 }  // namespace
 
 FoundPages findPages(const FileSystem& files, const std::string& folder,
-                     const PagePatterns& patterns) {
-    return PageFinder(files, patterns).findIn(folder);
+                     const PagePatterns& patterns,
+                     const std::function<bool(std::size_t foundCount)>& goesOn) {
+    return PageFinder(files, patterns, goesOn).findIn(folder);
 }
 
 std::vector<std::string> pathsInList(std::string_view list) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,12 +23,15 @@ struct PagePatterns {
 struct FoundPages {
     std::vector<std::string> paths;  ///< a folder's own before those of its subfolders
     std::vector<FileError> errors;   ///< folders that could not be looked into
+    bool isStopped = false;          ///< these are not all
 };
 
 /// The pages in the folder and all its subfolders. Links are not followed, and backups (a name with
-/// ".bak" in it) are no pages.
+/// ".bak" in it) are no pages. `goesOn` is asked now and then, with how many there are so far;
+/// false stops.
 FoundPages findPages(const FileSystem& files, const std::string& folder,
-                     const PagePatterns& patterns);
+                     const PagePatterns& patterns,
+                     const std::function<bool(std::size_t foundCount)>& goesOn = {});
 
 /// The paths in a list, one to a line, or each ended by NUL where the list has any. Empty ones are
 /// left out.

@@ -18,6 +18,7 @@ struct PageNote {
         ScriptDropped,    ///< only the end tag is left of a script; it does not come back
         QuotesStay,       ///< around a handler; integration may have put them there
         Handwritten,      ///< code for a menu that this program did not put in; it stays
+        OwnCall,          ///< draws the menu, by hand; it stays, and no second one is placed
     };
     Kind kind = Kind::Handwritten;
     std::size_t line = 0;  ///< of the page before the change, counted from 1

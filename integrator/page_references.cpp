@@ -9,6 +9,7 @@
 #include "html/html_parse.h"
 #include "integrator/inserted_code.h"
 #include "integrator/link_code.h"
+#include "integrator/searchable_text.h"
 
 namespace zev {
 
@@ -79,8 +80,9 @@ class ReferenceFinder {
 std::vector<DefinitionReference> findReferences(std::string_view page,
                                                 const std::string& definitionURL) {
     ReferenceFinder finder(fileName(definitionURL));
+    const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(page);; parser.Next()) {
+    for (parser.Load(text.bytes());; parser.Next()) {
         finder.take(parser);
         if (parser.IsLast())
             return finder.references();

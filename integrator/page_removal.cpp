@@ -12,6 +12,7 @@
 #include "html/server_blocks.h"
 #include "integrator/inserted_code.h"
 #include "integrator/page_references.h"
+#include "integrator/searchable_text.h"
 #include "text/ascii.h"
 
 namespace zev {
@@ -235,7 +236,11 @@ class PageRemover {
 }  // namespace
 
 PageRemoval removeIntegration(std::string_view page) {
-    return PageRemover(page).removal();
+    const SearchableText text(page);
+    PageRemoval removal = PageRemover(text.bytes()).removal();
+    text.restore(removal.edits);
+    text.restore(removal.notes);
+    return removal;
 }
 
 }  // namespace zev

@@ -9,12 +9,15 @@
 #include "integrator/inserted_code.h"
 #include "integrator/page_references.h"
 #include "integrator/script_name.h"
+#include "integrator/searchable_text.h"
+#include "text/text_encoding.h"
 
 namespace zev {
 
 namespace {
 
 constexpr std::string_view kLoaderName = "zevmenu_loader.js";
+constexpr std::string_view kDisplayName = "ZEVDisplayMenu(";
 
 std::string joined(std::initializer_list<std::string_view> parts) {
     std::size_t size = 0;
@@ -51,6 +54,29 @@ bool isOwnScript(const HtmlParse& parser) {
         script.remove_suffix(1);
     return script == "ZEVCreateMenu()" ||
            (script.starts_with("var zev_path") && !contains(script, ";"));
+}
+
+/// Whether a script goes as one that an earlier run may have written, unless its name is kept.
+bool isOfEarlierRun(const HtmlParse& parser) {
+    return loadsLibrary(parser) || isOldScript(parser);
+}
+
+/// Whether it goes as one that does not name JavaScript.
+bool isForeign(const HtmlParse& parser, const RewriteOptions& options) {
+    return !options.keepsOtherScripts && !namesJavaScript(parser);
+}
+
+std::string nameOf(const HtmlParse& parser) {
+    return scriptName(parser.Attribute("src"), parser.Text());
+}
+
+/// Whether integration drops a script of which that is known.
+bool isDropped(const HtmlParse& parser, const RewriteOptions& options, bool isForeignScript) {
+    if (!isForeignScript && !isOfEarlierRun(parser))
+        return false;
+    const std::vector<std::string>& kept = options.keptScripts;
+    return kept.empty() || isOwnScript(parser) ||
+           std::find(kept.begin(), kept.end(), nameOf(parser)) == kept.end();
 }
 
 /// The call goes before what the page does at the event. True when it was not there yet.
@@ -154,34 +180,21 @@ class PageRewriter {
     }
 
     void handleScript() {
-        if (!m_options.keepsOtherScripts && !namesJavaScript(m_parser)) {
-            // Without its start tag a script's end tag means nothing to a browser; it stays.
-            if (!staysByName())
-                replaceToken({});
+        const bool isForeignScript = isForeign(m_parser, m_options);
+        if (!isDropped(m_parser, m_options, isForeignScript))
             return;
-        }
-        const bool isPrevious = loadsLibrary(m_parser);
-        if ((!isPrevious && !isOldScript(m_parser)) || staysByName())
-            return;
-        if (isPrevious)
-            m_status.bPrevious = true;
+        if (!isOwnScript(m_parser))
+            m_status.removedScripts.push_back(nameOf(m_parser));
         replaceToken({});
+        // Without its start tag a script's end tag means nothing to a browser; it stays.
+        if (isForeignScript)
+            return;
+        if (loadsLibrary(m_parser))
+            m_status.bPrevious = true;
         m_parser.Next();
         // Now on the end tag, which goes too, unless it is the page's last token.
         if (!m_parser.IsLast())
             m_edits.back().length += m_parser.Source().size();
-    }
-
-    /// Whether a script that would go was asked to stay. One that goes is noted.
-    bool staysByName() {
-        if (isOwnScript(m_parser))
-            return false;
-        std::string name = scriptName(m_parser.Attribute("src"), m_parser.Text());
-        const std::vector<std::string>& kept = m_options.keptScripts;
-        if (std::find(kept.begin(), kept.end(), name) != kept.end())
-            return true;
-        m_status.removedScripts.push_back(std::move(name));
-        return false;
     }
 
     void insert(std::size_t offset, std::string text) {
@@ -201,23 +214,75 @@ class PageRewriter {
     std::vector<PageEdit> m_edits;
 };
 
+/// Whether the script names a definition or is one; any file that is not the library's may be.
+bool mayDefineMenu(const HtmlParse& parser) {
+    return (!parser.Attribute("src").empty() && !loadsLibrary(parser)) ||
+           contains(parser.Text(), "new ZEVMenu(");
+}
+
+/// The first call that is not dropped, behind what may be a definition: without one it draws
+/// nothing.
+std::optional<PageNote> findOwnCall(std::string_view page, const RewriteOptions& options) {
+    if (!contains(page, kDisplayName))
+        return {};
+    bool hasDefinition = false;
+    HtmlParse parser;
+    for (parser.Load(page);; parser.Next()) {
+        if (parser.TagName() == "script" &&
+            !isDropped(parser, options, isForeign(parser, options))) {
+            hasDefinition = hasDefinition || mayDefineMenu(parser);
+            if (hasDefinition && contains(parser.Text(), kDisplayName))
+                return PageNote{PageNote::Kind::OwnCall, LineCounter(page).lineAt(parser.offset()),
+                                std::string(parser.Source())};
+        }
+        if (parser.IsLast())
+            return {};
+    }
+}
+
+Placement placementInText(const SearchableText& text, const RewriteOptions& options) {
+    const PlacedMenu& menu = *options.menu;
+    // Nobody can type words of such a page as it spells them.
+    if (text.isEscaped() && menu.link && !isAscii(menu.link->text))
+        return {PlaceProblem::TextNotFound, {}, {}, false};
+    // Of popup menus a page may have any number.
+    if (contains(menu.code, kDisplayName) && findPlacedMenus(text.bytes()).empty())
+        if (std::optional<PageNote> call = findOwnCall(text.bytes(), options))
+            return {{}, {}, {std::move(*call)}, true};
+    return placeMenu(text.bytes(), menu);
+}
+
 }  // namespace
+
+Placement placementIn(std::string_view page, const RewriteOptions& options) {
+    const SearchableText text(page);
+    Placement placement = placementInText(text, options);
+    text.restore(placement.edits);
+    text.restore(placement.notes);
+    return placement;
+}
 
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status) {
     status = {};
+    const SearchableText text(page);
     std::vector<PageEdit> placed;
     if (options.menu) {
-        Placement placement = placeMenu(page, *options.menu);
+        Placement placement = placementInText(text, options);
         status.placeProblem = placement.problem;
+        status.isMenuPlaced = !placement.problem && !placement.hasOwnCall;
         status.notes = std::move(placement.notes);
+        text.restore(status.notes);
         if (placement.problem)
             return {};
         placed = std::move(placement.edits);
     }
     if (!options.newDefinitionURL.empty())
-        addReferenceEdits(page, options.newDefinitionURL, placed);
-    return PageRewriter(page, options, status, std::move(placed)).edits();
+        addReferenceEdits(text.bytes(), options.newDefinitionURL, placed);
+    std::vector<PageEdit> edits =
+        PageRewriter(text.bytes(), options, status, std::move(placed)).edits();
+    text.restore(edits);
+    return edits;
 }
 
 std::string rewritePage(std::string_view page, const RewriteOptions& options,
@@ -228,8 +293,9 @@ std::string rewritePage(std::string_view page, const RewriteOptions& options,
 bool isIntegrated(std::string_view page) {
     if (!contains(page, kMarkerText) && !contains(page, kLoaderName))
         return false;
+    const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(page);; parser.Next()) {
+    for (parser.Load(text.bytes());; parser.Next()) {
         const std::string_view name = parser.TagName();
         if ((name == "!" && contains(parser.Text(), kMarkerText)) ||
             (name == "script" && loadsLibrary(parser)))
@@ -241,8 +307,9 @@ bool isIntegrated(std::string_view page) {
 
 std::size_t countDroppedScripts(std::string_view page) {
     std::size_t count = 0;
+    const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(page); !parser.IsLast(); parser.Next())
+    for (parser.Load(text.bytes()); !parser.IsLast(); parser.Next())
         if (parser.TagName() == "script" && !namesJavaScript(parser))
             ++count;
     return count;

@@ -22,6 +22,7 @@ struct IntegrationStatus {
     bool bSuccess = false;      ///< all three were written, and the page was saved
     /// Why the menu could not be placed where it was to be; the page has no edits then.
     std::optional<PlaceProblem> placeProblem;
+    bool isMenuPlaced = false;    ///< as the options want it; false where the page has its own call
     std::vector<PageNote> notes;  ///< in the order of the page
     /// Names, as `scriptName` gives them, of the scripts that were dropped, but for those that an
     /// earlier run wrote; in the order of the page, each as often as it stands there.
@@ -46,6 +47,11 @@ struct RewriteOptions {
 /// page, without overlap. Sets all of `status` but `bSuccess`.
 std::vector<PageEdit> pageEdits(std::string_view page, const RewriteOptions& options,
                                 IntegrationStatus& status);
+
+/// Where `options.menu`, which there must be, goes in a page that is integrated so. A page without
+/// a placed menu that has a definition and its call of its own keeps them and gets no second one;
+/// scripts that integration drops do not count.
+Placement placementIn(std::string_view page, const RewriteOptions& options);
 
 /// The page with its edits done, and the status of `pageEdits`.
 std::string rewritePage(std::string_view page, const RewriteOptions& options,

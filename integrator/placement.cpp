@@ -158,7 +158,7 @@ Placement placeMenu(std::string_view page, const PlacedMenu& menu) {
     std::optional<std::vector<PageEdit>> linkEdits = linkTextEdits(page, *menu.link);
     if (linkEdits && addLinkEdits(std::move(*linkEdits), placement.edits))
         return placement;
-    return {PlaceProblem::TextNotFound, {}, {}};
+    return {PlaceProblem::TextNotFound, {}, {}, false};
 }
 
 std::string placedMenuCode(const std::string& definitionURL) {

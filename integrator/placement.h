@@ -32,6 +32,8 @@ struct Placement {
     std::optional<PlaceProblem> problem;  ///< the page has no such place; there are no edits then
     std::vector<PageEdit> edits;          ///< in the order of the page; none where all is there
     std::vector<PageNote> notes;
+    bool hasOwnCall =
+        false;  ///< somebody pasted the menu's call, and none is placed; a note says so
 };
 
 /// Puts the code between marks at its place. A menu that was placed before is replaced where it

@@ -149,10 +149,6 @@ class EntryReader {
     std::string_view m_rest;
 };
 
-std::string recordPath(const std::string& folder, const std::string& name) {
-    return Path(folder).child(name);
-}
-
 }  // namespace
 
 PageMark PageMark::of(std::string_view page) {
@@ -173,8 +169,6 @@ void RunRecord::append(const std::string& path, std::string_view page, std::stri
     if (m_error || page == result)
         return;
     const FileResult<unsigned> mode = m_files.modeOf(path);
-    if (!mode.isOk())
-        return;  // nor can the page be written
     if (!m_file)
         m_error = begin();
     if (!m_error)
@@ -182,7 +176,7 @@ void RunRecord::append(const std::string& path, std::string_view page, std::stri
     if (m_error)
         return;
     m_entry = kPageWord;
-    addNumber(m_entry, mode.value());
+    addNumber(m_entry, mode.isOk() ? mode.value() : 0);
     addMark(m_entry, PageMark::of(page));
     addMark(m_entry, PageMark::of(result));
     addNumber(m_entry, edits.size());
@@ -217,6 +211,10 @@ FileOutcome RunRecord::flushAtNewFolder(const std::string& path) {
     const bool isFirst = m_pagesFolder.empty();
     m_pagesFolder = folder;
     return isFirst ? FileOutcome{} : m_file->flush();
+}
+
+std::string recordPath(const std::string& folder, const std::string& name) {
+    return Path(folder).child(name);
 }
 
 std::vector<std::string> listRuns(const FileSystem& files, const std::string& folder) {

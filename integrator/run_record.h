@@ -25,7 +25,7 @@ struct PageMark {
 /// What it takes to undo what a run did to one page.
 struct RecordedPage {
     std::string path;
-    unsigned mode = 0;  ///< permissions before the run
+    unsigned mode = 0;  ///< permissions before the run; 0 where they were not known
     PageMark before;
     PageMark after;
     std::vector<PageEdit> edits;  ///< make the page before of the one after
@@ -34,7 +34,8 @@ struct RecordedPage {
 /// Writes down what a run does, page by page, in a file of its own that only the user may read: a
 /// page may hold what is nobody else's business. The file is made before the first page that
 /// changes, and a run without one leaves none. When the program is killed it tells of every page
-/// that was changed; when the power fails it may lack those of the last folder.
+/// that was changed; when the power fails it may lack those of the last folder. It is locked until
+/// this object goes, so that nobody undoes a run that is still going on.
 ///
 ///     2026-11-22T02:15:07-1     beginning of the run, UTC, and a number within that second
 class RunRecord {
@@ -72,6 +73,9 @@ class RunRecord {
 
 /// Names of the runs that can be undone, the newest first. A folder that is not there has none.
 std::vector<std::string> listRuns(const FileSystem& files, const std::string& folder);
+
+/// Where the record of a run is.
+std::string recordPath(const std::string& folder, const std::string& name);
 
 /// What the record of a run tells, in the order of the run. A page that was being written down when
 /// the run was killed is left out: it had not been changed yet.

@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <limits>
 #include <map>
+#include <memory>
 #include <utility>
 
 #include "integrator/run_record.h"
+#include "platform/locked_file.h"
 #include "text/path.h"
 
 namespace zev {
@@ -85,7 +87,7 @@ FileResult<Outcome> restore(FileSystem& files, const PageHistory& history) {
                             ? removeTemporaryPage(files, path)
                             : files.writeFileThrough(kTemporaryPageName, path, bytes);
     const FileResult<unsigned> mode = files.modeOf(path);
-    if (!error && mode.isOk() && mode.value() != history.mode())
+    if (!error && mode.isOk() && history.mode() != 0 && mode.value() != history.mode())
         error = files.setMode(path, history.mode());
     if (error)
         return *error;
@@ -96,10 +98,16 @@ FileResult<Outcome> restore(FileSystem& files, const PageHistory& history) {
 
 FileResult<UndoneRun> undoRun(FileSystem& files, const std::string& folder, const std::string& name,
                               const ShouldGoOn& shouldGoOn) {
+    const std::string path = recordPath(folder, name);
+    // Before it is read, so that it is whole; until the end, so that a run is undone once.
+    const std::unique_ptr<LockedFile> lock = files.lockFile(path);
     FileResult<std::vector<RecordedPage>> pages = readRun(files, folder, name);
     if (!pages.isOk())
         return pages.error();
     UndoneRun undone;
+    undone.isGoingOn = lock == nullptr;
+    if (undone.isGoingOn)
+        return undone;
     const std::vector<PageHistory> histories = historiesOf(pages.take());
     for (std::size_t done = 0; done < histories.size(); ++done) {
         if (shouldGoOn && !shouldGoOn(done, histories.size())) {
@@ -115,7 +123,7 @@ FileResult<UndoneRun> undoRun(FileSystem& files, const std::string& folder, cons
             undone.restoredPages.push_back(histories[done].path());
     }
     if (undone.isWhole())
-        if (const FileOutcome error = files.DeleteFile(Path(folder).child(name)))
+        if (const FileOutcome error = files.DeleteFile(path))
             return *error;
     return undone;
 }

@@ -17,9 +17,12 @@ struct UndoneRun {
     std::vector<std::string> changedPages;
     std::vector<FileError> errors;  ///< pages that could not be read or written
     bool isFinished = true;         ///< false when stopped
+    bool isGoingOn = false;  ///< the run has not ended, or somebody undoes it: none is touched
 
     /// Whether every page is as it was before the run.
-    bool isWhole() const { return changedPages.empty() && errors.empty() && isFinished; }
+    bool isWhole() const {
+        return changedPages.empty() && errors.empty() && isFinished && !isGoingOn;
+    }
 };
 
 /// Puts every page of the run `name`, one of `listRuns`, back as it was, byte for byte. Its record

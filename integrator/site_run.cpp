@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "integrator/link_code.h"
-#include "integrator/page_groups.h"
 #include "integrator/page_references.h"
 #include "integrator/run_record.h"
 
@@ -14,17 +13,29 @@ namespace zev {
 
 namespace {
 
+/// The menu that is put into a page from which the definition has this address.
+PlacedMenu placedMenu(const WizardAnswers& answers, const MenuPlacing& placing,
+                      const std::string& definitionURL) {
+    PlacedMenu menu{placing.place, {}};
+    if (!answers.isPopup)
+        menu.code = placedMenuCode(definitionURL);
+    else
+        menu.code = definitionReference(definitionURL);
+    if (answers.isPopup && placing.linkText.empty())
+        menu.code += popupLinkCode(answers.submenuId, answers.placement);
+    if (answers.isPopup && !placing.linkText.empty())
+        menu.link = LinkedText{placing.linkText, answers.submenuId, answers.placement};
+    if (placing.addition)
+        menu.code += placing.addition(definitionURL);
+    return menu;
+}
+
 IntegrationOptions integrationOptions(const SiteRunOptions& options, const IntegrationURLs& urls,
                                       RunRecord* record) {
-    IntegrationOptions integration;
-    integration.rewrite.libraryURL = urls.library;
-    integration.rewrite.keepsOtherScripts = options.answers.keepsOtherScripts;
-    integration.rewrite.keptScripts = options.answers.keptScripts;
-    if (options.placing)
-        integration.rewrite.menu = placedMenu(options.answers, *options.placing, urls.definition);
-    if (options.replacesReferences)
-        integration.rewrite.newDefinitionURL = urls.definition;
+    IntegrationOptions integration{rewriteOptions(options, urls)};
     integration.hasBackups = options.answers.hasBackups;
+    integration.isDryRun = options.isDryRun;
+    integration.isRemoval = options.isRemoval;
     integration.skipsFailing = options.answers.skipsFailing;
     integration.record = record;
     return integration;
@@ -37,9 +48,11 @@ class SiteRun {
             m_record = std::make_unique<RunRecord>(files, options.recordFolder, options.startedAt);
     }
 
-    SiteRunResult run(const ChosenFiles& pages, const ShouldGoOn& shouldGoOn) {
-        const std::size_t count = pages.names.size();
-        for (const ChosenFiles& group : pagesByFolder(pages)) {
+    SiteRunResult run(const std::vector<ChosenFiles>& pages, const ShouldGoOn& shouldGoOn) {
+        std::size_t count = 0;
+        for (const ChosenFiles& group : pages)
+            count += group.names.size();
+        for (const ChosenFiles& group : pages) {
             if (!integrate(group, count, shouldGoOn)) {
                 m_result.report += "Cancelled: " + std::to_string(count - m_doneCount) + " of " +
                                    std::to_string(count) + " pages not processed\r\n";
@@ -62,13 +75,18 @@ class SiteRun {
         PageIntegrator integrator(m_files, integrationOptions(m_options, urls, m_record.get()));
         bool isStopped = false;
         for (const std::string& name : group.names) {
-            isStopped = !shouldGoOn(m_doneCount, count);
+            isStopped = shouldGoOn && !shouldGoOn(m_doneCount, count);
             if (isStopped)
                 break;
             integrator.IntegratePages({group.folder, {name}});
             m_result.lastPage = integrator.status();
-            if (m_result.lastPage.bPrevious)
-                lookForEarlier(pagePath(group.folder, name), urls.definition);
+            const std::string path = pagePath(group.folder, name);
+            if (m_result.lastPage.bSuccess)
+                m_result.donePages.push_back(path);
+            for (const PageNote& note : m_result.lastPage.notes)
+                m_result.notes.push_back({path, note});
+            if (m_options.looksForReferences && m_result.lastPage.bPrevious)
+                lookForEarlier(path, urls.definition);
             ++m_doneCount;
         }
         m_result.report += integrator.report();
@@ -99,25 +117,30 @@ class SiteRun {
 
 }  // namespace
 
-SiteRunResult runOverSite(FileSystem& files, const ChosenFiles& pages,
+SiteRunResult runOverSite(FileSystem& files, const std::vector<ChosenFiles>& pages,
                           const SiteRunOptions& options, const ShouldGoOn& shouldGoOn) {
     return SiteRun(files, options).run(pages, shouldGoOn);
 }
 
-PlacedMenu placedMenu(const WizardAnswers& answers, const MenuPlacing& placing,
-                      const std::string& definitionURL) {
-    PlacedMenu menu{placing.place, {}};
-    if (!answers.isPopup)
-        menu.code = placedMenuCode(definitionURL);
-    else
-        menu.code = definitionReference(definitionURL);
-    if (answers.isPopup && placing.linkText.empty())
-        menu.code += popupLinkCode(answers.submenuId, answers.placement);
-    if (answers.isPopup && !placing.linkText.empty())
-        menu.link = LinkedText{placing.linkText, answers.submenuId, answers.placement};
-    if (placing.addition)
-        menu.code += placing.addition(definitionURL);
-    return menu;
+std::map<std::string, std::set<std::string>> definitionURLs(const std::vector<ChosenFiles>& pages,
+                                                            const WizardAnswers& answers) {
+    std::map<std::string, std::set<std::string>> foldersOfURLs;
+    for (const ChosenFiles& group : pages)
+        foldersOfURLs[CalculateURL(group.folder, answers.definition, answers.library).definition]
+            .insert(group.folder);
+    return foldersOfURLs;
+}
+
+RewriteOptions rewriteOptions(const SiteRunOptions& options, const IntegrationURLs& urls) {
+    RewriteOptions rewrite;
+    rewrite.libraryURL = urls.library;
+    rewrite.keepsOtherScripts = options.answers.keepsOtherScripts;
+    rewrite.keptScripts = options.answers.keptScripts;
+    if (options.placing)
+        rewrite.menu = placedMenu(options.answers, *options.placing, urls.definition);
+    if (options.replacesReferences)
+        rewrite.newDefinitionURL = urls.definition;
+    return rewrite;
 }
 
 }  // namespace zev

@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <ctime>
 #include <limits>
-#include <map>
-#include <set>
+#include <unordered_set>
 #include <utility>
 
 #include "integrator/page_groups.h"
@@ -180,31 +179,41 @@ void WizardFlow::IntegratePages(const WizardAnswers& answers, const Progress& pr
     m_linkCode = answers.isPopup ? popupLinkCode(answers.submenuId, answers.placement) : "";
     m_runs.clear();
     m_isUndone = false;
-    run({answers}, progress);
+    run(InputFiles, {answers}, progress);
+    m_integratedPages = {InputFiles.folder, {}};
+    const std::unordered_set<std::string> done(m_result.donePages.begin(),
+                                               m_result.donePages.end());
+    for (const std::string& name : InputFiles.names)
+        if (done.contains(pagePath(InputFiles.folder, name)))
+            m_integratedPages.names.push_back(name);
     m_report = m_result.report;
 }
 
 void WizardFlow::placeMenu(const WizardAnswers& answers, const MenuPlacing& placing,
                            const Progress& progress) {
-    SiteRunOptions options{answers, placing};
-    options.answers.hasBackups = false;
-    run(options, progress);
+    runFurther({answers, placing}, progress);
 }
 
 void WizardFlow::replaceReferences(const WizardAnswers& answers, const Progress& progress) {
     SiteRunOptions options{answers};
-    options.answers.hasBackups = false;
     options.replacesReferences = true;
-    run(options, progress);
+    runFurther(std::move(options), progress);
 }
 
-void WizardFlow::run(const SiteRunOptions& wanted, const Progress& progress) {
+void WizardFlow::runFurther(SiteRunOptions options, const Progress& progress) {
+    options.answers.hasBackups = false;
+    run(m_integratedPages, options, progress);
+}
+
+void WizardFlow::run(const ChosenFiles& pages, const SiteRunOptions& wanted,
+                     const Progress& progress) {
     SiteRunOptions options = wanted;
     options.recordFolder = m_recordFolder;
     options.startedAt = std::time(nullptr);
+    options.looksForReferences = true;
     m_isCancelled = false;
     m_isRunning = true;
-    m_result = runOverSite(m_files, InputFiles, options,
+    m_result = runOverSite(m_files, pagesByFolder(pages), options,
                            [&](std::size_t doneCount, std::size_t totalCount) {
                                progress(doneCount, totalCount);
                                return !m_isCancelled;
@@ -244,16 +253,13 @@ FileResult<Placement> WizardFlow::placementIn(const std::string& name, const Wiz
         return page.error();
     const IntegrationURLs urls =
         CalculateURL(SplitPath(path).folder, answers.definition, answers.library);
-    return zev::placeMenu(page.value(), placedMenu(answers, placing, urls.definition));
+    return zev::placementIn(page.value(), rewriteOptions({answers, placing}, urls));
 }
 
 /// Pages of several folders may see the definition at several addresses; the code for each is named
 /// then.
 std::string WizardFlow::codeFor(const WizardAnswers& answers) const {
-    std::map<std::string, std::set<std::string>> foldersOfURLs;
-    for (const ChosenFiles& group : pagesByFolder(InputFiles))
-        foldersOfURLs[CalculateURL(group.folder, answers.definition, answers.library).definition]
-            .insert(group.folder);
+    const auto foldersOfURLs = definitionURLs(pagesByFolder(InputFiles), answers);
     std::string text;
     for (const auto& [url, folders] : foldersOfURLs) {
         if (!text.empty())

@@ -143,8 +143,11 @@ class WizardFlow {
     using Progress = std::function<void(std::size_t doneCount, std::size_t totalCount)>;
     /// The work: builds the code to paste, integrates the pages, writes the report.
     void IntegratePages(const WizardAnswers& answers, const Progress& progress);
-    /// A further run over the same pages that puts the menu into them, without backups: those of
-    /// the first run hold the pages as they were.
+    /// The chosen pages that this has put the menu's code into: neither failed, nor skipped, nor
+    /// left out when it was stopped.
+    const ChosenFiles& integratedPages() const { return m_integratedPages; }
+    /// A further run over these pages that puts the menu into them, without backups: those of the
+    /// first run hold the pages as they were.
     void placeMenu(const WizardAnswers& answers, const MenuPlacing& placing,
                    const Progress& progress);
     /// The same to correct references to the definition's earlier place.
@@ -152,7 +155,7 @@ class WizardFlow {
     /// Gives the pages back as they were before the last run over them and what followed it. When a
     /// page is left alone, earlier runs are not undone.
     std::vector<UndoneRun> undoRuns(const Progress& progress);
-    /// Where the edits would be made in one of the chosen pages.
+    /// Where the edits would be made in one of these pages.
     FileResult<Placement> placementIn(const std::string& name, const WizardAnswers& answers,
                                       const MenuPlacing& placing) const;
     /// Stops a run before its next page.
@@ -163,7 +166,8 @@ class WizardFlow {
 
   private:
     std::optional<WizardNotice> checkStep(const WizardAnswers& answers) const;
-    void run(const SiteRunOptions& options, const Progress& progress);
+    void run(const ChosenFiles& pages, const SiteRunOptions& options, const Progress& progress);
+    void runFurther(SiteRunOptions options, const Progress& progress);
     std::string codeFor(const WizardAnswers& answers) const;
     IntegrationURLs urlsOf(const WizardAnswers& answers) const;
 
@@ -178,7 +182,8 @@ class WizardFlow {
     std::vector<Submenu> m_submenus;
     bool m_isRunning = false;
     bool m_isCancelled = false;
-    SiteRunResult m_result;           // of the last run
+    SiteRunResult m_result;  // of the last run
+    ChosenFiles m_integratedPages;
     std::vector<std::string> m_runs;  // that can be undone, the oldest first
     bool m_isUndone = false;
     std::string m_report;

@@ -77,6 +77,8 @@ std::string noteText(const PageNote& note) {
                    " stay; integration may have put them there";
         case PageNote::Kind::Handwritten:
             return line + "written by hand, stays: " + text;
+        case PageNote::Kind::OwnCall:
+            return line + "has a call of its own; it stays, and no second one is placed: " + text;
     }
     return {};
 }

@@ -119,7 +119,7 @@ class FileSystem {
     virtual FileOutcome backUpFile(const std::string& path, const std::string& backup,
                                    std::string_view bytes) = 0;
     /// Makes a file that is not there yet, for the user's eyes alone; so is its folder, which is
-    /// made when it is missing.
+    /// made when it is missing. Nobody else can lock it until it is closed.
     virtual FileResult<std::unique_ptr<GrowingFile>> makePrivateFile(const std::string& path) = 0;
     /// The file's permissions, as in 0644; links are followed.
     virtual FileResult<unsigned> modeOf(const std::string& path) const = 0;

@@ -19,6 +19,11 @@ namespace zev {
 /// enough. The value is the path of what holds the content now.
 FileResult<std::string> keepCopy(FileSystem& files, const std::string& path);
 
+/// The same for bytes that `path` or its backup held, under the first free one of `name`, `name`.2
+/// and so on.
+FileResult<std::string> keepBytes(FileSystem& files, const std::string& path,
+                                  const std::string& name, const std::string& bytes);
+
 /// Gives the file or link `path` the first of these names that is free. What a link leads to stays
 /// as it is. The value is the new path.
 FileResult<std::string> setAside(FileSystem& files, const std::string& path);

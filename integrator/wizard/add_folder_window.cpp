@@ -104,7 +104,9 @@ void AddFolderWindow::accept() {
                                                   : folder + " is not a folder");
         return;
     }
-    FoundPages found = findPages(m_services.files, folder, patterns());
+    FoundPages found = findPagesTelling(m_services.files, folder, patterns(), this);
+    if (found.isStopped)
+        return;
     showUnreadFolders(m_services.messages, found.errors);
     if (found.paths.empty()) {
         m_services.messages.notice("No pages found in " + folder);

@@ -265,6 +265,7 @@ void frmIntegrator::makeMenuFrame() {
 void frmIntegrator::makeReportFrame() {
     QVBoxLayout* layout = addFrame(4, tr("Step 2 of 3"));
     txtReport = makeTextBox("txtReport", tr("Menu Integration Report"), this);
+    txtReport->setUndoRedoEnabled(false);
     layout->addWidget(makeLabel("Label1", tr("Menu Integration &Report"),
                                 tr("Menu Integration Report"), txtReport));
     layout->addWidget(txtReport, 1);

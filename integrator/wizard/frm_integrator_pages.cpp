@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -16,17 +15,11 @@
 #include "integrator/wizard/frm_integrator.h"
 #include "integrator/wizard/page_list_window.h"
 #include "integrator/wizard/page_sources.h"
+#include "integrator/wizard/work_progress.h"
 #include "platform/common_dialogs.h"
 #include "text/path.h"
 
 namespace zev {
-
-namespace {
-
-/// A window that stands still for less than this needs no explanation.
-constexpr int kMomentMs = 500;
-
-}  // namespace
 
 void frmIntegrator::BtnInputFile_Click() {
     if (!m_flow.choosePages(m_services.dialogs.openFiles(pageRequest(m_flow.pagesFolder()))))
@@ -76,20 +69,14 @@ void frmIntegrator::dragEnterEvent(QDragEnterEvent* event) {
 
 void frmIntegrator::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    addPages(droppedPages(m_services, *event->mimeData()));
+    addPages(droppedPages(m_services, *event->mimeData(), this));
 }
 
 void frmIntegrator::surveyPages() {
-    // Shows itself only when counting takes longer than a moment, and then blocks the wizard.
-    QProgressDialog progress(tr("Counting the scripts that would be removed from the pages"),
-                             tr("&Skip"), 0, comboFiles->count(), this);
-    progress.setObjectName("frmProgress");
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kMomentMs);
-    m_flow.countScripts([&](std::size_t doneCount, std::size_t) {
-        progress.setValue(static_cast<int>(doneCount));
-        return !progress.wasCanceled();
+    WorkProgress progress(tr("Counting the scripts that would be removed from the pages"),
+                          tr("&Skip"), this);
+    m_flow.countScripts([&progress](std::size_t doneCount, std::size_t totalCount) {
+        return progress.goesOn(doneCount, totalCount);
     });
     showScriptCount();
 }

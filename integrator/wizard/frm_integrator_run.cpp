@@ -5,13 +5,14 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QProgressDialog>
 #include <QPushButton>
+#include <QTextCursor>
 #include <initializer_list>
 
 #include "integrator/wizard/frm_integrator.h"
 #include "integrator/wizard/place_window.h"
 #include "integrator/wizard/undone_message.h"
+#include "integrator/wizard/work_progress.h"
 #include "platform/common_dialogs.h"
 #include "platform/message_box.h"
 
@@ -21,8 +22,6 @@ namespace {
 
 constexpr const char* kReportFilter = "Text Files (*.txt;*.log)|*.txt;*.log|All Files (*.*)|*.*";
 
-/// A window that stands still for less than this needs no explanation.
-constexpr int kMomentMs = 500;
 /// Pages that are named in a line of the last frame.
 constexpr std::size_t kNamedPages = 3;
 
@@ -62,8 +61,17 @@ void frmIntegrator::setRunning(bool isRunning) {
         button->setEnabled(!isRunning);
 }
 
+/// A report of thousands of pages is shown piece by piece: the window answers in between.
 void frmIntegrator::showReport() {
-    txtReport->setPlainText(QString::fromStdString(m_flow.report()));
+    constexpr qsizetype kPieceLength = 100'000;
+    txtReport->clear();
+    const QString report = QString::fromStdString(m_flow.report()).replace("\r\n", "\n");
+    QTextCursor end(txtReport->document());
+    for (qsizetype at = 0; at < report.size(); at += kPieceLength) {
+        end.insertText(report.mid(at, kPieceLength));
+        QCoreApplication::processEvents();
+    }
+    txtReport->moveCursor(QTextCursor::Start);
 }
 
 void frmIntegrator::ShowResultMessage() {
@@ -121,15 +129,9 @@ void frmIntegrator::showSummary() {
 /// moment.
 void frmIntegrator::runFurther(const QString& what,
                                const std::function<void(const WizardFlow::Progress&)>& work) {
-    QProgressDialog progress(what, tr("&Cancel"), 0, 1, this);
-    progress.setObjectName("frmProgress");
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kMomentMs);
+    WorkProgress progress(what, tr("&Cancel"), this);
     work([&](std::size_t doneCount, std::size_t totalCount) {
-        progress.setMaximum(static_cast<int>(totalCount));
-        progress.setValue(static_cast<int>(doneCount));
-        if (progress.wasCanceled())
+        if (!progress.goesOn(doneCount, totalCount))
             m_flow.cancel();
     });
 }

@@ -145,7 +145,7 @@ void PageListWindow::dragEnterEvent(QDragEnterEvent* event) {
 
 void PageListWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    add(droppedPages(m_services, *event->mimeData()));
+    add(droppedPages(m_services, *event->mimeData(), this));
 }
 
 }  // namespace zev

@@ -7,8 +7,8 @@
 #include <QUrl>
 #include <algorithm>
 
-#include "integrator/page_list.h"
 #include "integrator/wizard/add_folder_window.h"
+#include "integrator/wizard/work_progress.h"
 #include "platform/message_box.h"
 
 namespace zev {
@@ -73,7 +73,16 @@ bool isOnlyFiles(const QMimeData& data) {
            std::all_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
 }
 
-std::vector<std::string> droppedPages(const IntegratorServices& services, const QMimeData& data) {
+FoundPages findPagesTelling(const FileSystem& files, const std::string& folder,
+                            const PagePatterns& patterns, QWidget* parent) {
+    WorkProgress progress(QObject::tr("Looking for pages"), QObject::tr("&Stop"), parent);
+    return findPages(files, folder, patterns, [&progress](std::size_t foundCount) {
+        return progress.goesOn(foundCount + 1, 0);
+    });
+}
+
+std::vector<std::string> droppedPages(const IntegratorServices& services, const QMimeData& data,
+                                      QWidget* parent) {
     std::vector<std::string> paths;
     for (const QUrl& url : data.urls()) {
         const std::string path = QDir::cleanPath(url.toLocalFile()).toStdString();
@@ -81,7 +90,9 @@ std::vector<std::string> droppedPages(const IntegratorServices& services, const 
             paths.push_back(path);
             continue;
         }
-        const FoundPages found = findPages(services.files, path, {});
+        const FoundPages found = findPagesTelling(services.files, path, {}, parent);
+        if (found.isStopped)
+            return {};
         showUnreadFolders(services.messages, found.errors);
         paths.insert(paths.end(), found.paths.begin(), found.paths.end());
     }

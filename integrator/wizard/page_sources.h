@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "integrator/page_list.h"
 #include "integrator/wizard/wizard_services.h"
 #include "platform/common_dialogs.h"
 #include "platform/file_system.h"
@@ -30,8 +31,14 @@ std::vector<std::string> pagesOfList(const IntegratorServices& services, const s
 /// Whether all that is dragged along are files and folders.
 bool isOnlyFiles(const QMimeData& data);
 
-/// The files that are dropped, and the pages in the folders.
-std::vector<std::string> droppedPages(const IntegratorServices& services, const QMimeData& data);
+/// The pages in the folder; where looking takes a while, the person is told and may stop it.
+/// `parent` waits for it and is not null.
+FoundPages findPagesTelling(const FileSystem& files, const std::string& folder,
+                            const PagePatterns& patterns, QWidget* parent);
+
+/// The files that are dropped, and the pages in the folders; none when the person stopped it.
+std::vector<std::string> droppedPages(const IntegratorServices& services, const QMimeData& data,
+                                      QWidget* parent);
 
 /// Tells of folders that could not be looked into; nothing when there are none.
 void showUnreadFolders(MessageBox& messages, const std::vector<FileError>& errors);

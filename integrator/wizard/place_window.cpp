@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
@@ -21,14 +20,14 @@
 #include "dialogs/dialog_button.h"
 #include "dialogs/single_line.h"
 #include "integrator/changed_lines.h"
+#include "integrator/wizard/work_progress.h"
 #include "integrator/wizard_flow.h"
+#include "messages/integration_messages.h"
 
 namespace zev {
 
 namespace {
 
-/// A window that stands still for less than this needs no explanation.
-constexpr int kMomentMs = 500;
 /// Bytes of a long line, and characters of the window, that are shown.
 constexpr std::size_t kShownBytes = 400;
 constexpr int kWindowWidth = 100;
@@ -205,15 +204,10 @@ void PlaceWindow::addClosingButtons() {
 /// Shows how far the work is when it takes more than a moment. False when the person stopped it.
 bool PlaceWindow::forEachPage(const QString& what,
                               const std::function<void(const std::string&)>& work) {
-    const std::vector<std::string>& names = m_flow.pages().names;
-    QProgressDialog progress(what, tr("&Stop"), 0, static_cast<int>(names.size()), this);
-    progress.setObjectName("frmProgress");
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kMomentMs);
+    const std::vector<std::string>& names = m_flow.integratedPages().names;
+    WorkProgress progress(what, tr("&Stop"), this);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        progress.setValue(static_cast<int>(i));
-        if (progress.wasCanceled())
+        if (!progress.goesOn(i, names.size()))
             return false;
         work(names[i]);
     }
@@ -224,8 +218,9 @@ bool PlaceWindow::lookForPlaces() {
     std::vector<std::string> places;
     std::map<std::string, std::size_t> countOfPlace;
     const bool isWhole = forEachPage(tr("Looking for places"), [&](const std::string& name) {
-        const FileResult<std::string> page = m_files.readFile(
-            pagePath(m_flow.pages().folder, name), std::numeric_limits<std::uint64_t>::max());
+        const FileResult<std::string> page =
+            m_files.readFile(pagePath(m_flow.integratedPages().folder, name),
+                             std::numeric_limits<std::uint64_t>::max());
         if (!page.isOk())
             return;
         for (const std::string& place : possiblePlaces(page.value()))
@@ -280,12 +275,15 @@ void PlaceWindow::lookWhereItFits() {
             others.append(tr("%1: cannot be read").arg(page));
         else if (placement.value().problem)
             others.append(tr("%1: %2").arg(page, problemText(*placement.value().problem)));
+        else if (placement.value().hasOwnCall)
+            others.append(tr("%1: %2").arg(
+                page, QString::fromStdString(noteText(placement.value().notes.front()))));
         else
             fitting.append(page);
     });
     m_lblFits->setText(tr("It fits in %1 of %2 pages; the others stay as they are.")
                            .arg(fitting.size())
-                           .arg(m_flow.pages().names.size()));
+                           .arg(m_flow.integratedPages().names.size()));
     m_pages->addItems(others);
     for (const QString& name : fitting)
         (new QListWidgetItem(name, m_pages))->setData(kNameRole, name);
@@ -303,7 +301,7 @@ void PlaceWindow::followPage() {
 void PlaceWindow::showChanges(const std::string& name) {
     const std::optional<MenuPlacing> placing = entered();
     const FileResult<std::string> page = m_files.readFile(
-        pagePath(m_flow.pages().folder, name), std::numeric_limits<std::uint64_t>::max());
+        pagePath(m_flow.integratedPages().folder, name), std::numeric_limits<std::uint64_t>::max());
     if (!placing || !page.isOk())
         return;
     const FileResult<Placement> placement = m_flow.placementIn(name, m_answers, *placing);

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -14,6 +13,7 @@
 #include "integrator/run_record.h"
 #include "integrator/run_undo.h"
 #include "integrator/wizard/undone_message.h"
+#include "integrator/wizard/work_progress.h"
 
 namespace zev {
 
@@ -23,8 +23,6 @@ namespace {
 constexpr int kNameRole = Qt::UserRole;
 /// Characters of a run's line that are seen at once.
 constexpr int kRunWidth = 66;
-/// A window that stands still for less than this needs no explanation.
-constexpr int kMomentMs = 500;
 
 /// A run's name begins with its date and time, in UTC.
 QString runDate(const QString& name) {
@@ -107,15 +105,10 @@ void UndoWindow::undoSelected() {
     if (m_runs->currentItem() == nullptr)
         return;
     const std::string name = m_runs->currentItem()->data(kNameRole).toString().toStdString();
-    QProgressDialog progress(tr("Undoing the run"), tr("&Stop"), 0, 1, this);
-    progress.setWindowTitle(windowTitle());
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(kMomentMs);
-    const FileResult<UndoneRun> run =
-        undoRun(m_files, m_recordFolder, name, [&](std::size_t doneCount, std::size_t count) {
-            progress.setMaximum(static_cast<int>(count));
-            progress.setValue(static_cast<int>(doneCount));
-            return !progress.wasCanceled();
+    WorkProgress progress(tr("Undoing the run"), tr("&Stop"), this);
+    const FileResult<UndoneRun> run = undoRun(
+        m_files, m_recordFolder, name, [&progress](std::size_t doneCount, std::size_t count) {
+            return progress.goesOn(doneCount, count);
         });
     progress.reset();
     showUndone(m_messages, {run.isOk() ? run.value() : UndoneRun{{}, {}, {run.error()}}});

@@ -19,11 +19,15 @@ std::string undoneText(const std::vector<UndoneRun>& runs) {
     std::set<std::string> restored;
     std::size_t refusedCount = 0;
     bool isFinished = true;
+    bool isGoingOn = false;
     for (const UndoneRun& run : runs) {
         restored.insert(run.restoredPages.begin(), run.restoredPages.end());
         refusedCount += run.changedPages.size() + run.errors.size();
         isFinished = isFinished && run.isFinished;
+        isGoingOn = isGoingOn || run.isGoingOn;
     }
+    if (isGoingOn && restored.empty() && refusedCount == 0)
+        return "This run is still going on, or being undone. Nothing was changed.";
     std::string text = pageCount(restored.size()) + " as before the run.";
     if (refusedCount > 0)
         text += "\n" + pageCount(refusedCount) + " left alone.";

@@ -190,7 +190,12 @@ FileOutcome FakeFileSystem::backUpFile(const std::string& path, const std::strin
 class FakeGrowingFile : public GrowingFile {
   public:
     FakeGrowingFile(FakeFileSystem& files, std::string path)
-        : m_files(files), m_path(std::move(path)) {}
+        : m_files(files), m_path(std::move(path)) {
+        m_files.m_lockedFiles.insert(m_path);
+    }
+    ~FakeGrowingFile() override { m_files.m_lockedFiles.erase(m_path); }
+    FakeGrowingFile(const FakeGrowingFile&) = delete;
+    FakeGrowingFile& operator=(const FakeGrowingFile&) = delete;
     FileOutcome append(std::string_view bytes) override {
         ++m_files.m_appendCount;
         if (m_files.m_failingAppend != 0 && m_files.m_appendCount >= m_files.m_failingAppend) {

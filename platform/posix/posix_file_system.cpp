@@ -2,6 +2,7 @@
 #include "platform/posix/posix_file_system.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -184,6 +185,8 @@ FileResult<std::unique_ptr<GrowingFile>> PosixFileSystem::makePrivateFile(const 
         return *error;
     PosixDescriptor file;
     int error = openDescriptor(path, O_WRONLY | O_CREAT | O_EXCL | O_APPEND, 0600, file);
+    if (error == 0 && ::flock(file.get(), LOCK_EX | LOCK_NB) != 0)
+        error = errno;
     PosixDescriptor opened;
     if (error == 0)
         error = openDescriptor(folder.string(), O_RDONLY | O_DIRECTORY, 0, opened);

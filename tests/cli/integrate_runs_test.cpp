@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -93,6 +95,26 @@ TEST_F(IntegrateRunsTest, RunsAreListedAndUndoneByTheirNames) {
         EXPECT_EQ(result.status, 1) << name;
         EXPECT_EQ(result.problems, "zevmenu: " + name + ": there is no such run\n");
     }
+}
+
+TEST_F(IntegrateRunsTest, ARunThatIsStillGoingOnIsNotUndone) {
+    const std::string name = integrate("lib", {"a.htm"});
+    const std::string page = contentOf(folder / "a.htm");
+    const std::string record = data / ("zevmenu-creator/runs/" + name);
+    const int held = open(record.c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(flock(held, LOCK_EX | LOCK_NB), 0) << "the run has ended";
+    for (const std::string& run : {std::string("last"), name}) {
+        const ProgramResult result = this->run({"--undo", run});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.problems, "zevmenu: " + name +
+                                       ": this run is still going on, or being undone; nothing "
+                                       "was changed\n");
+        EXPECT_EQ(result.output, "");
+    }
+    EXPECT_EQ(contentOf(folder / "a.htm"), page);
+    close(held);
+    EXPECT_EQ(run({"--undo", "last"}).status, 0);
+    EXPECT_EQ(contentOf(folder / "a.htm"), kPage);
 }
 
 TEST_F(IntegrateRunsTest, ADryRunIsNoRun) {

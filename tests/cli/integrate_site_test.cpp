@@ -113,6 +113,26 @@ TEST_F(IntegrateSiteTest, WhatCannotBeListedIsNotDoneByHalves) {
     EXPECT_EQ(changed(), Arguments{});
 }
 
+TEST_F(IntegrateSiteTest, TheMenuIsTakenOutOfAFolderOrAListOfPages) {
+    ASSERT_EQ(run({"--recursive", "site", "--place", "body-start"}).status, 0);
+    const auto remove = [this](const Arguments& more) {
+        Arguments all{"integrate", "--remove", "--no-backup"};
+        all.insert(all.end(), more.begin(), more.end());
+        return runZevmenu(all, folder.path(), "site/a.htm\n");
+    };
+    EXPECT_EQ(remove({"--recursive", "site", "--exclude", "*.htm"}).status, 0);
+    EXPECT_EQ(changed(), (Arguments{"site/a.htm", "site/old/c.htm", "site/sub/deep/d.htm"}));
+    EXPECT_EQ(remove({"--files-from", "-"}).status, 0);
+    EXPECT_EQ(changed(), (Arguments{"site/old/c.htm", "site/sub/deep/d.htm"}));
+    const ProgramResult rest = remove({"--recursive", "site/old", "site/sub/deep/d.htm"});
+    EXPECT_EQ(rest.status, 0) << rest.problems;
+    EXPECT_TRUE(rest.output.ends_with("\n2 done, 0 failed\n\n")) << rest.output;
+    EXPECT_EQ(changed(), Arguments{});
+    EXPECT_EQ(remove({"--recursive", "site", "--include", "*.asp"}).problems,
+              "zevmenu: no pages found\n");
+    EXPECT_EQ(remove({"--recursive", "none"}).status, 3);
+}
+
 TEST_F(IntegrateSiteTest, PatternsNeedAFolder) {
     EXPECT_EQ(run({"--include", "*.htm", "site/a.htm"}).status, 2);
     EXPECT_EQ(run({"--recursive", "", "site/a.htm"}).status, 2);

@@ -82,6 +82,31 @@ TEST(PlaceTest, APageWithoutThePlaceStaysAsItIsAndTheOthersAreDone) {
     EXPECT_EQ(namesIn(folder.path()), (Arguments{"a.htm", "b.htm", "b.htm.bak"}));
 }
 
+TEST(PlaceTest, APageWithACallOfItsOwnKeepsItAndGetsNoSecondOne) {
+    const TempFolder folder;
+    const std::string pasted =
+        "<script language=\"JavaScript1.2\" src=\"menu.js\"></script>\r\n"
+        "<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>";
+    makeFile(folder / "a.htm", "<head></head>\n<body>" + pasted + "\n</body>\n");
+    makeFile(folder / "b.htm", kPage);
+    const ProgramResult result = integrate(folder, {"--place", "before:p", "a.htm", "b.htm"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(withoutRun(result.problems),
+              "zevmenu: " + (folder / "a.htm") +
+                  ": line 3: has a call of its own; it stays, and no second one is placed: "
+                  "<script language=\"JavaScript1.2\">ZEVDisplayMenu();\n");
+    EXPECT_EQ(result.output, "Processing " + (folder / "a.htm") +
+                                 "\nSuccess: Menu library references added\n"
+                                 "Success: Event handlers added\n"
+                                 "Success: Menu creation code added\n"
+                                 "Success: Menu integration successful\n"
+                                 "Menu not placed: the page has a call of its own\n\n" +
+                                 successOf(folder / "b.htm") + "2 done, 0 failed\n\n");
+    EXPECT_EQ(contentOf(folder / "a.htm").find("zevmenu menu"), std::string::npos);
+    EXPECT_NE(contentOf(folder / "a.htm").find(pasted), std::string::npos);
+    EXPECT_EQ(contentOf(folder / "b.htm"), integrated("lib/", placedMenu("menu.js")));
+}
+
 TEST(PlaceTest, EveryReasonWhyNotIsGiven) {
     struct Case {
         const char* where;

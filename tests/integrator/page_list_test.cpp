@@ -60,6 +60,24 @@ TEST(FindPagesTest, TellsOfAFolderThatCannotBeListed) {
     EXPECT_EQ(findPages(failing, "/none", {}).errors.size(), 1u);
 }
 
+TEST(FindPagesTest, CanBeStoppedAndTellsSo) {
+    Site site;
+    for (int number = 0; number < 300; ++number)
+        site.files.addFile("/site/many/" + std::to_string(number) + ".htm", "x");
+    std::size_t askedCount = 0;
+    const auto stopAtSecond = [&askedCount](std::size_t foundCount) {
+        EXPECT_GT(foundCount, 0U);
+        return ++askedCount < 2;
+    };
+    const FoundPages some = findPages(site.files, "/site", {}, stopAtSecond);
+    EXPECT_TRUE(some.isStopped);
+    EXPECT_EQ(askedCount, 2U);
+    EXPECT_LT(some.paths.size(), 200U);
+    const FoundPages all = findPages(site.files, "/site", {}, [](std::size_t) { return true; });
+    EXPECT_FALSE(all.isStopped);
+    EXPECT_EQ(all.paths.size(), 306U);
+}
+
 TEST(PathsInListTest, EndAtLineEndsOrAtNulWhereThereIsOne) {
     EXPECT_EQ(pathsInList("a.htm\nb c.htm\r\n\n/d.htm"), (Names{"a.htm", "b c.htm", "/d.htm"}));
     EXPECT_EQ(pathsInList(std::string("a\nb\0c\r\0\0d", 9)), (Names{"a\nb", "c\r", "d"}));

@@ -136,6 +136,57 @@ TEST(PlacementTest, WhatElseStoodInAPlacedMenuIsTold) {
             << content;
 }
 
+TEST(PlacementTest, AMenuThatWasPastedByHandGetsNoSecondOne) {
+    const std::string page = "<head></head><body>\n<p>x</p>\n" + menuCode("menu.js") + "</body>.";
+    for (const char* const where : {"body-start", "before:nav", "instead:p"}) {
+        const Rewritten result = rewritten(page, placing(where));
+        EXPECT_EQ(result.page, rewritten(page).page) << where;
+        EXPECT_FALSE(result.status.isMenuPlaced || result.status.placeProblem);
+        EXPECT_TRUE(result.status.hasAllPlaces());
+        EXPECT_EQ(
+            result.status.notes,
+            (std::vector<PageNote>{{PageNote::Kind::OwnCall, 4,
+                                    "<script language=\"JavaScript1.2\">ZEVDisplayMenu();"}}));
+        EXPECT_EQ(rewritten(result.page, placing(where)).page, result.page) << "twice is once";
+    }
+}
+
+TEST(PlacementTest, OnlyACallThatStaysInThePageCounts) {
+    const std::string script = definitionReference("m.js") + "<script>ZEVDisplayMenu();</script>";
+    RewriteOptions options = placing("body-start");
+    EXPECT_FALSE(rewritten(script + "<body>.", options).status.isMenuPlaced);
+    options.keepsOtherScripts = false;
+    EXPECT_TRUE(rewritten(script + "<body>.", options).status.isMenuPlaced) << "it is dropped";
+    options.keptScripts = rewritten(script + ".").status.removedScripts;
+    EXPECT_FALSE(rewritten(script + "<body>.", options).status.isMenuPlaced) << "kept by its name";
+    const std::string inlined = "<script language=JavaScript>zevmenu = new ZEVMenu('0')</script>";
+    EXPECT_FALSE(rewritten(inlined + script + "<body>.", options).status.isMenuPlaced);
+    const std::string others[] = {
+        "<body>",
+        rewritten("<head></head><body></body>.").page,
+        "<!-- " + kCode + " --><body>",
+        "<textarea>" + kCode + "</textarea><body>",
+        "<script language=JavaScript>ZEVDisplayMenu();ZEVCreateMenu()</script><body>",
+        "<div data-zevmenu></div><body>",
+        "<script>ZEVDisplayMenu();</script>" + definitionReference("menu.js") + "<body>",
+    };
+    for (const std::string& page : others)
+        EXPECT_TRUE(rewritten(page + ".", placing("body-start")).status.isMenuPlaced) << page;
+}
+
+TEST(PlacementTest, BesideAPlacedMenuAPastedOneDoesNotCount) {
+    const std::string page = kCode + kOpen + kClose + ".";
+    EXPECT_EQ(placed(page, "body-start"), kCode + kBlock + ".");
+}
+
+TEST(PlacementTest, APopupMenuIsPlacedBesideAMenuThatWasPasted) {
+    const std::string link = popupLinkCode("2", {});
+    EXPECT_EQ(rewritten(kCode + "<p>.", placing("after:p", link)).status.placeProblem,
+              PlaceProblem::NoEndTag);
+    EXPECT_EQ(rewritten(kCode + "<p></p>.", placing("after:p", link)).page,
+              kCode + "<p></p>" + kOpen + link + kClose + ".");
+}
+
 TEST(PlacementTest, MarksThatHaveLostTheirPartnerAreNoMenu) {
     const std::string body = "<body " + kHandlers + ">";
     EXPECT_EQ(placed(kOpen + "<p>mine</p>" + kBlock + ".", "body-start"),

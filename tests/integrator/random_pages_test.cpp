@@ -89,6 +89,16 @@ TEST(RandomPagesTest, WhatEarlierRunsLeftDoesNotHarm) {
     expectNoProblems(fragments, 7);
 }
 
+TEST(RandomPagesTest, CharactersBetweenEscapesDoNotHarm) {
+    std::vector<std::string> fragments = kFragments;
+    fragments.insert(fragments.end(), kOwnFragments.begin(), kOwnFragments.end());
+    std::erase_if(fragments, [](const std::string& text) { return text[0] == '\xE4'; });
+    for (int i = 0; i < 4; ++i)
+        fragments.insert(fragments.end(), {"\x1B$B<R</<!>\"\x1B(B", "\x1B$B", "\x1B(B"});
+    fragments.push_back("<body title='\x1B$B'>\x1B(B' onload=a()>");
+    expectNoProblems(fragments, 3);
+}
+
 class HostilePageTest : public testing::TestWithParam<HostilePage> {};
 
 /// Whoever takes more than linear time here is stopped by ctest's time limit.

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <optional>
 
 #include "integrator/run_undo.h"
 #include "platform/fake/fake_file_system.h"
@@ -187,14 +188,44 @@ TEST(UndoRunTest, RunsAreUndoneInTheirOrder) {
 TEST(UndoRunTest, ARunThatCameByAPageTwiceIsUndoneToItsBeginning) {
     Desk desk;
     desk.addPage("a.htm");
-    RunRecord record(desk.files, kFolder, kNow);
+    auto record = std::make_optional<RunRecord>(desk.files, kFolder, kNow);
     for (const char* const library : {"one/", "two/", "three/"}) {
         IntegrationOptions options{{library, false}, false, false};
-        options.record = &record;
+        options.record = &*record;
         PageIntegrator(desk.files, options).IntegratePages({"/web", {"a.htm"}});
     }
+    record.reset();
     EXPECT_EQ(desk.undo().restoredPages, Names{"/web/a.htm"});
     EXPECT_EQ(desk.page("a.htm"), kPage);
+}
+
+TEST(UndoRunTest, ARunThatIsGoingOnIsRefusedUntilItHasEnded) {
+    Desk desk;
+    desk.addPage("a.htm");
+    auto record = std::make_optional<RunRecord>(desk.files, kFolder, kNow);
+    IntegrationOptions options{{"lib/", false}, false, false};
+    options.record = &*record;
+    PageIntegrator(desk.files, options).IntegratePages({"/web", {"a.htm"}});
+    const std::map<std::string, std::string> before = desk.files.allFiles();
+    const UndoneRun refused = desk.undo();
+    EXPECT_TRUE(refused.isGoingOn);
+    EXPECT_FALSE(refused.isWhole());
+    EXPECT_EQ(desk.files.allFiles(), before);
+    record.reset();
+    EXPECT_TRUE(desk.undo().isWhole());
+    EXPECT_EQ(desk.page("a.htm"), kPage);
+}
+
+TEST(UndoRunTest, ARunIsUndoneByOneAtATime) {
+    Desk desk;
+    desk.addPage("a.htm");
+    desk.integrate({"a.htm"});
+    undoRun(desk.files, kFolder, kName, [&](std::size_t, std::size_t) {
+        EXPECT_TRUE(desk.undo().isGoingOn);
+        return true;
+    });
+    EXPECT_EQ(desk.page("a.htm"), kPage);
+    EXPECT_EQ(desk.runs(), Names{});
 }
 
 TEST(UndoRunTest, APageThatTheRunHadNotReachedIsAsItWasAndItsTemporaryFileGone) {

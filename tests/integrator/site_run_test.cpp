@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "integrator/page_groups.h"
 #include "integrator/run_undo.h"
 #include "platform/fake/fake_file_system.h"
 
@@ -21,7 +22,7 @@ struct Site {
     }
     SiteRunResult run() {
         return runOverSite(
-            files, pages, options, [](std::size_t, std::size_t) { return true; });
+            files, pagesByFolder(pages), options, [](std::size_t, std::size_t) { return true; });
     }
     bool holds(const std::string& page, const std::string& text) {
         return files.allFiles().at(page).find(text) != std::string::npos;
@@ -45,7 +46,7 @@ TEST(SiteRun, EachFolderSeesTheLibraryFromItself) {
 
 TEST(SiteRun, StoppingCountsThePagesOfAllFolders) {
     Site site;
-    const SiteRunResult result = runOverSite(site.files, site.pages, site.options,
+    const SiteRunResult result = runOverSite(site.files, pagesByFolder(site.pages), site.options,
                                              [](std::size_t doneCount, std::size_t count) {
                                                  EXPECT_EQ(count, 3u);
                                                  return doneCount < 1;
@@ -106,6 +107,7 @@ TEST(SiteRun, WordsOfThePageBecomeThePopupLink) {
 
 TEST(SiteRun, ReferencesToTheEarlierPlaceAreFoundAndReplaced) {
     Site site;
+    site.options.looksForReferences = true;
     site.run();
     const std::string pasted =
         "<script language=\"JavaScript1.2\" src=\"old/menu.js\"></script>\r\n"

@@ -401,5 +401,25 @@ TEST(WizardFlowTest, TheCodeIsThatOfTheAnswersAtTheRun) {
     EXPECT_EQ(desk.flow.linkCode(), "");
 }
 
+TEST(WizardFlowTest, FurtherRunsLeavePagesAloneThatTheFirstHasNotDone) {
+    Flow desk;
+    desk.files.addFile("/site/c.htm", "<head></head><frameset></frameset>.");
+    desk.answers.skipsFailing = true;
+    desk.goToMenuStep({"c.htm", "a.htm", "b.htm"});
+    desk.next();
+    desk.flow.IntegratePages(desk.answers, [&](std::size_t doneCount, std::size_t) {
+        if (doneCount == 2)
+            desk.flow.cancel();
+    });
+    EXPECT_EQ(desk.flow.integratedPages(), (ChosenFiles{"/site", {"a.htm"}}));
+    desk.flow.placeMenu(desk.answers, {*parsePlace("body-start"), {}},
+                        [](std::size_t, std::size_t) {});
+    EXPECT_NE(desk.page("a.htm").find("<!-- zevmenu menu -->"), std::string::npos);
+    EXPECT_EQ(desk.page("b.htm"), kPage);
+    desk.flow.replaceReferences(desk.answers, [](std::size_t, std::size_t) {});
+    EXPECT_EQ(desk.page("b.htm"), kPage);
+    EXPECT_EQ(desk.flow.summary().doneCount, 1U);
+}
+
 }  // namespace
 }  // namespace zev::test

@@ -10,6 +10,7 @@
 #include <memory>
 #include <thread>
 
+#include "platform/locked_file.h"
 #include "platform/posix/posix_file_system.h"
 #include "tests/support/acting_as.h"
 #include "tests/support/temp_folder.h"
@@ -281,6 +282,9 @@ TEST_F(PosixOwnFileTest, APrivateFileGrowsAndIsForTheUserAlone) {
         EXPECT_EQ(modeOf(std::string(runs) + "/one"), 0600U);
         EXPECT_EQ(modeOf(runs), 0700U);
         EXPECT_FALSE(files.makePrivateFile(path).isOk()) << "it is there";
+        EXPECT_EQ(files.lockFile(path), nullptr);
+        file.take().reset();
+        EXPECT_NE(files.lockFile(path), nullptr) << "it is closed";
         EXPECT_EQ(contentOf(path), "one\ntwo\n");
     }
     makeFile(folder / "file", "x");

@@ -8,6 +8,7 @@
 
 #include "html/html_parse.h"
 #include "integrator/page_rewriter.h"
+#include "integrator/searchable_text.h"
 
 namespace zev {
 
@@ -154,7 +155,9 @@ inline std::string problemOfIntegration(const std::string& page, bool keepsOther
             return "the edits overlap or leave the page";
         done = edit.offset + edit.length;
     }
-    if (const std::string problem = EditCheck(page, keepsOtherScripts, edits).problem();
+    const std::string searched(SearchableText(page).bytes());
+    const std::vector<PageEdit> found = pageEdits(searched, {"lib/", keepsOtherScripts}, status);
+    if (const std::string problem = EditCheck(searched, keepsOtherScripts, found).problem();
         !problem.empty())
         return problem;
     const std::string once = integratedPage(page, keepsOtherScripts);

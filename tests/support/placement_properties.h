@@ -9,6 +9,7 @@
 #include "html/html_parse.h"
 #include "integrator/page_removal.h"
 #include "integrator/page_rewriter.h"
+#include "integrator/searchable_text.h"
 #include "tests/support/page_properties.h"
 
 namespace zev {
@@ -31,8 +32,9 @@ inline std::vector<PageEdit> inverseEdits(std::string_view page,
 /// The page with its body tags compared as `withoutHandlers` tells.
 inline std::string withPlainBodies(std::string_view page) {
     std::string result;
+    const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(page);; parser.Next()) {
+    for (parser.Load(text.bytes());; parser.Next()) {
         const std::string source(parser.Source());
         result += parser.TagName() == "body" ? withoutHandlers(source) : source;
         if (parser.IsLast())
@@ -55,7 +57,7 @@ inline std::string problemOfPlacement(const std::string& page, const std::string
     const std::string once = withEdits(page, edits);
     if (withEdits(once, inverseEdits(page, edits)) != page)
         return "the edits cannot be undone";
-    const std::vector<PageEdit> placed = placeMenu(page, menu).edits;
+    const std::vector<PageEdit> placed = placementIn(page, options).edits;
     if (placed.empty() != (edits == pageEdits(page, {"lib/", keepsOtherScripts}, status)))
         return "placing does not do its edit";
     // Behind the last token, which integration leaves alone, it makes that one like the others.

@@ -87,6 +87,30 @@ class test_place : public QObject {
         QCOMPARE(desk.page("b.htm"), std::string(kPage));
     }
 
+    void aPageWithACallOfItsOwnIsNamedAndGetsNoSecondOne() {
+        WizardDesk desk;
+        const std::string pasted =
+            "<script language=\"JavaScript1.2\" src=\"menu_def.js\"></script>\r\n"
+            "<script language=\"JavaScript1.2\">ZEVDisplayMenu();</script>";
+        desk.disk.addFile("/site/h.htm", "<html><head></head><body>\n" + pasted + "</body></html>");
+        desk.goToMenuFrame({"a.htm", "h.htm"});
+        desk.next(2);
+        inPlace(desk, [&](PlaceWindow& window) {
+            QCOMPARE(pages(window),
+                     (QStringList{"h.htm: line 3: has a call of its own; it stays, and no second "
+                                  "one is placed: <script language=\"JavaScript1.2\">"
+                                  "ZEVDisplayMenu();",
+                                  "a.htm"}));
+            QCOMPARE(named<QLabel>(window, "lblFits").text(),
+                     QString("It fits in 1 of 2 pages; the others stay as they are."));
+            press(window, "btnPlace");
+        });
+        QTRY_COMPARE(desk.label("lblMsg"), QString("The menu stands in 2 pages."));
+        QVERIFY(holds(desk, "a.htm", "zevmenu menu"));
+        QVERIFY(!holds(desk, "h.htm", "zevmenu menu"));
+        QVERIFY(holds(desk, "h.htm", pasted));
+    }
+
     void itTellsWhereItFitsAndWhereNot() {
         WizardDesk desk;
         desk.disk.addFile("/site/h.htm", kWithHeader);

@@ -5,6 +5,7 @@
 
 #include "integrator/run_record.h"
 #include "integrator/wizard/undo_window.h"
+#include "platform/locked_file.h"
 #include "wizard_desk.h"
 
 using namespace zev;
@@ -80,6 +81,23 @@ class test_undo_window : public QObject {
         QTest::mouseClick(window.findChild<QPushButton*>("btnUndo"), Qt::LeftButton);
         QCOMPARE(desk.page("a.htm"), std::string("mine now"));
         QCOMPARE(listed(window).size(), 1);
+    }
+
+    void aRunThatIsStillGoingOnIsRefused() {
+        WizardDesk desk;
+        runOver(desk, {"a.htm"});
+        const std::string page = desk.page("a.htm");
+        UndoWindow window(desk.disk, desk.messages, "/me/runs", nullptr);
+        window.show();
+        auto held = desk.disk.lockFile("/me/runs/" + listRuns(desk.disk, "/me/runs").front());
+        desk.messages.expect("This run is still going on, or being undone. Nothing was changed.");
+        QTest::mouseClick(window.findChild<QPushButton*>("btnUndo"), Qt::LeftButton);
+        QCOMPARE(desk.page("a.htm"), page);
+        QCOMPARE(listed(window).size(), 1);
+        held.reset();
+        desk.messages.expect("1 page is as before the run.");
+        QTest::mouseClick(window.findChild<QPushButton*>("btnUndo"), Qt::LeftButton);
+        QCOMPARE(desk.page("a.htm"), std::string(kPage));
     }
 
     void tenRunsAreListed() {
