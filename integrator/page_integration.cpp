@@ -140,14 +140,16 @@ bool PageIntegrator::IntegratePages(const ChosenFiles& inputFiles, const ShouldG
 }
 
 void PageIntegrator::integratePage(const std::string& path) {
-    if (!m_files.FileExists(path) && !m_files.isFolder(path)) {
+    IntegrationStatus before = std::move(m_status);
+    const std::optional<PageError> error = IntegrateFile(path);
+    if (error && !m_files.FileExists(path) && !m_files.isFolder(path)) {
         appendLine("ERROR: " + path + " Not Found!");
         appendLine("");
         m_summary.failedPages.push_back(path);
+        m_status = std::move(before);
         return;
     }
     appendLine("Processing " + path);
-    const std::optional<PageError> error = IntegrateFile(path);
     if (error)
         reportError(path, *error);
     else

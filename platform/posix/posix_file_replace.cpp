@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <ctime>
+#include <optional>
 #include <vector>
 
 #include "platform/posix/posix_attributes.h"
@@ -167,12 +168,14 @@ RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model
     if (const int error = openFolder(target.folder, folder))
         return {error};
     SideFile side;
-    // One with a model is nobody else's to read until it has the model's rights.
-    const unsigned mode = model != nullptr ? 0600 : 0666;
+    std::optional<FileAttributes> attributes;
+    if (model != nullptr)
+        attributes.emplace(model->path, model->status);
+    const unsigned mode = attributes ? attributes->modeToBeginWith() : 0666;
     if (const int error = side.makeBeside(target, SideFile::Kind::NewContent, mode))
         return {error, target.exists && isForbidden(error)};
-    if (model != nullptr) {
-        const Carried carried = copyAttributes(model->path, model->status, side.descriptor());
+    if (attributes) {
+        const Carried carried = attributes->giveTo(side.descriptor(), side.status());
         if (model == &target && carried != Carried::All)
             return {0, true};
         if (carried == Carried::Failed ||
@@ -182,8 +185,6 @@ RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model
     int error = writeAll(side.descriptor(), bytes);
     if (error == 0)
         error = flushToDisk(side.descriptor());
-    if (error == 0)
-        error = side.closeFile();
     if (error != 0)
         return {error};
     if (::rename(side.path().c_str(), target.path.c_str()) != 0) {
