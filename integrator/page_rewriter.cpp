@@ -69,7 +69,7 @@ class PageRewriter {
     PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status,
                  std::vector<PageEdit> placed)
         : m_options(options), m_status(status), m_placed(std::move(placed)) {
-        m_parser.Load(page);
+        m_parser.Load(page, HtmlTokens::Notable);
         m_edits.reserve(8);  // most pages need no more
     }
 
@@ -229,7 +229,7 @@ bool isIntegrated(std::string_view page) {
     if (!contains(page, kMarkerText) && !contains(page, kLoaderName))
         return false;
     HtmlParse parser;
-    for (parser.Load(page);; parser.Next()) {
+    for (parser.Load(page, HtmlTokens::Notable);; parser.Next()) {
         const std::string_view name = parser.TagName();
         if ((name == "!" && contains(parser.Text(), kMarkerText)) ||
             (name == "script" && loadsLibrary(parser)))
@@ -242,7 +242,7 @@ bool isIntegrated(std::string_view page) {
 std::size_t countDroppedScripts(std::string_view page) {
     std::size_t count = 0;
     HtmlParse parser;
-    for (parser.Load(page); !parser.IsLast(); parser.Next())
+    for (parser.Load(page, HtmlTokens::Notable); !parser.IsLast(); parser.Next())
         if (parser.TagName() == "script" && !namesJavaScript(parser))
             ++count;
     return count;
