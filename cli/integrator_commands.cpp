@@ -95,6 +95,7 @@ void processPages(FileSystem& files, IntegrationOptions integration,
         for (const PageNote& note : integrator.status().notes)
             printProblem(pagePath(pages.folder, name) + ": " + noteText(note));
     }
+    integrator.finish();
     report.text += integrator.report();
     report.summary.add(integrator.summary());
 }

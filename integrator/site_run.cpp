@@ -71,6 +71,7 @@ class SiteRun {
                 lookForEarlier(pagePath(group.folder, name), urls.definition);
             ++m_doneCount;
         }
+        integrator.finish();
         m_result.report += integrator.report();
         m_result.summary.add(integrator.summary());
         return !isStopped;

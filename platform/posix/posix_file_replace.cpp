@@ -47,14 +47,13 @@ bool isForbidden(int error) {
     return error == EACCES || error == EPERM || error == EROFS;
 }
 
-/// Opens a folder so that it can be flushed. A folder that may be written but not read cannot be
-/// opened; that is no error, `folder` stays closed.
+/// Opens a folder so that it can be flushed. Where that is forbidden, `folder` stays closed.
 int openFolder(const std::string& path, PosixDescriptor& folder) {
     const int error = openDescriptor(path, O_RDONLY | O_DIRECTORY, 0, folder);
     return error == EACCES ? 0 : error;
 }
 
-int flushFolder(const PosixDescriptor& folder) {
+int flushOpened(const PosixDescriptor& folder) {
     return folder.isOpen() ? flushToDisk(folder.get()) : 0;
 }
 
@@ -106,10 +105,7 @@ int keepOldContent(const WriteTarget& target, int descriptor, SideFile& copy) {
         error = copyBytes(descriptor, copy.descriptor());
     if (error == 0)
         error = flushToDisk(copy.descriptor());
-    PosixDescriptor folder;
-    if (error == 0)
-        error = openFolder(copy.folder(), folder);
-    return error != 0 ? error : flushFolder(folder);
+    return error != 0 ? error : flushFolder(copy.folder());
 }
 
 /// Opens the file that the target was found to be, and no other that has taken its name since.
@@ -165,8 +161,9 @@ struct RenameResult {
 RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model,
                              std::string_view bytes) {
     PosixDescriptor folder;
-    if (const int error = openFolder(target.folder, folder))
-        return {error};
+    if (!target.isFlushedLater)
+        if (const int error = openFolder(target.folder, folder))
+            return {error};
     SideFile side;
     std::optional<FileAttributes> attributes;
     if (model != nullptr)
@@ -194,7 +191,7 @@ RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model
     }
     side.handOver();
     // The new content is there and whole, but may be lost again if the power fails now.
-    return {flushFolder(folder)};
+    return {flushOpened(folder)};
 }
 
 /// A rename would replace a file that its owner has protected.
@@ -225,11 +222,13 @@ FileOutcome replaceRegularFile(const WriteTarget& target, const WriteTarget* ori
 
 FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original,
                             std::string_view bytes, Links links, FolderLeftovers& leftovers,
-                            const std::string& temporaryName = {}) {
+                            const std::string& temporaryName = {},
+                            std::set<std::string>* unflushedFolders = nullptr) {
     WriteTarget target;
     FileOutcome outcome;
     int error = resolveWriteTarget(path, links, target);
     target.temporaryName = temporaryName;
+    target.isFlushedLater = unflushedFolders != nullptr;
     if (error == 0 && !temporaryName.empty() && target.name == temporaryName)
         error = EINVAL;  // a link led to it
     if (error != 0) {
@@ -243,6 +242,8 @@ FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original
     } else {
         const std::vector<std::string> oldCopies = clearLeftovers(target, leftovers);
         outcome = replaceRegularFile(target, original, bytes);
+        if (!outcome && target.isFlushedLater)
+            unflushedFolders->insert(target.folder);
         if (!outcome)
             for (const std::string& copy : oldCopies)
                 removeLeftover(copy);
@@ -257,8 +258,21 @@ FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original
 }  // namespace
 
 FileOutcome replaceFile(const std::string& path, std::string_view bytes, Links links,
-                        FolderLeftovers& leftovers, const std::string& temporaryName) {
-    return replaceOrBackUp(path, nullptr, bytes, links, leftovers, temporaryName);
+                        FolderLeftovers& leftovers) {
+    return replaceOrBackUp(path, nullptr, bytes, links, leftovers);
+}
+
+FileOutcome replaceFileThrough(const std::string& temporaryName, const std::string& path,
+                               std::string_view bytes, FolderLeftovers& leftovers,
+                               std::set<std::string>& unflushedFolders) {
+    return replaceOrBackUp(path, nullptr, bytes, Links::Followed, leftovers, temporaryName,
+                           &unflushedFolders);
+}
+
+int flushFolder(const std::string& path) {
+    PosixDescriptor folder;
+    const int error = openFolder(path, folder);
+    return error != 0 ? error : flushOpened(folder);
 }
 
 FileOutcome writeBackup(const std::string& original, const std::string& backup,
