@@ -102,6 +102,13 @@ bool isStillAt(int descriptor, const std::string& path, struct stat& open) {
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
+/// The same for a file that nobody renames or links: while it has a name, that is the one. Some
+/// drives do not know how many a file has.
+bool hasItsName(int descriptor, const std::string& path, struct stat& open) {
+    return (::fstat(descriptor, &open) == 0 && open.st_nlink > 0) ||
+           isStillAt(descriptor, path, open);
+}
+
 /// Waits while another process has the lock.
 void lockFile(int descriptor) {
     while (::flock(descriptor, LOCK_EX) != 0 && errno == EINTR) {
@@ -174,7 +181,7 @@ int SideFile::make(const std::string& folder, const std::string& name, unsigned 
     // Network drives may know no locks; leftovers are not removed there.
     lockFile(file.get());
     // Before the lock was there another process may have taken the file for a leftover.
-    if (!isStillAt(file.get(), path, m_status))
+    if (!hasItsName(file.get(), path, m_status))
         return EEXIST;
     m_folder = folder;
     m_path = path;
