@@ -41,22 +41,32 @@ struct PageGroup {
     IntegrationURLs urls;
 };
 
-/// Nothing, with the problem printed, when a relative path has no current folder to count from.
-std::optional<std::vector<PageGroup>> groupPages(const IntegrateOptions& options) {
-    const std::optional<std::string> definition = fullPathOrAddress(options.definition);
-    const std::optional<std::string> library = fullPathOrAddress(options.library);
-    if (!definition || !library)
-        return {};
-    std::vector<PageGroup> groups;
-    for (const std::string& page : options.pages) {
+// Nothing, with the problem printed, when a relative path has no current folder to count from.
+
+std::optional<std::vector<ChosenFiles>> neighboursIn(const std::vector<std::string>& pages) {
+    std::vector<ChosenFiles> groups;
+    for (const std::string& page : pages) {
         const std::optional<std::string> path = fullPath(page);
         if (!path)
             return {};
         const PathParts parts = SplitPath(*path);
-        if (groups.empty() || groups.back().files.folder != parts.folder)
-            groups.push_back(
-                {{parts.folder, {}}, CalculateURL(parts.folder, *definition, *library)});
-        groups.back().files.names.push_back(parts.name);
+        if (groups.empty() || groups.back().folder != parts.folder)
+            groups.push_back({parts.folder, {}});
+        groups.back().names.push_back(parts.name);
+    }
+    return groups;
+}
+
+std::optional<std::vector<PageGroup>> groupPages(const IntegrateOptions& options) {
+    const std::optional<std::string> definition = fullPathOrAddress(options.definition);
+    const std::optional<std::string> library = fullPathOrAddress(options.library);
+    std::optional<std::vector<ChosenFiles>> neighbours = neighboursIn(options.pages);
+    if (!definition || !library || !neighbours)
+        return {};
+    std::vector<PageGroup> groups;
+    for (ChosenFiles& files : *neighbours) {
+        IntegrationURLs urls = CalculateURL(files.folder, *definition, *library);
+        groups.push_back({std::move(files), std::move(urls)});
     }
     return groups;
 }
@@ -174,17 +184,15 @@ ExitStatus integrateCommand(FileSystem& files, const IntegrateOptions& options) 
 }
 
 ExitStatus removeCommand(FileSystem& files, const IntegrateOptions& options) {
+    const std::optional<std::vector<ChosenFiles>> groups = neighboursIn(options.pages);
+    if (!groups)
+        return ExitStatus::FileProblem;
     CommandRun run(files, options.isDryRun);
     RunReport report;
-    for (const std::string& page : options.pages) {
-        const std::optional<std::string> path = fullPath(page);
-        if (!path)
-            return ExitStatus::FileProblem;
-        const PathParts parts = SplitPath(*path);
-        IntegrationOptions integration;
-        integration.isRemoval = true;
-        processPages(files, integration, options, {parts.folder, {parts.name}}, run, report);
-    }
+    IntegrationOptions integration;
+    integration.isRemoval = true;
+    for (const ChosenFiles& group : *groups)
+        processPages(files, integration, options, group, run, report);
     run.printOutcome();
     return writeReport(files, options.report, report, "");
 }
