@@ -4,7 +4,7 @@
 // deletes it.
 //
 // usage: zev_copy_pages flush|leave PAGE...
-//   flush: as durable as the program: the page is flushed when written, and its folder then
+//   flush: the page is flushed when written, and its folder then
 //   leave: nothing is flushed
 
 #include <fcntl.h>

@@ -33,11 +33,19 @@ def grown(page, size):
     return page[:begin] + body * max(1, (size - begin) // len(body)) + page[end:]
 
 
-def make_site(samples, folder, pages_a_folder):
+def sample_pages(sample_folder):
+    samples = []
+    for case in sorted(os.listdir(sample_folder)):
+        with open(os.path.join(sample_folder, case, "before.htm"), "rb") as file:
+            samples.append(file.read())
+    return samples
+
+
+def make_site(samples, folder, pages_a_folder, pages=PAGES):
     """Page sizes as on real sites: most small, a few large, in no order. Gives the pages' paths."""
     paths = []
-    for number in range(PAGES):
-        share = number * 7919 % PAGES / PAGES
+    for number in range(pages):
+        share = number * 7919 % pages / pages
         size = int(SMALLEST_BYTES * (LARGEST_BYTES / SMALLEST_BYTES) ** share)
         path = os.path.join(folder, f"part{number // pages_a_folder}", f"page{number}.htm")
         os.makedirs(os.path.dirname(path), exist_ok=True)
@@ -73,10 +81,7 @@ def site_seconds(command, samples, work, pages_a_folder):
 def main():
     zevmenu, copy_pages, sample_folder, work = sys.argv[1:5]
     pages_a_folder = int(sys.argv[5]) if len(sys.argv) > 5 else 100
-    samples = []
-    for case in sorted(os.listdir(sample_folder)):
-        with open(os.path.join(sample_folder, case, "before.htm"), "rb") as file:
-            samples.append(file.read())
+    samples = sample_pages(sample_folder)
 
     integrate = [zevmenu, "integrate", "--definition", os.path.join(work, "menu.js"),
                  "--library", os.path.join(work, "library")]
@@ -109,4 +114,5 @@ def main():
           f"{run(integrate + [path]).ru_maxrss * 1024 / size:.2f} times its size")
 
 
-main()
+if __name__ == "__main__":
+    main()

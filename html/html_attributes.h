@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "html/html_characters.h"
+#include "html/html_vector.h"
 #include "html/server_blocks.h"
 
 namespace zev {
@@ -127,7 +128,10 @@ inline void HtmlAttributeReader::beforeAttributeValueState(HtmlAttribute& attrib
 
 inline void HtmlAttributeReader::attributeValueQuotedState(HtmlAttribute& attribute) {
     attribute.valueBegin = m_position;
-    passUntil(htmlCharacter(attribute.quote));
+    m_position = findEither(m_page, m_position, attribute.quote, '<');
+    while (!isAtEnd() && m_page[m_position] == '<')
+        m_position = findEither(m_page, std::max(m_position + 1, m_blocks.endOf(m_position)),
+                                attribute.quote, '<');
     attribute.valueEnd = m_position;
     if (!isAtEnd())
         ++m_position;

@@ -86,8 +86,9 @@ std::string withAddedAttribute(std::string_view tagText, std::size_t nameEnd, st
 
 }  // namespace
 
-void HtmlParse::Load(std::string_view page) {
+void HtmlParse::Load(std::string_view page, HtmlTokens tokens) {
     Close();
+    m_passesOrdinary = tokens == HtmlTokens::Notable;
     m_tokenizer.emplace(page);
     if (!m_tokenizer->isAtEnd())
         readBatch();
@@ -121,8 +122,10 @@ void HtmlParse::SetAttribute(std::string_view name, std::string_view value) {
 
 void HtmlParse::readBatch() {
     std::size_t count = 0;
-    while (count < m_batch.size() && m_tokenizer->next(m_batch[count]))
-        ++count;
+    do {
+        if (m_passesOrdinary)
+            m_tokenizer->passOrdinary();
+    } while (m_tokenizer->next(m_batch[count]) && ++count < m_batch.size());
     m_current = m_batch.data();
     m_batchEnd = m_current + count;
     m_last = m_tokenizer->isAtEnd() ? m_batchEnd - 1 : nullptr;

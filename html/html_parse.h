@@ -12,6 +12,14 @@
 
 namespace zev {
 
+/// Which tokens of a page a reader comes by.
+enum class HtmlTokens {
+    All,
+    /// Any but text and ordinary tags, which are those of no other elements than head, body, and
+    /// what holds nothing but text; some of these too, and the page's last token in any case.
+    Notable
+};
+
 /// Steps through an HTML page token by token. A token is a tag (comments, declarations and
 /// processing instructions included) or a run of text; the content of a script element belongs to
 /// its start tag. Joined, the tokens' sources are the page, byte for byte.
@@ -24,9 +32,9 @@ class HtmlParse {
     HtmlParse(const HtmlParse&) = delete;
     HtmlParse& operator=(const HtmlParse&) = delete;
 
-    /// Makes the page's first token current. The bytes are not owned and must stay where they are
-    /// until `Close`, the next `Load` or this object's end.
-    void Load(std::string_view page);
+    /// Makes the page's first token current, or the first of `tokens`. The bytes are not owned and
+    /// must stay where they are until `Close`, the next `Load` or this object's end.
+    void Load(std::string_view page, HtmlTokens tokens = HtmlTokens::All);
     /// True when the current token is the last one of the page, or there is none.
     bool IsLast() const { return m_current == m_last; }
     bool IsTag() const { return m_current->kind != HtmlToken::Kind::Text; }
@@ -78,6 +86,7 @@ class HtmlParse {
     // Tokens are read in batches, and what a reader asks every one of them is answered in this
     // header: both cost a call a batch then, not several a token.
     std::optional<HtmlTokenizer> m_tokenizer;
+    bool m_passesOrdinary = false;
     std::array<HtmlToken, 8> m_batch;  // without a page: the first one is empty
     const HtmlToken* m_current = m_batch.data();
     const HtmlToken* m_batchEnd = nullptr;     // after the last one read

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "html/html_characters.h"
+#include "html/html_vector.h"
 #include "text/ascii.h"
 
 namespace zev {
@@ -18,6 +20,22 @@ constexpr std::string_view kPlaintext = "plaintext";
 /// let each of them pass.
 constexpr std::array<std::string_view, 8> kRawElements = {
     "style", "title", "textarea", "xmp", "iframe", "noembed", "noframes", kPlaintext};
+
+/// For each letter that the names of tags that are not ordinary begin with, in lower case, the
+/// lengths of such names: a bit each. That rules nearly all others out.
+constexpr std::array<std::uint16_t, 256> kNotableLengths = [] {
+    std::array<std::uint16_t, 256> lengths{};
+    const auto add = [&lengths](std::string_view name) {
+        auto& entry = lengths[static_cast<unsigned char>(name.front())];
+        entry = static_cast<std::uint16_t>(entry | 1U << name.size());
+    };
+    for (const std::string_view name : kRawElements)
+        add(name);
+    for (const std::string_view name :
+         {kScript, std::string_view("head"), std::string_view("body")})
+        add(name);
+    return lengths;
+}();
 
 bool hasUtf16Mark(std::string_view page) {
     return page.starts_with("\xFF\xFE") || page.starts_with("\xFE\xFF");
@@ -34,6 +52,71 @@ bool hasRawContent(std::string_view elementName) {
 
 HtmlTokenizer::HtmlTokenizer(std::string_view page)
     : m_page(page), m_blocks(page), m_rawElement(hasUtf16Mark(page) ? kPlaintext : "") {}
+
+void HtmlTokenizer::passOrdinary() {
+    if (!m_rawElement.empty())
+        return;
+    std::size_t last = m_position;
+    while (m_position < m_page.size()) {
+        const std::size_t end = endOfOrdinary(m_position);
+        if (end == m_position)
+            return;
+        last = m_position;
+        m_position = end;
+    }
+    m_position = last;
+}
+
+/// Where the text or ordinary tag ends that begins here. `position` itself when it may be something
+/// else, and near the page's end.
+std::size_t HtmlTokenizer::endOfOrdinary(std::size_t position) {
+    if (m_page[position] != '<') {
+        const std::size_t end = findEither(m_page, position, '<', '<');
+        return end == m_page.size() || isMarkup(end) ? end : position;
+    }
+    if (position + 2 + kHtmlVectorBytes > m_page.size())
+        return position;
+    const std::size_t nameBegin = position + (m_page[position + 1] == '/' ? 2 : 1);
+    if (!isAsciiLetter(m_page[nameBegin]))
+        return position;
+    const HtmlVector name = htmlVectorAt(m_page, nameBegin);
+    const std::size_t length =
+        firstInMask((name == '>') | (name == '/') | (name <= ' ') | (name == '<'));
+    const unsigned notable =
+        kNotableLengths[static_cast<unsigned char>(asciiLower(m_page[nameBegin]))];
+    if (length == kHtmlVectorBytes || (notable >> length & 1U) != 0)
+        return position;
+    const std::size_t nameEnd = nameBegin + length;
+    if (m_page[nameEnd] == '>')
+        return nameEnd + 1;
+    return m_page[nameEnd] == '/' || isHtmlSpace(m_page[nameEnd]) ? endOfAttributes(nameEnd)
+                                                                  : position;
+}
+
+/// As `attributesEnd`, but after the ">", and quicker where all values are quoted.
+std::size_t HtmlTokenizer::endOfAttributes(std::size_t position) {
+    std::size_t attribute = position;
+    while (position + kHtmlVectorBytes < m_page.size()) {
+        const HtmlVector vector = htmlVectorAt(m_page, position);
+        const std::size_t first = firstInMask((vector == '=') | (vector == '>') | (vector == '"') |
+                                              (vector == '\'') | (vector == '<'));
+        position += first;
+        if (first == kHtmlVectorBytes)
+            continue;
+        if (m_page[position] == '>')
+            return position + 1;
+        // An equals sign that a name comes before, and a quote right after it.
+        const char quote = m_page[position + 1];
+        if (m_page[position] != '=' || (quote != '"' && quote != '\'') || position == attribute ||
+            m_page[position - 1] == '/' || isHtmlSpace(m_page[position - 1]))
+            break;
+        const std::size_t valueEnd = findEither(m_page, position + 2, quote, '<');
+        if (valueEnd == m_page.size() || m_page[valueEnd] == '<')
+            break;
+        position = attribute = valueEnd + 1;
+    }
+    return std::min(attributesEnd(attribute) + 1, m_page.size());
+}
 
 /// The content of an element that holds no markup, or what comes after it when there is none.
 void HtmlTokenizer::rawTextState(HtmlToken& token) {

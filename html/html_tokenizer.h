@@ -26,6 +26,10 @@ class HtmlTokenizer {
 
     /// Reads the next token; false at the end of the page.
     bool next(HtmlToken& token);
+    /// Passes over text and ordinary tags, as long as that takes little more than a glance at each.
+    /// What comes next is any other token, or the page's last one. Ordinary are all tags but those
+    /// of head, of body, and of elements that hold nothing but text.
+    void passOrdinary();
     bool isAtEnd() const { return m_position == m_page.size(); }
 
   private:
@@ -46,6 +50,8 @@ class HtmlTokenizer {
     std::size_t scriptDataEscapedState(std::size_t position);
 
     std::size_t attributesEnd(std::size_t position);
+    std::size_t endOfOrdinary(std::size_t position);
+    std::size_t endOfAttributes(std::size_t position);
     bool isMarkup(std::size_t position);
     static bool mayHaveRawContent(std::string_view name);
     bool isTagOf(std::size_t nameBegin, std::string_view element) const;

@@ -141,14 +141,16 @@ bool PageIntegrator::IntegratePages(const ChosenFiles& inputFiles, const ShouldG
 }
 
 void PageIntegrator::integratePage(const std::string& path) {
-    if (!m_files.FileExists(path) && !m_files.isFolder(path)) {
+    IntegrationStatus before = std::move(m_status);
+    const std::optional<PageError> error = IntegrateFile(path);
+    if (error && !m_files.FileExists(path) && !m_files.isFolder(path)) {
         appendLine("ERROR: " + path + " Not Found!");
         appendLine("");
         m_summary.failedPages.push_back(path);
+        m_status = std::move(before);
         return;
     }
     appendLine("Processing " + path);
-    const std::optional<PageError> error = IntegrateFile(path);
     if (error)
         reportError(path, *error);
     else
@@ -159,10 +161,27 @@ void PageIntegrator::integratePage(const std::string& path) {
         m_summary.failedPages.push_back(path);
     else
         ++m_summary.doneCount;
+    if (m_status.bSuccess && m_isWritten)
+        m_unflushedPages.push_back(path);
+}
+
+void PageIntegrator::finish() {
+    if (m_options.record != nullptr)
+        m_options.record->flush();
+    const FileOutcome error = m_files.flushFolders();
+    for (const std::string& path : std::exchange(m_unflushedPages, {})) {
+        if (!error)
+            continue;
+        reportError(path, {PageError::Code::NotSaved, *error});
+        m_summary.failedPages.push_back(path);
+        --m_summary.doneCount;
+        m_status = {};
+    }
 }
 
 std::optional<PageError> PageIntegrator::IntegrateFile(const std::string& path) {
     m_status = {};
+    m_isWritten = false;
     if (path == temporaryPath(path))
         return PageError{PageError::Code::IsTemporaryFile, {FileError::Code::Other, path, ""}};
     FileResult<std::string> page = readPage(m_files, path);
@@ -218,6 +237,7 @@ std::optional<PageError> PageIntegrator::replacePage(const std::string& path, st
     std::string().swap(page);
     if (const FileOutcome error = m_files.writeFileThrough(kTemporaryPageName, path, bytes))
         return PageError{PageError::Code::NotSaved, *error};
+    m_isWritten = true;
     return {};
 }
 

@@ -97,8 +97,12 @@ class PageIntegrator {
     bool hasFailed() const { return !m_summary.failedPages.empty(); }
 
     /// Integrates pages one after the other. A page that fails does not keep the next ones from
-    /// being integrated. False when stopped.
+    /// being integrated. False when stopped. Until `finish`, a failing power may bring old pages
+    /// back.
     bool IntegratePages(const ChosenFiles& inputFiles, const ShouldGoOn& shouldGoOn = {});
+    /// To be called after the last page: what was written outlives the power from then on, and what
+    /// it takes to undo that before it. Pages for which this fails count as failed.
+    void finish();
     /// Rewrites one page and sets `status()`. After a failure, and when the page is skipped, it is
     /// as it was and no temporary file is left.
     std::optional<PageError> IntegrateFile(const std::string& path);
@@ -124,6 +128,8 @@ class PageIntegrator {
     IntegrationStatus m_status;
     std::string m_report;
     RunSummary m_summary;
+    bool m_isWritten = false;                   // the page last processed
+    std::vector<std::string> m_unflushedPages;  // of those that are done
 };
 
 }  // namespace zev

@@ -95,7 +95,7 @@ class PageRewriter {
     PageRewriter(std::string_view page, const RewriteOptions& options, IntegrationStatus& status,
                  std::vector<PageEdit> placed)
         : m_options(options), m_status(status), m_placed(std::move(placed)) {
-        m_parser.Load(page);
+        m_parser.Load(page, HtmlTokens::Notable);
         m_edits.reserve(8);  // most pages need no more
     }
 
@@ -227,7 +227,7 @@ std::optional<PageNote> findOwnCall(std::string_view page, const RewriteOptions&
         return {};
     bool hasDefinition = false;
     HtmlParse parser;
-    for (parser.Load(page);; parser.Next()) {
+    for (parser.Load(page, HtmlTokens::Notable);; parser.Next()) {
         if (parser.TagName() == "script" &&
             !isDropped(parser, options, isForeign(parser, options))) {
             hasDefinition = hasDefinition || mayDefineMenu(parser);
@@ -295,7 +295,7 @@ bool isIntegrated(std::string_view page) {
         return false;
     const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(text.bytes());; parser.Next()) {
+    for (parser.Load(text.bytes(), HtmlTokens::Notable);; parser.Next()) {
         const std::string_view name = parser.TagName();
         if ((name == "!" && contains(parser.Text(), kMarkerText)) ||
             (name == "script" && loadsLibrary(parser)))
@@ -309,7 +309,7 @@ std::size_t countDroppedScripts(std::string_view page) {
     std::size_t count = 0;
     const SearchableText text(page);
     HtmlParse parser;
-    for (parser.Load(text.bytes()); !parser.IsLast(); parser.Next())
+    for (parser.Load(text.bytes(), HtmlTokens::Notable); !parser.IsLast(); parser.Next())
         if (parser.TagName() == "script" && !namesJavaScript(parser))
             ++count;
     return count;

@@ -159,9 +159,8 @@ RunRecord::RunRecord(FileSystem& files, std::string folder, std::time_t startedA
     : m_files(files), m_folder(std::move(folder)), m_startedAt(startedAt) {}
 
 RunRecord::~RunRecord() {
-    // Too late to tell anybody; what the disk did not take was written all the same.
-    if (m_file && !m_error)
-        m_file->flush();
+    // Too late to tell anybody of an error; what the disk did not take was written all the same.
+    flush();
 }
 
 void RunRecord::append(const std::string& path, std::string_view page, std::string_view result,
@@ -171,8 +170,6 @@ void RunRecord::append(const std::string& path, std::string_view page, std::stri
     const FileResult<unsigned> mode = m_files.modeOf(path);
     if (!m_file)
         m_error = begin();
-    if (!m_error)
-        m_error = flushAtNewFolder(path);
     if (m_error)
         return;
     m_entry = kPageWord;
@@ -203,14 +200,9 @@ FileOutcome RunRecord::begin() {
     }
 }
 
-/// Flushing page by page would cost as much as the pages do.
-FileOutcome RunRecord::flushAtNewFolder(const std::string& path) {
-    const std::string_view folder = Path(path).folder();
-    if (folder == m_pagesFolder)
-        return {};
-    const bool isFirst = m_pagesFolder.empty();
-    m_pagesFolder = folder;
-    return isFirst ? FileOutcome{} : m_file->flush();
+void RunRecord::flush() {
+    if (m_file && !m_error)
+        m_error = m_file->flush();
 }
 
 std::string recordPath(const std::string& folder, const std::string& name) {

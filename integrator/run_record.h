@@ -56,10 +56,12 @@ class RunRecord {
     /// make of it.
     void append(const std::string& path, std::string_view page, std::string_view result,
                 const std::vector<PageEdit>& edits);
+    /// What was written down outlives the power from now on. Once a folder: page by page it would
+    /// cost as much as the pages do.
+    void flush();
 
   private:
     FileOutcome begin();
-    FileOutcome flushAtNewFolder(const std::string& path);
 
     FileSystem& m_files;
     std::string m_folder;
@@ -67,7 +69,6 @@ class RunRecord {
     std::unique_ptr<GrowingFile> m_file;
     std::string m_name;
     FileOutcome m_error;
-    std::string m_pagesFolder;
     std::string m_entry;  // kept, so that its memory need not be found anew for each page
 };
 

@@ -112,7 +112,7 @@ FileResult<UndoneRun> undoRun(FileSystem& files, const std::string& folder, cons
     for (std::size_t done = 0; done < histories.size(); ++done) {
         if (shouldGoOn && !shouldGoOn(done, histories.size())) {
             undone.isFinished = false;
-            return undone;
+            break;
         }
         const FileResult<Outcome> outcome = restore(files, histories[done]);
         if (!outcome.isOk())
@@ -122,6 +122,8 @@ FileResult<UndoneRun> undoRun(FileSystem& files, const std::string& folder, cons
         else
             undone.restoredPages.push_back(histories[done].path());
     }
+    if (const FileOutcome error = files.flushFolders())
+        undone.errors.push_back(*error);
     if (undone.isWhole())
         if (const FileOutcome error = files.DeleteFile(path))
             return *error;

@@ -89,6 +89,7 @@ class SiteRun {
                 lookForEarlier(path, urls.definition);
             ++m_doneCount;
         }
+        integrator.finish();
         m_result.report += integrator.report();
         m_result.summary.add(integrator.summary());
         return !isStopped;

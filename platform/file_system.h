@@ -97,9 +97,13 @@ class FileSystem {
     virtual FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) = 0;
     /// The same, with links followed, by way of a file of this name in the target's folder. One of
     /// that name that is there already is lost, but waited for while another run uses it. The name
-    /// must not be that of the target.
+    /// must not be that of the target. When the power fails before `flushFolders`, the old content
+    /// may be back, whole.
     virtual FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
                                          std::string_view bytes) = 0;
+    /// What `writeFileThrough` has written outlives the power from now on. Once for many files, for
+    /// to wait for the disk is most of what it takes to write one.
+    virtual FileOutcome flushFolders() = 0;
     /// The same as `writeFile` for a file that the caller reads and deletes itself before it ends:
     /// nobody else can read it, nothing of an old file is kept, and the power may fail on it. That
     /// saves the waits for the disk, which are most of what `writeFile` costs. A link is replaced.

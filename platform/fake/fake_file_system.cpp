@@ -167,6 +167,10 @@ FileOutcome FakeFileSystem::writeFileThrough(const std::string& temporaryName,
     return error;
 }
 
+FileOutcome FakeFileSystem::flushFolders() {
+    return {};
+}
+
 FileOutcome FakeFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {
     return writeFile(path, bytes, Links::Replaced);
 }
@@ -390,6 +394,11 @@ FileOutcome FailingFileSystem::writeFileThrough(const std::string& temporaryName
                                                 const std::string& path, std::string_view bytes) {
     const FileOutcome error = nextOperation(path);
     return error ? error : m_inner.writeFileThrough(temporaryName, path, bytes);
+}
+
+FileOutcome FailingFileSystem::flushFolders() {
+    const FileOutcome error = nextOperation("");
+    return error ? error : m_inner.flushFolders();
 }
 
 FileOutcome FailingFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {

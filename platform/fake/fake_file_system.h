@@ -47,6 +47,7 @@ class FakeFileSystem : public FileSystem {
     FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
     FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
                                  std::string_view bytes) override;
+    FileOutcome flushFolders() override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
@@ -112,6 +113,7 @@ class FailingFileSystem : public FileSystem {
     FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
     FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
                                  std::string_view bytes) override;
+    FileOutcome flushFolders() override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;

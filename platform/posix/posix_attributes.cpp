@@ -68,50 +68,65 @@ bool copyAttribute(const std::string& path, const std::string& name, int descrip
                      ::fsetxattr(descriptor, name.c_str(), value->data(), value->size(), 0) == 0);
 }
 
-bool copyExtendedAttributes(const std::string& path, int descriptor) {
-    const auto wanted = readGrowing(
-        [&](char* buffer, std::size_t size) { return ::llistxattr(path.c_str(), buffer, size); });
-    if (!wanted)
-        return errno == ENOTSUP;
-    const auto present = readGrowing(
-        [&](char* buffer, std::size_t size) { return ::flistxattr(descriptor, buffer, size); });
-    const std::vector<std::string> wantedNames = splitNames(*wanted);
-    // A new file may have inherited an access control list from its folder.
-    for (const std::string& name : splitNames(present.value_or("")))
-        if (std::find(wantedNames.begin(), wantedNames.end(), name) == wantedNames.end() &&
-            !isKeptBySystem(name) && ::fremovexattr(descriptor, name.c_str()) != 0)
-            return false;
-    return std::all_of(wantedNames.begin(), wantedNames.end(), [&](const std::string& name) {
-        return copyAttribute(path, name, descriptor);
-    });
-}
-
 /// Owner and group, or the group alone, which may be one of the user's own.
 bool copyOwner(const struct stat& status, int descriptor) {
-    struct stat own {};
-    if (::fstat(descriptor, &own) == 0 && own.st_uid == status.st_uid &&
-        own.st_gid == status.st_gid)
-        return true;
     return ::fchown(descriptor, status.st_uid, status.st_gid) == 0 ||
            ::fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0;
 }
 
 }  // namespace
 
-Carried copyAttributes(const std::string& path, const struct stat& status, int descriptor) {
-    struct stat own {};
-    if (!copyOwner(status, descriptor) || !copyExtendedAttributes(path, descriptor) ||
-        ::fstat(descriptor, &own) != 0)
+FileAttributes::FileAttributes(const std::string& path, const struct stat& status)
+    : m_path(path), m_status(status) {
+    const auto list = readGrowing(
+        [&](char* buffer, std::size_t size) { return ::llistxattr(path.c_str(), buffer, size); });
+    m_areKnown = list || errno == ENOTSUP;
+    m_names = splitNames(list.value_or(""));
+}
+
+unsigned FileAttributes::modeToBeginWith() const {
+    const mode_t mode = m_status.st_mode & 0777;
+    // Where a group has the same rights as everybody else, it does not matter which group it is.
+    const bool isSameForAll = (mode >> 3 & 07) == (mode & 07);
+    const bool isPlain = m_areKnown && m_names.empty() && m_status.st_uid == ::geteuid();
+    return isSameForAll && isPlain ? mode : 0600;
+}
+
+Carried FileAttributes::giveTo(int descriptor, struct stat own) const {
+    const bool isOwned = own.st_uid == m_status.st_uid && own.st_gid == m_status.st_gid;
+    bool isChanged = !isOwned;
+    if ((!isOwned && !copyOwner(m_status, descriptor)) ||
+        !giveExtendedAttributes(descriptor, isChanged) ||
+        (isChanged && ::fstat(descriptor, &own) != 0))
         return Carried::Less;
-    const bool isOwnerKept = own.st_uid == status.st_uid;
-    const mode_t mode = status.st_mode & (isOwnerKept ? 07777 : 0777);
-    // Last, for the two before may change it.
-    if ((own.st_mode & 07777) != mode && ::fchmod(descriptor, mode) != 0)
-        return Carried::Failed;
-    // Some systems drop bits without an error.
-    if (::fstat(descriptor, &own) != 0 || (own.st_mode & 07777) != mode)
-        return Carried::Less;
+    const bool isOwnerKept = own.st_uid == m_status.st_uid;
+    const mode_t mode = m_status.st_mode & (isOwnerKept ? 07777 : 0777);
+    if ((own.st_mode & 07777) != mode) {
+        // Last, for the two before may change it.
+        if (::fchmod(descriptor, mode) != 0)
+            return Carried::Failed;
+        // Some systems drop bits without an error.
+        if (::fstat(descriptor, &own) != 0 || (own.st_mode & 07777) != mode)
+            return Carried::Less;
+    }
     return isOwnerKept ? Carried::All : Carried::AllButOwner;
+}
+
+/// Sets `isChanged` where the file has or had any.
+bool FileAttributes::giveExtendedAttributes(int descriptor, bool& isChanged) const {
+    if (!m_areKnown)
+        return false;
+    const auto present = readGrowing(
+        [&](char* buffer, std::size_t size) { return ::flistxattr(descriptor, buffer, size); });
+    isChanged = isChanged || !m_names.empty() || !present.value_or("").empty();
+    // A new file may have inherited an access control list from its folder.
+    for (const std::string& name : splitNames(present.value_or("")))
+        if (std::find(m_names.begin(), m_names.end(), name) == m_names.end() &&
+            !isKeptBySystem(name) && ::fremovexattr(descriptor, name.c_str()) != 0)
+            return false;
+    return std::all_of(m_names.begin(), m_names.end(), [&](const std::string& name) {
+        return copyAttribute(m_path, name, descriptor);
+    });
 }
 
 }  // namespace zev

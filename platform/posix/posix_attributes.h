@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <string>
+#include <vector>
 
 namespace zev {
 
@@ -15,8 +16,25 @@ enum class Carried {
     Failed  ///< the same, for even the mode of a file of one's own cannot be set; errno tells why
 };
 
-/// Gives the open file `descriptor` the owner, group, mode and extended attributes (access control
-/// lists among them) of the file `path`, whose lstat() is `status`, as far as this user may.
-Carried copyAttributes(const std::string& path, const struct stat& status, int descriptor);
+/// Owner, group, mode and extended attributes (access control lists among them) of a file.
+class FileAttributes {
+  public:
+    /// Of the file `path`, whose lstat() is `status`.
+    FileAttributes(const std::string& path, const struct stat& status);
+
+    /// The mode to make a file with that is then given them, so that nobody can open it meanwhile
+    /// who may not open the one they are of.
+    unsigned modeToBeginWith() const;
+    /// Gives them to the open file `descriptor`, whose fstat() is `own`, as far as this user may.
+    Carried giveTo(int descriptor, struct stat own) const;
+
+  private:
+    bool giveExtendedAttributes(int descriptor, bool& isChanged) const;
+
+    std::string m_path;
+    struct stat m_status;
+    bool m_areKnown = false;           // false: the extended ones could not be listed
+    std::vector<std::string> m_names;  // of the extended ones
+};
 
 }  // namespace zev

@@ -85,7 +85,8 @@ int readOpened(int descriptor, const struct stat& status, std::uint64_t maxBytes
         const int error = count < 0 ? errno : 0;
         end += count > 0 ? static_cast<std::size_t>(count) : 0;
         const bool isTooLarge = end - begin > maxBytes;
-        if (count <= 0 || isTooLarge) {
+        const bool isWhole = expectedBytes > 0 && end - begin == expectedBytes;
+        if (count <= 0 || isWhole || isTooLarge) {
             bytes.resize(end);
             return isTooLarge ? EFBIG : error;
         }
@@ -96,8 +97,9 @@ int readOpened(int descriptor, const struct stat& status, std::uint64_t maxBytes
 
 int flushToDisk(int descriptor) {
     while (::fsync(descriptor) != 0) {
+        // A drive that knows no fsync() may tell of lost data when a descriptor is closed.
         if (errno == EINVAL || errno == ENOTSUP || errno == ENOSYS)
-            return 0;
+            return PosixDescriptor(::fcntl(descriptor, F_DUPFD_CLOEXEC, 0)).close();
         if (errno != EINTR)
             return errno;
     }

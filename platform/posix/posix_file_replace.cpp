@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <ctime>
+#include <optional>
 #include <vector>
 
 #include "platform/posix/posix_attributes.h"
@@ -46,14 +47,13 @@ bool isForbidden(int error) {
     return error == EACCES || error == EPERM || error == EROFS;
 }
 
-/// Opens a folder so that it can be flushed. A folder that may be written but not read cannot be
-/// opened; that is no error, `folder` stays closed.
+/// Opens a folder so that it can be flushed. Where that is forbidden, `folder` stays closed.
 int openFolder(const std::string& path, PosixDescriptor& folder) {
     const int error = openDescriptor(path, O_RDONLY | O_DIRECTORY, 0, folder);
     return error == EACCES ? 0 : error;
 }
 
-int flushFolder(const PosixDescriptor& folder) {
+int flushOpened(const PosixDescriptor& folder) {
     return folder.isOpen() ? flushToDisk(folder.get()) : 0;
 }
 
@@ -105,10 +105,7 @@ int keepOldContent(const WriteTarget& target, int descriptor, SideFile& copy) {
         error = copyBytes(descriptor, copy.descriptor());
     if (error == 0)
         error = flushToDisk(copy.descriptor());
-    PosixDescriptor folder;
-    if (error == 0)
-        error = openFolder(copy.folder(), folder);
-    return error != 0 ? error : flushFolder(folder);
+    return error != 0 ? error : flushFolder(copy.folder());
 }
 
 /// Opens the file that the target was found to be, and no other that has taken its name since.
@@ -164,15 +161,18 @@ struct RenameResult {
 RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model,
                              std::string_view bytes) {
     PosixDescriptor folder;
-    if (const int error = openFolder(target.folder, folder))
-        return {error};
+    if (!target.isFlushedLater)
+        if (const int error = openFolder(target.folder, folder))
+            return {error};
     SideFile side;
-    // One with a model is nobody else's to read until it has the model's rights.
-    const unsigned mode = model != nullptr ? 0600 : 0666;
+    std::optional<FileAttributes> attributes;
+    if (model != nullptr)
+        attributes.emplace(model->path, model->status);
+    const unsigned mode = attributes ? attributes->modeToBeginWith() : 0666;
     if (const int error = side.makeBeside(target, SideFile::Kind::NewContent, mode))
         return {error, target.exists && isForbidden(error)};
-    if (model != nullptr) {
-        const Carried carried = copyAttributes(model->path, model->status, side.descriptor());
+    if (attributes) {
+        const Carried carried = attributes->giveTo(side.descriptor(), side.status());
         if (model == &target && carried != Carried::All)
             return {0, true};
         if (carried == Carried::Failed ||
@@ -182,8 +182,6 @@ RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model
     int error = writeAll(side.descriptor(), bytes);
     if (error == 0)
         error = flushToDisk(side.descriptor());
-    if (error == 0)
-        error = side.closeFile();
     if (error != 0)
         return {error};
     if (::rename(side.path().c_str(), target.path.c_str()) != 0) {
@@ -193,7 +191,7 @@ RenameResult replaceByRename(const WriteTarget& target, const WriteTarget* model
     }
     side.handOver();
     // The new content is there and whole, but may be lost again if the power fails now.
-    return {flushFolder(folder)};
+    return {flushOpened(folder)};
 }
 
 /// A rename would replace a file that its owner has protected.
@@ -224,11 +222,13 @@ FileOutcome replaceRegularFile(const WriteTarget& target, const WriteTarget* ori
 
 FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original,
                             std::string_view bytes, Links links, FolderLeftovers& leftovers,
-                            const std::string& temporaryName = {}) {
+                            const std::string& temporaryName = {},
+                            std::set<std::string>* unflushedFolders = nullptr) {
     WriteTarget target;
     FileOutcome outcome;
     int error = resolveWriteTarget(path, links, target);
     target.temporaryName = temporaryName;
+    target.isFlushedLater = unflushedFolders != nullptr;
     if (error == 0 && !temporaryName.empty() && target.name == temporaryName)
         error = EINVAL;  // a link led to it
     if (error != 0) {
@@ -242,6 +242,8 @@ FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original
     } else {
         const std::vector<std::string> oldCopies = clearLeftovers(target, leftovers);
         outcome = replaceRegularFile(target, original, bytes);
+        if (!outcome && target.isFlushedLater)
+            unflushedFolders->insert(target.folder);
         if (!outcome)
             for (const std::string& copy : oldCopies)
                 removeLeftover(copy);
@@ -256,8 +258,21 @@ FileOutcome replaceOrBackUp(const std::string& path, const WriteTarget* original
 }  // namespace
 
 FileOutcome replaceFile(const std::string& path, std::string_view bytes, Links links,
-                        FolderLeftovers& leftovers, const std::string& temporaryName) {
-    return replaceOrBackUp(path, nullptr, bytes, links, leftovers, temporaryName);
+                        FolderLeftovers& leftovers) {
+    return replaceOrBackUp(path, nullptr, bytes, links, leftovers);
+}
+
+FileOutcome replaceFileThrough(const std::string& temporaryName, const std::string& path,
+                               std::string_view bytes, FolderLeftovers& leftovers,
+                               std::set<std::string>& unflushedFolders) {
+    return replaceOrBackUp(path, nullptr, bytes, Links::Followed, leftovers, temporaryName,
+                           &unflushedFolders);
+}
+
+int flushFolder(const std::string& path) {
+    PosixDescriptor folder;
+    const int error = openFolder(path, folder);
+    return error != 0 ? error : flushOpened(folder);
 }
 
 FileOutcome writeBackup(const std::string& original, const std::string& backup,

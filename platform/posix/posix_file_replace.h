@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -24,13 +25,22 @@ namespace zev {
 /// are replaced, nothing is ever written to what a link, symbolic or hard, leads to, and a device
 /// or pipe is an error.
 ///
-/// `temporaryName`, where given, is what the new file is called meanwhile, in place of a name that
-/// nothing else has; a file that has it is lost. It must not be the target's own name.
-///
 /// What a killed run left beside the target is removed by the next call for the same target, as far
 /// as it is among `leftovers`, which a failure empties: it may leave something itself.
 FileOutcome replaceFile(const std::string& path, std::string_view bytes, Links links,
-                        FolderLeftovers& leftovers, const std::string& temporaryName = {});
+                        FolderLeftovers& leftovers);
+
+/// The same with links followed, where the new file is called `temporaryName` meanwhile, in place
+/// of a name that nothing else has; a file that has it is lost. It must not be the target's own
+/// name. The folder is not flushed but added to `unflushedFolders`: until somebody does, a failing
+/// power may bring the old file back.
+FileOutcome replaceFileThrough(const std::string& temporaryName, const std::string& path,
+                               std::string_view bytes, FolderLeftovers& leftovers,
+                               std::set<std::string>& unflushedFolders);
+
+/// Makes what was made and renamed in the folder outlive the power. 0 or an errno. A folder that
+/// may be written but not read cannot be flushed; that is no error.
+int flushFolder(const std::string& path);
 
 /// Replaces `backup`, a name of the program's own, by a file that holds `bytes`, the content of the
 /// file `original`, and has from its first byte on what that one has of owner, group, mode and

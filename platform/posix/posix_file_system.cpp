@@ -142,7 +142,15 @@ FileOutcome PosixFileSystem::writeFile(const std::string& path, std::string_view
 
 FileOutcome PosixFileSystem::writeFileThrough(const std::string& temporaryName,
                                               const std::string& path, std::string_view bytes) {
-    return replaceFile(path, bytes, Links::Followed, m_leftovers, temporaryName);
+    return replaceFileThrough(temporaryName, path, bytes, m_leftovers, m_unflushedFolders);
+}
+
+FileOutcome PosixFileSystem::flushFolders() {
+    FileOutcome problem;
+    for (const std::string& folder : std::exchange(m_unflushedFolders, {}))
+        if (const int error = flushFolder(folder); error != 0 && !problem)
+            problem = fileErrorOf(error, folder);
+    return problem;
 }
 
 FileOutcome PosixFileSystem::writeTemporaryFile(const std::string& path, std::string_view bytes) {

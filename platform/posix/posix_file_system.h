@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <set>
+#include <string>
+
 #include "platform/file_system.h"
 #include "platform/posix/posix_side_file.h"
 
@@ -22,6 +25,7 @@ class PosixFileSystem : public FileSystem {
     FileOutcome writeFile(const std::string& path, std::string_view bytes, Links links) override;
     FileOutcome writeFileThrough(const std::string& temporaryName, const std::string& path,
                                  std::string_view bytes) override;
+    FileOutcome flushFolders() override;
     FileOutcome writeTemporaryFile(const std::string& path, std::string_view bytes) override;
     FileOutcome CopyFile(const std::string& source, const std::string& destination,
                          Links links) override;
@@ -42,6 +46,7 @@ class PosixFileSystem : public FileSystem {
 
   private:
     FolderLeftovers m_leftovers;
+    std::set<std::string> m_unflushedFolders;
 };
 
 }  // namespace zev

@@ -8,9 +8,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
-#include <random>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -65,11 +65,11 @@ std::string temporaryFolder() {
 }
 
 std::string randomName(const std::string& prefix) {
-    std::random_device device;
-    std::uniform_int_distribution<std::size_t> position(0, kRandomCharacters.size() - 1);
+    std::uint64_t number = 0;
+    static_cast<void>(::getentropy(&number, sizeof number));  // cannot fail for so few bytes
     std::string name = prefix;
-    for (std::size_t i = 0; i < kRandomLength; ++i)
-        name += kRandomCharacters[position(device)];
+    for (std::size_t i = 0; i < kRandomLength; ++i, number /= kRandomCharacters.size())
+        name += kRandomCharacters[number % kRandomCharacters.size()];
     return name + "~";
 }
 
@@ -95,11 +95,18 @@ std::vector<std::string> pathsOf(const std::string& folder, const std::vector<st
     return paths;
 }
 
-bool isStillAt(int descriptor, const std::string& path) {
-    struct stat open {};
+/// `open` gets the file's fstat().
+bool isStillAt(int descriptor, const std::string& path, struct stat& open) {
     struct stat named {};
     return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 &&
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
+/// The same for a file that nobody renames or links: while it has a name, that is the one. Some
+/// drives do not know how many a file has.
+bool hasItsName(int descriptor, const std::string& path, struct stat& open) {
+    return (::fstat(descriptor, &open) == 0 && open.st_nlink > 0) ||
+           isStillAt(descriptor, path, open);
 }
 
 /// Waits while another process has the lock.
@@ -121,7 +128,7 @@ int removeUnused(const std::string& path) {
         // What may not be read cannot be waited for.
         if (openDescriptor(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK, 0, file) == 0)
             lockFile(file.get());
-        if (file.isOpen() && !isStillAt(file.get(), path))
+        if (file.isOpen() && !isStillAt(file.get(), path, status))
             return 0;
     } else if (!S_ISLNK(status.st_mode)) {
         return EEXIST;
@@ -174,18 +181,11 @@ int SideFile::make(const std::string& folder, const std::string& name, unsigned 
     // Network drives may know no locks; leftovers are not removed there.
     lockFile(file.get());
     // Before the lock was there another process may have taken the file for a leftover.
-    if (!isStillAt(file.get(), path))
+    if (!hasItsName(file.get(), path, m_status))
         return EEXIST;
-    PosixDescriptor lock(::fcntl(file.get(), F_DUPFD_CLOEXEC, 0));
-    if (!lock.isOpen()) {
-        const int lockError = errno;
-        ::unlink(path.c_str());
-        return lockError;
-    }
     m_folder = folder;
     m_path = path;
     m_file = std::move(file);
-    m_lock = std::move(lock);
     return 0;
 }
 

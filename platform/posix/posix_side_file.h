@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <sys/stat.h>
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -34,11 +36,11 @@ class SideFile {
     int makeInTemporaryFolder(const WriteTarget& target, unsigned mode);
 
     int descriptor() const { return m_file.get(); }
+    /// The file's fstat() when it was made.
+    const struct stat& status() const { return m_status; }
     const std::string& path() const { return m_path; }
     /// The folder it was made in.
     const std::string& folder() const { return m_folder; }
-    /// Closes the descriptor, keeping the lock. 0, or the errno of a close that lost data.
-    int closeFile() { return m_file.close(); }
     /// From now on the file stays: it was renamed, or holds the only good copy.
     void handOver() { m_path.clear(); }
 
@@ -50,7 +52,7 @@ class SideFile {
     std::string m_folder;
     std::string m_path;
     PosixDescriptor m_file;
-    PosixDescriptor m_lock;  // a duplicate of m_file: both share one lock
+    struct stat m_status = {};
 };
 
 /// The side files that lay in a folder when it was first asked for. It is not listed again until

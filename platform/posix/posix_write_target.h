@@ -16,8 +16,9 @@ struct WriteTarget {
     std::string name;    ///< its name in that folder
     /// What its new content is called while it is written; empty: a name that nothing else has.
     std::string temporaryName;
-    bool exists = false;      ///< `status` is valid
-    struct stat status = {};  ///< as lstat() gives it
+    bool isFlushedLater = false;  ///< its folder, once for many files
+    bool exists = false;          ///< `status` is valid
+    struct stat status = {};      ///< as lstat() gives it
     /// It has no place of its own on the disk that could be replaced: a device, a pipe, a file
     /// reached through a name such as /dev/stdout.
     bool isWrittenStraight = false;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -283,6 +285,90 @@ TEST(HtmlParseTest, KnowsTheElementsThatHoldTextOnly) {
         EXPECT_TRUE(hasRawContent(name)) << name;
     for (const char* const name : {"", "p", "scripts", "/script", "noscript", "pre"})
         EXPECT_FALSE(hasRawContent(name)) << name;
+}
+
+/// What a reader gets to see of a page, a line for each token.
+std::vector<std::string> tokensOf(const std::string& page, HtmlTokens tokens, bool isEachNotable) {
+    std::vector<std::string> lines;
+    HtmlParse parser;
+    for (parser.Load(page, tokens);; parser.Next()) {
+        const std::string name(parser.TagName());
+        const std::string element = name.starts_with('/') ? name.substr(1) : name;
+        if (!isEachNotable || parser.IsLast() || element == "!" || element == "head" ||
+            element == "body" || hasRawContent(element))
+            lines.push_back(std::to_string(parser.offset()) + " " + name + " " +
+                            std::string(parser.Text()) + " " + std::string(parser.Source()));
+        if (parser.IsLast())
+            return lines;
+    }
+}
+
+TEST(HtmlParseTest, OnlyTextAndOrdinaryTagsCanBePassedOver) {
+    const std::vector<std::string> fragments = {
+        "<p ",
+        "<P",
+        "</p",
+        "<td",
+        ">",
+        "=",
+        "'",
+        "\"",
+        "/",
+        " ",
+        "\n",
+        "\x01",
+        "<",
+        "a",
+        "class=\"one two\"",
+        " id='x'",
+        " b = \"c\"",
+        " d=e",
+        " =\"f>\"",
+        "='g>'",
+        "h/=\"i>\"",
+        "<body onload=\"g('>')\"",
+        "<body>",
+        "</body>",
+        "<HEAD>",
+        "<title>",
+        "</title>",
+        "<script>",
+        "</script>",
+        "<table>",
+        "<% \" > %>",
+        "<?php ' ?>",
+        "<!-- c -->",
+        "<!--- d --->",
+        "<!doctype x>",
+        "1 < 2",
+        " title=\"a value of more than sixteen characters\"",
+        "a name of more than sixteen characters"};
+    std::mt19937 random(4711);
+    for (int i = 0; i < 20'000; ++i) {
+        std::string page;
+        for (std::size_t count = 1 + random() % 12; count > 0; --count)
+            page += fragments[random() % fragments.size()];
+        // Near its end a page is read more slowly.
+        page += i % 3 == 0   ? ""
+                : i % 3 == 1 ? "<i>and no end of text follows</i>"
+                             : "'>\">-->%>?></title>";
+        const std::vector<std::string> all = tokensOf(page, HtmlTokens::All, false);
+        const std::vector<std::string> seen = tokensOf(page, HtmlTokens::Notable, false);
+        for (const std::string& line : seen)
+            ASSERT_NE(std::find(all.begin(), all.end(), line), all.end()) << page;
+        ASSERT_EQ(tokensOf(page, HtmlTokens::Notable, true), tokensOf(page, HtmlTokens::All, true))
+            << page;
+    }
+}
+
+TEST(HtmlParseTest, OrdinaryTagsArePassedOver) {
+    const std::string page =
+        "<p class=\"a\" id='b'>one<b>two</b><br><i title=\"a > b\">three</i></p><!-- c -->"
+        "<p>The end of the page is read token by token.";
+    EXPECT_EQ(tokensOf(page, HtmlTokens::Notable, false),
+              (std::vector<std::string>{"67 !  c  <!-- c -->",
+                                        "80  The end of the page is read token by token. The end "
+                                        "of the page is read token by token."}));
 }
 
 }  // namespace

@@ -327,6 +327,40 @@ TEST(PageIntegratorTest, OperationsAreThoseTheFailuresAreCountedBy) {
     EXPECT_EQ(desk.failing.operationCount(), Replace);
 }
 
+TEST(PageIntegratorTest, PagesThatCannotBeFlushedCountAsFailed) {
+    Desk desk;
+    desk.addPage("a.htm");
+    desk.addPage("b.htm", "<head></head>no body");
+    desk.addPage("c.htm");
+    desk.integrate({"a.htm", "b.htm", "c.htm"});
+    const std::string report = desk.integrator.report();
+    EXPECT_EQ(desk.integrator.summary().doneCount, 2u);
+    desk.failing.failOperation(desk.failing.operationCount() + 1,
+                               {FileError::Code::Other, "/web", "Input/output error"});
+    desk.integrator.finish();
+    EXPECT_EQ(desk.integrator.report(),
+              report +
+                  "ERROR: /web/a.htm not saved: Input/output error\r\n\r\n"
+                  "ERROR: /web/c.htm not saved: Input/output error\r\n\r\n");
+    EXPECT_EQ(desk.integrator.summary().doneCount, 0u);
+    EXPECT_EQ(desk.integrator.summary().failedPages,
+              (std::vector<std::string>{"/web/b.htm", "/web/a.htm", "/web/c.htm"}));
+    EXPECT_FALSE(desk.integrator.status().bSuccess);
+}
+
+TEST(PageIntegratorTest, PagesThatWereNotWrittenNeedNoFlushing) {
+    IntegrationOptions options;
+    options.isRemoval = true;
+    Desk desk(options);
+    desk.addPage("a.htm");
+    desk.integrate({"a.htm"});
+    const std::string report = desk.integrator.report();
+    desk.failing.failOperation(desk.failing.operationCount() + 1, {});
+    desk.integrator.finish();
+    EXPECT_EQ(desk.integrator.report(), report);
+    EXPECT_EQ(desk.integrator.summary().doneCount, 1u);
+}
+
 TEST(PageIntegratorTest, ScriptsThatAreDroppedAreNamedInABlockOfTheirOwn) {
     Desk desk;
     desk.addPage("a.htm",

@@ -279,5 +279,20 @@ TEST(UndoRunTest, CanBeStoppedAndDoneAgainAndTellsOfErrors) {
     EXPECT_FALSE(undoRun(desk.files, kFolder, "2000-01-01T00:00:00-1").isOk());
 }
 
+TEST(RunUndoTest, TheRecordStaysUntilThePagesAreFlushed) {
+    Desk desk;
+    desk.addPage("a.htm");
+    desk.integrate({"a.htm"});
+    FailingFileSystem failing(desk.files);
+    failing.failPath("", {FileError::Code::Other, "/web", "Input/output error"});
+    FileResult<UndoneRun> undone = undoRun(failing, kFolder, kName);
+    ASSERT_TRUE(undone.isOk());
+    EXPECT_FALSE(undone.value().isWhole());
+    EXPECT_EQ(desk.page("a.htm"), kPage);
+    EXPECT_EQ(desk.runs(), Names{kName});
+    EXPECT_TRUE(desk.undo().isWhole());
+    EXPECT_EQ(desk.runs(), Names{});
+}
+
 }  // namespace
 }  // namespace zev::test
