@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -11,6 +12,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <cstddef>
 #include <exception>
@@ -80,7 +82,6 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     connect(&m_commands, &CommandActions::chosen, this,
             [this](const Command& command) { run(command); });
     buildTabs(webBrowser);
-    buildDialogs();
     buildStatusBar();
     resize(920, 660);
 
@@ -93,6 +94,7 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     connect(qApp, &QApplication::focusChanged, this, &frmMain::showHistory);
     showHistory();
     TreeView->setFocus();
+    whenPainted([this] { finishWindow(); });
 }
 
 // The widgets look at the document until they are gone.
@@ -188,6 +190,14 @@ QWidget* frmMain::buildMenuTab() {
     return page;
 }
 
+/// Makes what nobody needs before the window is painted.
+void frmMain::finishWindow() {
+    if (m_defaultForm != nullptr)
+        return;
+    buildDialogs();
+    txtJavaScript->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+}
+
 void frmMain::buildDialogs() {
     const DialogHost host{m_document, m_services.messages, m_services.dialogs};
     m_defaultForm = new frmDefaultProp(host, this);
@@ -200,6 +210,7 @@ void frmMain::buildDialogs() {
                 [this, form] { m_history.cut(form->windowTitle().toStdString()); });
     // Window managers keep it in front of the dialog that it is opened from, whatever is clicked.
     m_advancedForm->setParent(m_menuForm, m_advancedForm->windowFlags());
+    m_defaultForm->LoadDefaultDialog();
 }
 
 void frmMain::keepUnsavedMenus(const std::string& folder) {
@@ -212,6 +223,23 @@ void frmMain::keepUnsavedMenus(const std::string& folder) {
         folder);
 }
 
+void frmMain::keepUnsavedMenusSoon(const std::string& folder) {
+    m_recoveryFolder = folder;
+    whenPainted([this] { beginRecovery(); });
+}
+
+void frmMain::whenPainted(std::function<void()> work) {
+    if (m_isPainted)
+        work();
+    else
+        m_afterPainting.push_back(std::move(work));
+}
+
+void frmMain::beginRecovery() {
+    if (!m_recoveryFolder.empty())
+        keepUnsavedMenus(std::exchange(m_recoveryFolder, {}));
+}
+
 /// What is about to be replaced outlasts a power failure too.
 void frmMain::syncRecovery() {
     if (m_recovery)
@@ -219,8 +247,8 @@ void frmMain::syncRecovery() {
 }
 
 void frmMain::openDefinition(const std::string& path) {
-    run("Open", [this, &path] { m_fileCommands.openDefinition(path); });
-    // The program has started with it: there is nothing before it to go back to.
+    runStep("Open", [this, &path] { m_fileCommands.openDefinition(path); });
+    // There is nothing before it to go back to.
     m_history.clear();
 }
 
@@ -289,12 +317,14 @@ void frmMain::redo() {
 }
 
 void frmMain::mnuEditDefault_Click() {
+    finishWindow();
     // What was typed and cancelled is still in its boxes.
     m_defaultForm->LoadDefaultDialog();
     m_defaultForm->exec();
 }
 
 void frmMain::mnuEditMenuProperties_Click() {
+    finishWindow();
     if (m_menuForm->fill())
         m_menuForm->exec();
 }
@@ -428,6 +458,11 @@ void frmMain::run(const Command& command) {
 /// Runs a command as the person does who leaves the field being edited for it. `step`: as in
 /// `Command`.
 void frmMain::run(const std::string& step, const std::function<void()>& work) {
+    beginRecovery();
+    runStep(step, work);
+}
+
+void frmMain::runStep(const std::string& step, const std::function<void()>& work) {
     leaveField();
     guard([&] {
         if (step.empty()) {
@@ -543,14 +578,28 @@ void frmMain::closeEvent(QCloseEvent* event) {
 // after each of its dialogs.
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !m_history.isInCommand())
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    // A command can be given now, whether the system has had the window painted or not.
+    finishWindow();
+    if (!m_history.isInCommand())
         guard([this] { m_fileCommands.lookAtFile(); });
+}
+
+// What is painted here is in sight when the event loop is reached again.
+void frmMain::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (std::exchange(m_isPainted, true))
+        return;
+    for (std::function<void()>& work : std::exchange(m_afterPainting, {}))
+        QTimer::singleShot(0, this, std::move(work));
 }
 
 /// Shows the field that a note is about: in the panel, or in the dialog of its menu.
 void frmMain::goTo(const NotePlace& place) {
     if (place.owner == NotePlace::Owner::Nowhere)
         return;
+    finishWindow();
     leaveField();
     MenuTab->setCurrentIndex(0);
     if (place.owner == NotePlace::Owner::Defaults) {
@@ -600,7 +649,8 @@ void frmMain::contentReplaced() {
     m_services.browser.forgetAllowedPictures();
     selectedNodeChanged();
     currentNodeChanged();
-    m_defaultForm->LoadDefaultDialog();
+    if (m_defaultForm != nullptr)
+        m_defaultForm->LoadDefaultDialog();
     showScript(GenerateScript(m_document.content()));
 }
 
@@ -610,7 +660,7 @@ void frmMain::itemChanged(const MenuNode& node) {
 }
 
 void frmMain::menuChanged(const MenuPropOwner& owner) {
-    if (owner.kind == MenuPropOwner::Kind::Defaults)
+    if (owner.kind == MenuPropOwner::Kind::Defaults && m_defaultForm != nullptr)
         m_defaultForm->LoadDefaultDialog();
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "app/commands.h"
 #include "app/edit_history.h"
@@ -52,8 +53,16 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     /// Keeps the menu in `folder`, which need not be there, from now on, and offers what a crash
     /// has left there.
     void keepUnsavedMenus(const std::string& folder);
+    /// The same once the window is painted, and before the first command at the latest: until then
+    /// there is nothing that could get lost.
+    void keepUnsavedMenusSoon(const std::string& folder);
 
-    /// Opens the definition file at `path` (full path), as File > Open does with a chosen file.
+    /// Runs `work` from the event loop once the window has been painted for the first time; at once
+    /// when that has been. For what a person need not wait for when the program starts.
+    void whenPainted(std::function<void()> work);
+
+    /// Opens the definition file at `path` (full path), as File > Open does with a chosen file. The
+    /// program has started with it: nothing is kept yet, and it is not a step that can be undone.
     void openDefinition(const std::string& path);
 
     void validateFields() override;
@@ -101,14 +110,17 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     void buildTabs(QWidget* webBrowser);
     void buildStatusBar();
     QWidget* buildMenuTab();
+    void finishWindow();
     void buildDialogs();
     void run(const Command& command);
     void run(const std::string& step, const std::function<void()>& work);
+    void runStep(const std::string& step, const std::function<void()>& work);
     void takeBack(void (EditHistory::*there)());
     void showHistory();
     void sayLastCommand();
@@ -116,6 +128,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void followDocument();
     void guard(const std::function<void()>& work);
     void leaveField();
+    void beginRecovery();
     void syncRecovery();
     void edit(EditResult (*command)(MenuDocument&));
     void followChange();
@@ -163,12 +176,17 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     std::uint64_t m_saidState = 0;
     QWidget* WebBrowser = nullptr;
 
-    // Made once: they keep what was copied and which font was chosen from one use to the next.
+    // Made once, by `finishWindow`: they keep what was copied and which font was chosen from one
+    // use to the next.
     frmDefaultProp* m_defaultForm = nullptr;
     frmMenuProp* m_menuForm = nullptr;
     frmAdvProp* m_advancedForm = nullptr;
 
     std::unique_ptr<RecoveryCommands> m_recovery;  ///< null: nothing is kept
+    std::string m_recoveryFolder;                  ///< that is still to be kept in; empty: none
+
+    std::vector<std::function<void()>> m_afterPainting;
+    bool m_isPainted = false;  ///< and `m_afterPainting` done, or about to be
 };
 
 }  // namespace zev

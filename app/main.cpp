@@ -77,13 +77,17 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
     const QString picture = arguments.value("screenshot");
     EditorServices services{fileSystem, messages, dialogs, shell, help, *browser, userFolder};
+    frmMain* editor = nullptr;
     // Whoever asks for a picture works with a script, not on the document.
     if (picture.isEmpty())
-        services.noteRecentDocument = [&fileSystem](const std::string& document) {
-            noteRecentDocument(fileSystem, dataFile("recently-used.xbel"), document);
+        services.noteRecentDocument = [&](const std::string& document) {
+            editor->whenPainted([&fileSystem, document] {
+                noteRecentDocument(fileSystem, dataFile("recently-used.xbel"), document);
+            });
         };
 
     frmMain window(services, programFolder(fileSystem, messages, userFolder), browser);
+    editor = &window;
     // Ends the program also while the manual's window is open.
     QObject::connect(
         &window, &frmMain::ended, &application, [] { QCoreApplication::exit(0); },
@@ -94,13 +98,12 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
     // Before the window is painted for the first time: so it is painted once.
     if (!files.isEmpty())
         window.openDefinition(QFileInfo(files.first()).absoluteFilePath().toStdString());
-    const auto begin = [&] {
-        if (!picture.isEmpty())
-            takePreviewPicture(window, *browser, picture);
-        else
-            window.keepUnsavedMenus(Path::onThisSystem(userFolder).child("recovery"));
-    };
-    QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
+    const auto begin = [&] { takePreviewPicture(window, *browser, picture); };
+    if (picture.isEmpty())
+        window.keepUnsavedMenusSoon(Path::onThisSystem(userFolder).child("recovery"));
+    else
+        QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
+    window.whenPainted([] { QApplication::setWindowIcon(programIcon()); });
     return QApplication::exec();
 }
 
@@ -126,6 +129,5 @@ int main(int argc, char** argv) {
     QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
                                      "/../lib/zevmenu-creator/modules");
     QApplication::setStyle(new PlainButtonStyle);
-    QApplication::setWindowIcon(programIcon());
     return runEditor(application, parser);
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/script_view.h"
 
-#include <QFontDatabase>
 #include <QWindow>
 #include <algorithm>
 #include <string_view>
@@ -43,7 +42,6 @@ ScriptView::ScriptView(QWidget* parent) : QPlainTextEdit(parent) {
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setLineWrapMode(NoWrap);
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 }
 
 void ScriptView::showScript(const std::string& script) {

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""`zevmenu format` against copying the same bytes: ratios of medians, in one run.
+"""`zevmenu format` against copying the same bytes, and the program's start against that of `true`:
+ratios of medians, in one run.
 
 command_line.py ZEVMENU WORK_FOLDER
 The peer is `dd … conv=fsync`, a process of its own as well, which writes and flushes the same
@@ -14,6 +15,7 @@ import sys
 import time
 
 ROUNDS = 15
+START_ROUNDS = 200
 
 
 def seconds(command):
@@ -31,9 +33,37 @@ def medians_of(runs):
     return [statistics.median(column) for column in zip(*runs)]
 
 
+def spawn_seconds(command):
+    """Wall clock of one run, without what Python itself adds to the start of a process."""
+    silent = (os.POSIX_SPAWN_OPEN, 1, os.devnull, os.O_WRONLY, 0)
+    start = time.perf_counter()
+    process = os.posix_spawnp(command[0], command, os.environ, file_actions=[silent])
+    _, status = os.waitpid(process, 0)
+    elapsed = time.perf_counter() - start
+    if status != 0:
+        raise subprocess.CalledProcessError(os.waitstatus_to_exitcode(status), command)
+    return elapsed
+
+
+def print_start(zevmenu, small):
+    """Prints what starting costs: `true` is a program that does nothing at all. The definition goes
+    to standard output, so that no disk is waited for."""
+    commands = {"true": ["true"], "--version": [zevmenu, "--version"],
+                "format of a small file": [zevmenu, "format", small]}
+    runs = {name: [] for name in commands}
+    for _ in range(START_ROUNDS):
+        for name, command in commands.items():
+            runs[name].append(spawn_seconds(command))
+    floor = statistics.median(runs.pop("true"))
+    for name, times in runs.items():
+        start = statistics.median(times)
+        print(f"{name}: {start * 1000:.2f} ms, {start / floor:.2f} times `true`")
+
+
 def main():
     zevmenu, folder = sys.argv[1:3]
     here = os.path.dirname(os.path.abspath(__file__))
+    print_start(zevmenu, os.path.join(here, "..", "samples", "site_bar.js"))
     medians = {}
     for items in (2000, 20000):
         raw = os.path.join(folder, f"raw{items}.js")

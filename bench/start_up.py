@@ -4,7 +4,8 @@
 start_up.py EDITOR PEER DEFINITION
 The display's frame buffer is watched from outside: a program counts as painted from the moment
 its picture stays what it will be three seconds later (the blinking caret excepted). PEER is an
-empty window of the same toolkit, timed in the same run: the floor that the machine sets.
+empty window of the same toolkit, timed in the same run: the floor that the machine sets. Settings
+and data are a new person's: what earlier runs left behind is neither read nor added to.
 """
 
 import glob
@@ -89,7 +90,7 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         server, display, frame = start_display(folder)
         environment = dict(os.environ, DISPLAY=display, QT_QPA_PLATFORM="xcb",
-                           XDG_CONFIG_HOME=folder)
+                           XDG_CONFIG_HOME=folder, XDG_DATA_HOME=folder)
         results = {"editor": [], "empty window": []}
         try:
             for _ in range(ROUNDS):

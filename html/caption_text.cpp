@@ -181,9 +181,11 @@ std::size_t appendReference(std::string& text, std::string_view html) {
 std::string collapsed(std::string_view text) {
     constexpr std::string_view kNoBreakSpace = "\xC2\xA0";
     std::string result;
+    result.reserve(text.size());
     bool isPending = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isNoBreak = text.substr(i).starts_with(kNoBreakSpace);
+        const bool isNoBreak =
+            text[i] == kNoBreakSpace[0] && text.substr(i).starts_with(kNoBreakSpace);
         if (isNoBreak || isSpace(text[i])) {
             isPending = !result.empty();
             i += isNoBreak ? 1 : 0;

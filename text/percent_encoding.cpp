@@ -8,6 +8,8 @@
 namespace zev {
 
 std::string percentDecoded(std::string_view text) {
+    if (text.find('%') == std::string_view::npos)
+        return std::string(text);
     std::string result;
     for (std::size_t at = 0; at < text.size(); ++at) {
         unsigned char byte = 0;

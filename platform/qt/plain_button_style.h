@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QIcon>
+#include <QIconEngine>
 #include <QProxyStyle>
 
 namespace zev {
 
 /// The desktop's own style, without pictures on the buttons of message boxes and file dialogs: the
-/// program's other dialogs have none either.
+/// program's other dialogs have none either. A toolbar's mark for what has no room is read when it
+/// is painted, which a wide enough window never does; for it Qt loads all its readers of pictures.
 class PlainButtonStyle : public QProxyStyle {
     Q_OBJECT
   public:
@@ -18,6 +21,39 @@ class PlainButtonStyle : public QProxyStyle {
                    ? 0
                    : QProxyStyle::styleHint(hint, option, widget, returnData);
     }
+
+    QIcon standardIcon(StandardPixmap name, const QStyleOption* option,
+                       const QWidget* widget) const override {
+        return name == SP_ToolBarHorizontalExtensionButton ||
+                       name == SP_ToolBarVerticalExtensionButton
+                   ? QIcon(new LateIcon(*baseStyle(), name))
+                   : QProxyStyle::standardIcon(name, option, widget);
+    }
+
+  private:
+    /// An icon of `style`, which outlives it, asked for when it is painted.
+    class LateIcon : public QIconEngine {
+      public:
+        LateIcon(const QStyle& style, StandardPixmap name) : m_style(style), m_name(name) {}
+
+        void paint(QPainter* painter, const QRect& place, QIcon::Mode mode,
+                   QIcon::State state) override {
+            icon().paint(painter, place, Qt::AlignCenter, mode, state);
+        }
+        QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+            return icon().pixmap(size, mode, state);
+        }
+        QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+            return icon().actualSize(size, mode, state);
+        }
+        QIconEngine* clone() const override { return new LateIcon(*this); }
+
+      private:
+        QIcon icon() const { return m_style.standardIcon(m_name); }
+
+        const QStyle& m_style;
+        StandardPixmap m_name;
+    };
 };
 
 }  // namespace zev

@@ -213,6 +213,22 @@ class test_property_dialogs : public QObject {
 
     // Filling
 
+    void theDialogsAreMadeOnceTheWindowIsPaintedOrWhenOneIsUsed() {
+        WindowDesk desk;
+        frmMain shown(desk.services, "/program", new QWidget);
+        QVERIFY(shown.findChild<frmDefaultProp*>() == nullptr);
+        shown.show();
+        QTRY_VERIFY(shown.findChild<frmDefaultProp*>() != nullptr);
+        QCOMPARE(textOf(*shown.findChild<frmDefaultProp*>(), "txtCloseDelay"), "500");
+        QVERIFY(shown.findChild<frmMenuProp*>() != nullptr);
+
+        frmMain used(desk.services, "/program", new QWidget);
+        used.mnuEditMenuProperties_Click();
+        auto* form = used.findChild<frmDefaultProp*>();
+        QVERIFY(form != nullptr);
+        QCOMPARE(textOf(*form, "txtCloseDelay"), "500");
+    }
+
     void theDefaultsAreFilledWithTheWindowAtOpenAndAtNew() {
         WindowDesk desk;
         auto& form = *desk.window.findChild<frmDefaultProp*>();

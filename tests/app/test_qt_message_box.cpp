@@ -96,6 +96,7 @@ class test_qt_message_box : public QObject {
     void aShortTextStaysOnOneLine();
     void aBoxBelongsToTheActiveWindow();
     void buttonsHaveNoPicturesInTheProgramsStyle();
+    void aToolbarsMarkForWhatHasNoRoomIsThatOfTheDesktop();
     void aWindowIsNotLargerThanItsScreen();
     void aMessageWithoutDetailsHasOnlyItsButtons();
     void detailsAreShownWhenAskedFor();
@@ -301,6 +302,17 @@ void test_qt_message_box::buttonsHaveNoPicturesInTheProgramsStyle() {
     QCOMPARE(picturesIn(new PicturedButtonStyle), 3);
     QCOMPARE(picturesIn(new PlainButtonStyle(new PicturedButtonStyle)), 0);
     QApplication::setStyle("Fusion");
+}
+
+void test_qt_message_box::aToolbarsMarkForWhatHasNoRoomIsThatOfTheDesktop() {
+    QStyle* desktop = QStyleFactory::create("Fusion");
+    const PlainButtonStyle style(desktop);
+    for (const QStyle::StandardPixmap mark :
+         {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_ToolBarVerticalExtensionButton}) {
+        const QImage expected = desktop->standardIcon(mark).pixmap(16).toImage();
+        QVERIFY(!expected.isNull());
+        QCOMPARE(style.standardIcon(mark, nullptr, nullptr).pixmap(16).toImage(), expected);
+    }
 }
 
 void test_qt_message_box::aWindowIsNotLargerThanItsScreen() {

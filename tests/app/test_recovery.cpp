@@ -5,10 +5,12 @@
 #include <QMenu>
 #include <QPushButton>
 #include <memory>
+#include <vector>
 
 #include "app/recovery_commands.h"
 #include "app/strip_line.h"
 #include "app/unsaved_changes_window.h"
+#include "recovery/recovery_store.h"
 #include "when_shown.h"
 #include "window_desk.h"
 
@@ -80,6 +82,8 @@ class test_recovery : public QObject {
     Q_OBJECT
 
   private slots:
+    void keepingBeginsOnceTheWindowIsPainted();
+    void keepingBeginsWithACommandBeforeThat();
     void nothingIsSaidWithoutAnUnsavedMenu();
     void aCrashIsOfferedAtTheNextStart();
     void whatIsTypedIsLostOnlySinceTheLastCommand();
@@ -98,6 +102,30 @@ class test_recovery : public QObject {
     void thatNothingCanBeKeptIsSaidOnce();
     void theMenuEntryStandsBehindTheOthers();
 };
+
+void test_recovery::keepingBeginsOnceTheWindowIsPainted() {
+    WindowDesk desk;
+    desk.add("Home");
+    desk.saveAs("/site/menu.js");
+    frmMain window(desk.services, "/program", new QWidget);
+    window.openDefinition("/site/menu.js");
+    window.keepUnsavedMenusSoon(kFolder);
+    QCoreApplication::processEvents();
+    QVERIFY(!desk.disk.isFolder(kFolder));
+    window.show();
+    QTRY_VERIFY(desk.disk.isFolder(kFolder));
+}
+
+void test_recovery::keepingBeginsWithACommandBeforeThat() {
+    WindowDesk desk;
+    frmMain window(desk.services, "/program", new QWidget);
+    window.keepUnsavedMenusSoon(kFolder);
+    window.findChild<QAction*>("mnuEditAddMenuItem")->trigger();
+    FakeFileSystem left = diskAfterCrash(desk);
+    const std::vector<UnsavedMenu> menus = RecoveryStore(left, kFolder).unsavedMenus();
+    QCOMPARE(menus.size(), std::size_t(1));
+    QCOMPARE(menus.front().changeCount, std::uint64_t(1));
+}
 
 void test_recovery::nothingIsSaidWithoutAnUnsavedMenu() {
     Program program;
