@@ -176,6 +176,9 @@ FoundPlace placeAtElement(PageWalk& walk, Kind kind) {
 /// Whether the walk stands at what the place is counted from.
 bool isAtPlace(const PageWalk& walk, const MenuPlace& place) {
     const HtmlParse& token = walk.token();
+    // Integration leaves the page's last token alone; it may be a tag that never ends.
+    if (token.TagName() == "body" && token.IsLast())
+        return false;
     switch (place.kind) {
         case Kind::BodyStart:
             return token.TagName() == "body";

@@ -18,9 +18,8 @@ struct PageRemoval {
 /// Takes out what carries this program's marks, the three scripts of integration as it writes them,
 /// and its calls at the events of the body. The page is then as it was before, but for what
 /// integration dropped, an element that the menu stood instead of, quotes around the values of
-/// "onload" and "onresize", an empty one of these, and a blank at the end of the body's tag or,
-/// where the page ends in that, the bracket. Code for a menu that somebody else wrote or pasted
-/// stays and is told of.
+/// "onload" and "onresize", an empty one of these and a blank at the end of the body's tag. Code
+/// for a menu that somebody else wrote or pasted stays and is told of.
 PageRemoval removeIntegration(std::string_view page);
 
 }  // namespace zev

@@ -79,6 +79,14 @@ TEST(PlacementTest, APageWithoutThePlaceIsNotIntegratedAtAll) {
     }
 }
 
+TEST(PlacementTest, InABodyTagThatThePageEndsInNothingIsPlaced) {
+    for (const std::string page : {"<body x ", "<p>One<body title=\"Two></body>"}) {
+        const Rewritten result = rewritten(page, placing("body-start"));
+        EXPECT_EQ(result.page, page);
+        EXPECT_EQ(result.status.placeProblem, PlaceProblem::NotFound) << page;
+    }
+}
+
 TEST(PlacementTest, ScriptsInAReplacedElementGoWithIt) {
     RewriteOptions options = placing("instead:nav");
     options.keepsOtherScripts = false;

@@ -29,17 +29,14 @@ inline std::vector<PageEdit> inverseEdits(std::string_view page,
     return inverse;
 }
 
-/// The page with its body tags compared as `withoutHandlers` tells. One that the page ends in is
-/// closed by the calls that are put into it, and stays so.
+/// The page with its body tags compared as `withoutHandlers` tells.
 inline std::string withPlainBodies(std::string_view page) {
     std::string result;
     const SearchableText text(page);
     HtmlParse parser;
     for (parser.Load(text.bytes());; parser.Next()) {
-        std::string source(parser.Source());
-        if (parser.TagName() == "body")
-            source = withoutHandlers(source.ends_with('>') ? source : source + '>');
-        result += source;
+        const std::string source(parser.Source());
+        result += parser.TagName() == "body" ? withoutHandlers(source) : source;
         if (parser.IsLast())
             return result;
     }
