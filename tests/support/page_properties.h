@@ -9,6 +9,7 @@
 #include "html/html_parse.h"
 #include "integrator/page_rewriter.h"
 #include "integrator/searchable_text.h"
+#include "text/text_encoding.h"
 
 namespace zev {
 
@@ -139,10 +140,12 @@ inline std::string editedFromTheEnd(std::string page, const std::vector<PageEdit
 ///
 /// A page with code of an earlier run loses it, and what stood around it may then become another
 /// tag. "<!---" in a tag may begin a server-side comment or be a stray; what is put in after it can
-/// turn one into the other, and is then hidden from the next run.
+/// turn one into the other, and is then hidden from the next run. Bytes outside of ASCII tell that
+/// escapes are none; a script that goes may take them along.
 inline bool mayDifferAgain(const std::string& page) {
     return page.find("ZEV") != std::string::npos || page.find("zev") != std::string::npos ||
-           page.find("<!---") != std::string::npos;
+           page.find("<!---") != std::string::npos ||
+           (page.find('\x1B') != std::string::npos && !isAscii(page));
 }
 
 /// What is wrong with the engine's work on a page: "" when nothing is.
