@@ -61,7 +61,8 @@ void frmIntegrator::setRunning(bool isRunning) {
         button->setEnabled(!isRunning);
 }
 
-/// A report of thousands of pages is shown piece by piece: the window answers in between.
+/// A report of thousands of pages is shown piece by piece: the window is painted in between, but
+/// takes no click that would go on to the next frame meanwhile.
 void frmIntegrator::showReport() {
     constexpr qsizetype kPieceLength = 100'000;
     txtReport->clear();
@@ -69,7 +70,7 @@ void frmIntegrator::showReport() {
     QTextCursor end(txtReport->document());
     for (qsizetype at = 0; at < report.size(); at += kPieceLength) {
         end.insertText(report.mid(at, kPieceLength));
-        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
     txtReport->moveCursor(QTextCursor::Start);
 }

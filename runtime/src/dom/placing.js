@@ -36,6 +36,7 @@ function lay({ box, isFold }) {
     Object.assign(box.style, { left: '-1e5px', maxWidth: 'none', top: '-1e5px' });
 }
 
+// Its size in the layer, at most as wide as the window.
 function measure(box, width) {
     if (rectOf(box).width > width) box.style.maxWidth = pixels(width, rectOf(homeOf(state.layer)));
     return rectOf(box);
@@ -107,7 +108,8 @@ function fade({ menu, box }, isOn) {
     box.zevFading.onfinish = end;
 }
 
-// Closes a level whose opener goes out of sight; an image's area never has a box to be watched.
+// Closes a level whose opener goes out of sight. One that never had a box, as an image's area, never does; `isOn`
+// says that it had.
 function follow(level) {
     const { opener, box } = level;
     if (!opener) return;
