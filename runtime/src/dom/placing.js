@@ -55,6 +55,7 @@ function spotOf(level) {
     const { clientWidth: width, clientHeight: height } = document.scrollingElement || document.documentElement;
     const frame = { width, height }, isFixed = isSteady(levels.indexOf(level) + 1 || levels.length);
     if (isLaid) level.size = measure(box, width);
+    level.isOn ||= opener?.getClientRects()[0];
     const kind = isFixed ? 'fixed'
         : parent?.matches('.list') && (opposite[levels[depthOf(parent) - 1]?.side] || 'list');
     // A pop-up stays with the page when that scrolls.
@@ -108,17 +109,17 @@ function fade({ menu, box }, isOn) {
     box.zevFading.onfinish = end;
 }
 
-// Closes a level whose opener goes out of sight. One that never had a box, as an image's area, never does; `isOn`
-// says that it had.
+// Closes a level whose opener goes out of sight, or out of the page. One that never had a box, as an image's area,
+// is never in sight; `isOn` says that it had. The page may hide it in the very click that opened the level, before
+// it is looked at here.
 function follow(level) {
     const { opener, box } = level;
     if (!opener) return;
     level.observer = new IntersectionObserver(entries => {
-        level.isOn ||= opener.getClientRects()[0];
         // -1 if closed, but told in spite of disconnect().
         const index = levels.indexOf(level);
-        const isHeld = opener.isConnected && (isSteady(index) || box.contains(focused()));
-        if (level.isOn && index >= 0 && !isHeld && !entries.pop().isIntersecting) close(index);
+        const isHeld = opener.isConnected && (!level.isOn || isSteady(index) || box.contains(focused()));
+        if (index >= 0 && !isHeld && !entries.pop().isIntersecting) close(index);
     });
     level.observer.observe(opener);
 }

@@ -84,7 +84,7 @@ test('a submenu closes when its item is scrolled out of the box around it', asyn
     await hover(page, 'Products');
     await waitShown(page, 'Boats');
     await scrollBy('#inner', 200);
-    await waitGone(page, 'Boats', 250);
+    await waitGone(page, 'Boats');
 });
 
 // A submenu of 60 items; the third opens another one.
@@ -149,6 +149,21 @@ test('a submenu closes when the page takes its item away', async () => {
     await hover(page, 'Top');
     await waitShown(page, 'Item 1');
     await page.$eval('[data-zev=bar]', bar => bar.remove());
-    await waitGone(page, 'Item 1', 250);
+    await waitGone(page, 'Item 1');
     assert.equal(await isShown(page, 'Deep'), false);
 });
+
+// As a drawer that closes at every click in it.
+for (const what of ['hides', 'removes']) {
+    test(`a submenu closes when the page ${what} the bar in the moment in which it opens`, async () => {
+        await lab.show({ definition: tall, before: '<div id="drawer">', after: '</div>' });
+        await page.$eval('[data-zev=bar]', ({ shadowRoot }, what) => {
+            const drawer = document.querySelector('#drawer');
+            new MutationObserver(() => what == 'hides' ? drawer.hidden = true : drawer.remove())
+                .observe(shadowRoot, { attributeFilter: ['aria-expanded'], subtree: true });
+        }, what);
+        await hover(page, 'Top');
+        await until(async () => !await isShown(page, 'Top'), 'the item to go');
+        await waitGone(page, 'Item 1');
+    });
+}
