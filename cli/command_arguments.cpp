@@ -12,13 +12,6 @@ std::string refuseEmpty(const std::string& value) {
     return value.empty() ? "must not be empty" : "";
 }
 
-CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& description) {
-    CLI::App& command = *program.add_subcommand(name, description);
-    command.set_version_flag("--version", "zevmenu " ZEV_VERSION, "Print the version and exit");
-    command.footer(kFooter);
-    return command;
-}
-
 void addRequired(CLI::App& command, const std::string& name, const std::string& typeName,
                  std::string& value, const std::string& description) {
     command.add_option(name, value, description)

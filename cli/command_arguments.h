@@ -15,8 +15,6 @@ extern const char* const kFooter;
 /// An empty path is a script's unset variable, not a wish.
 std::string refuseEmpty(const std::string& value);
 
-CLI::App& addCommand(CLI::App& program, const std::string& name, const std::string& description);
-
 /// A positional or an option that must be given and must not be empty.
 void addRequired(CLI::App& command, const std::string& name, const std::string& typeName,
                  std::string& value, const std::string& description);

@@ -2,6 +2,7 @@
 #include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 #include <memory>
 #include <sstream>
@@ -22,10 +23,8 @@ namespace zev {
 
 namespace {
 
-void addFormat(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addFormat(CLI::App& command, FileSystem& files, ExitStatus& status) {
     const auto options = std::make_shared<FormatOptions>();
-    CLI::App& command = addCommand(
-        program, "format", "Read a menu definition and write it as the editor would save it");
     addInput(command, options->input);
     CLI::Option* const output = addOutput(command, options->output);
     CLI::Option* const check = command
@@ -54,10 +53,8 @@ std::string refuseNoImportFormat(const std::string& name) {
     return findImportFormat(name) ? "" : "must be " + importFormatNames();
 }
 
-void addImport(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addImport(CLI::App& command, FileSystem& files, ExitStatus& status) {
     const auto options = std::make_shared<ImportOptions>();
-    CLI::App& command = addCommand(
-        program, "import", "Read the menu of an earlier product and write a menu definition");
     command
         .add_option_function<std::string>(
             "--format",
@@ -73,10 +70,8 @@ void addImport(CLI::App& program, FileSystem& files, ExitStatus& status) {
     command.callback([&files, &status, options] { status = importCommand(files, *options); });
 }
 
-void addRebase(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addRebase(CLI::App& command, FileSystem& files, ExitStatus& status) {
     const auto options = std::make_shared<RebaseOptions>();
-    CLI::App& command = addCommand(
-        program, "rebase", "Recalculate the relative URLs of a menu definition for another folder");
     command.footer(
         "OLDDIR and NEWDIR need not exist. A relative one counts from the current folder, \".\" "
         "and\n"
@@ -89,22 +84,18 @@ void addRebase(CLI::App& program, FileSystem& files, ExitStatus& status) {
     command.callback([&files, &status, options] { status = rebaseCommand(files, *options); });
 }
 
-void addSubmenus(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addSubmenus(CLI::App& command, FileSystem& files, ExitStatus& status) {
     const auto input = std::make_shared<std::string>();
-    CLI::App& command =
-        addCommand(program, "submenus", "List the submenus of a menu definition, one a line");
     addInput(command, *input);
     command.callback([&files, &status, input] { status = submenusCommand(files, *input); });
 }
 
-void addPublish(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addPublish(CLI::App& command, FileSystem& files, ExitStatus& status) {
     struct Options {
         std::string input;
         std::string folder;
     };
     const auto options = std::make_shared<Options>();
-    CLI::App& command = addCommand(
-        program, "publish", "Write a menu definition and the run-time scripts into a folder");
     addInput(command, options->input);
     addRequired(command, "DIR", "TEXT", options->folder,
                 "Folder of the web site, made where one is missing");
@@ -167,14 +158,12 @@ void addPopup(CLI::App& command, PopupArguments& popup) {
         ->excludes(mouse);
 }
 
-void addLinkcode(CLI::App& program, ExitStatus& status) {
+void addLinkcode(CLI::App& command, FileSystem&, ExitStatus& status) {
     struct Options {
         std::string definition;
         PopupArguments popup;
     };
     const auto options = std::make_shared<Options>();
-    CLI::App& command =
-        addCommand(program, "linkcode", "Print the code that shows a menu on a web page");
     command.footer("Exit status: 0 done, 2 wrong use, 3 the output could not be written.");
     addRequired(command, "--definition", "URL", options->definition, "URL of the menu definition");
     addPopup(command, options->popup);
@@ -194,7 +183,7 @@ void requireArguments(const IntegrateOptions& integrate, const SiteArguments& si
         throw CLI::RequiredError("PAGE");
 }
 
-void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addIntegrate(CLI::App& command, FileSystem& files, ExitStatus& status) {
     struct Options {
         IntegrateOptions integrate;
         PopupArguments popup;
@@ -205,8 +194,6 @@ void addIntegrate(CLI::App& program, FileSystem& files, ExitStatus& status) {
     };
     const auto options = std::make_shared<Options>();
     IntegrateOptions& integrate = options->integrate;
-    CLI::App& command =
-        addCommand(program, "integrate", "Make web pages load a menu and print what to paste");
     command.footer(
         "Definition and library need not exist. Relative paths count from the current folder; an\n"
         "address such as \"http://example.org/menu/\" is taken as it is.\n"
@@ -265,9 +252,9 @@ std::string helpText(const CLI::App& program, const std::string& command) {
     return program.get_subcommand(command)->help(program.get_name());
 }
 
-void addHelp(CLI::App& program, ExitStatus& status) {
+void addHelp(CLI::App& command, FileSystem&, ExitStatus& status) {
+    const CLI::App& program = *command.get_parent();
     const auto name = std::make_shared<std::string>();
-    CLI::App& command = addCommand(program, "help", "Print the help of a command");
     command.footer("Exit status: 0 done, 2 wrong use, 3 the output could not be written.");
     command.add_option("COMMAND", *name, "Command; without it, those there are are listed")
         ->type_name("")
@@ -281,6 +268,29 @@ void addHelp(CLI::App& program, ExitStatus& status) {
                                                                : ExitStatus::FileProblem;
     });
 }
+
+const char* const kVersion = "zevmenu " ZEV_VERSION;
+const char* const kVersionHelp = "Print the version and exit";
+
+struct Command {
+    const char* name;
+    const char* description;
+    void (*addOptions)(CLI::App& command, FileSystem& files, ExitStatus& status);
+};
+
+const Command kCommands[] = {
+    {"format", "Read a menu definition and write it as the editor would save it", addFormat},
+    {"import", "Read the menu of an earlier product and write a menu definition", addImport},
+    {"rebase", "Recalculate the relative URLs of a menu definition for another folder", addRebase},
+    {"submenus", "List the submenus of a menu definition, one a line", addSubmenus},
+    {"check", "Find what is wrong in menu definitions", addCheck},
+    {"diff", "Tell in what the items of two menu definitions differ", addDiff},
+    {"tree", "Print the menu as an indented outline", addTree},
+    {"outline", "Print the menu's links as a list or a site map for web pages", addOutline},
+    {"publish", "Write a menu definition and the run-time scripts into a folder", addPublish},
+    {"linkcode", "Print the code that shows a menu on a web page", addLinkcode},
+    {"integrate", "Make web pages load a menu and print what to paste", addIntegrate},
+    {"help", "Print the help of a command", addHelp}};
 
 /// Prints help, version or what was wrong with the arguments.
 ExitStatus report(const CLI::App& program, const CLI::ParseError& outcome) {
@@ -296,30 +306,29 @@ ExitStatus report(const CLI::App& program, const CLI::ParseError& outcome) {
 
 }  // namespace
 
-void addCommands(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addCommands(CLI::App& program, FileSystem& files, ExitStatus& status,
+                 const std::function<bool(const std::string&)>& isNamed) {
     program.description(std::string("Works on the menu definitions of ") + kProgramName + ".");
     program.name("zevmenu");
-    program.set_version_flag("--version", "zevmenu " ZEV_VERSION, "Print the version and exit");
+    program.set_version_flag("--version", kVersion, kVersionHelp);
     program.require_subcommand(1);
     program.footer(kFooter);
-    addFormat(program, files, status);
-    addImport(program, files, status);
-    addRebase(program, files, status);
-    addSubmenus(program, files, status);
-    addCheck(program, files, status);
-    addDiff(program, files, status);
-    addTree(program, files, status);
-    addOutline(program, files, status);
-    addPublish(program, files, status);
-    addLinkcode(program, status);
-    addIntegrate(program, files, status);
-    addHelp(program, status);
+    for (const Command& each : kCommands) {
+        CLI::App& command = *program.add_subcommand(each.name, each.description);
+        if (!isNamed(each.name))
+            continue;
+        command.set_version_flag("--version", kVersion, kVersionHelp);
+        command.footer(kFooter);
+        each.addOptions(command, files, status);
+    }
 }
 
 ExitStatus runCommandLine(int argumentCount, const char* const* arguments, FileSystem& files) {
     CLI::App program;
     ExitStatus status = ExitStatus::Done;
-    addCommands(program, files, status);
+    addCommands(program, files, status, [&](const std::string& name) {
+        return std::find(arguments, arguments + argumentCount, name) != arguments + argumentCount;
+    });
     try {
         program.parse(argumentCount, arguments);
     } catch (const CLI::ParseError& outcome) {

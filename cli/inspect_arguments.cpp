@@ -23,9 +23,8 @@ std::string refuseNoAddress(const std::string& url) {
 
 }  // namespace
 
-void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+void addCheck(CLI::App& command, FileSystem& files, ExitStatus& status) {
     const auto options = std::make_shared<CheckOptions>();
-    CLI::App& command = addCommand(program, "check", "Find what is wrong in menu definitions");
     command.footer(
         "\"-\" is standard input.\n"
         "Exit status: 0 nothing is wrong, 1 something is, 2 wrong use, 3 a file could not be read\n"
@@ -41,15 +40,13 @@ void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status) {
     command.callback([&files, &status, options] { status = checkCommand(files, *options); });
 }
 
-void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+void addDiff(CLI::App& command, FileSystem& files, ExitStatus& status) {
     struct Options {
         std::string oldInput;
         std::string newInput;
         bool isJson = false;
     };
     const auto options = std::make_shared<Options>();
-    CLI::App& command =
-        addCommand(program, "diff", "Tell in what the items of two menu definitions differ");
     command.footer(
         "\"-\" is standard input.\n"
         "Exit status: 0 no difference, 1 they differ or have errors, 2 wrong use, 3 a file could "
@@ -63,13 +60,12 @@ void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status) {
     });
 }
 
-void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status) {
+void addTree(CLI::App& command, FileSystem& files, ExitStatus& status) {
     struct Options {
         std::string input;
         bool isJson = false;
     };
     const auto options = std::make_shared<Options>();
-    CLI::App& command = addCommand(program, "tree", "Print the menu as an indented outline");
     addInput(command, options->input);
     addJson(command, options->isJson);
     command.callback([&files, &status, options] {
@@ -77,14 +73,12 @@ void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status) {
     });
 }
 
-void addOutline(CLI::App& program, FileSystem& files, ExitStatus& status) {
+void addOutline(CLI::App& command, FileSystem& files, ExitStatus& status) {
     struct Options {
         OutlineOptions outline;
         bool isHtml = false;
     };
     const auto options = std::make_shared<Options>();
-    CLI::App& command = addCommand(program, "outline",
-                                   "Print the menu's links as a list or a site map for web pages");
     CLI::Option* const html =
         command.add_flag("--html", options->isHtml, "Print a nested list of links");
     CLI::Option* const base =

@@ -8,15 +8,15 @@
 
 namespace zev {
 
-// Each adds a command that looks at menus and changes none; when it is the one that was asked for,
-// it runs and sets `status`.
+// Each adds the options of a command that looks at menus and changes none; when it is the one that
+// was asked for, it runs and sets `status`.
 
-void addCheck(CLI::App& program, const FileSystem& files, ExitStatus& status);
+void addCheck(CLI::App& command, FileSystem& files, ExitStatus& status);
 
-void addDiff(CLI::App& program, const FileSystem& files, ExitStatus& status);
+void addDiff(CLI::App& command, FileSystem& files, ExitStatus& status);
 
-void addTree(CLI::App& program, const FileSystem& files, ExitStatus& status);
+void addTree(CLI::App& command, FileSystem& files, ExitStatus& status);
 
-void addOutline(CLI::App& program, FileSystem& files, ExitStatus& status);
+void addOutline(CLI::App& command, FileSystem& files, ExitStatus& status);
 
 }  // namespace zev

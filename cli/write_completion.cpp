@@ -91,7 +91,7 @@ std::vector<Command> describedCommands() {
     zev::PosixFileSystem files;
     zev::ExitStatus status = zev::ExitStatus::Done;
     CLI::App program;
-    zev::addCommands(program, files, status);
+    zev::addCommands(program, files, status, [](const std::string&) { return true; });
     std::vector<Command> commands{commandOf(program)};
     commands.front().name.clear();
     const CLI::App& described = program;

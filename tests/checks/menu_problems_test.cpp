@@ -86,7 +86,10 @@ TEST(FindBrokenValues, HoldsNumbersToWhatTheLibraryTakes) {
         {&MenuProp::FilterOpacity, "0", false}, {&MenuProp::FilterFade, "0.5", true},
         {&MenuProp::FilterFade, "6", false},    {&MenuProp::MenuOffset, "-3", true},
         {&MenuProp::CloseDelay, "-1", false},   {&MenuProp::Spacing, "2px", false},
-        {&MenuProp::CellPadding, "nan", false},
+        {&MenuProp::CellPadding, "nan", false}, {&MenuProp::CellPadding, "1e2", true},
+        {&MenuProp::CellPadding, "1e", false},  {&MenuProp::CellPadding, "1e400", false},
+        {&MenuProp::CellPadding, "+5", false},  {&MenuProp::CellPadding, " 5", false},
+        {&MenuProp::CellPadding, "5,5", false}, {&MenuProp::CellPadding, "0x1", false},
     };
     for (const Case& c : cases) {
         MenuContent content;

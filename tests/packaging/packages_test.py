@@ -85,7 +85,13 @@ class Packages(unittest.TestCase):
 
     def test_the_command_line_needs_no_display(self):
         names = set(re.findall(r"[a-z][a-z0-9+.-]+(?=[ ,]|$)", field(self.command, "Depends")))
-        self.assertEqual(names, {"libc6", "libgcc-s1", "libstdc++6"})
+        self.assertEqual(names, {"libc6"})
+
+    def test_the_command_line_loads_the_c_library_alone(self):
+        with tempfile.TemporaryDirectory() as folder:
+            run("dpkg-deb", "--raw-extract", self.command, folder)
+            headers = run("objdump", "--private-headers", f"{folder}/usr/bin/zevmenu").stdout
+        self.assertEqual(re.findall(r"NEEDED +(\S+)", headers), ["libc.so.6"])
 
     def test_the_editor_needs_the_engine_of_its_preview(self):
         depends = field(self.editor, "Depends")
