@@ -91,7 +91,9 @@ class Packages(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             run("dpkg-deb", "--raw-extract", self.command, folder)
             headers = run("objdump", "--private-headers", f"{folder}/usr/bin/zevmenu").stdout
-        self.assertEqual(re.findall(r"NEEDED +(\S+)", headers), ["libc.so.6"])
+        # The loader itself, on some machines by name, is there before any library.
+        names = [name for name in re.findall(r"NEEDED +(\S+)", headers) if not name.startswith("ld-linux")]
+        self.assertEqual(names, ["libc.so.6"])
 
     def test_the_editor_needs_the_engine_of_its_preview(self):
         depends = field(self.editor, "Depends")
