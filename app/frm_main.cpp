@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -94,7 +93,6 @@ frmMain::frmMain(const EditorServices& services, const std::string& programFolde
     connect(qApp, &QApplication::focusChanged, this, &frmMain::showHistory);
     showHistory();
     TreeView->setFocus();
-    whenPainted([this] { finishWindow(); });
 }
 
 // The widgets look at the document until they are gone.
@@ -191,14 +189,9 @@ QWidget* frmMain::buildMenuTab() {
 }
 
 /// Makes what nobody needs before the window is painted.
-void frmMain::finishWindow() {
+void frmMain::needDialogs() {
     if (m_defaultForm != nullptr)
         return;
-    buildDialogs();
-    txtJavaScript->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-}
-
-void frmMain::buildDialogs() {
     const DialogHost host{m_document, m_services.messages, m_services.dialogs};
     m_defaultForm = new frmDefaultProp(host, this);
     m_advancedForm = new frmAdvProp(host, nullptr);
@@ -317,14 +310,14 @@ void frmMain::redo() {
 }
 
 void frmMain::mnuEditDefault_Click() {
-    finishWindow();
+    needDialogs();
     // What was typed and cancelled is still in its boxes.
     m_defaultForm->LoadDefaultDialog();
     m_defaultForm->exec();
 }
 
 void frmMain::mnuEditMenuProperties_Click() {
-    finishWindow();
+    needDialogs();
     if (m_menuForm->fill())
         m_menuForm->exec();
 }
@@ -580,8 +573,6 @@ void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow())
         return;
-    // A command can be given now, whether the system has had the window painted or not.
-    finishWindow();
     if (!m_history.isInCommand())
         guard([this] { m_fileCommands.lookAtFile(); });
 }
@@ -599,7 +590,7 @@ void frmMain::paintEvent(QPaintEvent* event) {
 void frmMain::goTo(const NotePlace& place) {
     if (place.owner == NotePlace::Owner::Nowhere)
         return;
-    finishWindow();
+    needDialogs();
     leaveField();
     MenuTab->setCurrentIndex(0);
     if (place.owner == NotePlace::Owner::Defaults) {

@@ -116,8 +116,7 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     void buildTabs(QWidget* webBrowser);
     void buildStatusBar();
     QWidget* buildMenuTab();
-    void finishWindow();
-    void buildDialogs();
+    void needDialogs();
     void run(const Command& command);
     void run(const std::string& step, const std::function<void()>& work);
     void runStep(const std::string& step, const std::function<void()>& work);
@@ -176,8 +175,8 @@ class frmMain : public QMainWindow, public EditorView, private DocumentObserver 
     std::uint64_t m_saidState = 0;
     QWidget* WebBrowser = nullptr;
 
-    // Made once, by `finishWindow`: they keep what was copied and which font was chosen from one
-    // use to the next.
+    // Made once, by `needDialogs` when the first is needed: they keep what was copied and which
+    // font was chosen from one use to the next.
     frmDefaultProp* m_defaultForm = nullptr;
     frmMenuProp* m_menuForm = nullptr;
     frmAdvProp* m_advancedForm = nullptr;

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <malloc.h>
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -103,7 +105,11 @@ int runEditor(QApplication& application, const QCommandLineParser& arguments) {
         window.keepUnsavedMenusSoon(Path::onThisSystem(userFolder).child("recovery"));
     else
         QMetaObject::invokeMethod(&window, begin, Qt::QueuedConnection);
-    window.whenPainted([] { QApplication::setWindowIcon(programIcon()); });
+    window.whenPainted([] {
+        QApplication::setWindowIcon(programIcon());
+        // What the start needed for a while goes back to the system.
+        malloc_trim(0);
+    });
     return QApplication::exec();
 }
 

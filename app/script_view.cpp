@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/script_view.h"
 
+#include <QFontDatabase>
 #include <QWindow>
 #include <algorithm>
 #include <string_view>
@@ -56,6 +57,9 @@ void ScriptView::showScript(const std::string& script) {
 }
 
 void ScriptView::showEvent(QShowEvent* event) {
+    // Not before, as the start of the program need not wait for a font behind another tab.
+    if (!testAttribute(Qt::WA_SetFont))
+        setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     catchUp();
     QPlainTextEdit::showEvent(event);
 }

@@ -2,6 +2,7 @@
 #include "checks/menu_problems.h"
 
 #include <algorithm>
+#include <charconv>
 #include <locale>
 #include <optional>
 #include <sstream>
@@ -64,8 +65,14 @@ constexpr Range kRanges[] = {{"columns", 1, 1e6, true}, {"hspacing", 0, 1e4},
                              {"cellpadding", 0, 1e4},   {"menuoffset", -1e4, 1e4},
                              {"ffade", 0, 5},           {"fopacity", 1, 100}};
 
-/// Not by std::from_chars, which needs libm here: loading it takes a tenth of a command's run.
+/// Fractions not by std::from_chars, which needs libm for them: loading it takes a tenth of a
+/// command's run.
 std::optional<double> numberOf(std::string_view text) {
+    int whole = 0;
+    const char* const end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, whole);
+    if (error == std::errc() && rest == end)
+        return whole;
     std::istringstream stream{std::string(text)};
     stream.imbue(std::locale::classic());
     double number = 0;

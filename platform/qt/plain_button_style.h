@@ -8,8 +8,10 @@
 namespace zev {
 
 /// The desktop's own style, without pictures on the buttons of message boxes and file dialogs: the
-/// program's other dialogs have none either. A toolbar's mark for what has no room is read when it
-/// is painted, which a wide enough window never does; for it Qt loads all its readers of pictures.
+/// program's other dialogs have none either. At the start no picture is read, for which Qt loads
+/// all its readers: a toolbar's mark for what has no room is read when it is painted, which a wide
+/// enough window never does, and where the style has a picture for the frame of a group, that is
+/// drawn.
 class PlainButtonStyle : public QProxyStyle {
     Q_OBJECT
   public:
@@ -21,6 +23,9 @@ class PlainButtonStyle : public QProxyStyle {
                    ? 0
                    : QProxyStyle::styleHint(hint, option, widget, returnData);
     }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
 
     QIcon standardIcon(StandardPixmap name, const QStyleOption* option,
                        const QWidget* widget) const override {

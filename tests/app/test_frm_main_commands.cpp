@@ -13,6 +13,7 @@
 #include "integrator/run_record.h"
 #include "integrator/wizard/frm_integrator.h"
 #include "integrator/wizard/undo_window.h"
+#include "property_dialogs_hands.h"
 #include "script/script_writer.h"
 #include "when_shown.h"
 #include "window_desk.h"
@@ -137,6 +138,7 @@ class test_frm_main_commands : public QObject {
 
     void theViewsFollowTheDocument() {
         WindowDesk desk;
+        inDefaults(desk, [](frmDefaultProp& form) { press(form, "cmdCancel"); });
         const MenuNode* a = desk.add("a");
         desk.click(a);
         test::editItem(desk.document(), *a)->URL = "new.html";

@@ -6,6 +6,7 @@
 
 #include "imported_products.h"
 #include "link_tree.h"
+#include "property_dialogs_hands.h"
 #include "script/script_writer.h"
 #include "window_desk.h"
 
@@ -111,7 +112,10 @@ class test_frm_main_import : public QObject {
     void theDefaultsDialogShowsTheImportedDefaults() {
         WindowDesk desk;
         importFile(desk, ImportedProducts()[0]);
-        QCOMPARE(desk.field("txtNBgColor").text(), "#112233");
+        inDefaults(desk, [](frmDefaultProp& form) {
+            QCOMPARE(textOf(form, "txtNBgColor"), "#112233");
+            press(form, "cmdCancel");
+        });
     }
 
     void cancelInTheQuestionLeavesEverything() {

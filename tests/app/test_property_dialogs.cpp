@@ -213,24 +213,29 @@ class test_property_dialogs : public QObject {
 
     // Filling
 
-    void theDialogsAreMadeOnceTheWindowIsPaintedOrWhenOneIsUsed() {
+    void theDialogsAreMadeWhenTheFirstIsUsedAndKept() {
         WindowDesk desk;
-        frmMain shown(desk.services, "/program", new QWidget);
-        QVERIFY(shown.findChild<frmDefaultProp*>() == nullptr);
-        shown.show();
-        QTRY_VERIFY(shown.findChild<frmDefaultProp*>() != nullptr);
-        QCOMPARE(textOf(*shown.findChild<frmDefaultProp*>(), "txtCloseDelay"), "500");
-        QVERIFY(shown.findChild<frmMenuProp*>() != nullptr);
-
-        frmMain used(desk.services, "/program", new QWidget);
-        used.mnuEditMenuProperties_Click();
-        auto* form = used.findChild<frmDefaultProp*>();
+        QVERIFY(desk.window.findChild<frmDefaultProp*>() == nullptr);
+        desk.window.mnuEditMenuProperties_Click();
+        auto* const form = desk.window.findChild<frmDefaultProp*>();
+        auto* const menuForm = desk.window.findChild<frmMenuProp*>();
         QVERIFY(form != nullptr);
+        QVERIFY(menuForm != nullptr);
         QCOMPARE(textOf(*form, "txtCloseDelay"), "500");
+        inDefaults(desk, [form](frmDefaultProp& shown) {
+            QCOMPARE(&shown, form);
+            press(shown, "cmdCancel");
+        });
+        desk.add("a");
+        inMenuProperties(desk, [menuForm](frmMenuProp& shown) {
+            QCOMPARE(&shown, menuForm);
+            press(shown, "cmdCancel");
+        });
     }
 
-    void theDefaultsAreFilledWithTheWindowAtOpenAndAtNew() {
+    void theDefaultsAreFilledWithTheDialogAtOpenAndAtNew() {
         WindowDesk desk;
+        inDefaults(desk, [](frmDefaultProp& form) { press(form, "cmdCancel"); });
         auto& form = *desk.window.findChild<frmDefaultProp*>();
         QCOMPARE(textOf(form, "txtHBgColor"), "#888888");
         QCOMPARE(textOf(form, "txtCloseDelay"), "500");

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMouseEvent>
@@ -97,6 +98,8 @@ class test_qt_message_box : public QObject {
     void aBoxBelongsToTheActiveWindow();
     void buttonsHaveNoPicturesInTheProgramsStyle();
     void aToolbarsMarkForWhatHasNoRoomIsThatOfTheDesktop();
+    void theFrameOfAGroupLooksLikeTheStylesOwn_data();
+    void theFrameOfAGroupLooksLikeTheStylesOwn();
     void aWindowIsNotLargerThanItsScreen();
     void aMessageWithoutDetailsHasOnlyItsButtons();
     void detailsAreShownWhenAskedFor();
@@ -313,6 +316,49 @@ void test_qt_message_box::aToolbarsMarkForWhatHasNoRoomIsThatOfTheDesktop() {
         QVERIFY(!expected.isNull());
         QCOMPARE(style.standardIcon(mark, nullptr, nullptr).pixmap(16).toImage(), expected);
     }
+}
+
+void test_qt_message_box::theFrameOfAGroupLooksLikeTheStylesOwn_data() {
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("isCheckable");
+    QTest::addColumn<QColor>("background");
+    for (const QColor& background : {QColor(239, 239, 239), QColor(40, 40, 44)})
+        for (const bool isCheckable : {false, true})
+            for (const char* title : {"Type", ""})
+                QTest::addRow("\"%s\", %scheckable, on %s", title, isCheckable ? "" : "not ",
+                              qPrintable(background.name()))
+                    << QString(title) << isCheckable << background;
+}
+
+void test_qt_message_box::theFrameOfAGroupLooksLikeTheStylesOwn() {
+    QFETCH(QString, title);
+    QFETCH(bool, isCheckable);
+    QFETCH(QColor, background);
+    const auto picture = [&](QStyle* style) {
+        QGroupBox group(title);
+        style->setParent(&group);
+        group.setStyle(style);
+        group.setCheckable(isCheckable);
+        group.setPalette(QPalette(background));
+        group.resize(200, 150);
+        return group.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const QImage expected = picture(QStyleFactory::create("Fusion"));
+    const QImage found = picture(new PlainButtonStyle(QStyleFactory::create("Fusion")));
+    QCOMPARE(found.size(), expected.size());
+    int framed = 0;
+    int corners = 0;
+    for (int y = 0; y < expected.height(); ++y)
+        for (int x = 0; x < expected.width(); ++x) {
+            const int here = expected.pixelColor(x, y).red();
+            const int difference = std::abs(here - found.pixelColor(x, y).red());
+            framed += here == background.red() ? 0 : 1;
+            corners += difference > 1 ? 1 : 0;
+            QVERIFY2(difference <= 20, qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+        }
+    QVERIFY(framed > 600);
+    // The style's own are a little rounder.
+    QVERIFY2(corners <= 32, qPrintable(QString::number(corners)));
 }
 
 void test_qt_message_box::aWindowIsNotLargerThanItsScreen() {

@@ -79,6 +79,7 @@ class test_tabs : public QObject {
 
     void theScriptIsShownInTheSystemsFontForPrograms() {
         WindowDesk desk;
+        desk.clickTab("JavaScript");
         QCOMPARE(desk.script().font().family(),
                  QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
         QVERIFY(desk.script().font().family() != desk.window.font().family());
