@@ -20,6 +20,7 @@
 
 #include "app/frm_main.h"
 #include "platform/posix/posix_file_system.h"
+#include "platform/qt/plain_button_style.h"
 #include "platform/qt/qt_browser_view.h"
 #include "platform/qt/qt_common_dialogs.h"
 #include "platform/qt/qt_help_viewer.h"
@@ -50,7 +51,7 @@ int main(int argc, char** argv) {
         qFatal(
             "grab_window DEFINITION.js FOLDER [--dark] [--size WIDTHxHEIGHT] [--unsaved FOLDER]");
     const bool isDark = arguments.contains("--dark");
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new PlainButtonStyle(QStyleFactory::create("Fusion")));
     QApplication::setPalette(isDark ? darkPalette() : lightPalette());
 
     PosixFileSystem files;
