@@ -67,7 +67,7 @@ function propertyLines(id) {
 
 function linkOf(path) {
     const words = path.map(caption => caption.replace('&amp;', 'and').toLowerCase()).join(' ');
-    return 'pages/page.html#' + words.replace(/[^a-z0-9]+/g, '-').replace(/-$/, '');
+    return 'pages/page.html?' + words.replace(/[^a-z0-9]+/g, '-').replace(/-$/, '');
 }
 
 // The block of one menu, then those of its submenus, depth first.
