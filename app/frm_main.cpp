@@ -188,7 +188,7 @@ QWidget* frmMain::buildMenuTab() {
     return page;
 }
 
-/// Makes what nobody needs before the window is painted.
+/// Makes the property dialogs, unless they are there.
 void frmMain::needDialogs() {
     if (m_defaultForm != nullptr)
         return;

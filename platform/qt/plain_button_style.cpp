@@ -27,7 +27,8 @@ QRect groupFrame(const QStyle& style, const QStyleOption& option, const QWidget*
     const auto* const group = qobject_cast<const QGroupBox*>(widget);
     if (group != nullptr && !group->isCheckable() && group->title().isEmpty())
         title = 0;
-    return option.rect.adjusted(1, title + 4, 0, 0);
+    // Three pixels stay free at the top, and one more there and at the left.
+    return option.rect.adjusted(1, title + 3 + 1, 0, 0);
 }
 
 }  // namespace

@@ -84,7 +84,7 @@ test('a submenu closes when its item is scrolled out of the box around it', asyn
     await hover(page, 'Products');
     await waitShown(page, 'Boats');
     await scrollBy('#inner', 200);
-    await waitGone(page, 'Boats');
+    await waitGone(page, 'Boats', 250);
 });
 
 // A submenu of 60 items; the third opens another one.
@@ -149,7 +149,7 @@ test('a submenu closes when the page takes its item away', async () => {
     await hover(page, 'Top');
     await waitShown(page, 'Item 1');
     await page.$eval('[data-zev=bar]', bar => bar.remove());
-    await waitGone(page, 'Item 1');
+    await waitGone(page, 'Item 1', 250);
     assert.equal(await isShown(page, 'Deep'), false);
 });
 
